@@ -1,0 +1,42 @@
+// Surfaces of a solid and their extents.
+#pragma once
+
+#include "toolkit/host_function.h"
+#include "toolkit/types.h"
+
+typedef struct geom_surface_handle* ProSurface;
+
+typedef enum { PRO_SRF_NONE = 0, PRO_SRF_PLANE = 34, PRO_SRF_CYL = 36 } ProSrftype;
+typedef enum {
+  PRO_SURF_ORIENT_IN = -1,
+  PRO_SURF_ORIENT_NONE = 0,
+  PRO_SURF_ORIENT_OUT = 1,
+} ProSurfaceOrient;
+
+// Leading fields of a surface's data; the shape data behind them is not used.
+typedef struct {
+  ProSrftype type;
+  ProUvParam uv_min;
+  ProUvParam uv_max;
+  Pro3dPnt xyz_min;
+  Pro3dPnt xyz_max;
+  ProSurfaceOrient orient;
+} ProSurfacedata;
+
+typedef struct {
+  ProType obj_type;
+  union {
+    ProSurfacedata* p_surface_data;
+    void* p_other_data;
+  } data;
+} ProGeomitemdata;
+static_assert(sizeof(ProGeomitemdata) == 16);
+
+typedef ProError (*ProSurfaceFilterAction)(ProSurface surface, ProAppData data);
+typedef ProError (*ProSurfaceVisitAction)(ProSurface surface, ProError filter_status,
+                                          ProAppData data);
+
+PRO_FUNCTION(ProError, ProSolidSurfaceVisit, ProSolid solid, ProSurfaceVisitAction action,
+             ProSurfaceFilterAction filter, ProAppData data);
+PRO_FUNCTION(ProError, ProSurfaceDataGet, ProSurface surface, ProGeomitemdata** data);
+PRO_FUNCTION(ProError, ProGeomitemdataFree, ProGeomitemdata** data);

@@ -1,0 +1,51 @@
+// Parameters of model items.
+#pragma once
+
+#include "toolkit/host_function.h"
+#include "toolkit/types.h"
+
+typedef enum {
+  PRO_PARAM_DOUBLE = 50,
+  PRO_PARAM_STRING = 51,
+  PRO_PARAM_INTEGER = 52,
+  PRO_PARAM_BOOLEAN = 53,
+  PRO_PARAM_NOTE_ID = 54,
+  PRO_PARAM_VOID = 57,
+} ProParamvalueType;
+
+typedef union {
+  double d_val;
+  int i_val;
+  short l_val;
+  ProLine s_val;
+} ProParamvalueValue;
+
+typedef struct {
+  ProParamvalueType type;
+  ProParamvalueValue value;
+} ProParamvalue;
+static_assert(sizeof(ProParamvalue) == 176);
+
+typedef enum { PRO_PARAM_OWNER_ITEM = 0 } ProParamfrom;
+
+typedef struct {
+  ProParamfrom type;
+  union {
+    ProModelitem item;
+  } who;
+} ProParamowner;
+
+typedef struct {
+  ProType type;
+  ProName id;
+  ProParamowner owner;
+} ProParameter;
+static_assert(sizeof(ProParameter) == 96);
+
+PRO_FUNCTION(ProError, ProParameterCreate, ProModelitem* owner, ProName name, ProParamvalue* value,
+             ProParameter* parameter);
+PRO_FUNCTION(ProError, ProParameterInit, ProModelitem* owner, ProName name,
+             ProParameter* parameter);
+PRO_FUNCTION(ProError, ProParameterValueGet, ProParameter* parameter, ProParamvalue* value);
+PRO_FUNCTION(ProError, ProParameterValueSet, ProParameter* parameter, ProParamvalue* value);
+PRO_FUNCTION(ProError, ProParameterDelete, ProParameter* parameter);
