@@ -1,0 +1,21 @@
+// Text rules of the settings files.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace qm {
+
+// `text` without any of its spaces: most settings are compared so.
+std::wstring WithoutBlanks(std::wstring_view text);
+
+// `module_path` with its file name replaced by "QMconfig\" and `file`. When the path does not end
+// in `module_name` (compared without case), a path in a folder that cannot exist, so that nothing
+// is read from or written to another program's files.
+std::wstring ConfigPathBeside(std::wstring_view module_path, std::wstring_view module_name,
+                              std::wstring_view file);
+
+// `folder`, with or without a closing separator, followed by "\QMconfig\" and `file`.
+std::wstring ConfigPathIn(std::wstring_view folder, std::wstring_view file);
+
+}  // namespace qm

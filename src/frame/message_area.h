@@ -1,0 +1,16 @@
+// Notes in the host's message area, by the English keys of the plug-in's message files.
+#pragma once
+
+#include "toolkit/message.h"
+
+namespace qm {
+
+inline constexpr wchar_t kNoteFile[] = L"qmmsg_display.txt";
+inline constexpr wchar_t kTransparencyNoteFile[] = L"msg_display.txt";
+
+// Shows the text of `key`. `argument` fills a "%0w" of the key. A failure is not reported: a note
+// is never a reason to stop.
+void DisplayNote(const char* key, const wchar_t* argument = nullptr,
+                 const wchar_t* file = kNoteFile);
+
+}  // namespace qm

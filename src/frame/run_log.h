@@ -1,0 +1,54 @@
+// The run log: a plain UTF-8 file "Quillmax\quillmax.log" in the user's local application data
+// folder. At 1 MB it becomes "quillmax.old.log" and a new one begins. Logging shows no box, fails
+// no command and lets no exception out.
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <string_view>
+
+#include "toolkit/types.h"
+
+namespace qm {
+
+// One line with date and time. Lines logged while a command runs are kept back and written with
+// the command's own line, or in larger lots, so that a batch does not open the file each time.
+void LogEvent(std::string_view text) noexcept;
+
+// A per-model failure that a command passes over. Counted in the command's line; beyond the first
+// 1,000 of a command only counted. The model's name is asked of the host.
+void LogFailure(ProMdl model, const char* function, ProError status) noexcept;
+
+// A count for the running command's line, for example ("models", 40). Nothing when none runs.
+void LogCount(const char* what, long long count) noexcept;
+
+// The running command: from its start to its end, which writes one line with name, status,
+// duration, counts and the number of failures passed over.
+class CommandLog {
+ public:
+  explicit CommandLog(const char* name) noexcept;
+  CommandLog(const CommandLog&) = delete;
+  CommandLog& operator=(const CommandLog&) = delete;
+  ~CommandLog();
+
+  // Status for the closing line.
+  void set_status(ProError status) { status_ = status; }
+
+ private:
+  friend void LogEvent(std::string_view) noexcept;
+  friend void LogFailure(ProMdl, const char*, ProError) noexcept;
+  friend void LogCount(const char*, long long) noexcept;
+
+  std::string ClosingText() const;
+  void AddLine(std::string_view text);
+
+  const char* name_;
+  CommandLog* outer_;
+  std::chrono::steady_clock::time_point start_;
+  ProError status_ = PRO_TK_NO_ERROR;
+  long long failures_ = 0;
+  std::string counts_;
+  std::string pending_;
+};
+
+}  // namespace qm

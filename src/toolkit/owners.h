@@ -1,0 +1,148 @@
+// Owners of what the host hands out: freed on every path, moved but never copied. The verbs are the
+// same everywhere: get() borrows, put() gives the address a host call writes to (freeing what was
+// held), release() gives up ownership, reset() frees. A call that answers success with a null
+// handle leaves the owner empty, so users test the owner and not the status alone.
+#pragma once
+
+#include <utility>
+
+#include "toolkit/array.h"
+#include "toolkit/geometry.h"
+#include "toolkit/selection.h"
+#include "toolkit/status.h"
+#include "toolkit/types.h"
+
+namespace qm {
+
+template <typename Handle, auto Release>
+class Owner {
+ public:
+  Owner() = default;
+  explicit Owner(Handle handle) : handle_(handle) {}
+  Owner(Owner&& other) noexcept : handle_(other.release()) {}
+  Owner& operator=(Owner&& other) noexcept {
+    if (this != &other) reset(other.release());
+    return *this;
+  }
+  ~Owner() { reset(); }
+
+  Handle get() const { return handle_; }
+  explicit operator bool() const { return handle_ != nullptr; }
+
+  Handle* put() {
+    reset();
+    return &handle_;
+  }
+  Handle release() { return std::exchange(handle_, nullptr); }
+  void reset(Handle handle = nullptr) {
+    const Handle old = std::exchange(handle_, handle);
+    if (old != nullptr) Release(old);
+  }
+
+ private:
+  Handle handle_ = nullptr;
+};
+
+namespace release {
+
+inline void Text(wchar_t* text) {
+  ProWstringFree(text);
+}
+inline void Selections(ProSelection* selections) {
+  ProSelectionarrayFree(selections);
+}
+inline void Environment(ProSelectionEnv environment) {
+  ProSelectionEnvFree(environment);
+}
+inline void Geometry(ProGeomitemdata* data) {
+  ProGeomitemdataFree(&data);
+}
+template <typename T>
+void Array(T* items) {
+  ProArray array = items;
+  ProArrayFree(&array);
+}
+
+}  // namespace release
+
+using WideText = Owner<wchar_t*, &release::Text>;
+using SelectionEnvironment = Owner<ProSelectionEnv, &release::Environment>;
+using GeometryData = Owner<ProGeomitemdata*, &release::Geometry>;
+
+// Number of elements of one of the host's arrays; 0 for none or when the host does not tell.
+inline int ArraySize(ProArray array) {
+  int size = 0;
+  if (array == nullptr || !Ok(ProArraySizeGet(array, &size)) || size < 0) return 0;
+  return size;
+}
+
+// An expandable array of the host with elements of type T (ProPath and other texts included).
+template <typename T>
+class HostArray : public Owner<T*, &release::Array<T>> {
+  using Base = Owner<T*, &release::Array<T>>;
+
+ public:
+  // An empty array that grows by one element at a time.
+  ProError Allocate() {
+    ProArray array = nullptr;
+    this->reset();
+    const ProError status = ProArrayAlloc(0, static_cast<int>(sizeof(T)), 1, &array);
+    if (!Ok(status)) return status;
+    this->reset(static_cast<T*>(array));
+    return array != nullptr ? PRO_TK_NO_ERROR : PRO_TK_OUT_OF_MEMORY;
+  }
+
+  // Adds a copy of `item` at the end; the array may move.
+  ProError Append(const T& item) {
+    if (this->get() == nullptr) return PRO_TK_BAD_INPUTS;
+    ProArray array = this->get();
+    T copy = item;
+    const ProError status = ProArrayObjectAdd(&array, PRO_VALUE_UNUSED, 1, &copy);
+    if (array != nullptr && array != this->get()) {
+      this->release();
+      this->reset(static_cast<T*>(array));
+    }
+    return status;
+  }
+
+  // Asks the host each time: keep the answer when looping.
+  int size() const { return ArraySize(this->get()); }
+  T& operator[](int index) const { return this->get()[index]; }
+};
+
+// Copies of the preselected items, as the selection buffer gives them.
+class SelectionArray : public Owner<ProSelection*, &release::Selections> {
+ public:
+  int size() const { return ArraySize(get()); }
+  ProSelection operator[](int index) const { return get()[index]; }
+};
+
+// Narrow texts with their count, as list-like dialog components give them.
+class NameList {
+ public:
+  NameList() = default;
+  NameList(const NameList&) = delete;
+  NameList& operator=(const NameList&) = delete;
+  ~NameList() { reset(); }
+
+  char*** put_names() {
+    reset();
+    return &names_;
+  }
+  int* put_count() { return &count_; }
+  void reset() {
+    if (names_ != nullptr) ProStringarrayFree(names_, count_);
+    names_ = nullptr;
+    count_ = 0;
+  }
+
+  int size() const { return names_ == nullptr || count_ < 0 ? 0 : count_; }
+  // Never null: a missing text reads as an empty one.
+  const char* operator[](int index) const { return names_[index] != nullptr ? names_[index] : ""; }
+
+ private:
+  char** names_ = nullptr;
+  int count_ = 0;
+};
+
+}  // namespace qm
