@@ -1,0 +1,12 @@
+// Text on its way into an HTML page.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace wb {
+
+// `text` with the characters that mean something in HTML content and quoted attributes replaced.
+std::string EscapeHtml(std::string_view text);
+
+}  // namespace wb
