@@ -1,0 +1,37 @@
+// Faults on order: fail the n-th crossing, or the n-th call of one function, once or from then on.
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace wb {
+
+enum class FaultKind {
+  kStatus,        // the call answers with a failing status and does nothing
+  kEmptySuccess,  // the call claims success, gives nothing and does nothing
+};
+
+struct FaultPlan {
+  std::string function;  // empty: any function counts
+  long nth = 0;          // counted from 1; 0: no fault
+  bool from_then_on = false;
+  FaultKind kind = FaultKind::kStatus;
+  int status = -1;
+};
+
+class Faults {
+ public:
+  void Order(FaultPlan plan) { plan_ = std::move(plan), seen_ = 0, struck_ = 0; }
+  void Clear() { plan_.reset(); }
+  // The fault this call of `function` meets, if any.
+  const FaultPlan* Strike(const char* function);
+  // How many calls the current plan has failed.
+  long struck() const { return struck_; }
+
+ private:
+  std::optional<FaultPlan> plan_;
+  long seen_ = 0;
+  long struck_ = 0;
+};
+
+}  // namespace wb

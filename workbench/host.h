@@ -1,0 +1,68 @@
+// The workbench's host: everything the exported functions act on, in one place.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "workbench/accounts.h"
+#include "workbench/commands.h"
+#include "workbench/faults.h"
+#include "workbench/handles.h"
+#include "workbench/live_dialog.h"
+#include "workbench/message_area.h"
+#include "workbench/session.h"
+#include "workbench/trace.h"
+#include "workbench/user.h"
+#include "workbench/windows_calls.h"
+
+namespace wb {
+
+// One breach of the interface's contract: "plug-in misused FUNCTION: why".
+struct Breach {
+  std::string function;
+  std::string why;
+  std::string Text() const { return "plug-in misused " + function + ": " + why; }
+};
+
+struct Host {
+  Host();
+  ~Host();
+  Host(const Host&) = delete;
+  Host& operator=(const Host&) = delete;
+
+  Session session;
+  HandleTable handles;
+  Accounts accounts;
+  Trace trace;
+  Faults faults;
+  Commands commands;
+  Dialogs dialogs;
+  MessageArea messages;
+  WindowsCalls windows;
+  User* user = nullptr;
+
+  std::filesystem::path install_folder;                     // holds the DLL, text/ and QMconfig/
+  std::string language = "chinese_cn";                      // folder of the message files
+  std::map<std::string, std::vector<std::string>> options;  // configuration options, lower case
+  int forced_mode = -1;  // mode to report; -1: by the current model
+
+  std::vector<Breach> breaches;
+  std::vector<std::string> not_modelled;  // "workbench: not modelled: FUNCTION"
+  std::vector<std::string> repaints;      // repaint and tree refresh calls, in order
+  std::string running_command;            // empty: the plug-in is idle
+  unsigned long ui_thread = 0;
+
+  void ReportBreach(const std::string& function, const std::string& why);
+  bool OnUiThread() const;
+  // What a handle stands for, for traces: "part bolt".
+  std::string DescribeHandle(const void* handle) const;
+};
+
+// The host that the exported functions serve. There is at most one at a time, since the plug-in
+// finds its host by process.
+Host& TheHost();
+bool HasHost();
+
+}  // namespace wb

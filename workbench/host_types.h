@@ -1,0 +1,20 @@
+// The host interface as the workbench implements it: exported functions under versioned names.
+#pragma once
+
+#define QM_HOST_SIDE 1
+
+#include "toolkit/array.h"
+#include "toolkit/assembly.h"
+#include "toolkit/command.h"
+#include "toolkit/drawing.h"
+#include "toolkit/feature.h"
+#include "toolkit/geometry.h"
+#include "toolkit/message.h"
+#include "toolkit/model.h"
+#include "toolkit/parameter.h"
+#include "toolkit/selection.h"
+#include "toolkit/types.h"
+#include "toolkit/ui.h"
+#include "toolkit/window.h"
+
+const char* StatusWord(int status);

@@ -1,0 +1,45 @@
+// Text of the workbench: UTF-8 inside, 16-bit wide at the host interface, names without case.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace wb {
+
+// Lower-cases ASCII letters only: the case rule of model, parameter and file names.
+std::string FoldCase(std::string_view text);
+bool EqualFolded(std::string_view a, std::string_view b);
+// True when `text` begins with `prefix`, ignoring ASCII case.
+bool StartsWithFolded(std::string_view text, std::string_view prefix);
+
+std::u16string ToUtf16(std::string_view utf8);
+std::string FromUtf16(std::u16string_view utf16);
+
+#if defined(_WIN32)
+inline std::wstring ToWide(std::string_view utf8) {
+  const std::u16string text = ToUtf16(utf8);
+  return std::wstring(text.begin(), text.end());
+}
+inline std::string FromWide(std::wstring_view wide) {
+  return FromUtf16(std::u16string(wide.begin(), wide.end()));
+}
+// The process's ANSI code page, in which the host takes and gives narrow texts.
+std::string FromAnsi(std::string_view ansi);
+std::string ToAnsi(std::string_view utf8);
+#endif
+
+// "%g"-like shortest decimal form that reads back as the same double.
+std::string NumberText(double value);
+
+std::string Join(const std::string& separator, const auto& texts) {
+  std::string joined;
+  for (const auto& text : texts) {
+    if (!joined.empty()) joined += separator;
+    joined += text;
+  }
+  return joined;
+}
+
+std::string Trimmed(std::string_view text);
+
+}  // namespace wb

@@ -1,0 +1,48 @@
+// The record of every crossing between plug-in and host: counted always, written out on demand.
+#pragma once
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace wb {
+
+struct Crossed {
+  long call = 0;
+  int depth = 0;  // crossings this one happened inside of
+  std::string function;
+  std::string arguments;
+  int status = 0;
+};
+
+class Trace {
+ public:
+  bool keep_lines = false;
+
+  // Starts a crossing and gives its number.
+  long Enter(const char* function) {
+    ++counts_[function];
+    ++depth_;
+    return ++calls_;
+  }
+  void Leave(long call, const char* function, std::string arguments, int status);
+  void LeaveQuietly() { --depth_; }
+
+  long calls() const { return calls_; }
+  long Count(const std::string& function) const;
+  // By function name, summed over call sites.
+  std::unordered_map<std::string, long> Counts() const;
+  const std::vector<Crossed>& lines() const { return lines_; }
+  // Begins the count of a new command.
+  void Restart();
+
+ private:
+  long calls_ = 0;
+  int depth_ = 0;
+  // Keyed by the address of the name: hashing text for every crossing would cost more than the
+  // call.
+  std::unordered_map<const char*, long> counts_;
+  std::vector<Crossed> lines_;
+};
+
+}  // namespace wb
