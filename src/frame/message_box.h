@@ -12,10 +12,16 @@ inline constexpr wchar_t kApplicationTitle[] = L"Quillmax";
 
 // Topmost box with the caption, no owner and an OK button, for results and refusals inside a
 // command. Texts usually open and close with a tab, which is part of them.
-void ShowMessage(const std::wstring& text);
+void ShowMessage(const wchar_t* text) noexcept;
+inline void ShowMessage(const std::wstring& text) {
+  ShowMessage(text.c_str());
+}
 
 // Plain application box with an OK button, for dialog errors and for refusals when there is nothing
 // to work on.
-void ShowShortMessage(const std::wstring& text);
+void ShowShortMessage(const wchar_t* text) noexcept;
+inline void ShowShortMessage(const std::wstring& text) {
+  ShowShortMessage(text.c_str());
+}
 
 }  // namespace qm

@@ -22,7 +22,7 @@ void LogFailure(ProMdl model, const char* function, ProError status) noexcept;
 // A count for the running command's line, for example ("models", 40). Nothing when none runs.
 void LogCount(const char* what, long long count) noexcept;
 
-// The running command: from its start to its end, which writes one line with name, status,
+// The running command, made by the command shield: its end writes one line with name, status,
 // duration, counts and the number of failures passed over.
 class CommandLog {
  public:
@@ -39,11 +39,10 @@ class CommandLog {
   friend void LogFailure(ProMdl, const char*, ProError) noexcept;
   friend void LogCount(const char*, long long) noexcept;
 
-  std::string ClosingText() const;
   void AddLine(std::string_view text);
+  std::string ClosingLine() const;
 
   const char* name_;
-  CommandLog* outer_;
   std::chrono::steady_clock::time_point start_;
   ProError status_ = PRO_TK_NO_ERROR;
   long long failures_ = 0;

@@ -40,6 +40,10 @@ class HostEntry {
   bool looked_up() const { return looked_up_; }
   bool bound() const { return address_ != nullptr; }
 
+  // All functions looked up so far, latest first, chained by next().
+  static const HostEntry* first() { return first_; }
+  const HostEntry* next() const { return next_; }
+
  protected:
   void* Address() {
     if (!looked_up_) LookUp();
@@ -49,6 +53,8 @@ class HostEntry {
  private:
   void LookUp() {
     looked_up_ = true;
+    next_ = first_;
+    first_ = this;
     address_ = FindHostFunction(versioned_name_);
     if (address_ == nullptr && missing_function_reporter != nullptr) {
       missing_function_reporter(name_);
@@ -58,7 +64,10 @@ class HostEntry {
   const char* name_;
   const char* versioned_name_;
   void* address_ = nullptr;
+  HostEntry* next_ = nullptr;
   bool looked_up_ = false;
+
+  inline static constinit HostEntry* first_ = nullptr;
 };
 
 template <typename Signature>
@@ -90,8 +99,9 @@ class HostFunction<Result(Args..., ...)> : public HostEntry {
 
 }  // namespace qm
 
-#define PRO_FUNCTION(result, name, ...)                         \
-  inline constinit ::qm::HostFunction<result(__VA_ARGS__)> name \
-  { #name, #name QM_HOST_NAME_SUFFIX }
+#define PRO_FUNCTION(result, name, ...)                           \
+  inline constinit ::qm::HostFunction<result(__VA_ARGS__)> name { \
+#name, #name QM_HOST_NAME_SUFFIX                              \
+  }
 
 #endif

@@ -1,0 +1,16 @@
+// Message boxes of Windows with the plug-in's captions.
+#include "frame/message_box.h"
+
+#include <windows.h>
+
+namespace qm {
+
+void ShowMessage(const wchar_t* text) noexcept {
+  ::MessageBoxW(nullptr, text, kCaption, MB_OK | MB_TOPMOST);
+}
+
+void ShowShortMessage(const wchar_t* text) noexcept {
+  ::MessageBoxW(::GetActiveWindow(), text, kApplicationTitle, MB_OK);
+}
+
+}  // namespace qm
