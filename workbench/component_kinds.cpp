@@ -1,5 +1,5 @@
 // Tables of component kinds and of the attributes that each may carry.
-#include "component_kinds.h"
+#include "workbench/component_kinds.h"
 
 namespace wb {
 namespace {

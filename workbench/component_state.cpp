@@ -1,12 +1,12 @@
 // Live state of the components of a dialog.
-#include "component_state.h"
+#include "workbench/component_state.h"
 
 #include <algorithm>
 #include <set>
 #include <utility>
 
-#include "text.h"
-#include "utf8_text.h"
+#include "workbench/text.h"
+#include "workbench/utf8_text.h"
 
 namespace wb {
 namespace {

@@ -8,10 +8,10 @@
 #include <variant>
 #include <vector>
 
-#include "component_kinds.h"
-#include "dialog_resource.h"
-#include "table_model.h"
-#include "ui_status.h"
+#include "workbench/component_kinds.h"
+#include "workbench/dialog_resource.h"
+#include "workbench/table_model.h"
+#include "workbench/ui_status.h"
 
 namespace wb {
 

@@ -1,10 +1,10 @@
 // Live state of one created dialog.
-#include "dialog.h"
+#include "workbench/dialog.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "text.h"
+#include "workbench/text.h"
 
 namespace wb {
 namespace {

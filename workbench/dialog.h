@@ -8,9 +8,9 @@
 #include <variant>
 #include <vector>
 
-#include "component_state.h"
-#include "dialog_resource.h"
-#include "ui_status.h"
+#include "workbench/component_state.h"
+#include "workbench/dialog_resource.h"
+#include "workbench/ui_status.h"
 
 namespace wb {
 

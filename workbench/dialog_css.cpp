@@ -1,5 +1,5 @@
 // The look of drawn dialogs: a plain desktop dialog, legible in a report and when printed.
-#include "dialog_html.h"
+#include "workbench/dialog_html.h"
 
 namespace wb {
 

@@ -1,10 +1,10 @@
 // Draws dialogs as HTML.
-#include "dialog_html.h"
+#include "workbench/dialog_html.h"
 
 #include <algorithm>
 #include <unordered_map>
 
-#include "html_text.h"
+#include "workbench/html_text.h"
 
 namespace wb {
 namespace {

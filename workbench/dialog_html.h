@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "dialog.h"
+#include "workbench/dialog.h"
 
 namespace wb {
 

@@ -1,13 +1,13 @@
 // Turns the bracket grammar of a resource file into a DialogResource.
-#include "dialog_resource.h"
+#include "workbench/dialog_resource.h"
 
 #include <charconv>
 #include <optional>
 #include <unordered_map>
 #include <utility>
 
-#include "dialog_resource_checks.h"
-#include "utf8_text.h"
+#include "workbench/dialog_resource_checks.h"
+#include "workbench/utf8_text.h"
 
 namespace wb {
 namespace {

@@ -10,8 +10,8 @@
 #include <variant>
 #include <vector>
 
-#include "component_kinds.h"
-#include "resource_syntax.h"
+#include "workbench/component_kinds.h"
+#include "workbench/resource_syntax.h"
 
 namespace wb {
 

@@ -1,5 +1,5 @@
 // Cross-checks of a dialog resource.
-#include "dialog_resource_checks.h"
+#include "workbench/dialog_resource_checks.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -7,7 +7,7 @@
 #include <set>
 #include <vector>
 
-#include "utf8_text.h"
+#include "workbench/utf8_text.h"
 
 namespace wb {
 namespace {

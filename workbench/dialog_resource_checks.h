@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "dialog_resource.h"
+#include "workbench/dialog_resource.h"
 
 namespace wb {
 

@@ -1,5 +1,5 @@
 // Escapes text for HTML pages.
-#include "html_text.h"
+#include "workbench/html_text.h"
 
 namespace wb {
 

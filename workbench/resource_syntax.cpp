@@ -1,10 +1,9 @@
 // Reads the bracket grammar of dialog resource files.
-#include "resource_syntax.h"
+#include "workbench/resource_syntax.h"
 
 #include <cctype>
-#include <utility>
 
-#include "utf8_text.h"
+#include "workbench/utf8_text.h"
 
 namespace wb {
 namespace {
@@ -110,12 +109,6 @@ class SyntaxParser {
 };
 
 }  // namespace
-
-ResourceError::ResourceError(std::string file_name, int line_number, std::string why)
-    : std::runtime_error(file_name + ":" + std::to_string(line_number) + ": " + why),
-      file(std::move(file_name)),
-      line(line_number),
-      reason(std::move(why)) {}
 
 bool SyntaxNode::IsForm(std::string_view head) const {
   return IsList() && !children.empty() && children.front().IsWord() &&

@@ -2,20 +2,17 @@
 // strings, `!` comments. Knows nothing of dialogs; every item remembers its line for error texts.
 #pragma once
 
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "workbench/line_error.h"
+
 namespace wb {
 
-// A resource file that cannot be used. what() reads "FILE:LINE: REASON".
-struct ResourceError : std::runtime_error {
-  ResourceError(std::string file_name, int line_number, std::string why);
-
-  std::string file;
-  int line;
-  std::string reason;
+// A resource file that cannot be used.
+struct ResourceError : LineError {
+  using LineError::LineError;
 };
 
 struct SyntaxNode {

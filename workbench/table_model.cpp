@@ -1,5 +1,5 @@
 // Live contents of a dialog's table.
-#include "table_model.h"
+#include "workbench/table_model.h"
 
 #include <algorithm>
 #include <iterator>

@@ -12,7 +12,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "ui_status.h"
+#include "workbench/ui_status.h"
 
 namespace wb {
 

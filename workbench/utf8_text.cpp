@@ -1,5 +1,5 @@
 // Checks UTF-8 text and counts it the way the host does.
-#include "utf8_text.h"
+#include "workbench/utf8_text.h"
 
 #include <cstdint>
 #include <fstream>
