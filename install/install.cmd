@@ -1,0 +1,104 @@
+@echo off
+rem Writes protk.dat, the registry file through which Creo finds the toolbox, for the
+rem folder that this file lies in, and says how to point Creo at it. Run it again after
+rem the folder was moved or renamed.
+rem
+rem The shipped copy is GB2312 with CRLF: its Chinese bytes are never a character that the
+rem command processor gives a meaning to, whatever code page the machine has.
+rem protk.dat is written in the system's ANSI code page, as Creo reads files without a
+rem byte order mark. Delayed expansion is on only where a path is echoed without quotes.
+setlocal EnableExtensions DisableDelayedExpansion
+set "here="
+for %%d in ("%~dp0.") do set "here=%%~fd"
+set "dll=quillmax5.1C3.dll"
+set "registry=%here%\protk.dat"
+
+if not defined here goto no_code_page
+if not exist "%here%\%dll%" goto no_dll
+
+if exist "%registry%" del /f /q "%registry%" 2>nul
+if exist "%registry%" goto not_writable
+
+rem Console output follows the OEM code page, which differs from the ANSI one in Europe.
+set "ansi="
+for /f "tokens=3" %%a in ('reg query HKLM\SYSTEM\CurrentControlSet\Control\Nls\CodePage /v ACP 2^>nul') do set "ansi=%%a"
+if defined ansi chcp %ansi% >nul 2>nul
+
+rem What is read back differs from the path when the code page cannot hold it.
+set "probe=%here%\install.tmp"
+setlocal EnableDelayedExpansion
+> "!probe!" echo !here!
+endlocal
+if not exist "%probe%" goto not_writable
+set "read_back="
+< "%probe%" set /p "read_back="
+del "%probe%"
+if not "%read_back%"=="%here%" goto no_code_page
+
+setlocal EnableDelayedExpansion
+> "!registry!" echo NAME Quillmax
+>> "!registry!" echo EXEC_FILE !here!\!dll!
+>> "!registry!" echo TEXT_DIR !here!
+>> "!registry!" echo STARTUP dll
+>> "!registry!" echo ALLOW_STOP TRUE
+>> "!registry!" echo DELAY_START FALSE
+>> "!registry!" echo END
+endlocal
+
+if not exist "%registry%" goto not_writable
+
+echo.
+echo 羽石工具箱 5.1 C3 已登记:
+echo Quillmax 5.1 C3 is registered in:
+echo   "%registry%"
+echo.
+echo 下一步(任选其一), 然后重新启动 Creo:
+echo Next, do one of these and start Creo again:
+echo.
+echo   1. 在 config.pro 中加入一行:
+echo      Add this line to config.pro:
+setlocal EnableDelayedExpansion
+echo        toolkit_registry_file !registry!
+endlocal
+echo.
+echo   2. 将 protk.dat 复制到 Creo 的 text 文件夹。
+echo      Copy protk.dat into the text folder of Creo.
+echo.
+call :hold
+exit /b 0
+
+:no_dll
+echo 错误: 本文件夹中没有 %dll%, 未作任何修改。
+echo   请将压缩包完整解压, 再运行解压后文件夹中的 install.cmd。
+echo Error: %dll% is not in this folder; nothing was changed.
+echo   Unpack the whole zip file and run install.cmd in the unpacked folder.
+echo   "%here%"
+call :hold
+exit /b 1
+
+:not_writable
+echo 错误: 无法在本文件夹中写入 protk.dat。
+echo   请将工具箱放到有写入权限的文件夹, 或以管理员身份运行。
+echo Error: protk.dat cannot be written in this folder.
+echo   Move the toolbox to a folder you may write to, or run this as administrator.
+echo   "%here%"
+call :hold
+exit /b 2
+
+:no_code_page
+echo 错误: 文件夹名称中有系统代码页无法表示的字符, 未登记。
+echo   请将工具箱移到名称只含英文字母的文件夹后再运行。
+echo Error: the folder's name holds characters that the system's code page lacks.
+echo   Move the toolbox to a folder with a plain name and run this again.
+echo   "%here%"
+call :hold
+exit /b 3
+
+rem A double click opens a window of its own (the command line then ends in two quotes and
+rem a blank); keep it open to be read.
+:hold
+setlocal EnableDelayedExpansion
+set "line=!cmdcmdline:"='!"
+if "!line:~-3!"=="' '" pause
+endlocal
+exit /b 0
