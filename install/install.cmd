@@ -8,12 +8,11 @@ rem command processor gives a meaning to, whatever code page the machine has.
 rem protk.dat is written in the system's ANSI code page, as Creo reads files without a
 rem byte order mark. Delayed expansion is on only where a path is echoed without quotes.
 setlocal EnableExtensions DisableDelayedExpansion
-set "here="
-for %%d in ("%~dp0.") do set "here=%%~fd"
+set "here=%~dp0"
+set "here=%here:~0,-1%"
 set "dll=quillmax5.1C3.dll"
 set "registry=%here%\protk.dat"
 
-if not defined here goto no_code_page
 if not exist "%here%\%dll%" goto no_dll
 
 if exist "%registry%" del /f /q "%registry%" 2>nul
