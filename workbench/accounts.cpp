@@ -45,9 +45,11 @@ void Accounts::MoveTo(const void* from, const void* to) {
   ended_.erase(to);
 }
 
-std::vector<std::string> Accounts::Describe() const {
+std::vector<std::string> Accounts::Describe(long after) const {
   std::vector<Account> accounts;
-  for (const auto& [what, account] : open_) accounts.push_back(account);
+  for (const auto& [what, account] : open_) {
+    if (account.call > after) accounts.push_back(account);
+  }
   std::sort(accounts.begin(), accounts.end(),
             [](const Account& a, const Account& b) { return a.call < b.call; });
   std::vector<std::string> lines;

@@ -38,8 +38,9 @@ class Accounts {
   void MoveTo(const void* from, const void* to);
 
   const std::unordered_map<const void*, Account>& open() const { return open_; }
-  // One line each, in order of hand-out: "array from ProArrayAlloc (call 12)".
-  std::vector<std::string> Describe() const;
+  // What was handed out after call number `after`, one line each in order of hand-out: "array from
+  // ProArrayAlloc (call 12)".
+  std::vector<std::string> Describe(long after = 0) const;
   void Clear() { open_.clear(), ended_.clear(); }
 
  private:

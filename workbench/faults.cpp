@@ -12,4 +12,9 @@ const FaultPlan* Faults::Strike(const char* function) {
   return &*plan_;
 }
 
+const FaultPlan* Faults::StrikeWindows(const char* function) {
+  if (plan_ && plan_->function.empty() && !plan_->windows_too) return nullptr;
+  return Strike(function);
+}
+
 }  // namespace wb

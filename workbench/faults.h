@@ -12,8 +12,9 @@ enum class FaultKind {
 };
 
 struct FaultPlan {
-  std::string function;  // empty: any function counts
-  long nth = 0;          // counted from 1; 0: no fault
+  std::string function;      // empty: any function of the host counts
+  bool windows_too = false;  // any intercepted Windows call counts as well
+  long nth = 0;              // counted from 1; 0: no fault
   bool from_then_on = false;
   FaultKind kind = FaultKind::kStatus;
   int status = -1;
@@ -25,6 +26,9 @@ class Faults {
   void Clear() { plan_.reset(); }
   // The fault this call of `function` meets, if any.
   const FaultPlan* Strike(const char* function);
+  // The same for an intercepted Windows call: unless the plan names it, it counts only where the
+  // plan says so. It fails in the way natural to it, whatever status the plan has.
+  const FaultPlan* StrikeWindows(const char* function);
   // How many calls the current plan has failed.
   long struck() const { return struck_; }
 

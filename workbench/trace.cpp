@@ -25,6 +25,7 @@ std::unordered_map<std::string, long> Trace::Counts() const {
 void Trace::Restart() {
   calls_ = 0;
   depth_ = 0;
+  last_ = "none";
   counts_.clear();
   lines_.clear();
 }

@@ -22,6 +22,7 @@ class Trace {
   // Starts a crossing and gives its number.
   long Enter(const char* function) {
     ++counts_[function];
+    last_ = function;
     ++depth_;
     return ++calls_;
   }
@@ -29,6 +30,8 @@ class Trace {
   void LeaveQuietly() { --depth_; }
 
   long calls() const { return calls_; }
+  // The function of the latest crossing; for crash reports.
+  const char* last() const { return last_; }
   long Count(const std::string& function) const;
   // By function name, summed over call sites.
   std::unordered_map<std::string, long> Counts() const;
@@ -39,6 +42,7 @@ class Trace {
  private:
   long calls_ = 0;
   int depth_ = 0;
+  const char* last_ = "none";
   // Keyed by the address of the name: hashing text for every crossing would cost more than the
   // call.
   std::unordered_map<const char*, long> counts_;
