@@ -35,6 +35,7 @@ done
 
 # One call draws both sizes of one icon; xargs keeps all processors busy.
 export ICONS="$out/text/resource"
+# shellcheck disable=SC2016  # the inner shell expands these
 find "$source/icons" -name '*.svg' -print0 | xargs -0 -n 8 -P "$(nproc)" sh -c '
   for svg; do
     name=$(basename "$svg" .svg)
