@@ -1,0 +1,151 @@
+// The command table itself, checked at compile time, and the registered function of each row.
+#include "frame/command_table.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <utility>
+
+#include "display/hide_reverse.h"
+#include "display/isolate.h"
+#include "display/show_all.h"
+#include "frame/information_commands.h"
+#include "frame/mdl_name_copy.h"
+#include "frame/not_in_build.h"
+#include "frame/selection_commands.h"
+#include "frame/settings_dialog.h"
+#include "frame/shield.h"
+#include "frame/small_commands.h"
+#include "params/qm_params.h"
+
+namespace qm {
+namespace {
+
+using enum AccessRule;
+
+// The help key of BatchColor and the icons of BatchColor and AboutQm do not follow from the names:
+// menu texts and icon files are keyed by them.
+// clang-format off
+constexpr CommandRow kCommandTable[] = {
+//   name                     help key                      icon                         action            access rule           designated
+    {"QmOpenDir",             "QmOpenDir_Help",             "QmOpenDir.png",             &QmOpenDir,      kAlways,             true},
+    {"QmBackup",              "QmBackup_Help",              "QmBackup.png",              &NotInBuild,     kAssemblyMode,       true},
+    {"NewPart",               "NewPart_Help",               "NewPart.png",               &NotInBuild,     kAssemblyMode,       true},
+    {"NewAsm",                "NewAsm_Help",                "NewAsm.png",                &NotInBuild,     kAssemblyMode,       true},
+    {"NewSmt",                "NewSmt_Help",                "NewSmt.png",                &NotInBuild,     kAssemblyMode,       true},
+    {"BatchColor",            "Color_Help",                 "RandomColor.png",           &NotInBuild,     kSolidMode,          true},
+    {"QmClearAllColor",       "QmClearAllColor_Help",       "QmClearAllColor.png",       &NotInBuild,     kSolidMode,          true},
+    {"QmBoxSelSur",           "QmBoxSelSur_Help",           "QmBoxSelSur.png",           &QmBoxSelSur,    kSolidMode,          true},
+    {"QmTransparent",         "QmTransparent_Help",         "QmTransparent.png",         &NotInBuild,     kSolidMode,          true},
+    {"SurfTransparent",       "SurfTransparent_Help",       "SurfTransparent.png",       &NotInBuild,     kSolidMode,          true},
+    {"BoxSel",                "BoxSel_Help",                "BoxSel.png",                &BoxSel,         kAssemblyMode,       true},
+    {"SetMat",                "SetMat_Help",                "SetMat.png",                &NotInBuild,     kPartOrAssemblyMode, true},
+    {"SetBendTable",          "SetBendTable_Help",          "SetBendTable.png",          &NotInBuild,     kPartOrAssemblyMode, true},
+    {"SameScale",             "SameScale_Help",             "SameScale.png",             &NotInBuild,     kDrawingMode,        true},
+    {"QmIsolate",             "QmIsolate_Help",             "QmIsolate.png",             &QmIsolate,      kAssemblyMode,       true},
+    {"QmHideReverse",         "QmHideReverse_Help",         "QmHideReverse.png",         &QmHideReverse,  kAssemblyMode,       true},
+    {"QmShowAllComp",         "QmShowAllComp_Help",         "QmShowAllComp.png",         &QmShowAllComp,  kAssemblyMode,       true},
+    {"QmNormalView",          "QmNormalView_Help",          "QmNormalView.png",          &NotInBuild,     kAlways,             true},
+    {"QmParams",              "QmParams_Help",              "QmParams.png",              &QmParams,       kAssemblyMode,       true},
+    {"QmRelations",           "QmRelations_Help",           "QmRelations.png",           &NotInBuild,     kAssemblyMode,       true},
+    {"SetUnit",               "SetUnit_Help",               "SetUnit.png",               &NotInBuild,     kPartOrAssemblyMode, true},
+    {"CloneComp",             "CloneComp_Help",             "CloneComp.png",             &NotInBuild,     kAssemblyMode,       true},
+    {"CloneAndReplace",       "CloneAndReplace_Help",       "CloneAndReplace.png",       &NotInBuild,     kAssemblyMode,       true},
+    {"QmMerge",               "QmMerge_Help",               "QmMerge.png",               &NotInBuild,     kAssemblyMode,       true},
+    {"QmMergeTo",             "QmMergeTo_Help",             "QmMergeTo.png",             &NotInBuild,     kAssemblyMode,       true},
+    {"TweViews",              "TweViews_Help",              "TweViews.png",              &NotInBuild,     kSolidMode,          true},
+    {"NewDraw",               "NewDraw_Help",               "NewDraw.png",               &NotInBuild,     kSolidMode,          true},
+    {"QmExStp",               "QmExStp_Help",               "QmExStp.png",               &NotInBuild,     kAssemblyMode,       true},
+    {"QmExIgs",               "QmExIgs_Help",               "QmExIgs.png",               &NotInBuild,     kAssemblyMode,       true},
+    {"QmExSat",               "QmExSat_Help",               "QmExSat.png",               &NotInBuild,     kAssemblyMode,       true},
+    {"QmBom",                 "QmBom_Help",                 "QmBom.png",                 &NotInBuild,     kAssemblyMode,       true},
+    {"QmRename",              "QmRename_Help",              "QmRename.png",              &NotInBuild,     kAssemblyMode,       true},
+    {"QmRemoveCons",          "QmRemoveCons_Help",          "QmRemoveCons.png",          &NotInBuild,     kAssemblyMode,       true},
+    {"QmExport",              "QmExport_Help",              "QmExport.png",              &NotInBuild,     kAlways,             true},
+    {"QmMdlCount",            "QmMdlCount_Help",            "QmMdlCount.png",            &NotInBuild,     kAssemblyMode,       true},
+    {"QmNewDrw",              "QmNewDrw_Help",              "QmNewDrw.png",              &NotInBuild,     kAssemblyMode,       true},
+    {"QmDimModify",           "QmDimModify_Help",           "QmDimModify.png",           &NotInBuild,     kDrawingMode,        true},
+    {"QmFrmReplace",          "QmFrmReplace_Help",          "QmFrmReplace.png",          &NotInBuild,     kAlways,             true},
+    {"QmDrwScaleCheck",       "QmDrwScaleCheck_Help",       "QmDrwScaleCheck.png",       &NotInBuild,     kAlways,             true},
+    {"QmSimRep",              "QmSimRep_Help",              "QmSimRep.png",              &NotInBuild,     kAssemblyMode,       true},
+    {"QmBox",                 "QmBox_Help",                 "QmBox.png",                 &NotInBuild,     kAssemblyMode,       true},
+    {"QmExportDwg",           "QmExportDwg_Help",           "QmExportDwg.png",           &NotInBuild,     kDrawingMode,        true},
+    {"QmExportPdf",           "QmExportPdf_Help",           "QmExportPdf.png",           &NotInBuild,     kDrawingMode,        true},
+    {"QmMdlNameCopy",         "QmMdlNameCopy_Help",         "QmMdlNameCopy.png",         &QmMdlNameCopy,  kAssemblyMode,       true},
+    {"QmMdlRename",           "QmMdlRename_Help",           "QmMdlRename.png",           &NotInBuild,     kAssemblyMode,       true},
+    {"QmExportStp",           "QmExportStp_Help",           "QmExportStp.png",           &NotInBuild,     kSolidMode,          true},
+    {"QmUpdateSheetScale",    "QmUpdateSheetScale_Help",    "QmUpdateSheetScale.png",    &NotInBuild,     kDrawingMode,        true},
+    {"QmUpdateMainViewScale", "QmUpdateMainViewScale_Help", "QmUpdateMainViewScale.png", &NotInBuild,     kDrawingMode,        true},
+    {"QmSingleDim",           "QmSingleDim_Help",           "QmSingleDim.png",           &NotInBuild,     kDrawingMode,        true},
+    {"QmSetDirectory",        "QmSetDirectory_Help",        "QmSetDirectory.png",        &QmSetDirectory, kAlways,             true},
+    {"QmConfig",              "QmConfig_Help",              "QmConfig.png",              &QmConfig,       kAlways,             true},
+    {"ForTest",               "ForTest_Help",               "ForTest.png",               &ForTest,        kAlways,             true},
+    {"QmQQGroup",             "QmQQGroup_Help",             "QmQQGroup.png",             &QmQQGroup,      kAlways,             false},
+    {"QmVersion",             "QmVersion_Help",             "QmVersion.png",             &QmVersion,      kAlways,             false},
+    {"AboutQm",               "AboutQm_Help",               "AboutQuillmax.png",         &AboutQm,        kAlways,             false},
+};
+// clang-format on
+
+constexpr std::size_t kCommandCount = std::size(kCommandTable);
+static_assert(kCommandCount == 55);
+
+constexpr bool NamesAreUnique() {
+  for (std::size_t i = 0; i < kCommandCount; ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
+      if (std::string_view(kCommandTable[i].name) == kCommandTable[j].name) return false;
+    }
+  }
+  return true;
+}
+static_assert(NamesAreUnique());
+
+constexpr bool RowsAreFilled() {
+  return std::ranges::all_of(kCommandTable, [](const CommandRow& row) {
+    return row.action != nullptr && std::string_view(row.help).ends_with("_Help") &&
+           std::string_view(row.icon).ends_with(".png");
+  });
+}
+static_assert(RowsAreFilled());
+
+// A command says that it is not in this build exactly when the list of those says so.
+constexpr bool NotInBuildListIsExact() {
+  const auto is_listed = [](const CommandRow& row) {
+    return std::ranges::find(kNotInBuild, std::string_view(row.name)) != std::end(kNotInBuild);
+  };
+  const auto listed = std::ranges::count_if(kCommandTable, is_listed);
+  return static_cast<std::size_t>(listed) == std::size(kNotInBuild) &&
+         std::ranges::all_of(kCommandTable, [&](const CommandRow& row) {
+           return (row.action == &NotInBuild) == is_listed(row);
+         });
+}
+static_assert(NotInBuildListIsExact());
+
+template <std::size_t Row>
+int RunRow(uiCmdCmdId, uiCmdValue*, void*) noexcept {
+  return RunCommand(kCommandTable[Row].name, kCommandTable[Row].action);
+}
+
+template <std::size_t... Rows>
+constexpr std::array<uiCmdCmdActFn, sizeof...(Rows)> FunctionsOf(std::index_sequence<Rows...>) {
+  return {&RunRow<Rows>...};
+}
+
+constexpr auto kCommandFunctions = FunctionsOf(std::make_index_sequence<kCommandCount>());
+
+}  // namespace
+
+std::span<const CommandRow> CommandTable() {
+  return kCommandTable;
+}
+
+uiCmdCmdActFn CommandFunction(std::size_t row) {
+  return kCommandFunctions[row];
+}
+
+std::size_t CommandRowOf(std::string_view name) {
+  const auto* const row = std::ranges::find(
+      kCommandTable, name, [](const CommandRow& r) { return std::string_view(r.name); });
+  return static_cast<std::size_t>(row - std::begin(kCommandTable));
+}
+
+}  // namespace qm

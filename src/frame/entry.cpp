@@ -1,0 +1,54 @@
+// The two entries that the host calls: start and stop of the plug-in.
+#include <windows.h>
+
+#include "frame/host_binding.h"
+#include "frame/registration.h"
+#include "frame/restore_directory.h"
+#include "frame/run_log.h"
+#include "frame/save_directory.h"
+#include "frame/shield.h"
+#include "frame/version.h"
+
+extern "C" int user_initialize(int argc, char* argv[], char* version, char* build,
+                               wchar_t errbuf[80]);
+extern "C" void user_terminate();
+
+namespace qm {
+namespace {
+
+constexpr char kProduct[] = QM_PRODUCT_NAME " " QM_VERSION_TEXT " build " QM_BUILD_ID;
+
+// Code of an unloaded module must never be called, and each unloading would cost the process one of
+// its few thread-local slots: once started, the plug-in stays.
+void PinModule() {
+  HMODULE module = nullptr;
+  ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+                       reinterpret_cast<LPCWSTR>(&user_initialize), &module);
+}
+
+void Start() {
+  PinModule();
+  ReportMissingFunctions();
+  LogEvent(std::string("start of ") + kProduct);
+  RegisterCommands();
+  StartDirectoryRestore();
+  RegisterPopup();
+}
+
+void Stop() {
+  StopDirectoryRestore();
+  SaveWorkingDirectory();
+  LogEvent(std::string("stop of ") + kProduct);
+}
+
+}  // namespace
+}  // namespace qm
+
+extern "C" int user_initialize(int, char*[], char*, char*, wchar_t[80]) {
+  qm::Shielded<&qm::Start>::Call();
+  return 0;
+}
+
+extern "C" void user_terminate() {
+  qm::Shielded<&qm::Stop>::Call();
+}

@@ -1,0 +1,58 @@
+// Commands that are registered, placed and guarded like all others but do nothing yet. The list
+// shrinks to nothing as they are built; the command table is checked against it at compile time.
+#pragma once
+
+#include <string_view>
+
+#include "toolkit/types.h"
+
+namespace qm {
+
+inline constexpr std::string_view kNotInBuild[] = {
+    "QmBackup",
+    "NewPart",
+    "NewAsm",
+    "NewSmt",
+    "BatchColor",
+    "QmClearAllColor",
+    "QmTransparent",
+    "SurfTransparent",
+    "SetMat",
+    "SetBendTable",
+    "SameScale",
+    "QmNormalView",
+    "QmRelations",
+    "SetUnit",
+    "CloneComp",
+    "CloneAndReplace",
+    "QmMerge",
+    "QmMergeTo",
+    "TweViews",
+    "NewDraw",
+    "QmExStp",
+    "QmExIgs",
+    "QmExSat",
+    "QmBom",
+    "QmRename",
+    "QmRemoveCons",
+    "QmExport",
+    "QmMdlCount",
+    "QmNewDrw",
+    "QmDimModify",
+    "QmFrmReplace",
+    "QmDrwScaleCheck",
+    "QmSimRep",
+    "QmBox",
+    "QmExportDwg",
+    "QmExportPdf",
+    "QmMdlRename",
+    "QmExportStp",
+    "QmUpdateSheetScale",
+    "QmUpdateMainViewScale",
+    "QmSingleDim",
+};
+
+// Says in a caption box that the command is not in this build.
+ProError NotInBuild();
+
+}  // namespace qm

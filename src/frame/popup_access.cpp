@@ -1,0 +1,53 @@
+// Popup access functions: they ask the selection buffer, not the list that comes with the call.
+#include "frame/popup_access.h"
+
+#include "frame/access.h"
+#include "frame/popup_rules.h"
+#include "frame/preselection.h"
+#include "frame/shield.h"
+#include "toolkit/owners.h"
+
+namespace qm {
+namespace {
+
+uiCmdAccessState Offered(bool is_offered) {
+  return is_offered ? ACCESS_AVAILABLE : ACCESS_REMOVE;
+}
+
+uiCmdAccessState ForDisplay(uiCmdCmdId, ProAppData, ProSelection*) {
+  SelectionArray selected;
+  if (!Ok(ProSelbufferSelectionsGet(selected.put()))) return ACCESS_UNAVAILABLE;
+  if (selected.size() < 1) return ACCESS_REMOVE;
+  const auto item = ItemOf(selected[0]);
+  return Offered(item && DisplayEntriesOffered(item->type));
+}
+
+uiCmdAccessState ForName(uiCmdCmdId, ProAppData, ProSelection*) {
+  SelectionArray selected;
+  if (!Ok(ProSelbufferSelectionsGet(selected.put())) || selected.size() != 1) return ACCESS_REMOVE;
+  const auto item = ItemOf(selected[0]);
+  return Offered(item && NameEntriesOffered(item->type));
+}
+
+uiCmdAccessState ForOpenDrawing(uiCmdCmdId, ProAppData, ProSelection*) {
+  return AccessNow(AccessRule::kPartOrAssemblyMode);
+}
+
+}  // namespace
+
+uiCmdAccessState DisplayEntryAccess(uiCmdCmdId command, ProAppData data,
+                                    ProSelection* selections) noexcept {
+  return Shielded<&ForDisplay>::Call(command, data, selections);
+}
+
+uiCmdAccessState NameEntryAccess(uiCmdCmdId command, ProAppData data,
+                                 ProSelection* selections) noexcept {
+  return Shielded<&ForName>::Call(command, data, selections);
+}
+
+uiCmdAccessState OpenDrawingEntryAccess(uiCmdCmdId command, ProAppData data,
+                                        ProSelection* selections) noexcept {
+  return Shielded<&ForOpenDrawing>::Call(command, data, selections);
+}
+
+}  // namespace qm

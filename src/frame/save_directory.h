@@ -1,0 +1,11 @@
+// The working directory, kept for the next start.
+#pragma once
+
+namespace qm {
+
+// Writes the working directory into "quillmax.ini" as one line without an end. Keeps the file as
+// it is when the host does not tell the directory or the ANSI code page of Chinese systems cannot
+// hold it.
+void SaveWorkingDirectory();
+
+}  // namespace qm

@@ -1,0 +1,10 @@
+// The settings dialog: every general setting of "QmConfig.ini".
+#pragma once
+
+#include "toolkit/types.h"
+
+namespace qm {
+
+ProError QmConfig();
+
+}  // namespace qm
