@@ -1,0 +1,23 @@
+// Showing and hiding of components, shared by the commands that do nothing else.
+#pragma once
+
+#include "frame/component_list.h"
+#include "toolkit/assembly.h"
+
+namespace qm {
+
+// The host's hide state of one component feature, as its own Hide and Unhide commands set it. A
+// failure is passed over and logged.
+void HideComponent(ProFeature* component);
+void ShowComponent(ProFeature* component);
+
+void ShowComponents(const ComponentList& components);
+
+// Makes the new state visible: all windows and the model tree, once at the end of a command.
+void RefreshDisplay(ProMdl root);
+
+// Shown when the array of components cannot be allocated.
+inline constexpr wchar_t kNoComponentArray[] = L"ProArray Alloc error";
+inline constexpr wchar_t kNoComponents[] = L"当前模型中没有合适的子零/组件";
+
+}  // namespace qm

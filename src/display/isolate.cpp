@@ -1,0 +1,148 @@
+// QmIsolate: shows only the components that the user has preselected, with the assemblies above
+// them and, for a preselected subassembly, everything inside it. All is read before anything is
+// hidden, so a refusal leaves the display as it was.
+#include "display/isolate.h"
+
+#include <optional>
+#include <unordered_set>
+#include <vector>
+
+#include "display/hide_state.h"
+#include "frame/current_assembly.h"
+#include "frame/message_box.h"
+#include "toolkit/window.h"
+
+namespace qm {
+namespace {
+
+constexpr wchar_t kNothingSelected[] = L"\t请先选择需要独立显示的模型\t";
+
+// A preselected part or subassembly.
+struct SelectedComponent {
+  std::vector<ProFeature> levels;  // from the top level down to the component itself
+  ProMdl model = nullptr;          // the root itself when there are no levels
+  ProMdlType type = PRO_MDL_UNUSED;
+};
+
+// The model under the path's first `count` ids; null when there is none.
+ProMdl ModelAt(ProMdl root, ProAsmcomppath& whole, int count) {
+  ProAsmcomppath path{};
+  ProMdl model = nullptr;
+  if (!Ok(ProAsmcomppathInit(root, whole.comp_id_table, count, &path))) return nullptr;
+  return Ok(ProAsmcomppathMdlGet(&path, &model)) ? model : nullptr;
+}
+
+bool IsComponentFeature(ProModelitem& item) {
+  ProFeattype type = 0;
+  return item.type == PRO_FEATURE && Ok(ProFeatureTypeGet(&item, &type)) &&
+         type == PRO_FEAT_COMPONENT;
+}
+
+// The component features along the path and the model at its end; null in `model` when a level is
+// not in session.
+SelectedComponent FollowPath(ProMdl root, ProAsmcomppath& path) {
+  SelectedComponent selected;
+  selected.model = root;
+  for (int level = 0; level < path.table_num && selected.model != nullptr; ++level) {
+    selected.levels.push_back({PRO_FEATURE, path.comp_id_table[level], selected.model});
+    selected.model = ModelAt(root, path, level + 1);
+  }
+  return selected;
+}
+
+// Nothing for what is no component: a feature, surface or edge, or a model of another type.
+std::optional<SelectedComponent> ReadSelection(ProMdl root, ProSelection selection) {
+  ProModelitem item{};
+  ProAsmcomppath path{};
+  if (!Ok(ProSelectionModelitemGet(selection, &item))) return std::nullopt;
+  const bool is_model = item.type == PRO_PART || item.type == PRO_ASSEMBLY;
+  if (!is_model && !IsComponentFeature(item)) return std::nullopt;
+  if (!Ok(ProSelectionAsmcomppathGet(selection, &path))) return std::nullopt;
+  if (path.table_num < 0 || path.table_num > PRO_MAX_ASSEM_LEVEL) return std::nullopt;
+
+  SelectedComponent selected = FollowPath(root, path);
+  // A component picked as a feature may come with the path of the assembly it lies in.
+  if (!is_model && selected.model == item.owner) {
+    selected.levels.push_back({PRO_FEATURE, item.id, item.owner});
+    if (!Ok(ProAsmcompMdlGet(&item, &selected.model))) return std::nullopt;
+  }
+  if (selected.model == nullptr) return std::nullopt;
+  if (!Ok(ProMdlTypeGet(selected.model, &selected.type))) return std::nullopt;
+  if (selected.type != PRO_MDL_ASSEMBLY && selected.type != PRO_MDL_PART) return std::nullopt;
+  return selected;
+}
+
+// Empty when nothing fit is preselected.
+std::vector<SelectedComponent> ReadPreselection(ProMdl root) {
+  std::vector<SelectedComponent> components;
+  SelectionArray selections;
+  if (!Ok(ProSelbufferSelectionsGet(selections.put()))) return components;
+  const int count = selections.size();
+  for (int i = 0; i < count; ++i) {
+    if (selections[i] == nullptr) continue;
+    auto component = ReadSelection(root, selections[i]);
+    if (component) components.push_back(std::move(*component));
+  }
+  return components;
+}
+
+void HideParts(const ComponentList& components) {
+  for (int i = 0; i < components.size(); ++i) {
+    if (components.type(i) == PRO_MDL_ASSEMBLY) ShowComponent(components.feature(i));
+    if (components.type(i) == PRO_MDL_PART) HideComponent(components.feature(i));
+  }
+}
+
+// The components under each preselected assembly, which is entered once however often it is
+// preselected: the hide state belongs to the features inside it, not to its placements.
+ProError CollectInside(const std::vector<SelectedComponent>& selected,
+                       std::vector<ComponentList>* inside) {
+  std::unordered_set<ProMdl> entered;
+  for (const SelectedComponent& component : selected) {
+    if (component.type != PRO_MDL_ASSEMBLY || !entered.insert(component.model).second) continue;
+    const ProError status =
+        CollectComponents(component.model, ComponentKind::kAll, &inside->emplace_back());
+    if (!Ok(status)) return status;
+  }
+  return PRO_TK_NO_ERROR;
+}
+
+void Show(std::vector<SelectedComponent>& selected, const std::vector<ComponentList>& inside) {
+  for (SelectedComponent& component : selected) {
+    for (ProFeature& level : component.levels) ShowComponent(&level);
+  }
+  for (const ComponentList& components : inside) ShowComponents(components);
+}
+
+}  // namespace
+
+ProError QmIsolate() {
+  int window = 0;
+  if (!Ok(ProWindowCurrentGet(&window))) return PRO_TK_NO_ERROR;
+  const auto root = CurrentAssembly();
+  if (!root) return PRO_TK_NO_ERROR;
+
+  std::vector<SelectedComponent> selected = ReadPreselection(*root);
+  if (selected.empty()) {
+    ShowMessage(kNothingSelected);
+    return PRO_TK_NO_ERROR;
+  }
+  ComponentList all;
+  std::vector<ComponentList> inside;
+  ProError status = CollectComponents(*root, ComponentKind::kAll, &all);
+  if (Ok(status)) status = CollectInside(selected, &inside);
+  if (!Ok(status)) {
+    ShowShortMessage(kNoComponentArray);
+    return status;
+  }
+  if (all.empty()) {
+    ShowShortMessage(kNoComponents);
+    return PRO_TK_NO_ERROR;
+  }
+  HideParts(all);
+  Show(selected, inside);
+  RefreshDisplay(*root);
+  return PRO_TK_NO_ERROR;
+}
+
+}  // namespace qm

@@ -1,0 +1,29 @@
+// QmShowAllComp: unhides every component of the current assembly.
+#include "display/show_all.h"
+
+#include "display/hide_state.h"
+#include "frame/current_assembly.h"
+#include "frame/message_box.h"
+
+namespace qm {
+
+ProError QmShowAllComp() {
+  const auto root = CurrentAssembly();
+  if (!root) return PRO_TK_NO_ERROR;
+
+  ComponentList components;
+  const ProError status = CollectComponentsForShowAll(*root, &components);
+  if (!Ok(status)) {
+    ShowShortMessage(kNoComponentArray);
+    return status;
+  }
+  if (components.empty()) {
+    ShowShortMessage(kNoComponents);
+    return PRO_TK_NO_ERROR;
+  }
+  ShowComponents(components);
+  RefreshDisplay(*root);
+  return PRO_TK_NO_ERROR;
+}
+
+}  // namespace qm

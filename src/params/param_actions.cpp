@@ -1,0 +1,92 @@
+// Add, Update and Delete of the parameter dialog: the same steps with another conversion of the
+// value and another operation on each model.
+#include "params/param_actions.h"
+
+#include "frame/message_box.h"
+#include "frame/run_log.h"
+#include "params/host_param.h"
+#include "params/param_batch.h"
+#include "params/param_settings.h"
+#include "toolkit/status.h"
+
+namespace qm {
+namespace {
+
+void LogUnlessOk(ProMdl model, const char* function, ProError status) {
+  if (!Ok(status)) LogFailure(model, function, status);
+}
+
+void Create(ParamTarget target, HostName& name, ProParamvalue& value) {
+  ProParameter parameter{};
+  LogUnlessOk(target.model, "ProParameterCreate",
+              ProParameterCreate(&target.item, name.name, &value, &parameter));
+}
+
+// False, after a line in the log, when the model has no such parameter.
+bool Find(ParamTarget& target, HostName& name, ProParameter* parameter) {
+  const ProError status = ProParameterInit(&target.item, name.name, parameter);
+  LogUnlessOk(target.model, "ProParameterInit", status);
+  return Ok(status);
+}
+
+void Set(ParamTarget target, HostName& name, ProParamvalue& value) {
+  ProParameter parameter{};
+  if (!Find(target, name, &parameter)) return;
+  LogUnlessOk(target.model, "ProParameterValueSet", ProParameterValueSet(&parameter, &value));
+}
+
+void Remove(ParamTarget target, HostName& name, ProParamvalue&) {
+  ProParameter parameter{};
+  if (!Find(target, name, &parameter)) return;
+  LogUnlessOk(target.model, "ProParameterDelete", ProParameterDelete(&parameter));
+}
+
+struct ParamAction {
+  const char* log_name;
+  ValueOrRefusal (*to_value)(std::wstring_view type, std::wstring_view text);  // null: no value
+  void (*apply)(ParamTarget target, HostName& name, ProParamvalue& value);
+};
+constexpr ParamAction kAdd = {"QmParams Add", &ValueToAdd, &Create};
+constexpr ParamAction kUpdate = {"QmParams Update", &ValueToUpdate, &Set};
+constexpr ParamAction kDelete = {"QmParams Delete", nullptr, &Remove};
+
+// Nothing, after a message, when the value cannot be used.
+std::optional<ProParamvalue> ReadValue(const DialogView& dialog, const ParamAction& action) {
+  if (action.to_value == nullptr) return ProParamvalue{};
+  const auto text = dialog.TryInputValue("ParaValue");
+  const ValueOrRefusal value =
+      text ? action.to_value(dialog.OptionValue("PtypeOption"), *text) : Refusal{kUnreadableField};
+  if (const auto* const refusal = std::get_if<Refusal>(&value)) {
+    ShowShortMessage(refusal->message);
+    return std::nullopt;
+  }
+  return HostValue(std::get<ParamValue>(value));
+}
+
+void Run(const DialogView& dialog, const ParamAction& action) {
+  CommandLog log(action.log_name);
+  // First, so that the user's fields survive even when the action then stops.
+  SaveParamSettings(dialog);
+  const auto top = CurrentModelOrAssembly();
+  const auto name = ReadParamName(dialog, "ParaName");
+  if (!name) return;
+  auto value = ReadValue(dialog, action);
+  if (!value) return;
+  HostName host_name(*name);
+  ForEachTarget(dialog, kParameterTargets, top,
+                [&](const ParamTarget& target) { action.apply(target, host_name, *value); });
+}
+
+}  // namespace
+
+void AddParameters(DialogView dialog) {
+  Run(dialog, kAdd);
+}
+void UpdateParameters(DialogView dialog) {
+  Run(dialog, kUpdate);
+}
+void DeleteParameters(DialogView dialog) {
+  Run(dialog, kDelete);
+}
+
+}  // namespace qm

@@ -1,0 +1,201 @@
+// Conversion of the typed parameter value by its type.
+#include "params/param_value_rules.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <limits>
+#include <system_error>
+
+#include "frame/letter_case.h"
+
+namespace qm {
+namespace {
+
+constexpr wchar_t kEmptyName[] = L"请输入参数名称!";
+constexpr wchar_t kLongName[] = L"参数名称不能超过31个字符,请重新输入!";
+constexpr wchar_t kLongText[] = L"字符串参数值不能超过80个字符,请重新输入!";
+constexpr wchar_t kUnknownType[] = L"请选择参数类型:整数、实数、字符串或是/否!";
+constexpr wchar_t kHugeReal[] = L"实数参数值超出范围,请重新输入!";
+constexpr wchar_t kNoBoolean[] = L"布尔类型参数值不能为空,请输入'YES'或'NO'!";
+constexpr wchar_t kBadBoolean[] = L"布尔类型参数值只可为'YES'或'NO',请重新输入!";
+
+ValueOrRefusal IntegerValue(std::wstring_view text) {
+  return ParamValue(LeadingInteger(text));
+}
+
+ValueOrRefusal RealValue(std::wstring_view text) {
+  const double value = LeadingReal(text);
+  if (value - value != 0.0) return Refusal{kHugeReal};  // infinite: no model can hold it
+  return ParamValue(value);
+}
+
+ValueOrRefusal StringValue(std::wstring_view text) {
+  if (text.size() > kMaxParamTextLength) return Refusal{kLongText};
+  return ParamValue(std::wstring(text));
+}
+
+// "YES" counts in any case but "NO" only in capitals; users' habits and macros rely on it.
+ValueOrRefusal BooleanToAdd(std::wstring_view text) {
+  if (text.empty()) return Refusal{kNoBoolean};
+  if (EqualIgnoringCase(text, L"YES")) return ParamValue(true);
+  if (text == L"NO") return ParamValue(false);
+  return Refusal{kBadBoolean};
+}
+
+// An update sets a yes/no parameter to yes whatever was typed; kept on purpose.
+ValueOrRefusal BooleanToUpdate(std::wstring_view) {
+  return ParamValue(true);
+}
+
+using Conversion = ValueOrRefusal (*)(std::wstring_view text);
+struct TypeRow {
+  std::wstring_view name;
+  Conversion to_add;
+  Conversion to_update;
+};
+constexpr TypeRow kTypes[] = {
+    {L"整数", IntegerValue, IntegerValue},
+    {L"实数", RealValue, RealValue},
+    {L"字符串", StringValue, StringValue},
+    {L"是/否", BooleanToAdd, BooleanToUpdate},
+};
+
+const TypeRow* FindType(std::wstring_view name) {
+  for (const TypeRow& row : kTypes) {
+    if (row.name == name) return &row;
+  }
+  return nullptr;
+}
+
+// What the C library's wide conversions skip: the narrow blanks, the no-break and the full-width
+// space.
+bool IsBlank(wchar_t c) {
+  return (c >= L'\t' && c <= L'\r') || c == L' ' || c == 0x00A0 || c == 0x3000;
+}
+
+std::wstring_view WithoutLeadingBlanks(std::wstring_view text) {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  return text;
+}
+
+bool IsSign(wchar_t c) {
+  return c == L'+' || c == L'-';
+}
+bool IsDigit(wchar_t c) {
+  return c >= L'0' && c <= L'9';
+}
+bool IsExponentMark(wchar_t c) {
+  return c == L'e' || c == L'E' || c == L'd' || c == L'D';
+}
+
+// The longest number at the start of a text, as plain ASCII without a leading "+".
+class RealLiteral {
+ public:
+  explicit RealLiteral(std::wstring_view text) : rest_(WithoutLeadingBlanks(text)) {
+    TakeSign();
+    const size_t whole = TakeDigits();
+    size_t fraction = 0;
+    if (!rest_.empty() && rest_.front() == L'.') {
+      Take();
+      fraction = TakeDigits();
+    }
+    if (whole + fraction == 0) {
+      literal_.clear();
+      return;
+    }
+    TakeExponent();
+  }
+
+  const std::string& text() const { return literal_; }
+
+ private:
+  void Take() {
+    literal_ += static_cast<char>(rest_.front());
+    rest_.remove_prefix(1);
+  }
+  void TakeSign() {
+    if (rest_.empty() || !IsSign(rest_.front())) return;
+    if (rest_.front() == L'-') literal_ += '-';
+    rest_.remove_prefix(1);
+  }
+  size_t TakeDigits() {
+    size_t count = 0;
+    for (; !rest_.empty() && IsDigit(rest_.front()); ++count) Take();
+    return count;
+  }
+  // A mark without digits behind it does not belong to the number.
+  void TakeExponent() {
+    if (rest_.empty() || !IsExponentMark(rest_.front())) return;
+    const size_t digits = rest_.size() > 1 && IsSign(rest_[1]) ? 2 : 1;
+    if (rest_.size() <= digits || !IsDigit(rest_[digits])) return;
+    rest_.remove_prefix(1);
+    literal_ += 'e';
+    TakeSign();
+    TakeDigits();
+  }
+
+  std::wstring_view rest_;
+  std::string literal_;
+};
+
+// Decides what a number outside the range of a double was. Its decimal exponent is far from 0 then,
+// so the count of digits before the point plus the written exponent tells.
+bool IsHuge(std::string_view literal) {
+  const size_t mark = literal.find('e');
+  const std::string_view mantissa = literal.substr(0, mark);
+  const size_t point = std::min(mantissa.find('.'), mantissa.size());
+  const size_t first = mantissa.find_first_of("123456789");
+  long long exponent = static_cast<long long>(point) - static_cast<long long>(first);
+  if (mark != std::string_view::npos) {
+    long long written = 0;
+    const char* const begin = literal.data() + mark + 1;
+    const auto [end, error] = std::from_chars(begin, literal.data() + literal.size(), written);
+    if (error == std::errc::result_out_of_range) return *begin != '-';
+    exponent += written;
+  }
+  return exponent > 0;
+}
+
+}  // namespace
+
+const wchar_t* ParamNameRefusal(std::wstring_view name) {
+  if (name.empty()) return kEmptyName;
+  if (name.size() > kMaxParamNameLength) return kLongName;
+  return nullptr;
+}
+
+ValueOrRefusal ValueToAdd(std::wstring_view type, std::wstring_view text) {
+  const TypeRow* const row = FindType(type);
+  return row != nullptr ? row->to_add(text) : Refusal{kUnknownType};
+}
+
+ValueOrRefusal ValueToUpdate(std::wstring_view type, std::wstring_view text) {
+  const TypeRow* const row = FindType(type);
+  return row != nullptr ? row->to_update(text) : Refusal{kUnknownType};
+}
+
+int LeadingInteger(std::wstring_view text) {
+  text = WithoutLeadingBlanks(text);
+  const bool negative = !text.empty() && text.front() == L'-';
+  if (!text.empty() && IsSign(text.front())) text.remove_prefix(1);
+  using Limits = std::numeric_limits<int>;
+  int64_t value = 0;
+  for (; !text.empty() && IsDigit(text.front()); text.remove_prefix(1)) {
+    value = value * 10 + (text.front() - L'0');
+    if (value > Limits::max()) return negative ? Limits::min() : Limits::max();
+  }
+  return static_cast<int>(negative ? -value : value);
+}
+
+double LeadingReal(std::wstring_view text) {
+  const std::string literal = RealLiteral(text).text();
+  if (literal.empty()) return 0.0;
+  double value = 0.0;
+  const auto [end, error] = std::from_chars(literal.data(), literal.data() + literal.size(), value);
+  if (error != std::errc::result_out_of_range) return value;
+  const double magnitude = IsHuge(literal) ? std::numeric_limits<double>::infinity() : 0.0;
+  return literal.front() == '-' ? -magnitude : magnitude;
+}
+
+}  // namespace qm

@@ -1,0 +1,41 @@
+// What the user typed in the parameter dialog, turned into a typed value or into a refusal that
+// says what to correct.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace qm {
+
+// An integer, a real number, a string or a yes/no parameter.
+using ParamValue = std::variant<int, double, std::wstring, bool>;
+
+// Longest texts, in 16-bit characters, that the host stores.
+inline constexpr size_t kMaxParamNameLength = 31;
+inline constexpr size_t kMaxParamTextLength = 80;
+
+// A message to show when the input cannot be used.
+struct Refusal {
+  const wchar_t* message;
+};
+
+using ValueOrRefusal = std::variant<ParamValue, Refusal>;
+
+// Why the name cannot be a parameter's name; null when it can.
+const wchar_t* ParamNameRefusal(std::wstring_view name);
+
+// The value for creating a parameter. `type` is the name chosen in the type menu, compared whole.
+ValueOrRefusal ValueToAdd(std::wstring_view type, std::wstring_view text);
+
+// The value for updating: as for creating, but a yes/no parameter is always set to yes.
+ValueOrRefusal ValueToUpdate(std::wstring_view type, std::wstring_view text);
+
+// The number that a text begins with after blanks and a sign, 0 when there is none; too large a
+// number gives the largest or smallest one. As the C library's _wtoi.
+int LeadingInteger(std::wstring_view text);
+
+// The same for real numbers with point and exponent; too large gives infinity. As _wtof.
+double LeadingReal(std::wstring_view text);
+
+}  // namespace qm

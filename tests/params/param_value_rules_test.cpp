@@ -1,0 +1,143 @@
+// Typed parameter values: conversion by type, and what is refused.
+#include "params/param_value_rules.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+#include <cstdlib>
+
+namespace qm {
+namespace {
+
+const std::wstring kBadBoolean = L"布尔类型参数值只可为'YES'或'NO',请重新输入!";
+
+std::wstring RefusalOf(const ValueOrRefusal& value) {
+  const auto* const refusal = std::get_if<Refusal>(&value);
+  return refusal != nullptr ? refusal->message : L"";
+}
+
+template <typename T>
+T ValueOf(const ValueOrRefusal& value) {
+  return std::get<T>(std::get<ParamValue>(value));
+}
+
+TEST(ParamValue, IntegersAreTheLeadingDigits) {
+  const struct {
+    const wchar_t* text;
+    int value;
+  } cases[] = {
+      {L"42", 42},
+      {L"  \t-7mm", -7},
+      {L"+5", 5},
+      {L"12.9", 12},
+      {L"", 0},
+      {L"abc", 0},
+      {L"+-3", 0},
+      {L"- 3", 0},
+      {L"2147483647", INT_MAX},
+      {L"0017", 17},
+      {L"2147483648", INT_MAX},
+      {L"-2147483648", INT_MIN},
+      {L"0x10", 0},
+      {L"99999999999999999999999", INT_MAX},
+      {L"-2147483649", INT_MIN},
+      {L"-99999999999999999999999", INT_MIN},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(ValueOf<int>(ValueToAdd(L"整数", c.text)), c.value) << (&c - cases);
+#if defined(_WIN32)
+    EXPECT_EQ(LeadingInteger(c.text), _wtoi(c.text)) << "C library, " << (&c - cases);
+#endif
+  }
+}
+
+TEST(ParamValue, RealNumbersAreTheLongestLeadingNumber) {
+  const struct {
+    const wchar_t* text;
+    double value;
+  } cases[] = {
+      {L"2.5", 2.5},
+      {L" -.5x", -0.5},
+      {L"1.", 1.0},
+      {L".", 0.0},
+      {L"1e3", 1000.0},
+      {L"1e+2", 100.0},
+      {L"1e", 1.0},
+      {L"1e-", 1.0},
+      {L"1d2", 100.0},
+      {L"3,5", 3.0},
+      {L"", 0.0},
+      {L"mm", 0.0},
+      {L"+0.25mm", 0.25},
+      {L"--1", 0.0},
+      {L"1.2.3", 1.2},
+      {L"1e-400", 0.0},
+      {L"inf", 0.0},
+      {L"0e999999999", 0.0},
+      {L"1e-99999999999999999999", 0.0},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(ValueOf<double>(ValueToAdd(L"实数", c.text)), c.value) << (&c - cases);
+#if defined(_WIN32)
+    EXPECT_EQ(LeadingReal(c.text), _wtof(c.text)) << "C library, " << (&c - cases);
+#endif
+  }
+}
+
+TEST(ParamValue, RealNumbersBeyondTheRangeAreInfiniteAndRefused) {
+  for (const wchar_t* text : {L"1e309", L"1e99999999999999999999", L"0.001e400"}) {
+    EXPECT_EQ(LeadingReal(text), HUGE_VAL);
+    EXPECT_NE(RefusalOf(ValueToAdd(L"实数", text)), L"");
+    EXPECT_NE(RefusalOf(ValueToUpdate(L"实数", text)), L"");
+  }
+  EXPECT_EQ(LeadingReal(L"-1e309"), -HUGE_VAL);
+}
+
+TEST(ParamValue, AddTakesYesInAnyCaseButNoOnlyInCapitals) {
+  for (const wchar_t* yes : {L"YES", L"yes", L"Yes", L"yEs"}) {
+    EXPECT_TRUE(ValueOf<bool>(ValueToAdd(L"是/否", yes)));
+  }
+  EXPECT_FALSE(ValueOf<bool>(ValueToAdd(L"是/否", L"NO")));
+  for (const wchar_t* bad : {L"no", L"No", L"nO", L" YES", L"YES ", L"NO ", L"1", L"是", L"YE"}) {
+    EXPECT_EQ(RefusalOf(ValueToAdd(L"是/否", bad)), kBadBoolean);
+  }
+}
+
+TEST(ParamValue, AddOfAnEmptyBooleanAsksForAValueWithoutTheBooleanMessage) {
+  const std::wstring refusal = RefusalOf(ValueToAdd(L"是/否", L""));
+  EXPECT_NE(refusal, L"");
+  EXPECT_NE(refusal, kBadBoolean);
+}
+
+TEST(ParamValue, UpdateOfABooleanIsAlwaysYes) {
+  for (const wchar_t* text : {L"NO", L"YES", L"no", L"", L"maybe"}) {
+    EXPECT_TRUE(ValueOf<bool>(ValueToUpdate(L"是/否", text)));
+  }
+}
+
+TEST(ParamValue, StringsAreKeptAsTypedUpToEightyCharacters) {
+  const std::wstring longest(80, L'长');
+  EXPECT_EQ(ValueOf<std::wstring>(ValueToAdd(L"字符串", L" a b ")), L" a b ");
+  EXPECT_EQ(ValueOf<std::wstring>(ValueToUpdate(L"字符串", L"")), L"");
+  EXPECT_EQ(ValueOf<std::wstring>(ValueToAdd(L"字符串", longest)), longest);
+  EXPECT_NE(RefusalOf(ValueToAdd(L"字符串", longest + L"x")), L"");
+  EXPECT_NE(RefusalOf(ValueToUpdate(L"字符串", longest + L"x")), L"");
+}
+
+TEST(ParamValue, TypesOutsideTheMenuAreRefused) {
+  for (const wchar_t* type : {L"", L"整", L"整数 ", L"Integer", L"是", L"字符串x"}) {
+    EXPECT_NE(RefusalOf(ValueToAdd(type, L"1")), L"");
+    EXPECT_NE(RefusalOf(ValueToUpdate(type, L"1")), L"");
+  }
+}
+
+TEST(ParamName, IsRefusedWhenEmptyOrLongerThanTheHostHolds) {
+  EXPECT_NE(ParamNameRefusal(L""), nullptr);
+  EXPECT_EQ(ParamNameRefusal(L"M"), nullptr);
+  EXPECT_EQ(ParamNameRefusal(std::wstring(31, L'a')), nullptr);
+  EXPECT_NE(ParamNameRefusal(std::wstring(32, L'a')), nullptr);
+}
+
+}  // namespace
+}  // namespace qm
