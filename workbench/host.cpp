@@ -20,11 +20,25 @@ Host::Host() : ui_thread(::GetCurrentThreadId()) {
   session.on_enter = [this](Model& model) {
     model.handle = handles.Give(HandleKind::kModel, &model);
   };
-  session.on_leave = [this](Model& model) { handles.End(model.handle); };
+  session.on_leave = [this](Model& model) { Forget(model); };
 }
 
 Host::~Host() {
   current_host = nullptr;
+}
+
+void Host::Forget(Model& model) {
+  handles.End(model.handle);
+  for (const Box& surface : model.surfaces) {
+    const auto found = surface_handles.find(&surface);
+    if (found == surface_handles.end()) continue;
+    handles.End(found->second);
+    surface_handles.erase(found);
+  }
+  for (PickedItem* item : picked) {
+    if (item->owner == &model) item->owner = nullptr;
+    if (item->root == &model) item->root = nullptr;
+  }
 }
 
 void Host::ReportBreach(const std::string& function, const std::string& why) {

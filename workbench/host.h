@@ -4,6 +4,9 @@
 #include <filesystem>
 #include <map>
 #include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "workbench/accounts.h"
@@ -48,14 +51,23 @@ struct Host {
   std::map<std::string, std::vector<std::string>> options;  // configuration options, lower case
   int forced_mode = -1;  // mode to report; -1: by the current model
 
+  std::unordered_set<PickedItem*> picked;  // live selections
+  std::vector<void*> last_picks;           // selection handles of the last interactive pick
+  // Options of each selection environment asked for: number and value.
+  std::vector<std::vector<std::pair<int, int>>> selection_environments;
+  std::unordered_map<const Box*, void*> surface_handles;
+
   std::vector<Breach> breaches;
-  std::vector<std::string> not_modelled;  // "workbench: not modelled: FUNCTION"
-  std::vector<std::string> repaints;      // repaint and tree refresh calls, in order
-  std::string running_command;            // empty: the plug-in is idle
+  std::vector<std::string> file_problems;  // model files that could not be read
+  std::vector<std::string> not_modelled;   // "workbench: not modelled: FUNCTION"
+  std::vector<std::string> repaints;       // repaint and tree refresh calls, in order
+  std::string running_command;             // empty: the plug-in is idle
   unsigned long ui_thread = 0;
 
   void ReportBreach(const std::string& function, const std::string& why);
   bool OnUiThread() const;
+  // Ends every handle to a model that leaves the session, its surfaces and selections included.
+  void Forget(Model& model);
   // What a handle stands for, for traces: "part bolt".
   std::string DescribeHandle(const void* handle) const;
 };

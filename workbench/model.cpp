@@ -8,7 +8,7 @@
 namespace wb {
 namespace {
 
-const KindName* FindKind(auto&& matches) {
+const ModelKindRow* FindKind(auto&& matches) {
   const auto found = std::find_if(std::begin(kKindNames), std::end(kKindNames), matches);
   return found == std::end(kKindNames) ? nullptr : found;
 }
@@ -30,23 +30,23 @@ constexpr StatusWord kStatusWords[] = {
 }  // namespace
 
 const char* KindWord(ModelKind kind) {
-  const KindName* row = FindKind([&](const KindName& k) { return k.kind == kind; });
+  const ModelKindRow* row = FindKind([&](const ModelKindRow& k) { return k.kind == kind; });
   return row == nullptr ? "unknown" : row->word;
 }
 
 const char* KindExtension(ModelKind kind) {
-  const KindName* row = FindKind([&](const KindName& k) { return k.kind == kind; });
+  const ModelKindRow* row = FindKind([&](const ModelKindRow& k) { return k.kind == kind; });
   return row == nullptr ? "unknown" : row->extension;
 }
 
 std::optional<ModelKind> KindFromWord(std::string_view word) {
-  const KindName* row = FindKind([&](const KindName& k) { return word == k.word; });
+  const ModelKindRow* row = FindKind([&](const ModelKindRow& k) { return word == k.word; });
   return row == nullptr ? std::nullopt : std::optional(row->kind);
 }
 
 std::optional<ModelKind> KindFromExtension(std::string_view extension) {
-  const KindName* row =
-      FindKind([&](const KindName& k) { return EqualFolded(extension, k.extension); });
+  const ModelKindRow* row =
+      FindKind([&](const ModelKindRow& k) { return EqualFolded(extension, k.extension); });
   return row == nullptr ? std::nullopt : std::optional(row->kind);
 }
 

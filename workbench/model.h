@@ -15,12 +15,12 @@ namespace wb {
 // Values are the host's model type numbers.
 enum class ModelKind { kAssembly = 1, kPart = 2, kDrawing = 4, kManufacturing = 37 };
 
-struct KindName {
+struct ModelKindRow {
   ModelKind kind;
   const char* word;       // in scripts and model files
   const char* extension;  // of model files, without the dot
 };
-inline constexpr KindName kKindNames[] = {
+inline constexpr ModelKindRow kKindNames[] = {
     {ModelKind::kAssembly, "assembly", "asm"},
     {ModelKind::kPart, "part", "prt"},
     {ModelKind::kDrawing, "drawing", "drw"},
