@@ -15,6 +15,12 @@ bool Contains(const std::vector<std::string>& names, std::string_view name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
+std::string OnOneLine(const std::string& text) {
+  std::string line;
+  for (const char c : text) line += c == '\n' ? std::string("\\n") : std::string(1, c);
+  return line;
+}
+
 TableModel InitialTable(const ComponentResource& resource) {
   TableModel table;
   table.InsertColumns("", resource.Texts("ColumnNames"));
@@ -131,7 +137,7 @@ std::string ValueText(const Component& component) {
     return Join(", ", choice->Selected()) + " of " + Join(", ", choice->Names());
   }
   if (const auto* text = std::get_if<TextState>(&component.state)) {
-    return "\"" + text->Value() + "\"";
+    return "\"" + OnOneLine(text->Value()) + "\"";
   }
   if (const auto* check = std::get_if<CheckState>(&component.state)) {
     return check->set ? "set" : "unset";

@@ -22,7 +22,8 @@ const char* const kDialogCss = R"css(
 .dlg-option { display: flex; justify-content: space-between; align-items: center; gap: 8px; }
 .dlg-option b { border: 4px solid transparent; border-top-color: #55606d; margin-top: 4px; }
 .dlg-button { padding: 3px 14px; text-align: center; white-space: nowrap; background: #fdfdfe;
-  border: 1px solid #a9b2bd; border-radius: 3px; min-height: 18px; }
+  border: 1px solid #a9b2bd; border-radius: 3px; min-height: 18px; max-width: 150px;
+  margin-left: auto; }
 .dlg-default { border-color: #1f6fc4; box-shadow: inset 0 0 0 1px #1f6fc4; }
 .dlg-radios.dlg-row { display: flex; gap: 14px; }
 .dlg-radios > div, .dlg-check { white-space: nowrap; }
@@ -37,7 +38,7 @@ const char* const kDialogCss = R"css(
 .dlg-list, .dlg-sheet { background: #fff; border: 1px solid #a9b2bd; border-radius: 3px; }
 .dlg-list > div { padding: 1px 6px; }
 .dlg-list > .dlg-on, .dlg-sheet tr.dlg-on td { box-shadow: inset 0 0 0 99px rgba(31,111,196,.18); }
-.dlg-sheet table { border-collapse: collapse; width: 100%; }
+.dlg-sheet table { border-collapse: collapse; width: 100%; font: inherit; }
 .dlg-sheet th, .dlg-sheet td { padding: 2px 7px; border: 1px solid #dde1e6; text-align: left;
   white-space: nowrap; height: 1.4em; }
 .dlg-sheet th { background: #e9ecf0; font-weight: 600; }

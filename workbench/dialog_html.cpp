@@ -1,8 +1,9 @@
 // Draws dialogs as HTML.
 #include "workbench/dialog_html.h"
 
-#include <algorithm>
 #include <unordered_map>
+#include <utility>
+#include <variant>
 
 #include "workbench/html_text.h"
 

@@ -201,32 +201,37 @@ UiStatus TableModel::SetLabel(std::string_view row, std::string_view column,
   return ChangeCell(row, column, [&](TableCell& cell) { cell.label = label; });
 }
 
-UiStatus TableModel::GetBackground(std::string_view row, std::string_view column,
-                                   int* color) const {
+UiStatus TableModel::GetColor(std::string_view row, std::string_view column, CellColor which,
+                              int* color) const {
   const TableCell* cell = nullptr;
   const UiStatus status = FindCell(row, column, &cell);
-  if (status == UiStatus::kOk) *color = cell->background;
+  if (status == UiStatus::kOk) *color = cell->*which;
   return status;
 }
 
-UiStatus TableModel::SetBackground(std::string_view row, std::string_view column, int color) {
+UiStatus TableModel::SetColor(std::string_view row, std::string_view column, CellColor which,
+                              int color) {
   if (color < 0 || color > kLargestColor) return UiStatus::kBadArgument;
   return ChangeCell(row, column,
-                    [&](TableCell& cell) { cell.background = static_cast<std::int16_t>(color); });
+                    [&](TableCell& cell) { cell.*which = static_cast<std::int16_t>(color); });
+}
+
+UiStatus TableModel::GetBackground(std::string_view row, std::string_view column,
+                                   int* color) const {
+  return GetColor(row, column, &TableCell::background, color);
+}
+
+UiStatus TableModel::SetBackground(std::string_view row, std::string_view column, int color) {
+  return SetColor(row, column, &TableCell::background, color);
 }
 
 UiStatus TableModel::GetForeground(std::string_view row, std::string_view column,
                                    int* color) const {
-  const TableCell* cell = nullptr;
-  const UiStatus status = FindCell(row, column, &cell);
-  if (status == UiStatus::kOk) *color = cell->foreground;
-  return status;
+  return GetColor(row, column, &TableCell::foreground, color);
 }
 
 UiStatus TableModel::SetForeground(std::string_view row, std::string_view column, int color) {
-  if (color < 0 || color > kLargestColor) return UiStatus::kBadArgument;
-  return ChangeCell(row, column,
-                    [&](TableCell& cell) { cell.foreground = static_cast<std::int16_t>(color); });
+  return SetColor(row, column, &TableCell::foreground, color);
 }
 
 UiStatus TableModel::SetPolicy(int policy) {

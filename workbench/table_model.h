@@ -99,9 +99,14 @@ class TableModel {
  private:
   using RowIndex = std::unordered_map<std::string_view, std::list<Row>::iterator>;
 
+  using CellColor = std::int16_t TableCell::*;
+
   // Position of the column, or columns_.size().
   std::size_t ColumnPosition(std::string_view name) const;
   UiStatus FindCell(std::string_view row, std::string_view column, const TableCell** cell) const;
+  UiStatus GetColor(std::string_view row, std::string_view column, CellColor which,
+                    int* color) const;
+  UiStatus SetColor(std::string_view row, std::string_view column, CellColor which, int color);
   UiStatus ChangeCell(std::string_view row, std::string_view column,
                       const std::function<void(TableCell&)>& change);
 
