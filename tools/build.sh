@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Builds the plug-in, the workbench, the tests and the install tree into build/.
+set -euo pipefail
+here=$(dirname "${BASH_SOURCE[0]}")
+"$here/setup.sh"
+. "$here/environment.sh"
+
+configure() {
+  local folder=$1
+  shift
+  [ -e "$folder/build.ninja" ] || cmake -S "$root" -B "$folder" -G Ninja "$@" >/dev/null
+}
+
+configure "$cross" -DCMAKE_TOOLCHAIN_FILE="$root/cmake/mingw.cmake" -DCMAKE_BUILD_TYPE=Release
+cmake --build "$cross" -- ${QUILLMAX_TARGETS:-all}
+"$here/install_tree.sh" "$cross/quillmax5.1C3.dll" "$tree"
+if [ "${1:-}" = --native ]; then
+  configure "$native" -DCMAKE_BUILD_TYPE=Debug
+  cmake --build "$native"
+fi

@@ -1,0 +1,33 @@
+# Shared settings of the tools: build folders, and a private Windows environment with the Chinese
+# code page. Meant to be sourced.
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+build=${QUILLMAX_BUILD:-$root/build}
+cross=$build/cross
+native=$build/native
+tree=$cross/quillmax-5.1-C3
+
+export WINEPREFIX=$build/wine WINEDEBUG=-all WINEARCH=win64
+# No Mono, no Gecko, no menu entries: only our programs run in this environment.
+export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
+unset DISPLAY || true
+
+# The Chinese locale lives in the build folder, so that the machine's own set stays as it is.
+prepare_locale() {
+  export LOCPATH=$build/locale
+  if [ ! -d "$LOCPATH/zh_CN.UTF-8" ]; then
+    mkdir -p "$LOCPATH"
+    localedef -i zh_CN -f UTF-8 "$LOCPATH/zh_CN.UTF-8" || true
+    localedef -i en_US -f UTF-8 "$LOCPATH/en_US.UTF-8" || true
+  fi
+  export LC_ALL=zh_CN.UTF-8
+}
+
+prepare_wine() {
+  [ -e "$WINEPREFIX/system.reg" ] || { mkdir -p "$build" && wine wineboot -i >/dev/null 2>&1; }
+  wineserver -w 2>/dev/null || true
+}
+
+# A Windows program under Wine; its own closing line tells success.
+run_windows() {
+  wine "$@"
+}
