@@ -13,10 +13,10 @@ extern "C" int user_initialize(int argc, char* argv[], char* version, char* buil
                                wchar_t errbuf[80]);
 extern "C" void user_terminate();
 
+#define QM_FULL_NAME QM_PRODUCT_NAME " " QM_VERSION_TEXT " build " QM_BUILD_ID
+
 namespace qm {
 namespace {
-
-constexpr char kProduct[] = QM_PRODUCT_NAME " " QM_VERSION_TEXT " build " QM_BUILD_ID;
 
 // Code of an unloaded module must never be called, and each unloading would cost the process one of
 // its few thread-local slots: once started, the plug-in stays.
@@ -29,7 +29,7 @@ void PinModule() {
 void Start() {
   PinModule();
   ReportMissingFunctions();
-  LogEvent(std::string("start of ") + kProduct);
+  LogEvent("start of " QM_FULL_NAME);
   RegisterCommands();
   StartDirectoryRestore();
   RegisterPopup();
@@ -38,7 +38,7 @@ void Start() {
 void Stop() {
   StopDirectoryRestore();
   SaveWorkingDirectory();
-  LogEvent(std::string("stop of ") + kProduct);
+  LogEvent("stop of " QM_FULL_NAME);
 }
 
 }  // namespace
