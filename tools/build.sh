@@ -15,6 +15,6 @@ configure "$cross" -DCMAKE_TOOLCHAIN_FILE="$root/cmake/mingw.cmake" -DCMAKE_BUIL
 cmake --build "$cross" -- ${QUILLMAX_TARGETS:-all}
 "$here/install_tree.sh" "$cross/quillmax5.1C3.dll" "$tree"
 if [ "${1:-}" = --native ]; then
-  configure "$native" -DCMAKE_BUILD_TYPE=Debug
+  configure "$native" -DCMAKE_BUILD_TYPE=Debug -DQM_SANITIZE=ON
   cmake --build "$native"
 fi

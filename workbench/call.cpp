@@ -152,6 +152,11 @@ void Call::TakeBack(const void* what, Resource resource) const {
 }
 
 void ForgiveArguments(const char* function, const void* first) {
+  if (std::string_view(function) == "ProUIDialogDestroy" && first != nullptr) {
+    const LiveDialog* const dialog = TheHost().dialogs.Find(static_cast<const char*>(first));
+    if (dialog != nullptr) TheHost().accounts.Forgive(dialog);
+    return;
+  }
   if (!Releases(function) || first == nullptr) return;
   TheHost().accounts.Forgive(TakesPlace(function) ? *static_cast<const void* const*>(first)
                                                   : first);
