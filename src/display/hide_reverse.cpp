@@ -54,6 +54,7 @@ ProError QmHideReverse() {
     ShowShortMessage(kNoComponentsHere);
     return PRO_TK_NO_ERROR;
   }
+  LogCount("components", components.size());
   for (const int i : WorkList(components)) {
     if (components.type(i) == PRO_MDL_ASSEMBLY) ShowComponent(components.feature(i));
     if (components.type(i) == PRO_MDL_PART) ReversePart(components.feature(i));

@@ -16,8 +16,7 @@ void ShowComponents(const ComponentList& components);
 // Makes the new state visible: all windows and the model tree, once at the end of a command.
 void RefreshDisplay(ProMdl root);
 
-// Shown when the array of components cannot be allocated.
-inline constexpr wchar_t kNoComponentArray[] = L"ProArray Alloc error";
+// Shown when there is nothing to show or hide.
 inline constexpr wchar_t kNoComponents[] = L"当前模型中没有合适的子零/组件";
 
 }  // namespace qm

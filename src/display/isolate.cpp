@@ -10,6 +10,8 @@
 #include "display/hide_state.h"
 #include "frame/current_assembly.h"
 #include "frame/message_box.h"
+#include "frame/preselection.h"
+#include "frame/run_log.h"
 #include "toolkit/window.h"
 
 namespace qm {
@@ -52,19 +54,19 @@ SelectedComponent FollowPath(ProMdl root, ProAsmcomppath& path) {
 
 // Nothing for what is no component: a feature, surface or edge, or a model of another type.
 std::optional<SelectedComponent> ReadSelection(ProMdl root, ProSelection selection) {
-  ProModelitem item{};
+  auto item = ItemOf(selection);
+  if (!item) return std::nullopt;
+  const bool is_model = item->type == PRO_PART || item->type == PRO_ASSEMBLY;
+  if (!is_model && !IsComponentFeature(*item)) return std::nullopt;
   ProAsmcomppath path{};
-  if (!Ok(ProSelectionModelitemGet(selection, &item))) return std::nullopt;
-  const bool is_model = item.type == PRO_PART || item.type == PRO_ASSEMBLY;
-  if (!is_model && !IsComponentFeature(item)) return std::nullopt;
   if (!Ok(ProSelectionAsmcomppathGet(selection, &path))) return std::nullopt;
   if (path.table_num < 0 || path.table_num > PRO_MAX_ASSEM_LEVEL) return std::nullopt;
 
   SelectedComponent selected = FollowPath(root, path);
   // A component picked as a feature may come with the path of the assembly it lies in.
-  if (!is_model && selected.model == item.owner) {
-    selected.levels.push_back({PRO_FEATURE, item.id, item.owner});
-    if (!Ok(ProAsmcompMdlGet(&item, &selected.model))) return std::nullopt;
+  if (!is_model && selected.model == item->owner) {
+    selected.levels.push_back(*item);
+    if (!Ok(ProAsmcompMdlGet(&*item, &selected.model))) return std::nullopt;
   }
   if (selected.model == nullptr) return std::nullopt;
   if (!Ok(ProMdlTypeGet(selected.model, &selected.type))) return std::nullopt;
@@ -79,7 +81,6 @@ std::vector<SelectedComponent> ReadPreselection(ProMdl root) {
   if (!Ok(ProSelbufferSelectionsGet(selections.put()))) return components;
   const int count = selections.size();
   for (int i = 0; i < count; ++i) {
-    if (selections[i] == nullptr) continue;
     auto component = ReadSelection(root, selections[i]);
     if (component) components.push_back(std::move(*component));
   }
@@ -139,6 +140,8 @@ ProError QmIsolate() {
     ShowShortMessage(kNoComponents);
     return PRO_TK_NO_ERROR;
   }
+  LogCount("components", all.size());
+  LogCount("selected", static_cast<long long>(selected.size()));
   HideParts(all);
   Show(selected, inside);
   RefreshDisplay(*root);

@@ -4,6 +4,7 @@
 #include "display/hide_state.h"
 #include "frame/current_assembly.h"
 #include "frame/message_box.h"
+#include "frame/run_log.h"
 
 namespace qm {
 
@@ -21,6 +22,7 @@ ProError QmShowAllComp() {
     ShowShortMessage(kNoComponents);
     return PRO_TK_NO_ERROR;
   }
+  LogCount("components", components.size());
   ShowComponents(components);
   RefreshDisplay(*root);
   return PRO_TK_NO_ERROR;

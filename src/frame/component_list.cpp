@@ -69,7 +69,6 @@ class ComponentCollector {
     ReadLevel(top, top_filter);
     Walk(top);
     list_.size_ = std::min(list_.features_.size(), static_cast<int>(list_.models_.size()));
-    LogCount("components", list_.size_);
     return PRO_TK_NO_ERROR;
   }
 

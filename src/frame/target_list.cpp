@@ -5,7 +5,6 @@
 #include <functional>
 
 #include "frame/component_list.h"
-#include "frame/run_log.h"
 
 namespace qm {
 namespace {
@@ -45,7 +44,6 @@ ProError CollectTargets(const CurrentModel& top, std::string_view class_name, Ta
     if (components.model(i) != nullptr) targets->models.push_back(components.model(i));
   }
   SortAndRemoveDuplicates(&targets->models);
-  LogCount("models", static_cast<long long>(targets->models.size()));
   return PRO_TK_NO_ERROR;
 }
 

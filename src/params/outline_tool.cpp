@@ -48,7 +48,7 @@ OutlineBox Measure(ProMdl model) {
   return box;
 }
 
-// False when the model has no outline.
+// False when the model is left alone.
 bool WriteOutline(const ParamTarget& target, const std::wstring& name,
                   const OutlineFormat& format) {
   const OutlineBox box = Measure(target.model);
@@ -65,7 +65,6 @@ bool WriteOutline(const ParamTarget& target, const std::wstring& name,
 }  // namespace
 
 void WriteOutlines(DialogView dialog) {
-  CommandLog log("QmParams QmOutline");
   SaveParamSettings(dialog);
   const auto top = CurrentModelOrAssembly();
   if (!top || top->type != PRO_MDL_ASSEMBLY) {
@@ -76,11 +75,8 @@ void WriteOutlines(DialogView dialog) {
   if (!name) return;
   const OutlineFormat format{OutlineDecimals(dialog.OptionValue("QmOutlineNum")),
                              dialog.CheckState("QmOutlineOrder").value_or(false)};
-  long long without_outline = 0;
-  ForEachTarget(dialog, kToolTargets, top, [&](const ParamTarget& target) {
-    if (!WriteOutline(target, *name, format)) ++without_outline;
-  });
-  LogCount("without outline", without_outline);
+  ForEachTarget("QmOutline", dialog, kToolTargets, top,
+                [&](const ParamTarget& target) { return WriteOutline(target, *name, format); });
 }
 
 }  // namespace qm

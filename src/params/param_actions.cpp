@@ -12,43 +12,44 @@
 namespace qm {
 namespace {
 
-void LogUnlessOk(ProMdl model, const char* function, ProError status) {
+// True when the call succeeded; otherwise the model is passed over with a line in the log.
+bool Done(ProMdl model, const char* function, ProError status) {
   if (!Ok(status)) LogFailure(model, function, status);
-}
-
-void Create(ParamTarget target, HostName& name, ProParamvalue& value) {
-  ProParameter parameter{};
-  LogUnlessOk(target.model, "ProParameterCreate",
-              ProParameterCreate(&target.item, name.name, &value, &parameter));
-}
-
-// False, after a line in the log, when the model has no such parameter.
-bool Find(ParamTarget& target, HostName& name, ProParameter* parameter) {
-  const ProError status = ProParameterInit(&target.item, name.name, parameter);
-  LogUnlessOk(target.model, "ProParameterInit", status);
   return Ok(status);
 }
 
-void Set(ParamTarget target, HostName& name, ProParamvalue& value) {
+bool Create(ParamTarget target, HostName& name, ProParamvalue& value) {
   ProParameter parameter{};
-  if (!Find(target, name, &parameter)) return;
-  LogUnlessOk(target.model, "ProParameterValueSet", ProParameterValueSet(&parameter, &value));
+  return Done(target.model, "ProParameterCreate",
+              ProParameterCreate(&target.item, name.name, &value, &parameter));
 }
 
-void Remove(ParamTarget target, HostName& name, ProParamvalue&) {
+bool Find(ParamTarget& target, HostName& name, ProParameter* parameter) {
+  return Done(target.model, "ProParameterInit",
+              ProParameterInit(&target.item, name.name, parameter));
+}
+
+bool Set(ParamTarget target, HostName& name, ProParamvalue& value) {
   ProParameter parameter{};
-  if (!Find(target, name, &parameter)) return;
-  LogUnlessOk(target.model, "ProParameterDelete", ProParameterDelete(&parameter));
+  return Find(target, name, &parameter) &&
+         Done(target.model, "ProParameterValueSet", ProParameterValueSet(&parameter, &value));
+}
+
+bool Remove(ParamTarget target, HostName& name, ProParamvalue&) {
+  ProParameter parameter{};
+  return Find(target, name, &parameter) &&
+         Done(target.model, "ProParameterDelete", ProParameterDelete(&parameter));
 }
 
 struct ParamAction {
   const char* log_name;
   ValueOrRefusal (*to_value)(std::wstring_view type, std::wstring_view text);  // null: no value
-  void (*apply)(ParamTarget target, HostName& name, ProParamvalue& value);
+  // False when the model is left as it was.
+  bool (*apply)(ParamTarget target, HostName& name, ProParamvalue& value);
 };
-constexpr ParamAction kAdd = {"QmParams Add", &ValueToAdd, &Create};
-constexpr ParamAction kUpdate = {"QmParams Update", &ValueToUpdate, &Set};
-constexpr ParamAction kDelete = {"QmParams Delete", nullptr, &Remove};
+constexpr ParamAction kAdd = {"Add", &ValueToAdd, &Create};
+constexpr ParamAction kUpdate = {"Update", &ValueToUpdate, &Set};
+constexpr ParamAction kDelete = {"Delete", nullptr, &Remove};
 
 // Nothing, after a message, when the value cannot be used.
 std::optional<ProParamvalue> ReadValue(const DialogView& dialog, const ParamAction& action) {
@@ -64,7 +65,6 @@ std::optional<ProParamvalue> ReadValue(const DialogView& dialog, const ParamActi
 }
 
 void Run(const DialogView& dialog, const ParamAction& action) {
-  CommandLog log(action.log_name);
   // First, so that the user's fields survive even when the action then stops.
   SaveParamSettings(dialog);
   const auto top = CurrentModelOrAssembly();
@@ -73,8 +73,8 @@ void Run(const DialogView& dialog, const ParamAction& action) {
   auto value = ReadValue(dialog, action);
   if (!value) return;
   HostName host_name(*name);
-  ForEachTarget(dialog, kParameterTargets, top,
-                [&](const ParamTarget& target) { action.apply(target, host_name, *value); });
+  ForEachTarget(action.log_name, dialog, kParameterTargets, top,
+                [&](const ParamTarget& target) { return action.apply(target, host_name, *value); });
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // Collects the targets of the parameter dialog's buttons and runs over them.
 #include "params/param_batch.h"
 
+#include "frame/component_list.h"
 #include "frame/keyword_filter.h"
 #include "frame/message_box.h"
 #include "frame/run_log.h"
@@ -13,7 +14,6 @@ namespace qm {
 namespace {
 
 constexpr wchar_t kNoComponents[] = L"当前模型中没有合适的子零件/组件";
-constexpr wchar_t kNoComponentArray[] = L"ProArray Alloc error";
 
 // False, after the message, when there is nothing to work on. A top model alone is not enough.
 bool FindTargets(const DialogView& dialog, const TargetFields& fields,
@@ -45,6 +45,12 @@ std::optional<ParamTarget> ReadTarget(ProMdl model, const KeywordFilter& keyword
   return std::nullopt;
 }
 
+void LogBatch(const char* action, const TargetList& targets, size_t applied) {
+  LogEvent(std::string(action) + ": " + std::to_string(targets.component_count) + " components, " +
+           std::to_string(targets.models.size()) + " models, " + std::to_string(applied) +
+           " worked on");
+}
+
 void RefreshModelTree() {
   ProMdl current = nullptr;
   if (Ok(ProMdlCurrentGet(&current)) && current != nullptr) ProTreetoolRefresh(current);
@@ -60,9 +66,9 @@ std::optional<std::wstring> ReadParamName(const DialogView& dialog, const char* 
   return std::nullopt;
 }
 
-void ForEachTarget(const DialogView& dialog, const TargetFields& fields,
+void ForEachTarget(const char* action, const DialogView& dialog, const TargetFields& fields,
                    const std::optional<CurrentModel>& top,
-                   const std::function<void(const ParamTarget&)>& apply) {
+                   const std::function<bool(const ParamTarget&)>& apply) {
   TargetList targets;
   if (!FindTargets(dialog, fields, top, &targets)) return;
   const auto keyword_list = dialog.TryInputValue(fields.keywords_input);
@@ -71,14 +77,12 @@ void ForEachTarget(const DialogView& dialog, const TargetFields& fields,
     return;
   }
   const KeywordFilter keywords(*keyword_list);
-  long long applied = 0;
+  size_t applied = 0;
   for (const ProMdl model : targets.models) {
     const auto target = ReadTarget(model, keywords);
-    if (!target) continue;
-    apply(*target);
-    ++applied;
+    if (target && apply(*target)) ++applied;
   }
-  LogCount("worked on", applied);
+  LogBatch(action, targets, applied);
   RefreshModelTree();
 }
 

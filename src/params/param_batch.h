@@ -30,10 +30,11 @@ struct ParamTarget {
 std::optional<std::wstring> ReadParamName(const DialogView& dialog, const char* component);
 
 // Calls `apply` for each target under `top` whose name begins with no exclusion keyword, then
-// refreshes the model tree. Shows a message and calls nothing when no component is found.
-void ForEachTarget(const DialogView& dialog, const TargetFields& fields,
+// refreshes the model tree. Shows a message and calls nothing when no component is found. `apply`
+// answers whether it found something to do; the run log counts that under `action`.
+void ForEachTarget(const char* action, const DialogView& dialog, const TargetFields& fields,
                    const std::optional<CurrentModel>& top,
-                   const std::function<void(const ParamTarget&)>& apply);
+                   const std::function<bool(const ParamTarget&)>& apply);
 
 // Shown when a field cannot be read: an empty text in its place could change every model wrongly.
 inline constexpr wchar_t kUnreadableField[] = L"无法读取对话框中的内容,操作已停止!";

@@ -37,21 +37,15 @@ std::wstring SheetSize(const ParamTarget& target) {
 }  // namespace
 
 void WriteSheetSizes(DialogView dialog) {
-  CommandLog log("QmParams QmSheetSize");
   SaveParamSettings(dialog);
   const auto top = CurrentModelOrAssembly();
   const auto name = ReadParamName(dialog, "shSizePname");
   if (!name) return;
-  long long without_size = 0;
-  ForEachTarget(dialog, kToolTargets, top, [&](const ParamTarget& target) {
+  ForEachTarget("QmSheetSize", dialog, kToolTargets, top, [&](const ParamTarget& target) {
     const std::wstring size = SheetSize(target);
-    if (size.empty()) {
-      ++without_size;
-    } else {
-      WriteTextParameter(target.item, *name, size);
-    }
+    if (!size.empty()) WriteTextParameter(target.item, *name, size);
+    return !size.empty();
   });
-  LogCount("without drawing", without_size);
 }
 
 }  // namespace qm
