@@ -6,6 +6,7 @@
 #include <shlobj.h>
 
 #include <cstdio>
+#include <exception>
 
 #include "frame/text.h"
 #include "toolkit/model.h"
@@ -112,12 +113,13 @@ void LogCount(const char* what, long long count) noexcept {
 }
 
 CommandLog::CommandLog(const char* name) noexcept
-    : name_(name), start_(std::chrono::steady_clock::now()) {
+    : name_(name), outer_(running_command), start_(std::chrono::steady_clock::now()) {
   running_command = this;
 }
 
 CommandLog::~CommandLog() {
-  running_command = nullptr;
+  running_command = outer_;
+  if (std::uncaught_exceptions() > 0) status_ = PRO_TK_GENERAL_ERROR;
   try {
     pending_ += Stamped(ClosingLine());
     WriteLines(pending_);

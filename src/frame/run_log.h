@@ -22,8 +22,9 @@ void LogFailure(ProMdl model, const char* function, ProError status) noexcept;
 // A count for the running command's line, for example ("models", 40). Nothing when none runs.
 void LogCount(const char* what, long long count) noexcept;
 
-// The running command, made by the command shield: its end writes one line with name, status,
-// duration, counts and the number of failures passed over.
+// A running command, or one press of a button in its dialog: its end writes one line with name,
+// status, duration, counts and the number of failures passed over. The innermost one receives what
+// is logged meanwhile.
 class CommandLog {
  public:
   explicit CommandLog(const char* name) noexcept;
@@ -43,6 +44,7 @@ class CommandLog {
   std::string ClosingLine() const;
 
   const char* name_;
+  CommandLog* outer_;
   std::chrono::steady_clock::time_point start_;
   ProError status_ = PRO_TK_NO_ERROR;
   long long failures_ = 0;

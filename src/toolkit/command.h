@@ -17,18 +17,18 @@ typedef enum {
   ACCESS_AVAILABLE = 3,
 } uiCmdAccessState;
 
-typedef int (*uiCmdCmdActFn)(uiCmdCmdId command, uiCmdValue* value, void* data);
-typedef uiCmdAccessState (*uiCmdAccessFn)(uiCmdAccessMode mode);
+typedef int (*uiCmdCmdActFn)(uiCmdCmdId command, uiCmdValue* value, void* data) QM_CALLBACK;
+typedef uiCmdAccessState (*uiCmdAccessFn)(uiCmdAccessMode mode) QM_CALLBACK;
 typedef uiCmdAccessState (*ProPopupAccessFn)(uiCmdCmdId command, ProAppData data,
-                                             ProSelection* selections);
+                                             ProSelection* selections) QM_CALLBACK;
 
 typedef int ProPopupMenuId;
 
 // A popup menu is being created; the callback takes its name.
 typedef int ProNotifyType;
 inline constexpr ProNotifyType kNotifyPopupCreate = 72;
-typedef ProError (*ProFunction)();
-typedef ProError (*ProPopupCreateAction)(char* menu_name);
+typedef ProError (*ProFunction)() QM_CALLBACK;
+typedef ProError (*ProPopupCreateAction)(char* menu_name) QM_CALLBACK;
 
 PRO_FUNCTION(ProError, ProCmdActionAdd, const char* name, uiCmdCmdActFn action,
              uiCmdPriority priority, uiCmdAccessFn access, ProBoolean in_non_active_window,

@@ -25,9 +25,9 @@ typedef enum {
 
 // Visit callbacks. A filter answers PRO_TK_CONTINUE to skip an item; an action ends the visit with
 // any answer but PRO_TK_NO_ERROR, and the visit then returns that answer.
-typedef ProError (*ProFeatureFilterAction)(ProFeature* feature, ProAppData data);
+typedef ProError (*ProFeatureFilterAction)(ProFeature* feature, ProAppData data) QM_CALLBACK;
 typedef ProError (*ProFeatureVisitAction)(ProFeature* feature, ProError filter_status,
-                                          ProAppData data);
+                                          ProAppData data) QM_CALLBACK;
 
 PRO_FUNCTION(ProError, ProSolidFeatVisit, ProSolid solid, ProFeatureVisitAction action,
              ProFeatureFilterAction filter, ProAppData data);

@@ -32,9 +32,9 @@ typedef struct {
 } ProGeomitemdata;
 static_assert(sizeof(ProGeomitemdata) == 16);
 
-typedef ProError (*ProSurfaceFilterAction)(ProSurface surface, ProAppData data);
+typedef ProError (*ProSurfaceFilterAction)(ProSurface surface, ProAppData data) QM_CALLBACK;
 typedef ProError (*ProSurfaceVisitAction)(ProSurface surface, ProError filter_status,
-                                          ProAppData data);
+                                          ProAppData data) QM_CALLBACK;
 
 PRO_FUNCTION(ProError, ProSolidSurfaceVisit, ProSolid solid, ProSurfaceVisitAction action,
              ProSurfaceFilterAction filter, ProAppData data);

@@ -6,6 +6,16 @@
 // Suffix of the versioned name under which the host process offers its functions.
 #define QM_HOST_NAME_SUFFIX "_C30"
 
+// Functions of ours that the host calls let no exception out: the plug-in cannot pass one that does
+// not say so. The host itself accepts any.
+#ifndef QM_CALLBACK
+#if defined(QM_HOST_SIDE)
+#define QM_CALLBACK
+#else
+#define QM_CALLBACK noexcept
+#endif
+#endif
+
 #if defined(QM_VENDOR_SDK)
 
 #define PRO_FUNCTION(result, name, ...) extern "C" result name(__VA_ARGS__)

@@ -20,8 +20,9 @@ typedef struct {
   int attribute_value;
 } ProSelectionEnvOption;
 
-typedef ProError (*ProSelPreFilter)(ProSelection selection, ProAppData data);
-typedef ProError (*ProSelPostSelact)(ProSelection selection, ProBoolean as_pick, ProAppData data);
+typedef ProError (*ProSelPreFilter)(ProSelection selection, ProAppData data) QM_CALLBACK;
+typedef ProError (*ProSelPostSelact)(ProSelection selection, ProBoolean as_pick,
+                                     ProAppData data) QM_CALLBACK;
 typedef struct {
   ProSelPreFilter pre_filter;
   ProSelPostSelact post_selact;

@@ -4,7 +4,7 @@
 #include "toolkit/host_function.h"
 #include "toolkit/types.h"
 
-typedef void (*ProUIAction)(char* dialog, char* component, ProAppData data);
+typedef void (*ProUIAction)(char* dialog, char* component, ProAppData data) QM_CALLBACK;
 
 PRO_FUNCTION(ProError, ProUIDialogCreate, const char* dialog, const char* resource);
 PRO_FUNCTION(ProError, ProUIDialogActivate, const char* dialog, int* exit_status);
