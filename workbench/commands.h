@@ -45,7 +45,7 @@ struct PopupButton {
 };
 
 struct Popup {
-  int id = 0;
+  int id = 0;  // 0: not created yet
   std::string name;
   std::vector<PopupButton> buttons;
 };
@@ -57,11 +57,17 @@ struct Commands {
   std::vector<Menu> menus;       // in menu-bar order
   std::vector<Popup> popups;
   std::map<int, void*> notifications;  // type -> callback
+  int popup_being_created = 0;         // its id, while the notification runs
 
   Command* Find(const std::string& name);
   Menu* FindMenu(const std::string& name);
   Popup* FindPopup(const std::string& name);
   Popup* FindPopup(int id);
+  // Empties the popup and gives it a new id; null: the host has no such popup.
+  Popup* CreatePopup(const std::string& name);
+
+ private:
+  int next_popup_id_ = 1;
 };
 
 }  // namespace wb

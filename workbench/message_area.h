@@ -4,6 +4,7 @@
 #include <cstdarg>
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,20 +12,30 @@
 
 namespace wb {
 
+struct Host;
+
 class MessageArea {
  public:
   // Texts shown, in order, with their arguments filled in.
   std::vector<std::string> notes;
+  // Message files and keys that were asked for and are not there, one line each.
+  std::vector<std::string> missing;
 
-  // The text of `key` in `file` of the folder, arguments fetched from `arguments` by the codes the
-  // text uses. No value: the file or the key is missing (the reason goes to `why`).
-  std::optional<std::string> Fill(const std::filesystem::path& folder, const std::string& file,
-                                  const std::string& key, va_list arguments, std::string& why);
+  // Null when the file or the key is missing, which is noted in `missing`. Throws MessageFileError
+  // for a file that is there but broken.
+  const MessageRecord* Find(const std::filesystem::path& file, const std::string& key);
+  // Reads every file anew from now on.
   void Forget() { files_.clear(); }
 
  private:
-  const MessageFile* Open(const std::filesystem::path& path, std::string& why);
   std::map<std::filesystem::path, MessageFile> files_;
 };
+
+// Where the host looks for the plug-in's message file: the text folder of the language.
+std::filesystem::path MessagePath(const Host& host, const std::string& file);
+
+// The text with its arguments, which are fetched in order by the codes the record uses. No value:
+// an argument that must be a text is null.
+std::optional<std::string> FilledIn(const MessageRecord& record, va_list arguments);
 
 }  // namespace wb

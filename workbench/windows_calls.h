@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,7 @@ namespace wb {
 struct ShellCall {
   std::string function;  // "ShellExecuteW", "WinExec"
   std::string verb;
-  std::string program;
+  std::string program;  // for WinExec the whole command line
   std::string parameters;
   int show = 0;
 };
@@ -23,21 +24,45 @@ struct Timer {
   unsigned long long id = 0;
   unsigned milliseconds = 0;
   void* procedure = nullptr;  // TIMERPROC
+  bool kill_failed = false;   // by a fault: that it is pending is not held against the plug-in
 };
+
+struct MouseEvent {
+  unsigned flags = 0;
+  unsigned dx = 0;
+  unsigned dy = 0;
+  unsigned data = 0;
+};
+
+// Makes an object of a class (HRESULT, CLSID*, IID*): where a stand-in for another program plugs
+// in.
+using MakeObject = long (*)(const void* class_id, const void* interface_id, void** object);
 
 struct WindowsCalls {
   std::vector<MessageBox> boxes;
   std::vector<ShellCall> shell;
   std::vector<Timer> timers;               // pending
+  std::vector<FileRequest> file_requests;  // of the open and save dialogs
+  std::vector<MouseEvent> mouse;
+  std::vector<std::string> classes;        // class ids of objects asked for, "{...}"
+  MakeObject make_object = nullptr;        // null: no class is registered
   std::filesystem::path desktop_folder;    // what the desktop folder look-up answers
   std::filesystem::path local_app_folder;  // what the local application data look-up answers
+  std::set<std::string> withheld;          // host functions that this host does not offer
   unsigned long long next_timer = 0x5000;
 
-  // Calls the procedures of the timers that are pending now, as the message loop would.
+  // Calls the procedures of the timers that are pending now, as the message loop would. A timer
+  // stays pending until the plug-in stops it.
   void FireTimers();
 };
 
-// Replaces the intercepted imports of a loaded module; lists the names replaced.
-std::vector<std::string> InterceptImports(void* module);
+struct Interception {
+  std::vector<std::string> replaced;
+  // Imports by number instead of by name, which cannot be intercepted: "USER32.dll#12".
+  std::vector<std::string> by_ordinal;
+};
+
+// Replaces the intercepted imports of a loaded module (HMODULE). Doing it again changes nothing.
+Interception InterceptImports(void* module);
 
 }  // namespace wb

@@ -1,0 +1,93 @@
+// Calls into the plug-in, and the last words when one of them takes the process down.
+#include "workbench/plugin_entry.h"
+
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+
+#include "workbench/call.h"
+#include "workbench/windows_headers.h"
+
+namespace wb {
+namespace {
+
+// What the plug-in is running now; texts of the callers further up the stack.
+const char* running_entry = "no entry";
+
+class NamedEntry {
+ public:
+  explicit NamedEntry(const char* name) : before_(running_entry) { running_entry = name; }
+  ~NamedEntry() { running_entry = before_; }
+  NamedEntry(const NamedEntry&) = delete;
+  NamedEntry& operator=(const NamedEntry&) = delete;
+
+ private:
+  const char* before_;
+};
+
+// "quillmax5.1C3.dll+0x1234"; no allocation, since the heap may be the thing that broke.
+void DescribeAddress(const void* address, char* text, size_t size) {
+  HMODULE module = nullptr;
+  char path[MAX_PATH] = {};
+  constexpr DWORD kFlags =
+      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
+  if (!::GetModuleHandleExA(kFlags, static_cast<LPCSTR>(address), &module)) {
+    std::snprintf(text, size, "%p (in no module)", address);
+    return;
+  }
+  ::GetModuleFileNameA(module, path, MAX_PATH - 1);
+  const char* const slash = std::strrchr(path, '\\');
+  const auto offset = static_cast<unsigned long long>(static_cast<const char*>(address) -
+                                                      reinterpret_cast<const char*>(module));
+  std::snprintf(text, size, "%s+0x%llx", slash == nullptr ? path : slash + 1, offset);
+}
+
+[[noreturn]] void SayLastWords(const char* what, const char* place) {
+  std::fprintf(stderr, "plug-in %s in %s%s%s, last host call %s\n", what, running_entry,
+               *place == '\0' ? "" : " at ", place, HasHost() ? TheHost().trace.last() : "none");
+  std::fflush(stderr);
+  ::TerminateProcess(::GetCurrentProcess(), kCrashExitCode);
+  for (;;) ::Sleep(INFINITE);
+}
+
+LONG WINAPI OnUnhandled(EXCEPTION_POINTERS* exception) {
+  char place[MAX_PATH + 32] = {};
+  DescribeAddress(exception->ExceptionRecord->ExceptionAddress, place, sizeof(place));
+  const bool stack = exception->ExceptionRecord->ExceptionCode == EXCEPTION_STACK_OVERFLOW;
+  SayLastWords(stack ? "ran out of stack" : "crashed", place);
+}
+
+void OnAbort(int) {
+  SayLastWords("aborted", "");
+}
+
+}  // namespace
+
+void EnterPlugin(const std::string& what, const std::function<void()>& call) {
+  const NamedEntry named(what.c_str());
+  try {
+    call();
+  } catch (...) {
+    CaughtInCrossing(TheHost(), what.c_str());
+  }
+}
+
+void EnterPluginAndSettle(const std::string& what, const std::function<void()>& call) {
+  Host& host = TheHost();
+  const long before = host.trace.calls();
+  EnterPlugin(what, call);
+  for (const std::string& left : host.accounts.Describe(before)) {
+    host.ReportBreach(what, "left out " + left);
+  }
+}
+
+void ReportCrashes() {
+  // Leaves room for the report when the stack itself has run out.
+  ULONG reserve = 64 * 1024;
+  ::SetThreadStackGuarantee(&reserve);
+  ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
+  ::SetUnhandledExceptionFilter(&OnUnhandled);
+  std::signal(SIGABRT, &OnAbort);
+}
+
+}  // namespace wb

@@ -1,0 +1,24 @@
+// The one way into the plug-in: every call of one of its function pointers goes through here, so
+// that an escaping exception, a crash and a resource left out are each caught and named.
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace wb {
+
+// Runs `call` under the name `what` ("QmParams", "access rule of QmParams", "timer"). An exception
+// that comes out of it is a breach of `what`.
+void EnterPlugin(const std::string& what, const std::function<void()>& call);
+
+// The same for an entry after which nothing may be left out: each resource still out that was
+// handed out meanwhile is a breach of `what`.
+void EnterPluginAndSettle(const std::string& what, const std::function<void()>& call);
+
+// From now on a crash or abort of the process prints where it happened and ends with code 3:
+// "plug-in crashed in COMMAND at quillmax5.1C3.dll+0x1234, last host call NAME". Windows shows no
+// box.
+void ReportCrashes();
+inline constexpr int kCrashExitCode = 3;
+
+}  // namespace wb
