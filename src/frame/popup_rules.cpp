@@ -9,8 +9,7 @@ namespace {
 
 constexpr int kAssembly = 1;
 constexpr int kPart = 2;
-// Assembly, part, surface, edge, and what a click on a component may give otherwise: curve, datum
-// and quilt items.
+// Models, and what a click on a component in the graphics window or the tree may give instead.
 constexpr int kNamedItems[] = {kAssembly, kPart, 5, 6, 25, 66, 71, 72, 176};
 
 }  // namespace
