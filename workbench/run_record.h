@@ -51,12 +51,14 @@ struct StateChange {
 struct SheetPicture {
   std::string size;  // "A3"
   double scale = 1.0;
+  bool operator==(const SheetPicture&) const = default;
 };
 
 struct DrawingPicture {
   std::string name;
   std::string shows;  // the solid drawn; empty: none
   std::vector<SheetPicture> sheets;
+  bool operator==(const DrawingPicture&) const = default;
 };
 
 struct ShownDialog {

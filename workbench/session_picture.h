@@ -3,7 +3,9 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "workbench/run_record.h"
@@ -11,23 +13,24 @@
 
 namespace wb {
 
-struct FeatureState {
-  std::string item;  // "component bolt.prt (12)", "feature 40"
-  std::string state;
-  bool operator==(const FeatureState&) const = default;
+struct FeatureFact {
+  int id = 0;
+  std::string component;  // "bolt.prt"; empty: not a component
+  bool hidden = false;
+  bool visible = true;
+  FeatureStatus status = FeatureStatus::kActive;
+  bool operator==(const FeatureFact&) const = default;
 };
 
 struct ModelPicture {
-  std::string name;
-  std::vector<std::pair<std::string, std::string>> parameters;  // in order of definition
-  std::map<int, FeatureState> features;                         // by id
-  DrawingPicture drawing;                                       // of drawings
-  bool is_drawing = false;
+  std::vector<std::pair<std::string, std::string>> parameters;  // name and value as shown
+  std::vector<FeatureFact> features;
+  std::optional<DrawingPicture> drawing;  // of drawings
 };
 
 struct SessionPicture {
-  ModelTree tree;       // of the current model
-  std::string current;  // its name; empty: none
+  std::string current;                         // the current model's name; empty: none
+  ModelTree tree;                              // of the current model
   std::map<std::string, ModelPicture> models;  // by name
 };
 
@@ -41,7 +44,6 @@ SessionPicture TakePicture(const Session& session);
 
 // Fills trees, states, parameters and drawings of `command`. Models that entered or left the
 // session meanwhile give no changes.
-void NoteChanges(const SessionPicture& before, const SessionPicture& after,
-                 CommandRecord& command);
+void NoteChanges(const SessionPicture& before, const SessionPicture& after, CommandRecord& command);
 
 }  // namespace wb
