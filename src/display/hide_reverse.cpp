@@ -11,8 +11,8 @@
 namespace qm {
 namespace {
 
-// The blank behind the slash is deliberate: this command's text has it, the other two commands' text
-// has not. Kept as it stands.
+// The blank behind the slash is deliberate: this command's text has it, the other two commands'
+// text has not. Kept as it stands.
 constexpr wchar_t kNoComponentsHere[] = L"当前模型中没有合适的子零/ 组件";
 
 // Entries with a model, each component feature once: reversed twice, a part would stay as it is.

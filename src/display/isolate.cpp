@@ -30,7 +30,8 @@ struct SelectedComponent {
 ProMdl ModelAt(ProMdl root, ProAsmcomppath& whole, int count) {
   ProAsmcomppath path{};
   ProMdl model = nullptr;
-  if (!Ok(ProAsmcomppathInit(root, whole.comp_id_table, count, &path))) return nullptr;
+  const ProError status = ProAsmcomppathInit(root, whole.comp_id_table, count, &path);
+  if (!Ok(status) || path.owner == nullptr) return nullptr;
   return Ok(ProAsmcomppathMdlGet(&path, &model)) ? model : nullptr;
 }
 

@@ -53,11 +53,17 @@ ProParamvalue HostValue(const ParamValue& value) {
   return host;
 }
 
+ProError FindParameter(ProModelitem* item, HostName& name, ProParameter* parameter) {
+  const ProError status = ProParameterInit(item, name.name, parameter);
+  const bool filled = parameter->owner.who.item.owner != nullptr;
+  return Ok(status) && !filled ? PRO_TK_GENERAL_ERROR : status;
+}
+
 void WriteTextParameter(ProModelitem item, std::wstring_view name, std::wstring_view text) {
   HostName host_name(name);
   ProParamvalue value = HostValue(std::wstring(text));
   ProParameter parameter{};
-  if (Ok(ProParameterInit(&item, host_name.name, &parameter))) {
+  if (Ok(FindParameter(&item, host_name, &parameter))) {
     const ProError status = ProParameterValueSet(&parameter, &value);
     if (!Ok(status)) LogFailure(item.owner, "ProParameterValueSet", status);
     return;

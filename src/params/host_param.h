@@ -18,6 +18,9 @@ struct HostName {
 // The value in the host's form; texts longer than `kMaxParamTextLength` are cut.
 ProParamvalue HostValue(const ParamValue& value);
 
+// Finds a parameter of `item`. A success that fills nothing in counts as a failure.
+ProError FindParameter(ProModelitem* item, HostName& name, ProParameter* parameter);
+
 // Creates the string parameter on `item`, or sets it when it is there. A failure is passed over and
 // logged.
 void WriteTextParameter(ProModelitem item, std::wstring_view name, std::wstring_view text);

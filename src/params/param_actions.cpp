@@ -18,24 +18,25 @@ bool Done(ProMdl model, const char* function, ProError status) {
   return Ok(status);
 }
 
-bool Create(ParamTarget target, HostName& name, ProParamvalue& value) {
+bool Create(const ParamTarget& target, HostName& name, ProParamvalue& value) {
+  ProModelitem item = target.item;
   ProParameter parameter{};
   return Done(target.model, "ProParameterCreate",
-              ProParameterCreate(&target.item, name.name, &value, &parameter));
+              ProParameterCreate(&item, name.name, &value, &parameter));
 }
 
-bool Find(ParamTarget& target, HostName& name, ProParameter* parameter) {
-  return Done(target.model, "ProParameterInit",
-              ProParameterInit(&target.item, name.name, parameter));
+bool Find(const ParamTarget& target, HostName& name, ProParameter* parameter) {
+  ProModelitem item = target.item;
+  return Done(target.model, "ProParameterInit", FindParameter(&item, name, parameter));
 }
 
-bool Set(ParamTarget target, HostName& name, ProParamvalue& value) {
+bool Set(const ParamTarget& target, HostName& name, ProParamvalue& value) {
   ProParameter parameter{};
   return Find(target, name, &parameter) &&
          Done(target.model, "ProParameterValueSet", ProParameterValueSet(&parameter, &value));
 }
 
-bool Remove(ParamTarget target, HostName& name, ProParamvalue&) {
+bool Remove(const ParamTarget& target, HostName& name, ProParamvalue&) {
   ProParameter parameter{};
   return Find(target, name, &parameter) &&
          Done(target.model, "ProParameterDelete", ProParameterDelete(&parameter));
@@ -45,7 +46,7 @@ struct ParamAction {
   const char* log_name;
   ValueOrRefusal (*to_value)(std::wstring_view type, std::wstring_view text);  // null: no value
   // False when the model is left as it was.
-  bool (*apply)(ParamTarget target, HostName& name, ProParamvalue& value);
+  bool (*apply)(const ParamTarget& target, HostName& name, ProParamvalue& value);
 };
 constexpr ParamAction kAdd = {"Add", &ValueToAdd, &Create};
 constexpr ParamAction kUpdate = {"Update", &ValueToUpdate, &Set};

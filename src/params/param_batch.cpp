@@ -40,7 +40,7 @@ std::optional<ParamTarget> ReadTarget(ProMdl model, const KeywordFilter& keyword
   if (keywords.Excludes(name)) return std::nullopt;
   ParamTarget target{model, name, {}};
   status = ProMdlToModelitem(model, &target.item);
-  if (Ok(status)) return target;
+  if (Ok(status) && target.item.owner != nullptr) return target;
   LogFailure(model, "ProMdlToModelitem", status);
   return std::nullopt;
 }
