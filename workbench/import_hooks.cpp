@@ -9,8 +9,8 @@
 namespace wb {
 namespace {
 
-const Hook* HookOf(const char* name) {
-  for (const Hook& hook : Hooks()) {
+const Hook* HookOf(std::span<const Hook> hooks, const char* name) {
+  for (const Hook& hook : hooks) {
     if (std::strcmp(hook.name, name) == 0) return &hook;
   }
   return nullptr;
@@ -35,7 +35,8 @@ class ImportTable {
     return directory.Size == 0 ? nullptr : At<IMAGE_IMPORT_DESCRIPTOR>(directory.VirtualAddress);
   }
 
-  void Intercept(const IMAGE_IMPORT_DESCRIPTOR& library, Interception& result) const {
+  void Intercept(const IMAGE_IMPORT_DESCRIPTOR& library, std::span<const Hook> hooks,
+                 Interception& result) const {
     const auto* name = At<IMAGE_THUNK_DATA64>(library.OriginalFirstThunk);
     auto* slot = At<IMAGE_THUNK_DATA64>(library.FirstThunk);
     for (; name->u1.AddressOfData != 0; ++name, ++slot) {
@@ -46,7 +47,7 @@ class ImportTable {
       }
       const auto* const by_name =
           At<IMAGE_IMPORT_BY_NAME>(static_cast<DWORD>(name->u1.AddressOfData));
-      const Hook* const hook = HookOf(reinterpret_cast<const char*>(by_name->Name));
+      const Hook* const hook = HookOf(hooks, reinterpret_cast<const char*>(by_name->Name));
       if (hook == nullptr) continue;
       Replace(slot->u1.Function, hook->replacement);
       result.replaced.push_back(hook->name);
@@ -65,12 +66,16 @@ class ImportTable {
 }  // namespace
 
 Interception InterceptImports(void* module) {
+  return InterceptImports(module, Hooks());
+}
+
+Interception InterceptImports(void* module, std::span<const Hook> hooks) {
   const ImportTable table(module);
   Interception result;
   const IMAGE_IMPORT_DESCRIPTOR* library = table.Descriptors();
   // A library without its table of names has nothing to go by.
   for (; library != nullptr && library->FirstThunk != 0; ++library) {
-    if (library->OriginalFirstThunk != 0) table.Intercept(*library, result);
+    if (library->OriginalFirstThunk != 0) table.Intercept(*library, hooks, result);
   }
   return result;
 }

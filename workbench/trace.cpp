@@ -10,15 +10,23 @@ void Trace::Leave(long call, const char* function, std::string arguments, int st
 
 long Trace::Count(const std::string& function) const {
   long sum = 0;
-  for (const auto& [name, count] : counts_) {
-    if (function == name) sum += count;
+  for (const auto& [name, tally] : tallies_) {
+    if (function == name) sum += tally.count;
   }
   return sum;
 }
 
+Trace::FirstCall Trace::First(const std::string& function) const {
+  FirstCall first;
+  for (const auto& [name, tally] : tallies_) {
+    if (function == name && (first.call == 0 || tally.first.call < first.call)) first = tally.first;
+  }
+  return first;
+}
+
 std::unordered_map<std::string, long> Trace::Counts() const {
   std::unordered_map<std::string, long> sums;
-  for (const auto& [name, count] : counts_) sums[name] += count;
+  for (const auto& [name, tally] : tallies_) sums[name] += tally.count;
   return sums;
 }
 
@@ -26,7 +34,7 @@ void Trace::Restart() {
   calls_ = 0;
   depth_ = 0;
   last_ = "none";
-  counts_.clear();
+  tallies_.clear();
   lines_.clear();
 }
 

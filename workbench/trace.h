@@ -1,6 +1,7 @@
 // The record of every crossing between plug-in and host: counted always, written out on demand.
 #pragma once
 
+#include <chrono>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -21,10 +22,13 @@ class Trace {
 
   // Starts a crossing and gives its number.
   long Enter(const char* function) {
-    ++counts_[function];
+    ++calls_;
+    const auto [tally, fresh] = tallies_.try_emplace(function);
+    if (fresh) tally->second.first = {calls_, std::chrono::steady_clock::now()};
+    ++tally->second.count;
     last_ = function;
     ++depth_;
-    return ++calls_;
+    return calls_;
   }
   void Leave(long call, const char* function, std::string arguments, int status);
   void LeaveQuietly() { --depth_; }
@@ -33,6 +37,12 @@ class Trace {
   // The function of the latest crossing; for crash reports.
   const char* last() const { return last_; }
   long Count(const std::string& function) const;
+  // The first call of `function`; number 0: not called.
+  struct FirstCall {
+    long call = 0;
+    std::chrono::steady_clock::time_point time;
+  };
+  FirstCall First(const std::string& function) const;
   // By function name, summed over call sites.
   std::unordered_map<std::string, long> Counts() const;
   const std::vector<Crossed>& lines() const { return lines_; }
@@ -45,7 +55,11 @@ class Trace {
   const char* last_ = "none";
   // Keyed by the address of the name: hashing text for every crossing would cost more than the
   // call.
-  std::unordered_map<const char*, long> counts_;
+  struct Tally {
+    long count = 0;
+    FirstCall first;
+  };
+  std::unordered_map<const char*, Tally> tallies_;
   std::vector<Crossed> lines_;
 };
 

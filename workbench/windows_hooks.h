@@ -11,4 +11,8 @@ struct Hook {
 };
 std::span<const Hook> Hooks();
 
+// Replaces those imports of a loaded module (HMODULE) that are named in `hooks`.
+struct Interception;
+Interception InterceptImports(void* module, std::span<const Hook> hooks);
+
 }  // namespace wb
