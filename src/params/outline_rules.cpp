@@ -26,10 +26,13 @@ bool SpanBox(const double (&min)[3], const double (&max)[3]) {
 
 // Independent of the locale that the host has set. Empty when it cannot be written or is too long.
 std::wstring SizeText(double size, int decimals) {
-  if (!std::isfinite(size)) return {};
+  // Sizes often end in an exact half, which drawings round up and the library to the even digit.
+  const double scale = std::pow(10.0, decimals);
+  const double rounded = std::round(size * scale) / scale;
+  if (!std::isfinite(rounded)) return {};
   char digits[kMaxParamTextLength];
   const auto [end, error] =
-      std::to_chars(digits, digits + sizeof(digits), size, std::chars_format::fixed, decimals);
+      std::to_chars(digits, digits + sizeof(digits), rounded, std::chars_format::fixed, decimals);
   return error == std::errc() ? std::wstring(digits, end) : std::wstring();
 }
 

@@ -27,8 +27,9 @@ class OutlineBox {
 // Decimals for the text, from the number at the start of `option`: 0 when there is none, at most 6.
 int OutlineDecimals(std::wstring_view option);
 
-// The three sizes with fixed decimals and "×" between them: from the largest to the smallest, or in
-// x, y, z order. Nothing when a size is no number or the text too long for a parameter.
+// The three sizes with fixed decimals, halves rounded up, and "×" between them: from the largest to
+// the smallest, or in x, y, z order. Nothing when a size is no number or the text too long for a
+// parameter.
 std::optional<std::wstring> OutlineText(std::array<double, 3> sizes, int decimals, bool descending);
 
 }  // namespace qm
