@@ -1,4 +1,5 @@
-// Points where a curved surface reaches farthest along x, y or z.
+// Points where a curved surface reaches farthest along x, y or z, and a flat map of the surface on
+// which a face's boundary can be told from its inside.
 #pragma once
 
 #include <functional>
@@ -8,19 +9,20 @@
 
 namespace wb {
 
-struct StepBulge {
-  StepPoint point;
-  StepPoint normal;  // of the surface at the point
-};
-
 struct StepBulges {
-  std::vector<StepBulge> points;
-  // The surface's normal at a point near it; none when only the bulges' own normals are known.
-  std::function<StepPoint(const StepPoint&)> normal_at;
+  // Candidates on the whole surface; whether a face has them is not known here.
+  std::vector<StepPoint> points;
+  // Set when the points are only samples: the true outermost place beside one of them along one
+  // coordinate (`sign` 1 for its maximum, -1 for its minimum).
+  std::function<StepPoint(const StepPoint&, int coordinate, double sign)> sharpen;
+  // The map: surface points to points with z = 0, so that the surface's normal looks up. A sphere
+  // has no flat map; it maps to itself.
+  std::function<StepPoint(const StepPoint&)> flatten;
+  std::function<StepPoint(const StepPoint&)> normal_at;  // up, seen from a place on the map
+  double period[2] = {0, 0};  // map width where the surface closes in x or y, else 0
 };
 
-// Candidates on the whole surface; whether a face has them is not known here. Nothing for planes,
-// cylinders, cones and extrusions, which reach farthest on their edges.
+// Nothing for planes, cylinders, cones and extrusions, which reach farthest on their edges.
 StepBulges ReadStepBulges(const StepFile& file, const StepRecord& surface, double scale);
 
 }  // namespace wb

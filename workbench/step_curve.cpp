@@ -66,7 +66,10 @@ std::vector<StepPoint> ConicStretch(const Conic& conic, const StepStretch& stret
   double to = stretch.closed ? from : conic.ParameterOf(stretch.end);
   if (stretch.forward && to <= from) to += kTurn;
   if (!stretch.forward && to >= from) to -= kTurn;
-  return ConicPoints(conic, from, to);
+  std::vector<StepPoint> points = ConicPoints(conic, from, to);
+  points.front() = stretch.start;  // so that neighbouring edges meet exactly
+  points.back() = stretch.end;
+  return points;
 }
 
 // The turning point of coordinate `k` between two parameters that enclose one.

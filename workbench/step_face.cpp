@@ -2,6 +2,7 @@
 #include "workbench/step_face.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 
 #include "workbench/step_bulge.h"
@@ -39,39 +40,49 @@ class Boundary {
     }
   }
 
-  // A seam, where a surface meets itself, is run through both ways and bounds nothing.
-  void DropSeams() {
+  // Puts the boundary onto the surface's map, without its seams: where a surface meets itself, an
+  // edge is run through both ways and bounds nothing.
+  void Flatten(const StepBulges& surface) {
     std::map<const StepRecord*, int> uses;
     for (const Stretch& stretch : stretches_) ++uses[stretch.edge];
     std::erase_if(stretches_, [&](const Stretch& stretch) {
       return stretch.edge != nullptr && uses[stretch.edge] > 1;
     });
+    for (Stretch& stretch : stretches_) {
+      for (StepPoint& point : stretch.points) point = surface.flatten(point);
+    }
   }
 
-  // Whether a point of the surface lies on the face: it does when it is to the left of the nearest
+  // Whether a place on the map lies on the face: it does when it is to the left of the nearest
   // piece of the boundary, or when there is no boundary.
-  bool Encloses(const StepBulge& bulge, const StepBulges& surface, bool same_sense) const {
+  bool Encloses(const StepPoint& place, const StepBulges& surface, bool same_sense) const {
     double nearest = std::numeric_limits<double>::infinity();
-    StepPoint foot, tangent;
+    StepPoint reach, foot, tangent;  // reach: from the foot to the place
     for (const Stretch& stretch : stretches_) {
       for (std::size_t i = 1; i < stretch.points.size(); ++i) {
         const StepPoint& a = stretch.points[i - 1];
-        const StepPoint along = stretch.points[i] - a;
+        const StepPoint along = Shortest(stretch.points[i] - a, surface);
         const double square = Dot(along, along);
         if (!(square > 0)) continue;
-        const double share = std::clamp(Dot(bulge.point - a, along) / square, 0.0, 1.0);
-        const StepPoint here = a + along * share;
-        const double distance = Dot(bulge.point - here, bulge.point - here);
+        const StepPoint arm = Shortest(place - a, surface);
+        const StepPoint step = along * std::clamp(Dot(arm, along) / square, 0.0, 1.0);
+        const double distance = Dot(arm - step, arm - step);
         if (distance > nearest * (1 + 1e-9)) continue;
-        // At a corner two pieces are equally near; then both count.
-        tangent = Unit(along, along) + (distance < nearest * (1 - 1e-9) ? StepPoint() : tangent);
+        const StepPoint here = a + step;
+        if (distance < nearest * (1 - 1e-9)) {
+          tangent = Unit(along, along);
+        } else if (Length(Shortest(here - foot, surface)) < 1e-6 * std::sqrt(nearest)) {
+          tangent = tangent + Unit(along, along);  // a corner: both pieces count
+        } else {
+          continue;  // as near elsewhere; either tells
+        }
         nearest = std::min(nearest, distance);
+        reach = arm - step;
         foot = here;
       }
     }
     if (nearest == std::numeric_limits<double>::infinity()) return true;
-    const StepPoint normal = surface.normal_at ? surface.normal_at(foot) : bulge.normal;
-    const double side = Dot(bulge.point - foot, Cross(normal, tangent));
+    const double side = Dot(reach, Cross(surface.normal_at(foot), tangent));
     return same_sense ? side > 0 : side < 0;
   }
 
@@ -80,6 +91,15 @@ class Boundary {
     const StepRecord* edge;
     std::vector<StepPoint> points;
   };
+
+  // The same way on a map that repeats itself, around the other side if that is shorter.
+  static StepPoint Shortest(StepPoint way, const StepBulges& surface) {
+    for (int k = 0; k < 2; ++k) {
+      const double period = surface.period[k];
+      if (period > 0) way[k] -= period * std::round(way[k] / period);
+    }
+    return way;
+  }
 
   void Add(const StepRecord* edge, std::vector<StepPoint> points, bool forward) {
     for (const StepPoint& point : points) box_.Add(point);
@@ -112,6 +132,32 @@ class Boundary {
   std::vector<Stretch> stretches_;
 };
 
+// Adds the bulges that lie on the face and outside its box so far; those that end up outermost
+// are sharpened when they are samples only.
+void AddBulges(Boundary& boundary, const StepBulges& bulges, bool same_sense, StepBox& box) {
+  const auto beyond = [&](const StepPoint& point) { return !box.Holds(point); };
+  if (std::none_of(bulges.points.begin(), bulges.points.end(), beyond)) return;
+  boundary.Flatten(bulges);
+  const StepPoint* outermost[2][3] = {};
+  for (const StepPoint& point : bulges.points) {
+    if (box.Holds(point)) continue;
+    if (!boundary.Encloses(bulges.flatten(point), bulges, same_sense)) continue;
+    for (int k = 0; k < 3; ++k) {
+      if (point[k] < box.min[k]) outermost[0][k] = &point;
+      if (point[k] > box.max[k]) outermost[1][k] = &point;
+    }
+    box.Add(point);
+  }
+  if (!bulges.sharpen) return;
+  for (int side = 0; side < 2; ++side) {
+    for (int k = 0; k < 3; ++k) {
+      if (outermost[side][k] == nullptr) continue;
+      const StepPoint sharp = bulges.sharpen(*outermost[side][k], k, side == 0 ? -1 : 1);
+      if (boundary.Encloses(bulges.flatten(sharp), bulges, same_sense)) box.Add(sharp);
+    }
+  }
+}
+
 }  // namespace
 
 std::vector<StepPoint> ReadStepEdge(const StepFile& file, const StepRecord& edge, double scale) {
@@ -136,14 +182,7 @@ StepBox ReadStepFaceBox(const StepFile& file, const StepRecord& face, double sca
   const StepRecord* surface = values.OptionalReference(2);
   if (surface == nullptr) return box;
   const StepBulges bulges = ReadStepBulges(file, *surface, scale);
-  if (bulges.points.empty()) return box;
-  boundary.DropSeams();
-  for (const StepBulge& bulge : bulges.points) {
-    if (box.Holds(bulge.point)) continue;
-    if (boundary.Encloses(bulge, bulges, values.size() < 4 || values.Boolean(3))) {
-      box.Add(bulge.point);
-    }
-  }
+  AddBulges(boundary, bulges, values.size() < 4 || values.Boolean(3), box);
   return box;
 }
 
