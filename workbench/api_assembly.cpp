@@ -11,9 +11,7 @@ Feature& HideableAt(const Call& call, const ProModelitem* item, Model** owner) {
     throw NotModelled{"hide state of an item of type " +
                       std::to_string(static_cast<int>(item->type))};
   }
-  Feature& feature = call.FeatureAt(item, owner);
-  if (!feature.IsComponent()) throw NotModelled{"hide state of a feature that is no component"};
-  return feature;
+  return call.FeatureAt(item, owner);
 }
 
 ProError SetHidden(const Call& call, const ProModelitem* item, bool hidden) {

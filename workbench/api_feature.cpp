@@ -1,4 +1,6 @@
 // Host functions of the feature family: the visit, and what a feature is.
+#include <algorithm>
+
 #include "workbench/api_shared.h"
 
 using namespace wb;
@@ -15,10 +17,16 @@ ProError VisitOne(ProFeature& item, ProFeatureVisitAction action, ProFeatureFilt
   return action(&item, filtered, data);
 }
 
+// Feature types that stand among the components of a top assembly without placing a model.
+constexpr int kComponentLikeTypes[] = {1104, 1232};
+
 Feature& ComponentAt(const Call& call, const ProModelitem* item) {
   Feature& feature = call.FeatureAt(item);
-  if (!feature.IsComponent())
+  const bool like =
+      std::ranges::find(kComponentLikeTypes, feature.type) != std::end(kComponentLikeTypes);
+  if (!feature.IsComponent() && !like) {
     call.Fail("feature " + std::to_string(feature.id) + " is no component");
+  }
   return feature;
 }
 

@@ -60,9 +60,11 @@ void DialogView::SetOptionValue(const char* component, std::wstring value) const
 }
 
 std::optional<bool> DialogView::CheckState(const char* component) const {
-  ProBoolean state = PRO_B_FALSE;
+  // Neither set nor unset, should the host answer success without a state.
+  ProBoolean state = static_cast<ProBoolean>(-1);
   if (!Ok(ProUICheckbuttonGetState(name(), component, &state))) return std::nullopt;
-  return state != PRO_B_FALSE;
+  if (state != PRO_B_FALSE && state != PRO_B_TRUE) return std::nullopt;
+  return state == PRO_B_TRUE;
 }
 
 void DialogView::SetCheck(const char* component, bool checked) const {
