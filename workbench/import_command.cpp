@@ -1,0 +1,154 @@
+// Models from STEP products, and their way into a folder.
+#include "workbench/import_command.h"
+
+#include <algorithm>
+#include <map>
+#include <stdexcept>
+
+#include "workbench/model_file.h"
+#include "workbench/session.h"
+#include "workbench/step_names.h"
+#include "workbench/step_product.h"
+#include "workbench/utf8_text.h"
+
+namespace wb {
+namespace {
+
+namespace fs = std::filesystem;
+
+Point PointOf(const StepPoint& point) {
+  return {point[0], point[1], point[2]};
+}
+
+// The six sides of a box, each as the flat box it fills.
+std::vector<Box> SidesOf(const StepBox& box) {
+  const Box whole{PointOf(box.min), PointOf(box.max)};
+  std::vector<Box> sides;
+  for (size_t axis = 0; axis < 3; ++axis) {
+    sides.insert(sides.end(), 2, whole);
+    sides[sides.size() - 2].max[axis] = whole.min[axis];
+    sides[sides.size() - 1].min[axis] = whole.max[axis];
+  }
+  return sides;
+}
+
+std::vector<Box> SurfacesOf(const StepModel& step) {
+  std::vector<Box> surfaces;
+  for (const StepBox& face : step.faces) surfaces.push_back({PointOf(face.min), PointOf(face.max)});
+  if (surfaces.empty() && step.extents) surfaces = SidesOf(*step.extents);
+  return surfaces;
+}
+
+Feature ComponentOf(const StepOccurrence& occurrence, const ModelName& model, int id) {
+  Feature feature;
+  feature.id = id;
+  feature.component = model;
+  for (size_t row = 0; row < 4; ++row) {
+    for (size_t column = 0; column < 4; ++column) {
+      feature.placement[row][column] = occurrence.placement.m[row][column];
+    }
+  }
+  return feature;
+}
+
+std::vector<ModelName> NamesOf(const StepAssembly& step) {
+  std::vector<std::string> products;
+  for (const StepModel& model : step.models) products.push_back(model.name);
+  const std::vector<std::string> names = MakeHostNames(products);
+  std::vector<ModelName> full;
+  for (size_t i = 0; i < names.size(); ++i) {
+    full.push_back(
+        {names[i], step.models[i].assembly ? ModelKind::kAssembly : ModelKind::kPart});
+  }
+  return full;
+}
+
+// The folder that takes the files until all are written.
+class Neighbour {
+ public:
+  explicit Neighbour(const fs::path& target) : folder_(target) {
+    folder_ += ".import";
+    fs::remove_all(folder_);
+    fs::create_directories(folder_);
+  }
+  ~Neighbour() {
+    std::error_code error;
+    fs::remove_all(folder_, error);
+  }
+  Neighbour(const Neighbour&) = delete;
+  Neighbour& operator=(const Neighbour&) = delete;
+
+  void MoveTo(const fs::path& target) const {
+    fs::create_directories(target);
+    for (const auto& item : fs::directory_iterator(folder_)) {
+      fs::rename(item.path(), target / item.path().filename());
+    }
+  }
+  const fs::path& folder() const { return folder_; }
+
+ private:
+  fs::path folder_;
+};
+
+std::string Padded(std::string text, size_t width) {
+  const size_t length = WideLength(text);
+  if (length < width) text.append(width - length, ' ');
+  return text;
+}
+
+}  // namespace
+
+ImportedModels ReadStepModels(const fs::path& file) {
+  const StepAssembly step = ReadStepAssembly(file);
+  const std::vector<ModelName> names = NamesOf(step);
+  ImportedModels imported{{}, {}, step.notes};
+  for (size_t i = 0; i < step.models.size(); ++i) {
+    Model model;
+    model.id = names[i];
+    model.surfaces = SurfacesOf(step.models[i]);
+    int id = 0;
+    for (const StepOccurrence& occurrence : step.models[i].components) {
+      model.features.push_back(
+          ComponentOf(occurrence, names[static_cast<size_t>(occurrence.child)], ++id));
+    }
+    imported.models.push_back(std::move(model));
+  }
+  for (const int top : step.tops) imported.tops.push_back(names[static_cast<size_t>(top)]);
+  return imported;
+}
+
+void WriteModels(const ImportedModels& imported, const fs::path& folder, bool force) {
+  const FolderIndex present(folder);
+  for (const Model& model : imported.models) {
+    if (force || present.NewestVersion(model.id) == 0) continue;
+    throw std::runtime_error(PathToUtf8(folder) + " holds a model " + model.id.Text() +
+                             " already; import into another folder, or add --force to write "
+                             "next versions");
+  }
+  const Neighbour neighbour(folder);
+  for (const Model& model : imported.models) {
+    const int version = present.NewestVersion(model.id) + 1;
+    WriteModelFile(model, neighbour.folder() /
+                              PathFromUtf8(model.id.Text() + "." + std::to_string(version)));
+  }
+  neighbour.MoveTo(folder);
+}
+
+std::string ModelTable(const ImportedModels& imported) {
+  std::map<std::string, int> placed;
+  for (const Model& model : imported.models) {
+    for (const Feature& feature : model.features) ++placed[feature.component.Text()];
+  }
+  size_t width = 5;
+  for (const Model& model : imported.models) width = std::max(width, WideLength(model.id.Text()));
+  std::string table = Padded("model", width) + "  components  surfaces  placed\n";
+  for (const Model& model : imported.models) {
+    table += Padded(model.id.Text(), width) + "  " +
+             Padded(std::to_string(model.features.size()), 10) + "  " +
+             Padded(std::to_string(model.surfaces.size()), 8) + "  " +
+             std::to_string(placed[model.id.Text()]) + "\n";
+  }
+  return table;
+}
+
+}  // namespace wb
