@@ -17,7 +17,7 @@ constexpr int kLeftOutFlags = 130;
 void Require(ProError status, const char* function) {
   if (status != PRO_TK_NO_ERROR) {
     throw std::runtime_error(std::string("bare walk: ") + function + " answered " +
-                             StatusWord(status));
+                             std::to_string(static_cast<int>(status)));
   }
 }
 

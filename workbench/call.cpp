@@ -10,7 +10,7 @@ namespace {
 constexpr size_t kShownText = 60;
 
 std::string Quoted(std::string text) {
-  if (text.size() > kShownText) text = text.substr(0, kShownText) + "...";
+  if (text.size() > kShownText) text.replace(kShownText, std::string::npos, "...");
   return "\"" + text + "\"";
 }
 
