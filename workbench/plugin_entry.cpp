@@ -50,11 +50,24 @@ void DescribeAddress(const void* address, char* text, size_t size) {
   for (;;) ::Sleep(INFINITE);
 }
 
-LONG WINAPI OnUnhandled(EXCEPTION_POINTERS* exception) {
+// The crash is told from a thread of its own: the one that crashed may have no stack left.
+struct CrashReport {
+  HANDLE wanted = nullptr;
+  const EXCEPTION_RECORD* exception = nullptr;
+} crash_report;
+
+DWORD WINAPI TellCrash(void*) {
+  ::WaitForSingleObject(crash_report.wanted, INFINITE);
   char place[MAX_PATH + 32] = {};
-  DescribeAddress(exception->ExceptionRecord->ExceptionAddress, place, sizeof(place));
-  const bool stack = exception->ExceptionRecord->ExceptionCode == EXCEPTION_STACK_OVERFLOW;
+  DescribeAddress(crash_report.exception->ExceptionAddress, place, sizeof(place));
+  const bool stack = crash_report.exception->ExceptionCode == EXCEPTION_STACK_OVERFLOW;
   SayLastWords(stack ? "ran out of stack" : "crashed", place);
+}
+
+LONG WINAPI OnUnhandled(EXCEPTION_POINTERS* exception) {
+  crash_report.exception = exception->ExceptionRecord;
+  ::SetEvent(crash_report.wanted);
+  for (;;) ::Sleep(INFINITE);
 }
 
 void OnAbort(int) {
@@ -82,9 +95,9 @@ void EnterPluginAndSettle(const std::string& what, const std::function<void()>& 
 }
 
 void ReportCrashes() {
-  // Leaves room for the report when the stack itself has run out.
-  ULONG reserve = 64 * 1024;
-  ::SetThreadStackGuarantee(&reserve);
+  if (crash_report.wanted != nullptr) return;
+  crash_report.wanted = ::CreateEventW(nullptr, TRUE, FALSE, nullptr);
+  ::CloseHandle(::CreateThread(nullptr, 0, &TellCrash, nullptr, 0, nullptr));
   ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
   ::SetUnhandledExceptionFilter(&OnUnhandled);
   std::signal(SIGABRT, &OnAbort);
