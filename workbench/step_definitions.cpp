@@ -5,11 +5,12 @@
 #include <algorithm>
 #include <unordered_set>
 
+#include "workbench/step_documents.h"
+
 namespace wb {
 namespace {
 
 constexpr std::string_view kDefinition = "PRODUCT_DEFINITION";
-constexpr std::string_view kWithDocuments = "PRODUCT_DEFINITION_WITH_ASSOCIATED_DOCUMENTS";
 
 // The last part of a path or address.
 std::string BareName(std::string_view path) {
@@ -19,29 +20,6 @@ std::string BareName(std::string_view path) {
 }
 
 }  // namespace
-
-StepCatalog::StepCatalog(const StepFile& file) {
-  std::vector<std::vector<std::vector<const StepRecord*>*>> lists;  // by type
-  for (const StepType& type : file.types()) {
-    lists.emplace_back();
-    for (const std::string& name : type.names) lists.back().push_back(&by_name_[name]);
-  }
-  for (const StepRecord& record : file.records()) {
-    for (auto* list : lists[record.type]) list->push_back(&record);
-  }
-  for (auto& [name, list] : by_name_) {
-    const auto earlier = [](const auto* a, const auto* b) { return a->offset < b->offset; };
-    if (!std::is_sorted(list.begin(), list.end(), earlier)) {
-      std::sort(list.begin(), list.end(), earlier);
-    }
-  }
-}
-
-const std::vector<const StepRecord*>& StepCatalog::Of(std::string_view entity) const {
-  static const std::vector<const StepRecord*> kNone;
-  const auto found = by_name_.find(entity);
-  return found == by_name_.end() ? kNone : found->second;
-}
 
 StepDefinitions::StepDefinitions(const StepFile& file, const StepCatalog& catalog)
     : file_(file), catalog_(catalog) {
@@ -55,12 +33,12 @@ StepDefinitions::StepDefinitions(const StepFile& file, const StepCatalog& catalo
   MarkDocuments();
   ReadShapes();
   SpreadShapes();
-  ReadDocumentReferences();
+  NoteDocuments();
 }
 
 void StepDefinitions::ReadDefinitions() {
   std::vector<const StepRecord*> records = catalog_.Of(kDefinition);
-  const auto& more = catalog_.Of(kWithDocuments);
+  const auto& more = catalog_.Of("PRODUCT_DEFINITION_WITH_ASSOCIATED_DOCUMENTS");
   records.insert(records.end(), more.begin(), more.end());
   std::sort(records.begin(), records.end(),
             [](const auto* a, const auto* b) { return a->offset < b->offset; });
@@ -227,57 +205,15 @@ int StepDefinitions::DefinitionOf(const StepRecord& record) const {
   return found != by_record_.end() ? found->second : OwnerOf(record);
 }
 
-// Documents by the file name that an external identification gives them, or by their own.
-std::unordered_map<const StepRecord*, std::string> StepDefinitions::DocumentNames() const {
-  std::unordered_map<const StepRecord*, std::string> names;
-  for (const StepRecord* link : catalog_.Of("APPLIED_EXTERNAL_IDENTIFICATION_ASSIGNMENT")) {
-    const StepArguments values = file_.Arguments(*link);
-    for (const StepRecord* item : values.References(3)) names[item] = values.OptionalText(0);
-  }
-  for (const StepRecord* document : catalog_.Of("DOCUMENT_FILE")) {
-    std::string& name = names[document];
-    if (!name.empty()) continue;
-    const StepArguments values = file_.Arguments(*document, "DOCUMENT");
-    name = values.OptionalText(0);
-    if (name.empty()) name = values.OptionalText(1);
-  }
-  return names;
-}
-
-void StepDefinitions::NoteDocument(const StepRecord& item, const std::string& document) {
-  const int definition = DefinitionOf(item);
-  if (document.empty()) return;
-  if (definition >= 0) {
-    std::string& place = definitions_[definition].other_file;
-    if (place.empty()) place = BareName(document);
-  }
-  const std::string whose = definition < 0 ? "the file" : definitions_[definition].name;
-  notes_.push_back(whose + ": refers to " + document + ", which is not read");
-}
-
-void StepDefinitions::ReadDocumentReferences() {
-  const auto names = DocumentNames();
-  std::unordered_set<const StepRecord*> told;
-  const auto tell = [&](const StepRecord& item, const StepRecord& document) {
-    const auto name = names.find(&document);
-    if (name == names.end()) return;
-    NoteDocument(item, name->second);
-    told.insert(&document);
-  };
-  for (const StepRecord* link : catalog_.Of("APPLIED_DOCUMENT_REFERENCE")) {
-    const StepArguments values = file_.Arguments(*link);
-    for (const StepRecord* item : values.References(2)) tell(*item, values.Reference(0));
-  }
-  for (const StepRecord* definition : catalog_.Of(kWithDocuments)) {
-    const StepArguments values = file_.Arguments(*definition, kWithDocuments);
-    for (const StepRecord* document : values.References(values.size() - 1)) {
-      tell(*definition, *document);
+void StepDefinitions::NoteDocuments() {
+  for (const StepDocumentUse& use : ReadStepDocumentUses(file_, catalog_)) {
+    const int definition = DefinitionOf(*use.item);
+    std::string whose = "the file";
+    if (definition >= 0) {
+      whose = definitions_[definition].name;
+      definitions_[definition].other_file = BareName(use.place);
     }
-  }
-  for (const StepRecord* link : catalog_.Of("APPLIED_EXTERNAL_IDENTIFICATION_ASSIGNMENT")) {
-    for (const StepRecord* item : file_.Arguments(*link).References(3)) {
-      if (told.count(item) == 0) NoteDocument(*item, names.at(item));
-    }
+    notes_.push_back(whose + ": refers to " + use.place + ", which is not read");
   }
 }
 

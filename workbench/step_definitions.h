@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "workbench/step_file.h"
+#include "workbench/step_catalog.h"
 
 namespace wb {
 
@@ -18,17 +18,6 @@ struct StepDefinition {
   std::vector<const StepRecord*> representations;  // its own ones first, then those that equal them
   bool used = false;                               // named by an occurrence
   bool document = false;                           // stands for a drawing or another file
-};
-
-// Instances by their entity names, in the order of the file.
-class StepCatalog {
- public:
-  explicit StepCatalog(const StepFile& file);
-  // Instances that are (also) of type `entity`.
-  const std::vector<const StepRecord*>& Of(std::string_view entity) const;
-
- private:
-  std::unordered_map<std::string_view, std::vector<const StepRecord*>> by_name_;
 };
 
 class StepDefinitions {
@@ -61,9 +50,7 @@ class StepDefinitions {
   void MarkDocuments();
   void ReadShapes();
   void SpreadShapes();
-  void ReadDocumentReferences();
-  std::unordered_map<const StepRecord*, std::string> DocumentNames() const;
-  void NoteDocument(const StepRecord& item, const std::string& document);
+  void NoteDocuments();
   int DefinitionOf(const StepRecord& record) const;
   int AddOutside(const std::string& key, const std::string& name, const std::string& place);
 

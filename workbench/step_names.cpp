@@ -1,0 +1,66 @@
+// Turns any product name into a host name, and tells equal ones apart by number.
+#include "workbench/step_names.h"
+
+#include <map>
+#include <unordered_set>
+
+#include "workbench/text.h"
+
+namespace wb {
+namespace {
+
+struct Range {
+  char16_t first, last;
+};
+// Punctuation, marks, blanks and private characters outside ASCII; everything else counts as a
+// letter. Halves of characters beyond the first plane are judged together, in Cleaned.
+constexpr Range kNoLetters[] = {
+    {0x0080, 0x00A9}, {0x00AB, 0x00B4}, {0x00B6, 0x00B9}, {0x00BB, 0x00BF}, {0x00D7, 0x00D7},
+    {0x00F7, 0x00F7}, {0x2000, 0x2BFF}, {0x3000, 0x3004}, {0x3008, 0x3020}, {0x3030, 0x3030},
+    {0xD800, 0xF8FF}, {0xFE00, 0xFE6F}, {0xFEFF, 0xFF0F}, {0xFF1A, 0xFF20}, {0xFF3B, 0xFF40},
+    {0xFF5B, 0xFF65}, {0xFFE0, 0xFFFF},
+};
+
+bool IsAllowed(char16_t c) {
+  if (c < 0x80) {
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' ||
+           c == '-';
+  }
+  for (const Range& range : kNoLetters) {
+    if (c >= range.first && c <= range.last) return false;
+  }
+  return true;
+}
+
+std::u16string Cleaned(const std::string& name) {
+  std::u16string cleaned;
+  for (const char16_t c : ToUtf16(name)) {
+    if (c >= 0xDC00 && c <= 0xDFFF) continue;  // its first half has become '_' already
+    cleaned += IsAllowed(c) ? c : u'_';
+  }
+  return cleaned.empty() ? u"unnamed" : cleaned;
+}
+
+std::string Cut(const std::u16string& name, const std::string& suffix) {
+  return FromUtf16(name.substr(0, kLongestHostName - suffix.size())) + suffix;
+}
+
+}  // namespace
+
+std::vector<std::string> MakeHostNames(const std::vector<std::string>& product_names) {
+  std::vector<std::string> names;
+  std::unordered_set<std::string> taken;    // without case
+  std::map<std::u16string, int> last_used;  // number by cleaned name, so that many twins stay fast
+  for (const std::string& product : product_names) {
+    const std::u16string cleaned = Cleaned(product);
+    std::string name = Cut(cleaned, "");
+    int& number = last_used[cleaned];
+    while (!taken.insert(FoldCase(name)).second) {
+      name = Cut(cleaned, "_" + std::to_string(++number));
+    }
+    names.push_back(std::move(name));
+  }
+  return names;
+}
+
+}  // namespace wb
