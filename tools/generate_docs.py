@@ -10,7 +10,7 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TOOLKIT = ROOT / "src" / "toolkit"
 FAMILIES = ["array", "model", "feature", "assembly", "selection", "parameter", "geometry",
-            "drawing", "window", "message", "command", "ui"]
+            "drawing", "window", "message", "command", "ui", "ui_table"]
 
 
 def functions(family):

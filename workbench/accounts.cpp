@@ -6,9 +6,9 @@
 namespace wb {
 
 const char* ResourceWord(Resource resource) {
-  constexpr const char* kWords[] = {"array",        "selection", "selection environment",
-                                    "string array", "wide text", "geometry data",
-                                    "dialog"};
+  constexpr const char* kWords[] = {"array",         "selection", "selection environment",
+                                    "string array",  "wide text", "wide text array",
+                                    "geometry data", "dialog"};
   return kWords[static_cast<size_t>(resource)];
 }
 

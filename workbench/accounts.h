@@ -14,6 +14,7 @@ enum class Resource {
   kSelectionEnv,
   kStringArray,
   kWideText,
+  kWideTextArray,
   kGeometryData,
   kDialog,
 };

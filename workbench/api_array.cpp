@@ -1,7 +1,7 @@
 // Host functions of the array family, and of the texts the host hands out.
 #include <cstdlib>
 
-#include "workbench/api_shared.h"
+#include "workbench/api_ui_shared.h"
 
 namespace wb {
 namespace {
@@ -126,9 +126,7 @@ ProError ProArrayObjectAdd(ProArray* array, int index, int n_objects, void* obje
 
 ProError ProStringarrayFree(char** strings, int count) {
   return Crossing("ProStringarrayFree", strings, count).Run([&](Call& call) {
-    call.TakeBack(strings, Resource::kStringArray);
-    for (int i = 0; i < count; ++i) std::free(strings[i]);
-    std::free(strings);
+    FreeTexts(call, strings, count, Resource::kStringArray);
     return PRO_TK_NO_ERROR;
   });
 }

@@ -1,74 +1,9 @@
 // Host functions for dialogs and their components.
-#include <cstdlib>
-
-#include "workbench/api_shared.h"
+#include "workbench/api_ui_shared.h"
 #include "workbench/dialog_html.h"
 
 namespace wb {
 namespace {
-
-LiveDialog& DialogAt(const Call& call, const char* name) {
-  const std::string text = call.Narrow(name, kNarrowLimit, "dialog name");
-  LiveDialog* const dialog = call.host.dialogs.Find(text);
-  if (dialog == nullptr) call.Fail("there is no dialog \"" + text + "\"");
-  return *dialog;
-}
-
-// A component that the dialog's resource lacks, or has as another kind, is the plug-in's mistake;
-// a value that does not fit is not.
-ProError Answer(const Call& call, UiStatus status, const std::string& component) {
-  switch (status) {
-    case UiStatus::kOk:
-      return PRO_TK_NO_ERROR;
-    case UiStatus::kNoComponent:
-      call.Fail("the dialog has no component \"" + component + "\"");
-    case UiStatus::kWrongKind:
-      call.Fail("component \"" + component + "\" is of another kind");
-    case UiStatus::kNotFound:
-      return PRO_TK_E_NOT_FOUND;
-    default:
-      return PRO_TK_BAD_INPUTS;
-  }
-}
-
-template <typename State>
-State& StateAt(const Call& call, const char* dialog, const char* component, ComponentKind kind) {
-  const std::string name = call.Narrow(component, kNarrowLimit, "component name");
-  State* state = nullptr;
-  Answer(call, DialogAt(call, dialog).state.Find(kind, name, &state), name);
-  return *state;
-}
-
-void Bind(const Call& call, const char* dialog, const std::string& component, const char* event,
-          ProUIAction action, ProAppData data) {
-  if (action == nullptr) call.Fail("null action");
-  DialogAt(call, dialog).actions[{component, event}] = {reinterpret_cast<void*>(action), data};
-}
-
-char* CopyNarrow(const std::string& text) {
-  const std::string narrow = ToAnsi(text);
-  auto* const copy = static_cast<char*>(std::malloc(narrow.size() + 1));
-  std::memcpy(copy, narrow.c_str(), narrow.size() + 1);
-  return copy;
-}
-
-wchar_t* GiveWide(const Call& call, const std::string& text) {
-  const std::wstring wide = ToWide(text);
-  auto* const copy = static_cast<wchar_t*>(std::malloc((wide.size() + 1) * sizeof(wchar_t)));
-  std::memcpy(copy, wide.c_str(), (wide.size() + 1) * sizeof(wchar_t));
-  call.Give(copy, Resource::kWideText);
-  return copy;
-}
-
-char** GiveNames(const Call& call, const std::vector<std::string>& names) {
-  auto** const copies = static_cast<char**>(std::malloc((names.size() + 1) * sizeof(char*)));
-  for (size_t i = 0; i < names.size(); ++i) copies[i] = CopyNarrow(names[i]);
-  call.Give(copies, Resource::kStringArray);
-  return copies;
-}
-
-// Longest wide text a field takes from the plug-in; far beyond any file path.
-constexpr size_t kFieldLimit = 4096;
 
 ProError CreateDialog(const Call& call, const std::string& name, const std::string& resource) {
   Host& host = call.host;
@@ -86,12 +21,22 @@ ProError CreateDialog(const Call& call, const std::string& name, const std::stri
   }
 }
 
+// Drawing areas hear once that they have been laid out, before the user sees the dialog.
+void FirePostManage(LiveDialog& dialog) {
+  std::vector<std::string> components;
+  for (const auto& [key, action] : dialog.actions) {
+    if (key.second == kPostManageEvent) components.push_back(key.first);
+  }
+  for (const std::string& component : components) dialog.Fire(component, kPostManageEvent);
+}
+
 ProError ActivateDialog(const Call& call, LiveDialog& dialog, int* exit_status) {
   if (dialog.active) call.Fail("the dialog is active already");
   if (call.host.user == nullptr) throw NotModelled{"a dialog that nobody works"};
   dialog.active = true;
   dialog.ended = false;
-  call.host.user->WorkDialog(dialog);
+  FirePostManage(dialog);
+  if (!dialog.ended) call.host.user->WorkDialog(dialog);
   dialog.active = false;
   call.host.dialogs.pictures.push_back({dialog.name, DrawDialog(dialog.state)});
   if (exit_status != nullptr) *exit_status = dialog.exit_status;
@@ -154,11 +99,8 @@ ProError ProUIPushbuttonActivateActionSet(const char* dialog, const char* compon
   return Crossing("ProUIPushbuttonActivateActionSet", dialog, component, action,
                   static_cast<const void*>(data))
       .Run([&](Call& call) {
-        const std::string name = call.Narrow(component, kNarrowLimit, "component name");
-        Component* button = nullptr;
-        Answer(call, DialogAt(call, dialog).state.Find(ComponentKind::kPushButton, name, &button),
-               name);
-        Bind(call, dialog, name, kActivateEvent, action, data);
+        BindComponent(call, dialog, component, ComponentKind::kPushButton, kActivateEvent, action,
+                      data);
         return PRO_TK_NO_ERROR;
       });
 }

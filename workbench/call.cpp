@@ -23,7 +23,8 @@ bool TakesPlace(const std::string& function) {
 }
 
 bool Releases(const std::string& function) {
-  return TakesPlace(function) || function == "ProStringarrayFree" || function == "ProWstringFree" ||
+  return TakesPlace(function) || function == "ProStringarrayFree" ||
+         function == "ProWstringarrayFree" || function == "ProWstringFree" ||
          function == "ProSelectionarrayFree" || function == "ProSelectionEnvFree";
 }
 

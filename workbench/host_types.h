@@ -15,6 +15,7 @@
 #include "toolkit/selection.h"
 #include "toolkit/types.h"
 #include "toolkit/ui.h"
+#include "toolkit/ui_table.h"
 #include "toolkit/window.h"
 
 const char* StatusWord(int status);

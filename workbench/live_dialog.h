@@ -27,6 +27,7 @@ class LiveDialog {
   bool active = false;
   bool ended = false;  // ProUIDialogExit was called while active
   int exit_status = 0;
+  bool above_active_window = false;  // kept above the window that a model is shown in
   std::map<std::pair<std::string, std::string>, BoundAction> actions;  // component, event
 
   // Calls what is bound to `event` of `component` ("" = the dialog itself); false: nothing bound.
@@ -36,6 +37,7 @@ class LiveDialog {
 inline constexpr const char* kActivateEvent = "activate";
 inline constexpr const char* kCloseEvent = "close";
 inline constexpr const char* kSelectEvent = "select";
+inline constexpr const char* kPostManageEvent = "post-manage";
 
 // A dialog as the user last saw it, kept for the report.
 struct DialogPicture {
