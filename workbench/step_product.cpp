@@ -45,7 +45,10 @@ class ProductReader {
         definitions_(file, catalog_),
         units_(file),
         shapes_(file, units_,
-                [this](const StepRecord& shown) { return definitions_.OwnerOf(shown) >= 0; }),
+                [this](const StepRecord& showing, const StepRecord& shown) {
+                  const int owner = definitions_.OwnerOf(shown);
+                  return owner >= 0 && !definitions_.Owns(owner, showing);
+                }),
         placements_(file, catalog_, definitions_, units_, shapes_) {}
 
   StepAssembly Read() {

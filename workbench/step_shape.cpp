@@ -42,7 +42,7 @@ void CollectNumbers(const StepValue& list, std::vector<double>& numbers) {
 }  // namespace
 
 StepShapes::StepShapes(const StepFile& file, StepUnits& units,
-                       std::function<bool(const StepRecord&)> is_component)
+                       std::function<bool(const StepRecord&, const StepRecord&)> is_component)
     : file_(file), units_(units), is_component_(std::move(is_component)) {
   static const std::unordered_map<std::string_view, Role> kRoles = {
       {"ADVANCED_FACE", Role::kFace},
@@ -145,8 +145,9 @@ void StepShapes::ReadOwn(const StepRecord& representation, Entry& entry) {
     }
   }
   entry.shown = MappingsOf(representation);
-  std::erase_if(entry.shown,
-                [&](const StepMapping& mapping) { return is_component_(*mapping.representation); });
+  std::erase_if(entry.shown, [&](const StepMapping& mapping) {
+    return is_component_(representation, *mapping.representation);
+  });
 }
 
 void StepShapes::AddItem(const StepRecord& item, double scale, StepShape& shape) {

@@ -24,10 +24,10 @@ struct StepMapping {
 
 class StepShapes {
  public:
-  // `is_component` tells the representations that belong to products: those are components, and
-  // showing them adds nothing to a part's own shape.
+  // `is_component` tells whether what one representation shows belongs to another product: then it
+  // is a component and adds nothing to the shape of the part that shows it.
   StepShapes(const StepFile& file, StepUnits& units,
-             std::function<bool(const StepRecord&)> is_component);
+             std::function<bool(const StepRecord& showing, const StepRecord& shown)> is_component);
 
   // The shape in the representation's own coordinates, in millimetres. Read once and kept. Throws
   // StepError when representations show each other in a circle.
@@ -50,7 +50,7 @@ class StepShapes {
 
   const StepFile& file_;
   StepUnits& units_;
-  std::function<bool(const StepRecord&)> is_component_;
+  std::function<bool(const StepRecord&, const StepRecord&)> is_component_;
   std::vector<Role> roles_;  // by type
   std::unordered_map<const StepRecord*, Entry> entries_;
   const StepRecord* coordinates_of_ = nullptr;  // the list that was read last
