@@ -39,9 +39,10 @@ using namespace wb;
 
 ProError ProMdlCurrentGet(ProMdl* model) {
   return Crossing("ProMdlCurrentGet", Out(model)).Run([&](Call& call) {
+    ProMdl& place = call.Place(model, "model place");
     Model* const current = call.host.session.Current();
     if (current == nullptr) return PRO_TK_BAD_CONTEXT;
-    call.Place(model, "model place") = current->handle;
+    place = current->handle;
     return PRO_TK_NO_ERROR;
   });
 }
