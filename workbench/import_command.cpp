@@ -57,8 +57,7 @@ std::vector<ModelName> NamesOf(const StepAssembly& step) {
   const std::vector<std::string> names = MakeHostNames(products);
   std::vector<ModelName> full;
   for (size_t i = 0; i < names.size(); ++i) {
-    full.push_back(
-        {names[i], step.models[i].assembly ? ModelKind::kAssembly : ModelKind::kPart});
+    full.push_back({names[i], step.models[i].assembly ? ModelKind::kAssembly : ModelKind::kPart});
   }
   return full;
 }
@@ -128,8 +127,8 @@ void WriteModels(const ImportedModels& imported, const fs::path& folder, bool fo
   const Neighbour neighbour(folder);
   for (const Model& model : imported.models) {
     const int version = present.NewestVersion(model.id) + 1;
-    WriteModelFile(model, neighbour.folder() /
-                              PathFromUtf8(model.id.Text() + "." + std::to_string(version)));
+    WriteModelFile(
+        model, neighbour.folder() / PathFromUtf8(model.id.Text() + "." + std::to_string(version)));
   }
   neighbour.MoveTo(folder);
 }

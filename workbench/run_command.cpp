@@ -1,0 +1,104 @@
+// `workbench run`: runs scripts, says what failed, and closes with "N passed, N failed".
+#include <cstdio>
+
+#include "workbench/command_line.h"
+#include "workbench/model_file.h"
+#include "workbench/report.h"
+#include "workbench/script_runner.h"
+#include "workbench/script_watch.h"
+#include "workbench/script_windows.h"
+#include "workbench/script_words.h"
+#include "workbench/text.h"
+
+namespace wb {
+namespace {
+
+// A batch command on a large assembly may be at work for minutes between two statements.
+constexpr unsigned kHangSeconds = 600;
+
+// "ProMdlNameGet:2:general_error" or "any:5:empty:from_then_on".
+FaultPlan FaultOption(const std::string& text) {
+  if (text.empty()) return {};
+  std::vector<std::string> words(1);
+  for (const char c : text) {
+    if (c == ':') {
+      words.emplace_back();
+    } else {
+      words.back() += c;
+    }
+  }
+  FaultPlan plan;
+  const bool has_words = words.size() == 3 || (words.size() == 4 && words[3] == "from_then_on");
+  const int nth = has_words ? WholeNumber(words[1]).value_or(0) : 0;
+  const auto status = has_words ? NumberOf(StatusWords(), words[2]) : std::nullopt;
+  if (nth < 1 || (!status && words[2] != "empty")) {
+    throw UsageError(
+        "--fault wants FUNCTION:NTH:STATUS, with \"any\" for any function, \"empty\" "
+        "for an empty success, and \":from_then_on\" at its end if wanted");
+  }
+  if (words[0] != "any") plan.function = words[0];
+  plan.nth = nth;
+  plan.from_then_on = words.size() == 4;
+  plan.kind = status ? FaultKind::kStatus : FaultKind::kEmptySuccess;
+  plan.status = status.value_or(0);
+  return plan;
+}
+
+void PrintFailures(const RunRecord& record, size_t from) {
+  for (size_t i = from; i < record.failures.size(); ++i) {
+    const RunFailure& failure = record.failures[i];
+    std::string place = failure.file;
+    if (failure.line != 0) place += ":" + std::to_string(failure.line);
+    std::printf("%s: %s\n", place.c_str(), failure.text.c_str());
+  }
+}
+
+void RunOne(const std::string& script, const ScriptOptions& options, RunRecord& record,
+            bool* readable) {
+  const size_t failures = record.failures.size();
+  const ScriptOutcome outcome = RunScriptFile(PathFromUtf8(script), options, record);
+  PrintFailures(record, failures);
+  *readable = *readable && outcome.readable;
+  if (outcome.skipped.empty()) {
+    std::printf("%s: %d checks passed, %d failed\n", script.c_str(), outcome.passed,
+                outcome.failed);
+  } else {
+    std::printf("%s: skipped, since %s\n", script.c_str(), outcome.skipped.c_str());
+    record.facts.emplace_back("Skipped", script + ": " + outcome.skipped);
+  }
+  std::fflush(stdout);
+}
+
+}  // namespace
+
+int RunScriptsCommand(const CommandArguments& arguments) {
+  const CommandLine line(arguments, {},
+                         {"--out", "--report", "--trace", "--plugin", "--install", "--fault"});
+  if (line.words().empty()) throw UsageError("run wants one script or more");
+  ScriptOptions options;
+  options.install = InstallTree(line);
+  options.plugin = line.Path("--plugin");
+  options.out = line.Path("--out");
+  options.trace = line.Path("--trace");
+  options.record = line.Has("--report");
+  options.fault = FaultOption(line.Value("--fault"));
+  if (!options.trace.empty()) std::filesystem::remove(options.trace);
+
+  RunRecord record;
+  record.script = Join(", ", line.words());
+  record.facts.emplace_back("Plug-in",
+                            PathToUtf8(options.plugin.empty() ? options.install : options.plugin));
+  record.facts.emplace_back("Code page", std::to_string(AnsiCodePage()));
+  WatchForHangs(kHangSeconds);
+  bool readable = true;
+  for (const std::string& script : line.words()) RunOne(script, options, record, &readable);
+  if (options.record) {
+    WriteReport(line.Path("--report"), record);
+    std::printf("report: %s\n", PathToUtf8(line.Path("--report")).c_str());
+  }
+  std::printf("%d passed, %d failed\n", record.passed, record.failed);
+  if (!readable) return 2;
+  return record.failed == 0 ? 0 : 1;
+}
+
+}  // namespace wb

@@ -1,0 +1,124 @@
+// Windows' side of scripts.
+#include "workbench/script_windows.h"
+
+#include <cstring>
+#include <vector>
+
+#include "workbench/text.h"
+#include "workbench/windows_headers.h"
+
+namespace wb {
+namespace {
+
+std::wstring WideText(const std::optional<std::string>& text) {
+  return text ? ToWide(*text) : std::wstring();
+}
+
+// Room for any setting that a script looks at; the plug-in itself reads far less.
+constexpr DWORD kProfileBuffer = 32 * 1024;
+
+class OpenClipboardScope {
+ public:
+  OpenClipboardScope() : open_(::OpenClipboard(nullptr) != 0) {}
+  ~OpenClipboardScope() {
+    if (open_) ::CloseClipboard();
+  }
+  OpenClipboardScope(const OpenClipboardScope&) = delete;
+  OpenClipboardScope& operator=(const OpenClipboardScope&) = delete;
+  bool open() const { return open_; }
+
+ private:
+  bool open_;
+};
+
+}  // namespace
+
+bool WriteProfile(const std::filesystem::path& file, const std::string& section,
+                  const std::string& key, const std::optional<std::string>& text) {
+  const std::wstring wide = WideText(text);
+  return ::WritePrivateProfileStringW(ToWide(section).c_str(), ToWide(key).c_str(),
+                                      text ? wide.c_str() : nullptr, file.wstring().c_str()) != 0;
+}
+
+std::optional<std::string> ReadProfile(const std::filesystem::path& file,
+                                       const std::string& section, const std::string& key) {
+  constexpr wchar_t kMissing[] = L"\x1";
+  std::vector<wchar_t> buffer(kProfileBuffer);
+  const DWORD length =
+      ::GetPrivateProfileStringW(ToWide(section).c_str(), ToWide(key).c_str(), kMissing,
+                                 buffer.data(), kProfileBuffer, file.wstring().c_str());
+  const std::wstring text(buffer.data(), length);
+  if (text == kMissing) return std::nullopt;
+  return FromWide(text);
+}
+
+void FlushProfile(const std::filesystem::path& file) {
+  ::WritePrivateProfileStringW(nullptr, nullptr, nullptr, file.wstring().c_str());
+}
+
+std::optional<std::string> ClipboardText() {
+  const OpenClipboardScope clipboard;
+  if (!clipboard.open()) return std::nullopt;
+  const HANDLE data = ::GetClipboardData(CF_UNICODETEXT);
+  if (data == nullptr) return std::nullopt;
+  const auto* const text = static_cast<const wchar_t*>(::GlobalLock(data));
+  if (text == nullptr) return std::nullopt;
+  std::string found = FromWide(text);
+  ::GlobalUnlock(data);
+  return found;
+}
+
+bool SetClipboardText(const std::string& text) {
+  const OpenClipboardScope clipboard;
+  if (!clipboard.open() || !::EmptyClipboard()) return false;
+  const std::wstring wide = ToWide(text);
+  const size_t bytes = (wide.size() + 1) * sizeof(wchar_t);
+  const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, bytes);
+  if (memory == nullptr) return false;
+  std::memcpy(::GlobalLock(memory), wide.c_str(), bytes);
+  ::GlobalUnlock(memory);
+  return ::SetClipboardData(CF_UNICODETEXT, memory) != nullptr;
+}
+
+struct ClipboardHolder::Thread {
+  HANDLE thread = nullptr;
+  HANDLE held = ::CreateEventW(nullptr, TRUE, FALSE, nullptr);
+  HANDLE let_go = ::CreateEventW(nullptr, TRUE, FALSE, nullptr);
+
+  static DWORD WINAPI Hold(void* data) {
+    auto* const self = static_cast<Thread*>(data);
+    const OpenClipboardScope clipboard;
+    ::SetEvent(self->held);
+    ::WaitForSingleObject(self->let_go, INFINITE);
+    return 0;
+  }
+};
+
+ClipboardHolder::ClipboardHolder() : thread_(std::make_unique<Thread>()) {
+  thread_->thread = ::CreateThread(nullptr, 0, &Thread::Hold, thread_.get(), 0, nullptr);
+  ::WaitForSingleObject(thread_->held, INFINITE);
+}
+
+ClipboardHolder::~ClipboardHolder() {
+  ::SetEvent(thread_->let_go);
+  ::WaitForSingleObject(thread_->thread, INFINITE);
+  for (const HANDLE handle : {thread_->thread, thread_->held, thread_->let_go}) {
+    ::CloseHandle(handle);
+  }
+}
+
+std::filesystem::path ProgramFolder() {
+  wchar_t path[MAX_PATH] = {};
+  ::GetModuleFileNameW(nullptr, path, MAX_PATH - 1);
+  return std::filesystem::path(path).parent_path();
+}
+
+unsigned AnsiCodePage() {
+  return ::GetACP();
+}
+
+unsigned ProcessId() {
+  return ::GetCurrentProcessId();
+}
+
+}  // namespace wb
