@@ -215,7 +215,9 @@ SessionPicture TakePicture(const Session& session) {
   SessionPicture picture;
   if (const Model* current = session.Current()) {
     picture.current = current->id.Text();
-    picture.tree = TakeTree(*current);
+    // A manufacturing model has no components of its own: its assembly is what users work on.
+    const Model* assembly = current->mfg_assembly_model;
+    picture.tree = TakeTree(assembly ? *assembly : *current);
   }
   for (const auto& model : session.models()) {
     picture.models.emplace(model->id.Text(), PictureOf(*model));
