@@ -2,7 +2,6 @@
 // in any case, since a hidden one would hide the parts below it as well.
 #include "display/hide_reverse.h"
 
-#include "display/feature_set.h"
 #include "display/hide_state.h"
 #include "frame/current_assembly.h"
 #include "frame/message_box.h"
@@ -14,17 +13,6 @@ namespace {
 // The blank behind the slash is deliberate: this command's text has it, the other two commands'
 // text has not. Kept as it stands.
 constexpr wchar_t kNoComponentsHere[] = L"当前模型中没有合适的子零/ 组件";
-
-// Entries with a model, each component feature once: reversed twice, a part would stay as it is.
-std::vector<int> WorkList(const ComponentList& components) {
-  std::vector<int> work;
-  FeatureSet met;
-  for (int i = 0; i < components.size(); ++i) {
-    const ProFeature& feature = *components.feature(i);
-    if (components.model(i) != nullptr && met.Insert(feature.id, feature.owner)) work.push_back(i);
-  }
-  return work;
-}
 
 void ReversePart(ProFeature* part) {
   ProBoolean hidden = PRO_B_FALSE;
@@ -55,7 +43,9 @@ ProError QmHideReverse() {
     return PRO_TK_NO_ERROR;
   }
   LogCount("components", components.size());
-  for (const int i : WorkList(components)) {
+  for (int i = 0; i < components.size(); ++i) {
+    // Reversed twice, a part would stay as it is.
+    if (components.repeated(i)) continue;
     if (components.type(i) == PRO_MDL_ASSEMBLY) ShowComponent(components.feature(i));
     if (components.type(i) == PRO_MDL_PART) ReversePart(components.feature(i));
   }

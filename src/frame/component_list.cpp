@@ -4,8 +4,8 @@
 #include "frame/component_list.h"
 
 #include <algorithm>
-#include <unordered_map>
 
+#include "frame/handle_index.h"
 #include "frame/run_log.h"
 #include "frame/visit.h"
 
@@ -38,19 +38,23 @@ bool IsActiveAndVisible(ProFeature& feature) {
          status == PRO_FEAT_ACTIVE;
 }
 
-// A model as met during one collection.
-struct Node;
-struct Placement {
-  ProFeature feature;
-  Node* node;  // null: the model is not in session
-};
+// A model as met during one collection. Models are known by number, so that all of them, and the
+// components of all levels, stand in one array each.
 struct Node {
   ProMdl model = nullptr;
   ProMdlType type = PRO_MDL_UNUSED;
   bool sheet_metal = false;
   bool level_read = false;
   bool entered = false;  // on the way from the root to where the walk is
-  std::vector<Placement> level;
+  bool walked = false;   // its components stand in the list already
+  size_t level_begin = 0;
+  size_t level_end = 0;
+};
+using NodeNumber = uint32_t;
+constexpr NodeNumber kNoNode = UINT32_MAX;  // the model is not in session
+struct Placement {
+  ProFeature feature;
+  NodeNumber node;
 };
 
 }  // namespace
@@ -63,9 +67,8 @@ class ComponentCollector {
     list_ = ComponentList();
     const ProError status = list_.features_.Allocate();
     if (!Ok(status)) return status;
-    Node& top = nodes_[root];
-    top.model = root;
-    top.type = PRO_MDL_ASSEMBLY;
+    const NodeNumber top = index_.Insert(root).first;
+    nodes_.push_back({root, PRO_MDL_ASSEMBLY});
     ReadLevel(top, top_filter);
     Walk(top);
     list_.size_ = std::min(list_.features_.size(), static_cast<int>(list_.models_.size()));
@@ -74,66 +77,78 @@ class ComponentCollector {
 
  private:
   struct Position {
-    Node* assembly;
+    NodeNumber assembly;
     size_t next;
+    bool repeated;
   };
 
   // Subassemblies come after the placement that leads to them and before its successors.
-  void Walk(Node& top) {
+  void Walk(NodeNumber top) {
     std::vector<Position> path;
     Enter(top, path);
     while (!path.empty()) {
       Position& position = path.back();
-      if (position.next == position.assembly->level.size()) {
-        position.assembly->entered = false;
+      if (position.next == nodes_[position.assembly].level_end) {
+        nodes_[position.assembly].entered = false;
         path.pop_back();
         continue;
       }
-      const Placement& placement = position.assembly->level[position.next++];
-      if (IsListed(placement.node)) List(placement);
-      // An assembly inside itself would never end.
-      if (placement.node != nullptr && placement.node->type == PRO_MDL_ASSEMBLY &&
-          !placement.node->entered) {
-        Enter(*placement.node, path);
-      }
+      const Placement& placement = placements_[position.next++];
+      if (IsListed(placement.node)) List(placement, position.repeated);
+      if (CanEnter(placement.node)) Enter(placement.node, path);
     }
   }
 
-  void Enter(Node& assembly, std::vector<Position>& path) {
-    if (!assembly.level_read) ReadLevel(assembly, LevelFilter::kComponents);
-    assembly.entered = true;
-    path.push_back({&assembly, 0});
+  // An assembly inside itself would never end.
+  bool CanEnter(NodeNumber node) const {
+    return node != kNoNode && nodes_[node].type == PRO_MDL_ASSEMBLY && !nodes_[node].entered;
   }
 
-  void ReadLevel(Node& assembly, LevelFilter filter) {
-    assembly.level_read = true;
+  void Enter(NodeNumber assembly, std::vector<Position>& path) {
+    if (!nodes_[assembly].level_read) ReadLevel(assembly, LevelFilter::kComponents);
+    Node& node = nodes_[assembly];
+    path.push_back({assembly, node.level_begin, node.walked});
+    node.entered = true;
+    node.walked = true;
+  }
+
+  void ReadLevel(NodeNumber assembly, LevelFilter filter) {
+    const ProMdl model = nodes_[assembly].model;
+    const size_t begin = placements_.size();
     const ProError status = VisitFeatures(
-        assembly.model, [&](ProFeature& feature) { return Accepts(filter, feature); },
-        [&](ProFeature& feature) { return ReadPlacement(assembly, feature); });
+        model, [&](ProFeature& feature) { return Accepts(filter, feature); },
+        [&](ProFeature& feature) { return ReadPlacement(model, feature); });
     if (!Ok(status) && status != PRO_TK_CONTINUE && status != PRO_TK_E_NOT_FOUND) {
-      LogFailure(assembly.model, "ProSolidFeatVisit", status);
+      LogFailure(model, "ProSolidFeatVisit", status);
     }
+    Node& node = nodes_[assembly];
+    node.level_read = true;
+    node.level_begin = begin;
+    node.level_end = placements_.size();
   }
 
-  ProError ReadPlacement(Node& assembly, ProFeature& feature) {
+  ProError ReadPlacement(ProMdl assembly, ProFeature& feature) {
     if (!IsActiveAndVisible(feature)) return PRO_TK_NO_ERROR;
-    Placement& placement = assembly.level.emplace_back(Placement{feature, nullptr});
+    placements_.push_back({feature, kNoNode});
     ProMdl model = nullptr;
     const ProError status = ProAsmcompMdlGet(&feature, &model);
     if (!Ok(status) || model == nullptr) {
-      LogFailure(assembly.model, "ProAsmcompMdlGet", status);
+      LogFailure(assembly, "ProAsmcompMdlGet", status);
       // As an action's answer this ends the level: what follows the missing model is not listed.
       return PRO_TK_CONTINUE;
     }
-    placement.node = &NodeOf(model);
+    placements_.back().node = NodeOf(model);
     return PRO_TK_NO_ERROR;
   }
 
-  Node& NodeOf(ProMdl model) {
-    const auto [found, is_new] = nodes_.try_emplace(model);
-    Node& node = found->second;
-    if (!is_new) return node;
-    node.model = model;
+  NodeNumber NodeOf(ProMdl model) {
+    const auto [number, is_new] = index_.Insert(model);
+    if (is_new) nodes_.push_back(ReadNode(model));
+    return number;
+  }
+
+  Node ReadNode(ProMdl model) const {
+    Node node{model};
     const ProError status = ProMdlTypeGet(model, &node.type);
     if (!Ok(status)) {
       node.type = PRO_MDL_UNUSED;
@@ -147,27 +162,33 @@ class ComponentCollector {
     return node;
   }
 
-  bool IsListed(const Node* node) const {
+  bool IsListed(NodeNumber number) const {
     if (kind_ == ComponentKind::kAll) return true;
-    if (node == nullptr) return false;
-    if (kind_ == ComponentKind::kSheetMetal) return node->sheet_metal;
-    return node->type == (kind_ == ComponentKind::kParts ? PRO_MDL_PART : PRO_MDL_ASSEMBLY);
+    if (number == kNoNode) return false;
+    const Node& node = nodes_[number];
+    if (kind_ == ComponentKind::kSheetMetal) return node.sheet_metal;
+    return node.type == (kind_ == ComponentKind::kParts ? PRO_MDL_PART : PRO_MDL_ASSEMBLY);
   }
 
-  void List(const Placement& placement) {
+  void List(const Placement& placement, bool repeated) {
     const ProError status = list_.features_.Append(placement.feature);
     if (!Ok(status)) {
       LogFailure(placement.feature.owner, "ProArrayObjectAdd", status);
       return;
     }
-    const Node* const node = placement.node;
-    list_.models_.push_back(node != nullptr ? ComponentList::Model{node->model, node->type}
-                                            : ComponentList::Model{nullptr, PRO_MDL_UNUSED});
+    ComponentList::Model model{nullptr, PRO_MDL_UNUSED, repeated};
+    if (placement.node != kNoNode) {
+      model.handle = nodes_[placement.node].model;
+      model.type = nodes_[placement.node].type;
+    }
+    list_.models_.push_back(model);
   }
 
   ComponentKind kind_;
   ComponentList& list_;
-  std::unordered_map<ProMdl, Node> nodes_;  // its elements never move
+  HandleIndex index_;  // numbers of the nodes
+  std::vector<Node> nodes_;
+  std::vector<Placement> placements_;  // one level after another
 };
 
 ProError CollectComponents(ProSolid root, ComponentKind kind, ComponentList* list) {

@@ -34,12 +34,15 @@ class ComponentList {
   ProMdl model(int index) const { return models_[static_cast<size_t>(index)].handle; }
   // PRO_MDL_UNUSED when there is no model or the host does not tell.
   ProMdlType type(int index) const { return models_[static_cast<size_t>(index)].type; }
+  // True when the same feature stands further up: its assembly is placed several times.
+  bool repeated(int index) const { return models_[static_cast<size_t>(index)].repeated; }
 
  private:
   friend class ComponentCollector;
   struct Model {
     ProMdl handle;
     ProMdlType type;
+    bool repeated;
   };
 
   HostArray<ProFeature> features_;
