@@ -39,7 +39,7 @@ std::string DialogView::RadioValue(const char* component) const {
 std::optional<std::string> DialogView::TryRadioValue(const char* component) const {
   NameList names;
   const ProError status =
-      ProUIRadiogroupSelectednamesGet(name(), component, names.put_count(), names.put_names());
+      ProUIRadiogroupSelectednamesGet(name(), component, names.put_count(), names.put_texts());
   if (!Ok(status)) return std::nullopt;
   return names.size() > 0 ? std::string(names[0]) : std::string();
 }
@@ -50,13 +50,25 @@ void DialogView::SetRadioValue(const char* component, std::string button) const 
 }
 
 std::wstring DialogView::OptionValue(const char* component) const {
+  return TryOptionValue(component).value_or(std::wstring());
+}
+
+std::optional<std::wstring> DialogView::TryOptionValue(const char* component) const {
   WideText text;
   const ProError status = ProUIOptionmenuValueGet(name(), component, text.put());
-  return Taken(status, text).value_or(std::wstring());
+  return Taken(status, text);
 }
 
 void DialogView::SetOptionValue(const char* component, std::wstring value) const {
   ProUIOptionmenuValueSet(name(), component, value.data());
+}
+
+void DialogView::EnableOption(const char* component, bool enabled) const {
+  if (enabled) {
+    ProUIOptionmenuEnable(name(), component);
+  } else {
+    ProUIOptionmenuDisable(name(), component);
+  }
 }
 
 std::optional<bool> DialogView::CheckState(const char* component) const {
@@ -73,6 +85,10 @@ void DialogView::SetCheck(const char* component, bool checked) const {
   } else {
     ProUICheckbuttonUnset(name(), component);
   }
+}
+
+void DialogView::KeepAboveActiveWindow() const {
+  ProUIDialogAboveactivewindowSet(name(), PRO_B_TRUE);
 }
 
 void DialogView::Exit(int exit_status) const {

@@ -7,8 +7,12 @@
 
 #include "frame/shield.h"
 #include "toolkit/ui.h"
+#include "toolkit/ui_table.h"
 
 namespace qm {
+
+// Shown when a field cannot be read: an empty text in its place could change every model wrongly.
+inline constexpr wchar_t kUnreadableField[] = L"无法读取对话框中的内容,操作已停止!";
 
 // A dialog by its name, which need not stay in memory: what actions work on. Owns nothing.
 // A field that cannot be read gives an empty text; a failed set is not reported.
@@ -25,6 +29,7 @@ class DialogView {
   void SetRadioValue(const char* component, std::string button) const;
   std::wstring OptionValue(const char* component) const;
   void SetOptionValue(const char* component, std::wstring value) const;
+  void EnableOption(const char* component, bool enabled) const;
   // Nothing when the host does not tell.
   std::optional<bool> CheckState(const char* component) const;
   void SetCheck(const char* component, bool checked) const;
@@ -32,6 +37,10 @@ class DialogView {
   // Nothing when the host does not tell, which differs from an empty field.
   std::optional<std::wstring> TryInputValue(const char* component) const;
   std::optional<std::string> TryRadioValue(const char* component) const;
+  std::optional<std::wstring> TryOptionValue(const char* component) const;
+
+  // Over the window that a command brings up, which would cover the dialog otherwise.
+  void KeepAboveActiveWindow() const;
 
   // Ends the dialog's activation.
   void Exit(int exit_status = 0) const;
@@ -72,6 +81,22 @@ class Dialog : public DialogView {
   template <auto Action>
   ProError BindButton(const char* component, ProAppData data = nullptr) const {
     return ProUIPushbuttonActivateActionSet(name(), component, &DialogAction<Action>::Call, data);
+  }
+  // The user chose another button of the group.
+  template <auto Action>
+  ProError BindRadio(const char* component) const {
+    return ProUIRadiogroupSelectActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
+  }
+  // A double-click on a row.
+  template <auto Action>
+  ProError BindTable(const char* component) const {
+    return ProUITableActivateActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
+  }
+  // The drawing area has got its place and size.
+  template <auto Action>
+  ProError BindDrawingArea(const char* component) const {
+    return ProUIDrawingareaPostmanagenotifyActionSet(name(), component, &DialogAction<Action>::Call,
+                                                     nullptr);
   }
   // The dialog's own close action ends the activation with status 0.
   void BindClose() const;

@@ -13,4 +13,8 @@ void ShowShortMessage(const wchar_t* text) noexcept {
   ::MessageBoxW(::GetActiveWindow(), text, kApplicationTitle, MB_OK);
 }
 
+void ShowShortWarning(const wchar_t* text) noexcept {
+  ::MessageBoxW(::GetActiveWindow(), text, kApplicationTitle, MB_OK | MB_ICONEXCLAMATION);
+}
+
 }  // namespace qm

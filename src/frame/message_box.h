@@ -24,4 +24,7 @@ inline void ShowShortMessage(const std::wstring& text) {
   ShowShortMessage(text.c_str());
 }
 
+// The plain box with an exclamation mark, for another program that cannot be used.
+void ShowShortWarning(const wchar_t* text) noexcept;
+
 }  // namespace qm

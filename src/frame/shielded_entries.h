@@ -67,6 +67,10 @@ inline constexpr ShieldedEntry kShieldedEntries[] = {
     {"popup notification",  "ProNotificationSet",               &probe::Notification, PRO_TK_GENERAL_ERROR, false},
     {"dialog action",       "ProUIPushbuttonActivateActionSet", &probe::DialogButton, 0,                    true},
     {"dialog close action", "ProUIDialogCloseActionSet",        &probe::DialogButton, 0,                    true},
+    {"radio group action",  "ProUIRadiogroupSelectActionSet",   &probe::DialogButton, 0,                    true},
+    {"table action",        "ProUITableActivateActionSet",      &probe::DialogButton, 0,                    true},
+    {"drawing area action", "ProUIDrawingareaPostmanagenotifyActionSet",
+                                                                &probe::DialogButton, 0,                    true},
     {"timer",               "SetTimer",                         &probe::Timer,        0,                    false},
     {"entry",               "the host's loader",                &probe::Entry,        0,                    false},
 };

@@ -36,7 +36,4 @@ void ForEachTarget(const char* action, const DialogView& dialog, const TargetFie
                    const std::optional<CurrentModel>& top,
                    const std::function<bool(const ParamTarget&)>& apply);
 
-// Shown when a field cannot be read: an empty text in its place could change every model wrongly.
-inline constexpr wchar_t kUnreadableField[] = L"无法读取对话框中的内容,操作已停止!";
-
 }  // namespace qm

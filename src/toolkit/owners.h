@@ -11,6 +11,7 @@
 #include "toolkit/selection.h"
 #include "toolkit/status.h"
 #include "toolkit/types.h"
+#include "toolkit/ui_table.h"
 
 namespace qm {
 
@@ -117,32 +118,50 @@ class SelectionArray : public Owner<ProSelection*, &release::Selections> {
   ProSelection operator[](int index) const { return get()[index]; }
 };
 
-// Narrow texts with their count, as list-like dialog components give them.
-class NameList {
- public:
-  NameList() = default;
-  NameList(const NameList&) = delete;
-  NameList& operator=(const NameList&) = delete;
-  ~NameList() { reset(); }
+namespace release {
 
-  char*** put_names() {
+inline void NarrowTexts(char** texts, int count) {
+  ProStringarrayFree(texts, count);
+}
+inline void WideTexts(wchar_t** texts, int count) {
+  ProWstringarrayFree(texts, count);
+}
+
+}  // namespace release
+
+// Texts with their count, as list-like dialog components give them.
+template <typename Char, auto Release>
+class TextList {
+ public:
+  TextList() = default;
+  TextList(const TextList&) = delete;
+  TextList& operator=(const TextList&) = delete;
+  ~TextList() { reset(); }
+
+  Char*** put_texts() {
     reset();
-    return &names_;
+    return &texts_;
   }
   int* put_count() { return &count_; }
   void reset() {
-    if (names_ != nullptr) ProStringarrayFree(names_, count_);
-    names_ = nullptr;
+    if (texts_ != nullptr) Release(texts_, count_);
+    texts_ = nullptr;
     count_ = 0;
   }
 
-  int size() const { return names_ == nullptr || count_ < 0 ? 0 : count_; }
+  int size() const { return texts_ == nullptr || count_ < 0 ? 0 : count_; }
   // Never null: a missing text reads as an empty one.
-  const char* operator[](int index) const { return names_[index] != nullptr ? names_[index] : ""; }
+  const Char* operator[](int index) const {
+    static constexpr Char kNothing[1] = {};
+    return texts_[index] != nullptr ? texts_[index] : kNothing;
+  }
 
  private:
-  char** names_ = nullptr;
+  Char** texts_ = nullptr;
   int count_ = 0;
 };
+
+using NameList = TextList<char, &release::NarrowTexts>;
+using WideTextList = TextList<wchar_t, &release::WideTexts>;
 
 }  // namespace qm
