@@ -11,6 +11,8 @@
 namespace wb {
 namespace {
 
+constexpr double kRounding = 1e-7;  // millimetres; no reason to look inside a face
+
 StepPoint ReadVertex(const StepFile& file, const StepRecord& vertex, double scale) {
   if (!file.TypeOf(vertex).Has("VERTEX_POINT")) file.Fail(vertex, "stands where a vertex is due");
   return ReadStepPoint(file, file.Arguments(vertex, "VERTEX_POINT", 1).Reference(0), scale);
@@ -135,12 +137,12 @@ class Boundary {
 // Adds the bulges that lie on the face and outside its box so far; those that end up outermost
 // are sharpened when they are samples only.
 void AddBulges(Boundary& boundary, const StepBulges& bulges, bool same_sense, StepBox& box) {
-  const auto beyond = [&](const StepPoint& point) { return !box.Holds(point); };
+  const auto beyond = [&](const StepPoint& point) { return !box.Holds(point, kRounding); };
   if (std::none_of(bulges.points.begin(), bulges.points.end(), beyond)) return;
   boundary.Flatten(bulges);
   const StepPoint* outermost[2][3] = {};
   for (const StepPoint& point : bulges.points) {
-    if (box.Holds(point)) continue;
+    if (box.Holds(point, kRounding)) continue;
     if (!boundary.Encloses(bulges.flatten(point), bulges, same_sense)) continue;
     for (int k = 0; k < 3; ++k) {
       if (point[k] < box.min[k]) outermost[0][k] = &point;

@@ -85,9 +85,9 @@ StepPoint Unit(const StepPoint& a, const StepPoint& otherwise) {
   return length > 1e-300 && std::isfinite(length) ? a * (1 / length) : otherwise;
 }
 
-bool StepBox::Holds(const StepPoint& point) const {
+bool StepBox::Holds(const StepPoint& point, double slack) const {
   for (int k = 0; k < 3; ++k) {
-    if (!(point[k] >= min[k] && point[k] <= max[k])) return false;
+    if (!(point[k] >= min[k] - slack && point[k] <= max[k] + slack)) return false;
   }
   return true;
 }

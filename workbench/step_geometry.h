@@ -39,7 +39,8 @@ struct StepBox {
   StepPoint max = Filled(-std::numeric_limits<double>::infinity());
 
   bool empty() const { return min[0] > max[0]; }
-  bool Holds(const StepPoint& point) const;
+  // Points up to `slack` millimetres outside count as inside.
+  bool Holds(const StepPoint& point, double slack = 0) const;
   void Add(const StepPoint& point);
   void Add(const StepBox& box);
 
