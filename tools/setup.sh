@@ -5,7 +5,8 @@ set -euo pipefail
 
 packages=(
   cmake ninja-build g++                  # build
-  g++-mingw-w64-x86-64-posix libz-mingw-w64-dev
+  g++-mingw-w64-x86-64-posix
+  libz-mingw-w64-dev zlib1g-dev          # workbooks, cross-built and native
   wine wine64                            # run Windows programs
   googletest nlohmann-json3-dev libgtest-dev
   librsvg2-bin zip unzip                 # icons, package
