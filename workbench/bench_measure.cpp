@@ -75,6 +75,7 @@ class Bench {
   // Samples of one part, one a round.
   struct Samples {
     std::vector<double> seconds;
+    std::vector<double> same_work;
     std::vector<double> times_walk;
     std::vector<double> times_same_work;
     long calls = 0;
@@ -99,6 +100,7 @@ class Bench {
       }
       samples.calls = taken.calls;
       samples.seconds.push_back(taken.seconds);
+      samples.same_work.push_back(same);
       samples.times_walk.push_back(taken.seconds / walk);
       samples.times_same_work.push_back(taken.seconds / same);
     }
@@ -165,6 +167,8 @@ class Bench {
             static_cast<int>(host_.session.models().size()),
             samples.calls,
             Median(samples.seconds),
+            std::ranges::min(samples.seconds),
+            std::ranges::min(samples.same_work),
             Median(samples.times_walk),
             Median(samples.times_same_work),
             heap};

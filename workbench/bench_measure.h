@@ -26,7 +26,9 @@ struct BenchRow {
   int occurrences;
   int models;
   long calls;
-  double seconds;          // median
+  double seconds;            // median
+  double fastest;            // of all rounds: what other programs disturbed least
+  double fastest_same_work;  // of the bare walks that also do the command's work
   double times_walk;       // median over the runs, each against a bare collection of its own round
   double times_same_work;  // the same against a bare walk that also does the command's work
   long long heap_bytes;    // the plug-in's peak; 0 where it is not told apart

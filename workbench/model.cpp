@@ -85,6 +85,11 @@ std::optional<FeatureStatus> FeatureStatusFromWord(std::string_view word) {
 }
 
 Feature* Model::FindFeature(int feature_id) {
+  // Features are mostly numbered without a gap; the index would cost more than the call it serves.
+  if (!features.empty() && feature_id >= features.front().id) {
+    const auto place = static_cast<size_t>(feature_id) - static_cast<size_t>(features.front().id);
+    if (place < features.size() && features[place].id == feature_id) return &features[place];
+  }
   const auto found = feature_index_.find(feature_id);
   return found == feature_index_.end() ? nullptr : &features[found->second];
 }

@@ -90,9 +90,9 @@ struct Feature {
   int status_flags = 0;
   bool hidden = false;
   // Of component features only:
+  Model* model = nullptr;  // null: not found in session
   ModelName component;
   Placement placement = kIdentityPlacement;
-  Model* model = nullptr;  // null: not found in session
   bool IsComponent() const { return type == kComponentFeatureType; }
 };
 
@@ -103,6 +103,7 @@ struct Sheet {
 
 struct Model {
   ModelName id;
+  void* handle = nullptr;
   bool sheet_metal = false;
   bool skeleton = false;
   std::string note;  // free text of the model file, kept through a save
@@ -117,7 +118,6 @@ struct Model {
   std::filesystem::path folder;
   int version = 0;
   bool modified = false;
-  void* handle = nullptr;
 
   Feature* FindFeature(int feature_id);
   Parameter* FindParameter(std::string_view name);
