@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "workbench/script_words.h"
+#include "workbench/text.h"
 
 namespace wb {
 namespace {
@@ -25,6 +26,9 @@ const char* PlaceName(unsigned places) {
   return (places & kAnswerPlace) != 0 ? "among the answers of \"run ... with\""
                                       : "inside a \"dialog\" block";
 }
+
+// More patterns than these would hide what is wrong.
+constexpr size_t kMostPatternsShown = 3;
 
 std::string Suggestion(const std::string& word, const std::vector<std::string>& wanted) {
   const std::string nearest = NearestWord(word, wanted);
@@ -49,11 +53,11 @@ class FormSearch {
       return "\"" + std::string(elsewhere->pattern) + "\" stands " + PlaceName(elsewhere->places);
     }
     if (best_.reached == 0) return "unknown statement \"" + word + "\"" + Suggestion(word, wanted_);
-    if (nearest_.size() == 1) {
-      return best_.problem + "; it reads: " + nearest_.front()->pattern + Suggestion(word, wanted_);
-    }
-    return "\"" + word + "\" does not fit after \"" + line_.words[best_.reached - 1].text + "\"" +
-           Suggestion(word, wanted_);
+    std::string text =
+        "\"" + word + "\" does not fit after \"" + line_.words[best_.reached - 1].text + "\"";
+    if (same_problem_) text = best_.problem;
+    if (nearest_.size() <= kMostPatternsShown) text += "; it reads: " + Join(" or: ", nearest_);
+    return text + Suggestion(word, wanted_);
   }
 
  private:
@@ -64,12 +68,13 @@ class FormSearch {
       best_ = std::move(match);
       return;
     }
+    if (match.reached < best_.reached) return;
     if (match.reached > best_.reached) {
       nearest_.clear();
       wanted_.clear();
     }
-    if (match.reached < best_.reached) return;
-    nearest_.push_back(&form);
+    same_problem_ = nearest_.empty() || (same_problem_ && match.problem == best_.problem);
+    nearest_.push_back(form.pattern);
     wanted_.insert(wanted_.end(), match.wanted.begin(), match.wanted.end());
     best_ = std::move(match);
   }
@@ -85,7 +90,8 @@ class FormSearch {
   const ScriptLine& line_;
   const StatementForm* found_ = nullptr;
   PatternMatch best_;
-  std::vector<const StatementForm*> nearest_;  // those that went as far as the best one
+  std::vector<std::string> nearest_;  // patterns of the forms that went as far as the best one
+  bool same_problem_ = true;          // they all say the same
   std::vector<std::string> wanted_;
 };
 

@@ -165,7 +165,11 @@ std::filesystem::path ScriptRun::ConfigFile(const std::string& name) {
 }
 
 void ScriptRun::EnsureStarted() {
-  if (plugin_ == nullptr || !plugin_->started()) Start();
+  if (plugin_ != nullptr && plugin_->started()) return;
+  BeginMarks();
+  Start();
+  const std::vector<std::string> complaints = TakeComplaints();
+  if (!complaints.empty()) throw ScriptError("at its start: " + Join("; ", complaints));
 }
 
 void ScriptRun::Start() {
@@ -173,7 +177,9 @@ void ScriptRun::Start() {
     plugin_ = std::make_unique<Plugin>(Installed() / PathFromUtf8(plugin_name));
   }
   const int answer = plugin_->Start();
-  if (answer != 0) Fail(at, "the plug-in did not start, its answer was " + std::to_string(answer));
+  if (answer == 0) return;
+  throw ScriptError("the plug-in refused to start with " + WordOf(StatusWords(), answer) +
+                    (plugin_->refusal().empty() ? "" : " (" + plugin_->refusal() + ")"));
 }
 
 void ScriptRun::Stop(const Statement& at) {
@@ -185,10 +191,10 @@ void ScriptRun::Stop(const Statement& at) {
 }
 
 void ScriptRun::BeginMarks() {
-  marks = {host.messages.notes.size(),         host.windows.boxes.size(),
-           host.windows.shell.size(),          host.repaints.size(),
-           host.selection_environments.size(), host.breaches.size(),
-           host.not_modelled.size(),           host.file_problems.size()};
+  marks = {
+      host.messages.notes.size(), host.windows.boxes.size(),          host.windows.shell.size(),
+      host.repaints.size(),       host.selection_environments.size(), host.breaches.size(),
+      host.not_modelled.size(),   host.file_problems.size(),          host.messages.missing.size()};
   host.trace.Restart();
 }
 

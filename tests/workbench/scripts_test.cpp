@@ -1,0 +1,164 @@
+// Runs every script of tests/scripts and the demo's as a test of its own, and the scripts of the
+// manual through the parser. Further: what the runner itself must catch.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <set>
+
+#include "tests/workbench/test_paths.h"
+#include "workbench/model_file.h"
+#include "workbench/script_runner.h"
+#include "workbench/utf8_text.h"
+
+namespace wb {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kSource = QM_SOURCE_DIR;
+
+ScriptOptions Options() {
+  ScriptOptions options;
+  options.install = TestBinaryFolder() / "quillmax-5.1-C3";
+  return options;
+}
+
+std::vector<fs::path> Scripts() {
+  std::vector<fs::path> scripts;
+  for (const fs::path& folder : {kSource / "tests" / "scripts", kSource / "demo"}) {
+    for (const auto& item : fs::directory_iterator(folder)) {
+      if (item.path().extension() == ".qms") scripts.push_back(item.path());
+    }
+  }
+  return scripts;
+}
+
+std::string Failures(const RunRecord& record) {
+  std::string lines;
+  for (const RunFailure& failure : record.failures) {
+    lines += PathToUtf8(PathFromUtf8(failure.file).filename()) + ":" +
+             std::to_string(failure.line) + ": " + failure.text + "\n";
+  }
+  return lines;
+}
+
+class Script : public testing::TestWithParam<fs::path> {};
+
+TEST_P(Script, Passes) {
+  RunRecord record;
+  const ScriptOutcome outcome = RunScriptFile(GetParam(), Options(), record);
+  if (!outcome.skipped.empty()) GTEST_SKIP() << outcome.skipped;
+  EXPECT_EQ(Failures(record), "");
+  EXPECT_GT(outcome.passed, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, Script, testing::ValuesIn(Scripts()),
+                         [](const auto& info) { return PathToUtf8(info.param.stem()); });
+
+// Runs a script text and gives its failures.
+std::string FailuresOf(const std::string& text) {
+  const fs::path file = fs::temp_directory_path() / "scripts_test.qms";
+  std::ofstream(file, std::ios::binary | std::ios::trunc) << text;
+  RunRecord record;
+  RunScriptFile(file, Options(), record);
+  fs::remove(file);
+  return Failures(record);
+}
+
+constexpr const char* kPump = "part bolt\nassembly pump\ncomponent pump <- bolt\nopen pump\n";
+
+TEST(ScriptRunner, WhatNobodyAnswersFailsWithWhatWasAsked) {
+  const struct {
+    const char* statements;
+    const char* failure;
+  } cases[] = {
+      {"run QmQQGroup", "5: dialog QmQQGroup opened and nobody answers it; it has\n"},
+      {"run QmIsolate",
+       "5: message box that the script does not name: caption "
+       "\"\\t请先选择需要独立显示的模型\\t\"\n"},
+      {"run BoxSel", "5: a pick of part (at most -1) was asked for and nobody answers\n"},
+      {"run QmConfig with\ndialog QmConfig\npress SelA0Asm\nclose\nend\nend",
+       "8: a file was asked for by ProFileOpen"},
+      {"run QmQQGroup with\ndialog QmQQGroup\nend\nend",
+       "6: dialog QmQQGroup is still open after the last answer; it has\n"},
+      {"run ForTest with\npick cancel\nend", "6: \"pick cancel\" was not used"},
+      {"run QmQQGroup with\ndialog QmQQGroup\nclose\npress Close\nend\nend",
+       "8: \"press COMPONENT\" was not used"},
+      {"run QmQQGroup with\ndialog QmQQGroup\npick cancel\nclose\nend\nend",
+       "7: nothing asked for this answer"},
+      {"run QmIsolate with\nmessage plain other\nend",
+       "6: message box, expected plain \"other\", got caption \"\\t请先选择"},
+      {"run QmParams with\ndialog QmParams\npress Nothing\nset Add x\nclose\nend\nend",
+       "7: dialog QmParams has no component Nothing\nscripts_test.qms:8: PushButton Add"},
+      {"fault ProMdlNameGet 1 status general_error\nrun ForTest",
+       "6: the fault ordered for it did not strike"},
+      {"mode part\nrun QmIsolate", "6: QmIsolate is not available here"},
+      {"run Nothing", "5: the plug-in has registered no command Nothing"},
+      {"erase bolt.drw\nrun ForTest",
+       "5: there is no model \"bolt.drw\" in session; the script ends here"},
+      {"select pump/bolt", "5: pump.asm has no component \"pump\"; the script ends here"},
+      {"expect hidden bolt", "5: bolt, expected hidden, got shown"},
+      {"open nothing", "5: there is no model \"nothing\" in session or in "},
+  };
+  for (const auto& item : cases) {
+    const std::string failures = FailuresOf(std::string(kPump) + item.statements + "\n");
+    EXPECT_EQ(failures.find("scripts_test.qms:" + std::string(item.failure)), 0u)
+        << item.statements << "\n"
+        << failures;
+  }
+}
+
+TEST(ScriptRunner, NothingRunsOfAScriptWithErrors) {
+  EXPECT_EQ(FailuresOf("run QmIsolate\nopne bolt\n"),
+            "scripts_test.qms:2: unknown statement \"opne\"; did you mean \"open\"?\n");
+}
+
+TEST(ScriptRunner, EveryStatementCanBeCarriedOut) {
+  const std::set<std::string> answers = {
+      "dialog",      "message", "message_while", "pick",   "pick_item",
+      "pick_cancel", "file",    "file_cancel",   "prompt", "prompt_cancel"};
+  for (const StatementForm& form : StatementForms()) {
+    EXPECT_NE(FindScriptAction(form) != nullptr, answers.contains(form.id)) << form.id;
+  }
+}
+
+// The examples of the manual between lines of ```qms and ```.
+std::vector<std::string> Examples() {
+  std::vector<std::string> examples;
+  std::ifstream manual(kSource / "docs" / "workbench.md", std::ios::binary);
+  bool inside = false;
+  for (std::string line; std::getline(manual, line);) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (line == "```qms") {
+      examples.emplace_back();
+      inside = true;
+    } else if (line == "```") {
+      inside = false;
+    } else if (inside) {
+      examples.back() += line + "\n";
+    }
+  }
+  return examples;
+}
+
+void CollectForms(const std::vector<Statement>& statements, std::set<std::string>* forms) {
+  for (const Statement& statement : statements) {
+    forms->insert(statement.form->id);
+    CollectForms(statement.block, forms);
+  }
+}
+
+TEST(ScriptManual, ShowsEveryStatementInAnExampleThatReads) {
+  std::set<std::string> shown;
+  for (const std::string& example : Examples()) {
+    const ParsedScript script = ParseScript(example, "workbench.md");
+    for (const LineError& error : script.errors) ADD_FAILURE() << error.what() << "\n" << example;
+    CollectForms(script.statements, &shown);
+  }
+  for (const StatementForm& form : StatementForms()) {
+    EXPECT_TRUE(shown.contains(form.id)) << "no example of: " << form.pattern;
+  }
+}
+
+}  // namespace
+}  // namespace wb
