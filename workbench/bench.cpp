@@ -7,59 +7,10 @@
 #include "workbench/bench_heap.h"
 #include "workbench/bench_options.h"
 #include "workbench/bench_report.h"
-#include "workbench/model_file.h"
-#include "workbench/windows_headers.h"
+#include "workbench/install_copy.h"
 
 namespace wb {
 namespace {
-
-constexpr char kTree[] = "quillmax-5.1-C3";
-constexpr char kDll[] = "quillmax5.1C3.dll";
-constexpr char kFolderPrefix[] = "workbench bench ";
-
-std::filesystem::path PluginBesideWorkbench() {
-  wchar_t path[MAX_PATH] = {};
-  ::GetModuleFileNameW(nullptr, path, MAX_PATH - 1);
-  return std::filesystem::path(path).parent_path() / kTree / kDll;
-}
-
-// A copy of the installed plug-in for one run, so that its settings and its log stay as they are.
-// The library file itself outlives the run, since a started plug-in stays loaded; the next run
-// removes it.
-class Installation {
- public:
-  explicit Installation(const std::filesystem::path& dll) {
-    if (!std::filesystem::is_regular_file(dll)) {
-      throw BenchUsageError("there is no plug-in " + PathToUtf8(dll) +
-                            ": build it with tools/build.sh, or name one with --plugin");
-    }
-    RemoveLeftovers();
-    std::filesystem::create_directories(folder_);
-    std::filesystem::copy(dll.parent_path(), folder_ / kTree,
-                          std::filesystem::copy_options::recursive);
-    dll_ = folder_ / kTree / dll.filename();
-  }
-  ~Installation() { RemoveLeftovers(); }
-  Installation(const Installation&) = delete;
-  Installation& operator=(const Installation&) = delete;
-
-  const std::filesystem::path& folder() const { return folder_; }
-  const std::filesystem::path& dll() const { return dll_; }
-
- private:
-  // What is in use by another run cannot be removed and stays.
-  void RemoveLeftovers() const {
-    std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(folder_.parent_path(), error)) {
-      if (!PathToUtf8(entry.path().filename()).starts_with(kFolderPrefix)) continue;
-      std::filesystem::remove_all(entry.path(), error);
-    }
-  }
-
-  const std::filesystem::path folder_ = std::filesystem::temp_directory_path() /
-                                        (kFolderPrefix + std::to_string(::GetCurrentProcessId()));
-  std::filesystem::path dll_;
-};
 
 // A shape with a bound is measured at its bound and at half of it where a size goes beyond.
 std::vector<int> SizesFor(const BenchShape& shape, const std::vector<int>& sizes) {
@@ -75,13 +26,13 @@ std::vector<int> SizesFor(const BenchShape& shape, const std::vector<int>& sizes
   return fitting;
 }
 
-BenchResult MeasureAll(const BenchOptions& options, const Installation& installation) {
+BenchResult MeasureAll(const BenchOptions& options, const InstallCopy& copy) {
   BenchResult all;
   for (const BenchShape* shape : options.shapes) {
     for (const int size : SizesFor(*shape, options.sizes)) {
       std::fprintf(stderr, "%s, %d occurrences\n", shape->name, size);
-      BenchResult result = Measure({shape, size, options.runs, all.most_asked.empty()},
-                                   installation.dll(), installation.folder());
+      BenchResult result =
+          Measure({shape, size, options.runs, all.most_asked.empty()}, copy.dll(), copy.work());
       all.rows.insert(all.rows.end(), result.rows.begin(), result.rows.end());
       if (all.most_asked.empty()) all.most_asked = std::move(result.most_asked);
     }
@@ -106,28 +57,17 @@ int PrintReport(const BenchResult& result, bool markdown) {
   return missed;
 }
 
-int RunBench(const BenchOptions& options) {
-  const Installation installation(options.plugin.empty() ? PluginBesideWorkbench()
-                                                         : options.plugin);
-  const int missed = PrintReport(MeasureAll(options, installation), options.markdown);
-  return missed > 0 && options.strict ? 1 : 0;
-}
-
 }  // namespace
 
 int BenchCommand(const std::vector<std::string>& args) {
-  try {
-    const BenchOptions options = ParseBenchOptions(args);
-    if (!options.help) return RunBench(options);
+  if (std::ranges::find(args, "--help") != args.end()) {
     std::printf("%s", BenchUsage().c_str());
     return 0;
-  } catch (const BenchUsageError& error) {
-    std::fprintf(stderr, "workbench bench: %s\n", error.what());
-    return 2;
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "workbench bench: %s\n", error.what());
-    return 1;
   }
+  const BenchOptions options = ParseBenchOptions(args);
+  const InstallCopy copy(options.install, "bench");
+  const int missed = PrintReport(MeasureAll(options, copy), options.markdown);
+  return missed > 0 && options.strict ? 1 : 0;
 }
 
 }  // namespace wb

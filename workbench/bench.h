@@ -6,8 +6,9 @@
 
 namespace wb {
 
-// The command with its arguments (UTF-8, without "bench"). Gives the exit code: 0, 1 when a command
-// misbehaves or, with --strict, when a bound is missed, 2 for a wrong command line.
+// The subcommand with its arguments (UTF-8, without "bench"). Gives the exit code: 0, or 1 when a
+// bound is missed under --strict. Throws UsageError, and std::runtime_error when a command of the
+// plug-in misbehaves.
 int BenchCommand(const std::vector<std::string>& args);
 
 }  // namespace wb

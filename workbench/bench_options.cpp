@@ -4,13 +4,14 @@
 #include <algorithm>
 #include <charconv>
 
-#include "workbench/model_file.h"
+#include "workbench/command_line.h"
 #include "workbench/text.h"
 
 namespace wb {
 namespace {
 
 constexpr int kLargestSize = 10'000'000;
+constexpr char kDefaultSizes[] = "1000,10000,100000";
 
 std::vector<std::string> Pieces(const std::string& list) {
   std::vector<std::string> pieces;
@@ -27,8 +28,8 @@ int NumberIn(const std::string& text, int least, int most, const char* what) {
   const char* const end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, number);
   if (error == std::errc() && stop == end && number >= least && number <= most) return number;
-  throw BenchUsageError("\"" + text + "\" is no " + what + ": give a number from " +
-                        std::to_string(least) + " to " + std::to_string(most));
+  throw UsageError("\"" + text + "\" is no " + what + ": give a number from " +
+                   std::to_string(least) + " to " + std::to_string(most));
 }
 
 std::vector<int> SizesIn(const std::string& list) {
@@ -45,7 +46,7 @@ std::vector<int> SizesIn(const std::string& list) {
 std::string ShapeNames() {
   std::vector<std::string> names;
   for (const BenchShape& shape : BenchShapes()) names.push_back(shape.name);
-  return Join(", ", names);
+  return Join(",", names);
 }
 
 std::vector<const BenchShape*> ShapesIn(const std::string& list) {
@@ -53,45 +54,26 @@ std::vector<const BenchShape*> ShapesIn(const std::string& list) {
   for (const std::string& piece : Pieces(list)) {
     const BenchShape* const shape = FindBenchShape(piece);
     if (shape == nullptr) {
-      throw BenchUsageError("there is no shape \"" + piece + "\"; the shapes are " + ShapeNames());
+      throw UsageError("there is no shape \"" + piece + "\"; the shapes are " + ShapeNames());
     }
     shapes.push_back(shape);
   }
   return shapes;
 }
 
-void SetValue(BenchOptions& options, const std::string& option, const std::string& value) {
-  if (option == "--sizes") {
-    options.sizes = SizesIn(value);
-  } else if (option == "--shapes") {
-    options.shapes = ShapesIn(value);
-  } else if (option == "--runs") {
-    options.runs = NumberIn(value, 1, 1000, "number of runs");
-  } else if (option == "--plugin") {
-    options.plugin = PathFromUtf8(value);
-  } else {
-    throw BenchUsageError("there is no option " + option + "; see workbench bench --help");
-  }
-}
-
 }  // namespace
 
 BenchOptions ParseBenchOptions(const std::vector<std::string>& args) {
+  const CommandLine line(args, {"--markdown", "--strict"},
+                         {"--sizes", "--shapes", "--runs", "--install"});
+  if (!line.words().empty()) throw UsageError("bench takes options only; see bench --help");
   BenchOptions options;
-  for (const BenchShape& shape : BenchShapes()) options.shapes.push_back(&shape);
-  for (size_t i = 0; i < args.size(); ++i) {
-    if (args[i] == "--help") {
-      options.help = true;
-    } else if (args[i] == "--markdown") {
-      options.markdown = true;
-    } else if (args[i] == "--strict") {
-      options.strict = true;
-    } else {
-      const std::string& option = args[i++];
-      if (i == args.size()) throw BenchUsageError(option + " wants a value; see --help");
-      SetValue(options, option, args[i]);
-    }
-  }
+  options.markdown = line.Has("--markdown");
+  options.strict = line.Has("--strict");
+  options.sizes = SizesIn(line.Has("--sizes") ? line.Value("--sizes") : kDefaultSizes);
+  options.shapes = ShapesIn(line.Has("--shapes") ? line.Value("--shapes") : ShapeNames());
+  if (line.Has("--runs")) options.runs = NumberIn(line.Value("--runs"), 1, 1000, "number of runs");
+  options.install = InstallTree(line);
   return options;
 }
 
@@ -108,7 +90,7 @@ std::string BenchUsage() {
   }
   return text +
          "  --runs N          timed runs of each command (more for small assemblies)\n"
-         "  --plugin DLL      the plug-in (quillmax-5.1-C3 beside the workbench)\n"
+         "  --install DIR     the install tree (quillmax-5.1-C3 beside the workbench)\n"
          "  --markdown        tables for a document\n"
          "  --strict          end with code 1 when a bound is missed\n"
          "  --help            this text\n";
