@@ -9,6 +9,7 @@
 #include "display/hide_reverse.h"
 #include "display/isolate.h"
 #include "display/show_all.h"
+#include "export/qm_bom.h"
 #include "frame/information_commands.h"
 #include "frame/mdl_name_copy.h"
 #include "frame/not_in_build.h"
@@ -58,7 +59,7 @@ constexpr CommandRow kCommandTable[] = {
     {"QmExStp",               "QmExStp_Help",               "QmExStp.png",               &NotInBuild,     kAssemblyMode,       true},
     {"QmExIgs",               "QmExIgs_Help",               "QmExIgs.png",               &NotInBuild,     kAssemblyMode,       true},
     {"QmExSat",               "QmExSat_Help",               "QmExSat.png",               &NotInBuild,     kAssemblyMode,       true},
-    {"QmBom",                 "QmBom_Help",                 "QmBom.png",                 &NotInBuild,     kAssemblyMode,       true},
+    {"QmBom",                 "QmBom_Help",                 "QmBom.png",                 &QmBom,          kAssemblyMode,       true},
     {"QmRename",              "QmRename_Help",              "QmRename.png",              &NotInBuild,     kAssemblyMode,       true},
     {"QmRemoveCons",          "QmRemoveCons_Help",          "QmRemoveCons.png",          &NotInBuild,     kAssemblyMode,       true},
     {"QmExport",              "QmExport_Help",              "QmExport.png",              &NotInBuild,     kAlways,             true},

@@ -32,7 +32,6 @@ inline constexpr std::string_view kNotInBuild[] = {
     "QmExStp",
     "QmExIgs",
     "QmExSat",
-    "QmBom",
     "QmRename",
     "QmRemoveCons",
     "QmExport",

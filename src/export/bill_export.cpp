@@ -1,0 +1,73 @@
+// The way of the bill from its table to a workbook.
+#include "export/bill_export.h"
+
+#include <optional>
+
+#include "export/bill_table.h"
+#include "export/dispatch.h"
+#include "export/excel_writer.h"
+#include "export/workbook_file.h"
+#include "frame/message_box.h"
+#include "frame/run_log.h"
+#include "toolkit/model.h"
+#include "toolkit/status.h"
+
+namespace qm {
+namespace {
+
+constexpr wchar_t kNoName[] = L"\t无法读取当前模型的名称，操作已停止。\t";
+
+std::optional<std::wstring> CurrentModelName() {
+  ProMdl model = nullptr;
+  ProName name{};
+  if (!Ok(ProMdlCurrentGet(&model)) || model == nullptr || !Ok(ProMdlNameGet(model, name))) {
+    return std::nullopt;
+  }
+  name[PRO_NAME_SIZE - 1] = L'\0';
+  return name;
+}
+
+WorkbookCell ReadCell(const DialogTable& table, const std::string& row, const std::string& column) {
+  return {table.Label(row, column), table.Color(row, column) == kAssemblyColor};
+}
+
+// Nothing when the table cannot be read.
+std::optional<WorkbookTable> ReadTable(const DialogTable& table, std::wstring title) {
+  auto labels = table.ColumnLabels();
+  const auto columns = table.ColumnNames();
+  const auto rows = table.RowNames();
+  if (!labels || !columns || !rows || columns->empty() || labels->size() != columns->size()) {
+    return std::nullopt;
+  }
+  WorkbookTable result{std::move(title), std::move(*labels), {}};
+  result.rows.reserve(rows->size());
+  for (const std::string& row : *rows) {
+    std::vector<WorkbookCell>& cells = result.rows.emplace_back();
+    cells.reserve(columns->size());
+    for (const std::string& column : *columns) cells.push_back(ReadCell(table, row, column));
+  }
+  return result;
+}
+
+}  // namespace
+
+void ExportBill(DialogView dialog) {
+  const CommandLog log("QmExportBom");
+  const auto name = CurrentModelName();
+  if (!name) {
+    ShowMessage(kNoName);
+    return;
+  }
+  const ComScope com;
+  const auto path = ChooseWorkbookFile();
+  if (!path || !IsFreeToWrite(*path, OldFile::kDelete)) return;
+  const auto table = ReadTable(DialogTable(dialog, kBillTable), *name + L" BOM");
+  if (!table) {
+    ShowMessage(kUnreadableField);
+    return;
+  }
+  LogCount("rows", static_cast<long long>(table->rows.size()));
+  if (WriteWorkbook(*table, *path)) OpenWorkbookFile(*path);
+}
+
+}  // namespace qm

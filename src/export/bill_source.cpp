@@ -1,0 +1,91 @@
+// Reading of an assembly's structure and of its models' parameters.
+#include "export/bill_source.h"
+
+#include "export/parameter_text.h"
+#include "frame/component_list.h"
+#include "frame/handle_index.h"
+#include "frame/retrieve.h"
+#include "frame/run_log.h"
+
+namespace qm {
+namespace {
+
+// A model that cannot tell its name is left out of the bill, its components are not.
+std::wstring NameOf(ProMdl model) {
+  ProName name{};
+  const ProError status = ProMdlNameGet(model, name);
+  if (!Ok(status)) {
+    LogFailure(model, "ProMdlNameGet", status);
+    return {};
+  }
+  name[PRO_NAME_SIZE - 1] = L'\0';
+  return name;
+}
+
+class StructureReader {
+ public:
+  StructureReader(const ComponentList& components, BillStructure* structure)
+      : components_(components), structure_(*structure) {}
+
+  void Read(ProMdl assembly) {
+    // The top assembly's own name is not shown.
+    index_.Insert(assembly);
+    structure_.models.push_back({{}, PRO_MDL_ASSEMBLY, {}});
+    for (int i = 0; i < components_.size(); ++i) {
+      if (components_.model(i) == nullptr) continue;
+      const uint32_t component = NumberOf(i);
+      structure_.occurrences.push_back(component);
+      if (components_.repeated(i)) continue;
+      const auto [parent, is_new] = index_.Insert(components_.feature(i)->owner);
+      if (is_new) structure_.models.emplace_back();
+      structure_.models[parent].components.push_back(component);
+    }
+  }
+
+ private:
+  uint32_t NumberOf(int index) {
+    const ProMdl model = components_.model(index);
+    const auto [number, is_new] = index_.Insert(model);
+    if (is_new) structure_.models.push_back({NameOf(model), components_.type(index), {}});
+    return number;
+  }
+
+  const ComponentList& components_;
+  BillStructure& structure_;
+  HandleIndex index_;
+};
+
+// A host that does not tell gives a row too many rather than too few.
+bool IsSkeleton(ProMdl model) {
+  ProBoolean is_skeleton = PRO_B_FALSE;
+  const ProError status = ProMdlIsSkeleton(model, &is_skeleton);
+  if (!Ok(status)) LogFailure(model, "ProMdlIsSkeleton", status);
+  return Ok(status) && is_skeleton == PRO_B_TRUE;
+}
+
+}  // namespace
+
+ProError ReadBillStructure(ProMdl assembly, BillStructure* structure) {
+  ComponentList components;
+  const ProError status = CollectComponents(assembly, ComponentKind::kAll, &components);
+  if (!Ok(status)) return status;
+  *structure = {};
+  StructureReader(components, structure).Read(assembly);
+  return PRO_TK_NO_ERROR;
+}
+
+BillModelTexts::Model& BillModelTexts::At(uint32_t model) {
+  Model& known = models_[model];
+  if (!known.read) Read(structure_.models[model], &known);
+  return known;
+}
+
+void BillModelTexts::Read(const BillModel& source, Model* model) const {
+  model->read = true;
+  const ProMdl handle = RetrieveModel(source.name, static_cast<ProMdlType>(source.type));
+  model->listed = handle != nullptr && !IsSkeleton(handle);
+  if (!model->listed || parameters_.empty()) return;
+  model->texts = ParameterTexts(handle, parameters_);
+}
+
+}  // namespace qm

@@ -1,0 +1,59 @@
+// Start and end of the spreadsheet program.
+#include "export/excel_session.h"
+
+#include "export/excel_ids.h"
+#include "frame/message_box.h"
+#include "frame/run_log.h"
+#include "frame/shield.h"
+
+namespace qm {
+namespace {
+
+constexpr wchar_t kProgram[] = L"Excel.Application";
+
+// A step of the clean-up after a failure: another failure must not end the clean-up.
+template <typename Step>
+void Try(Step step) noexcept {
+  try {
+    step();
+  } catch (...) {
+    LogException("ending of the spreadsheet program");
+  }
+}
+
+}  // namespace
+
+std::optional<ExcelSession> ExcelSession::Start() {
+  Dispatch application = Dispatch::Create(kProgram);
+  if (!application) return std::nullopt;
+  return ExcelSession(std::move(application));
+}
+
+ExcelSession::~ExcelSession() {
+  if (!application_) return;
+  if (workbook_) Try([&] { workbook_.Put(excel::kSaved, Variant(true)); });
+  Try([&] { application_.Call(excel::kQuit); });
+}
+
+void ExcelSession::AddWorkbook() {
+  workbook_ = application_.Get(excel::kWorkbooks).CallForObject(excel::kAdd);
+}
+
+void ExcelSession::OpenWorkbook(const std::wstring& path) {
+  const Variant file(path);
+  workbook_ = application_.Get(excel::kWorkbooks).CallForObject(excel::kOpen, {&file});
+}
+
+void ExcelSession::Quit() {
+  application_.Call(excel::kQuit);
+  workbook_.reset();
+  application_.reset();
+}
+
+void ShowExcelFailure(const wchar_t* activity, const AutomationError& error) {
+  LogEvent(error.what());
+  ShowMessage(L"\t" + std::wstring(activity) + L"\t\n\t步骤：" + error.step() + L"\t\n\t原因：" +
+              error.Reason() + L"\t");
+}
+
+}  // namespace qm

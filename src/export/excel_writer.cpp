@@ -1,0 +1,161 @@
+// The sequence of calls that fills a worksheet and saves it.
+#include "export/excel_writer.h"
+
+#include "export/excel_ids.h"
+#include "export/excel_session.h"
+#include "export/sheet_rules.h"
+#include "frame/message_box.h"
+
+namespace qm {
+namespace {
+
+constexpr wchar_t kNoExcel[] = L"创建Excel失败";
+constexpr wchar_t kTooWide[] = L"bom表格列数不得大于26列";
+constexpr wchar_t kFailed[] = L"导出Excel失败，未生成文件。";
+
+constexpr size_t kTitleRow = 1;
+constexpr size_t kLabelRow = 2;
+constexpr size_t kFirstDataRow = 3;
+constexpr int kTitleSize = 16;
+
+class SheetWriter {
+ public:
+  SheetWriter(const Dispatch& sheet, const WorkbookTable& table) : sheet_(sheet), table_(table) {}
+
+  // In this order: the text format of the data cells precedes their values, or long digits would be
+  // numbers already, and the widths follow all values.
+  void Write() const {
+    WriteTitle();
+    for (size_t column = 0; column < table_.labels.size(); ++column) WriteLabel(column);
+    for (size_t row = 0; row < table_.rows.size(); ++row) {
+      for (size_t column = 0; column < table_.labels.size(); ++column) WriteCell(row, column);
+    }
+    sheet_.Get(excel::kColumns).Call(excel::kAutoFit);
+    sheet_.Get(excel::kRows).Call(excel::kAutoFit);
+  }
+
+ private:
+  Dispatch Range(const std::wstring& first, const std::wstring& last) const {
+    const Variant from(first);
+    const Variant to(last);
+    return sheet_.Get(excel::kRange, {&from, &to});
+  }
+  Dispatch Cell(size_t column, size_t row) const {
+    const std::wstring address = CellAddress(column, row);
+    return Range(address, address);
+  }
+  static void Centre(const Dispatch& range) {
+    range.Get(excel::kEntireColumn).Put(excel::kHorizontalAlignment, Variant(excel::kCentre));
+  }
+
+  // Title and labels have no text format, so a text that would be read as something else is marked.
+  void WriteTitle() const {
+    const std::wstring first = CellAddress(0, kTitleRow);
+    const std::wstring last = CellAddress(table_.labels.size() - 1, kTitleRow);
+    Range(first, last).Put(excel::kValue2, Variant(AsPlainText(table_.title)));
+    const Dispatch range = Range(first, last);
+    const Variant not_across(0);
+    range.Call(excel::kMerge, {&not_across});
+    range.Get(excel::kInterior).Put(excel::kColor, Variant(excel::kYellow));
+    Centre(range);
+    const Dispatch font = range.Get(excel::kFont);
+    font.Put(excel::kBold, Variant(true));
+    font.Put(excel::kSize, Variant(kTitleSize));
+  }
+
+  void WriteLabel(size_t column) const {
+    const Dispatch cell = Cell(column, kLabelRow);
+    cell.Put(excel::kValue2, Variant(AsPlainText(table_.labels[column])));
+    Centre(cell);
+    cell.Get(excel::kFont).Put(excel::kBold, Variant(true));
+  }
+
+  void WriteCell(size_t row, size_t column) const {
+    const WorkbookCell& source = table_.rows[row][column];
+    const Dispatch cell = Cell(column, row + kFirstDataRow);
+    cell.Put(excel::kNumberFormat, Variant(std::wstring(excel::kTextFormat)));
+    cell.Put(excel::kValue2, Variant(source.text));
+    if (!source.tinted) return;
+    cell.Get(excel::kInterior).Put(excel::kColorIndex, Variant(excel::kLightGreenIndex));
+  }
+
+  const Dispatch& sheet_;
+  const WorkbookTable& table_;
+};
+
+// What tells a file that is being written from the old one.
+struct FileState {
+  bool exists = false;
+  WIN32_FILE_ATTRIBUTE_DATA data = {};
+};
+FileState StateOf(const std::wstring& path) {
+  FileState state;
+  state.exists = ::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &state.data);
+  return state;
+}
+bool IsSame(const FileState& a, const FileState& b) {
+  return a.exists == b.exists && a.data.nFileSizeLow == b.data.nFileSizeLow &&
+         a.data.nFileSizeHigh == b.data.nFileSizeHigh &&
+         ::CompareFileTime(&a.data.ftLastWriteTime, &b.data.ftLastWriteTime) == 0;
+}
+
+// Deletes what was begun of the file, but never an old file that was not touched.
+class NewFile {
+ public:
+  explicit NewFile(const std::wstring& path) : path_(path), before_(StateOf(path)) {}
+  NewFile(const NewFile&) = delete;
+  NewFile& operator=(const NewFile&) = delete;
+  ~NewFile() {
+    if (!finished_ && !IsSame(before_, StateOf(path_))) ::DeleteFileW(path_.c_str());
+  }
+  void Finish() { finished_ = true; }
+
+ private:
+  const std::wstring& path_;
+  const FileState before_;
+  bool finished_ = false;
+};
+
+void Save(ExcelSession& excel, const std::wstring& path) {
+  excel.application().Put(excel::kVisible, Variant(false));
+  excel.application().Put(excel::kUserControl, Variant(false));
+  const Variant target(path);
+  excel.workbook().Call(excel::kSaveCopyAs, {&target});
+  // Quitting would ask about the workbook otherwise.
+  excel.workbook().Put(excel::kSaved, Variant(true));
+  excel.Quit();
+}
+
+enum class Outcome { kWritten, kNotStarted, kRefused };
+
+// Throws AutomationError. The program has ended when it returns, in whatever way.
+Outcome Write(const WorkbookTable& table, const std::wstring& path) {
+  // Outlives the program, which may hold the file until it has ended.
+  NewFile file(path);
+  std::optional<ExcelSession> excel = ExcelSession::Start();
+  if (!excel) return Outcome::kNotStarted;
+  excel->AddWorkbook();
+  const Variant first(1);
+  const Dispatch sheet = excel->workbook().Get(excel::kSheets).Get(excel::kItem, {&first});
+  if (table.labels.size() > kMaxColumns) return Outcome::kRefused;
+  SheetWriter(sheet, table).Write();
+  Save(*excel, path);
+  file.Finish();
+  return Outcome::kWritten;
+}
+
+}  // namespace
+
+bool WriteWorkbook(const WorkbookTable& table, const std::wstring& path) {
+  try {
+    const Outcome outcome = Write(table, path);
+    if (outcome == Outcome::kNotStarted) ShowShortWarning(kNoExcel);
+    if (outcome == Outcome::kRefused) ShowMessage(kTooWide);
+    return outcome == Outcome::kWritten;
+  } catch (const AutomationError& error) {
+    ShowExcelFailure(kFailed, error);
+    return false;
+  }
+}
+
+}  // namespace qm

@@ -1,0 +1,126 @@
+// QmBom: the dialog with the bill's table.
+#include "export/qm_bom.h"
+
+#include <algorithm>
+
+#include "export/bill_export.h"
+#include "export/bill_table.h"
+#include "frame/current_assembly.h"
+#include "frame/message_box.h"
+#include "frame/notepad.h"
+#include "frame/retrieve.h"
+#include "frame/run_log.h"
+#include "toolkit/status.h"
+
+namespace qm {
+namespace {
+
+constexpr wchar_t kAssembliesOnly[] = L"此功能仅组件/制造环境可用！";
+
+constexpr char kKindRadio[] = "BomRadio";
+constexpr char kDepthMenu[] = "LevelOption";
+constexpr char kSummaryButton[] = "SumBom";
+constexpr char kLevelsButton[] = "LevelBom";
+
+DialogTable TableOf(const DialogView& dialog) {
+  return DialogTable(dialog, kBillTable);
+}
+
+// Nothing when the host does not tell.
+std::optional<BillKind> ChosenKind(const DialogView& dialog) {
+  const auto button = dialog.TryRadioValue(kKindRadio);
+  if (button == kSummaryButton) return BillKind::kSummary;
+  if (button == kLevelsButton) return BillKind::kLevels;
+  return std::nullopt;
+}
+
+// Switches the columns to the chosen bill. The rows stay empty until the user loads them.
+void PrepareChosenBill(DialogView dialog) {
+  const auto kind = ChosenKind(dialog);
+  if (!kind) {
+    ShowMessage(kUnreadableField);
+    return;
+  }
+  dialog.EnableOption(kDepthMenu, *kind == BillKind::kLevels);
+  SetBillColumns(TableOf(dialog), *kind);
+}
+
+void LoadBill(DialogView dialog) {
+  const CommandLog log("QmLoadBom");
+  const auto assembly = CurrentAssembly();
+  if (!assembly) {
+    ShowShortMessage(kAssembliesOnly);
+    return;
+  }
+  const auto kind = ChosenKind(dialog);
+  int depth = 0;
+  if (kind == BillKind::kLevels) depth = DepthOf(dialog.OptionValue(kDepthMenu));
+  if (!kind || (kind == BillKind::kLevels && depth == 0)) {
+    ShowMessage(kUnreadableField);
+    return;
+  }
+  FillBill(TableOf(dialog), *assembly, *kind, depth);
+}
+
+void OpenSettings(DialogView) {
+  OpenInNotepad(kBillFile);
+}
+
+// The picture area stays empty.
+void DrawNothing(DialogView) {}
+
+// Shows the model of the row that was double-clicked. Only its colour tells the model's type.
+void ShowRowModel(DialogView dialog) {
+  dialog.KeepAboveActiveWindow();
+  const DialogTable table = TableOf(dialog);
+  const auto names = table.ColumnNames();
+  const auto labels = table.ColumnLabels();
+  const auto rows = table.SelectedRows();
+  if (!names || !labels || !rows || rows->empty()) return;
+  const auto column = static_cast<size_t>(std::ranges::find(*labels, kNameLabel) - labels->begin());
+  if (column >= std::min(labels->size(), names->size())) return;
+  const std::wstring name = table.Label(rows->front(), (*names)[column]);
+  if (name.empty()) return;
+  const bool is_assembly = table.Color(rows->front(), (*names)[column]) == kAssemblyColor;
+  const ProMdl model = RetrieveModel(name, is_assembly ? PRO_MDL_ASSEMBLY : PRO_MDL_PART);
+  if (model == nullptr) return;
+  const ProError status = ProMdlDisplay(model);
+  if (!Ok(status)) LogFailure(model, "ProMdlDisplay", status);
+}
+
+void Bind(const Dialog& dialog) {
+  dialog.BindButton<&OpenSettings>("QmOpenBomIni");
+  dialog.BindButton<&PrepareChosenBill>("QmUpdateBomIni");
+  dialog.BindButton<&LoadBill>("QmLoadBom");
+  dialog.BindButton<&ExportBill>("QmExportBom");
+  dialog.BindRadio<&PrepareChosenBill>(kKindRadio);
+  dialog.BindTable<&ShowRowModel>(kBillTable);
+  dialog.BindCloseButton();
+  dialog.BindClose();
+}
+
+}  // namespace
+
+ProError QmBom() {
+  ProMdl shown = nullptr;
+  if (!Ok(ProMdlCurrentGet(&shown))) shown = nullptr;
+  Dialog dialog("QmBom");
+  if (!dialog.Create()) return PRO_TK_GENERAL_ERROR;
+  Bind(dialog);
+  SetBillColumns(TableOf(dialog), BillKind::kSummary);
+  const auto assembly = CurrentAssembly();
+  if (!assembly) {
+    ShowShortMessage(kAssembliesOnly);
+    return PRO_TK_BAD_CONTEXT;
+  }
+  FillBill(TableOf(dialog), *assembly, BillKind::kSummary, 0);
+  if (ChosenKind(dialog) == BillKind::kSummary) dialog.EnableOption(kDepthMenu, false);
+  dialog.BindDrawingArea<&DrawNothing>("DrawingArea");
+  const bool activated = dialog.Activate();
+  dialog.Destroy();
+  // The user may have looked at models of the bill meanwhile.
+  if (shown != nullptr) ProMdlDisplay(shown);
+  return activated ? PRO_TK_NO_ERROR : PRO_TK_GENERAL_ERROR;
+}
+
+}  // namespace qm

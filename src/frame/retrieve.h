@@ -1,0 +1,14 @@
+// Retrieval of models by name.
+#pragma once
+
+#include <string_view>
+
+#include "toolkit/model.h"
+
+namespace qm {
+
+// The model in session, or loaded from the working directory. Null, after a line in the log, when
+// it cannot be had; a success without a model counts as that.
+ProMdl RetrieveModel(std::wstring_view name, ProMdlType type);
+
+}  // namespace qm
