@@ -17,6 +17,7 @@ Host* current_host = nullptr;
 Host::Host() : ui_thread(::GetCurrentThreadId()) {
   if (current_host != nullptr) throw std::logic_error("a process has one host at a time");
   current_host = this;
+  windows.make_object = &StartSpreadsheet;
   session.on_enter = [this](Model& model) {
     model.handle = handles.Give(HandleKind::kModel, &model);
   };

@@ -16,6 +16,7 @@
 #include "workbench/live_dialog.h"
 #include "workbench/message_area.h"
 #include "workbench/session.h"
+#include "workbench/spreadsheet_server.h"
 #include "workbench/trace.h"
 #include "workbench/user.h"
 #include "workbench/windows_calls.h"
@@ -44,6 +45,7 @@ struct Host {
   Dialogs dialogs;
   MessageArea messages;
   WindowsCalls windows;
+  SpreadsheetServer spreadsheet;
   User* user = nullptr;
 
   std::filesystem::path install_folder;                     // holds the DLL, text/ and QMconfig/

@@ -136,6 +136,7 @@ CommandRun RunCommand(const std::string& command) {
   const auto id = static_cast<uiCmdCmdId>(found->handle);
   EnterPlugin(command, [&] { run.status = action(id, nullptr, nullptr); });
   run.left_out = host.accounts.Describe(before);
+  ReportLeftPrograms(before);
   run.directory_after = host.session.working_directory();
   return run;
 }

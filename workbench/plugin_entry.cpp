@@ -92,6 +92,14 @@ void EnterPluginAndSettle(const std::string& what, const std::function<void()>& 
   for (const std::string& left : host.accounts.Describe(before)) {
     host.ReportBreach(what, "left out " + left);
   }
+  ReportLeftPrograms(before);
+}
+
+void ReportLeftPrograms(long before) {
+  Host& host = TheHost();
+  for (const std::string& left : host.spreadsheet.Settle(before)) {
+    host.ReportBreach("Excel", left);
+  }
 }
 
 void ReportCrashes() {

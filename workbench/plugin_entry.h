@@ -15,6 +15,10 @@ void EnterPlugin(const std::string& what, const std::function<void()>& call);
 // handed out meanwhile is a breach of `what`.
 void EnterPluginAndSettle(const std::string& what, const std::function<void()>& call);
 
+// Each program that the plug-in started after call number `before` and that still runs, and each
+// object of such a program that it still holds, is a breach.
+void ReportLeftPrograms(long before);
+
 // From now on a crash or abort of the process prints where it happened and ends with code 3:
 // "plug-in crashed in COMMAND at quillmax5.1C3.dll+0x1234, last host call NAME". Windows shows no
 // box.

@@ -140,6 +140,15 @@ BOOL WINAPI HookSHGetSpecialFolderPathW(HWND window, LPWSTR path, int number, BO
                          });
 }
 
+HRESULT WINAPI HookCLSIDFromProgID(LPCOLESTR program, LPCLSID class_id) {
+  return WindowsCrossing("CLSIDFromProgID", DescribeArgument(program), HRESULT{CO_E_CLASSSTRING},
+                         [&](const Call& call) {
+                           const std::string name = call.Text(program, PRO_PATH_SIZE, "program id");
+                           return HRESULT{SpreadsheetClass(call.host.spreadsheet, name,
+                                                           &call.Place(class_id, "class place"))};
+                         });
+}
+
 HRESULT WINAPI HookCoCreateInstance(REFCLSID class_id, LPUNKNOWN, DWORD, REFIID interface_id,
                                     LPVOID* object) {
   wchar_t text[40] = {};
@@ -247,6 +256,7 @@ std::span<const Hook> Hooks() {
       Row("KillTimer", &HookKillTimer),
       Row("SHGetFolderPathW", &HookSHGetFolderPathW),
       Row("SHGetSpecialFolderPathW", &HookSHGetSpecialFolderPathW),
+      Row("CLSIDFromProgID", &HookCLSIDFromProgID),
       Row("CoCreateInstance", &HookCoCreateInstance),
       Row("GetOpenFileNameW", &HookGetOpenFileNameW),
       Row("GetSaveFileNameW", &HookGetSaveFileNameW),

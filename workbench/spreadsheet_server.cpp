@@ -1,0 +1,113 @@
+// Orders, and the account of programs and objects.
+#include "workbench/spreadsheet_server.h"
+
+#include <algorithm>
+
+#include "workbench/call.h"
+#include "workbench/spreadsheet_objects.h"
+
+#include <objbase.h>
+
+namespace wb {
+namespace {
+
+// Published class of the program.
+constexpr CLSID kSpreadsheetClass = {
+    0x00024500, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
+
+bool ComIsReady() {
+  APTTYPE type;
+  APTTYPEQUALIFIER qualifier;
+  return ::CoGetApartmentType(&type, &qualifier) == S_OK;
+}
+
+}  // namespace
+
+SpreadsheetServer::~SpreadsheetServer() {
+  for (AutomationObject* const object : objects_) object->Disconnect();
+}
+
+void SpreadsheetServer::Order(SpreadsheetOrders orders) {
+  orders_ = std::move(orders);
+  calls_ = 0;
+  member_calls_ = 0;
+}
+
+SpreadsheetServer::Refusal SpreadsheetServer::Meet(const char* member,
+                                                   SpreadsheetProgram& program) {
+  ++calls_;
+  if (orders_.slow_ms > 0) ::Sleep(static_cast<DWORD>(orders_.slow_ms));
+  if (calls_ == orders_.die_at) {
+    program.died = true;
+    program.running = false;
+  }
+  if (program.died) return Refusal::kDead;
+  if (orders_.busy > 0) return --orders_.busy % 2 == 0 ? Refusal::kRejected : Refusal::kRetryLater;
+  const std::string_view plain = std::string_view(member).substr(kSpreadsheetPrefix.size());
+  if (!orders_.fail_member.empty() && orders_.fail_member != plain) return Refusal::kNone;
+  if (++member_calls_ != orders_.fail_at) return Refusal::kNone;
+  return orders_.fail_silently ? Refusal::kSilent : Refusal::kException;
+}
+
+std::shared_ptr<SpreadsheetProgram> SpreadsheetServer::StartProgram(long call) {
+  auto program = std::make_shared<SpreadsheetProgram>();
+  program->started_by = call;
+  programs_.push_back(program);
+  return program;
+}
+
+std::vector<std::string> SpreadsheetServer::Settle(long after) {
+  std::vector<std::string> left;
+  for (const auto& program : programs_) {
+    // A program that would not end although it was told to is not held against the plug-in.
+    const bool excused = program->quit_failed || (program->quit_rejected && orders_.busy > 0);
+    if (!program->running || program->started_by <= after) continue;
+    program->running = false;
+    if (!excused)
+      left.push_back("left running (started by call " + std::to_string(program->started_by) + ")");
+  }
+  std::vector<AutomationObject*> held;
+  for (AutomationObject* const object : objects_) {
+    if (!object->told && object->given_by > after) held.push_back(object);
+  }
+  std::sort(held.begin(), held.end(), [](const AutomationObject* a, const AutomationObject* b) {
+    return a->given_by < b->given_by;
+  });
+  for (AutomationObject* const object : held) {
+    object->told = true;
+    left.push_back("not released: " + object->Describe());
+  }
+  return left;
+}
+
+bool SpreadsheetServer::Gone() const {
+  return objects_.empty() && std::none_of(programs_.begin(), programs_.end(),
+                                          [](const auto& program) { return program->running; });
+}
+
+long SpreadsheetClass(const SpreadsheetServer& server, const std::string& program, void* class_id) {
+  const bool known = EqualFolded(program, kSpreadsheetProgram) && !server.orders().missing;
+  if (!known) return CO_E_CLASSSTRING;
+  *static_cast<CLSID*>(class_id) = kSpreadsheetClass;
+  return S_OK;
+}
+
+long StartSpreadsheet(const void* class_id, const void* interface_id, void** object) {
+  Host& host = TheHost();
+  const bool ours = ::IsEqualCLSID(*static_cast<const CLSID*>(class_id), kSpreadsheetClass);
+  if (!ours || host.spreadsheet.orders().missing) return REGDB_E_CLASSNOTREG;
+  if (!ComIsReady()) return CO_E_NOTINITIALIZED;
+  const long call = host.trace.calls();
+  const auto program = host.spreadsheet.StartProgram(call);
+  ObjectPlace place;
+  place.program = program;
+  auto* const application =
+      new AutomationObject(host.spreadsheet, ObjectKind::kApplication, std::move(place), call);
+  const HRESULT result =
+      application->QueryInterface(*static_cast<const IID*>(interface_id), object);
+  application->Release();
+  program->running = SUCCEEDED(result);
+  return result;
+}
+
+}  // namespace wb
