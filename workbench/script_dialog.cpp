@@ -152,15 +152,46 @@ void ExpectLabel(ScriptRun& run, const Statement& statement) {
                 ComponentAt(run, statement).label);
 }
 
+void NoSuchCell(ScriptRun& run, const Statement& statement) {
+  run.Fail(statement, "there is no cell in row " + statement.Text("ROW") + ", column " +
+                          statement.Text("COLUMN"));
+}
+
 void ExpectCell(ScriptRun& run, const Statement& statement) {
   const std::string& row = statement.Text("ROW");
   const std::string& column = statement.Text("COLUMN");
   std::string label;
   if (StateOf<TableModel>(run, statement).GetLabel(row, column, &label) != UiStatus::kOk) {
-    run.Fail(statement, "there is no cell in row " + row + ", column " + column);
+    NoSuchCell(run, statement);
     return;
   }
   run.CheckText(statement, "cell " + row + " " + column, statement.Text("TEXT"), label);
+}
+
+void ExpectColumns(ScriptRun& run, const Statement& statement) {
+  CheckNames(run, statement, "columns", statement.Texts("COLUMN"),
+             StateOf<TableModel>(run, statement).ColumnNames());
+}
+
+void ExpectLabels(ScriptRun& run, const Statement& statement) {
+  CheckNames(run, statement, "column labels", statement.Texts("TEXT"),
+             StateOf<TableModel>(run, statement).ColumnLabels());
+}
+
+void ExpectColour(ScriptRun& run, const Statement& statement) {
+  const std::string& row = statement.Text("ROW");
+  const std::string& column = statement.Text("COLUMN");
+  const int wanted = statement.Has("none") ? kNoCellColor : statement.Number("N");
+  int colour = kNoCellColor;
+  if (StateOf<TableModel>(run, statement).GetBackground(row, column, &colour) != UiStatus::kOk) {
+    NoSuchCell(run, statement);
+    return;
+  }
+  const auto shown = [](int number) {
+    return number == kNoCellColor ? std::string("none") : std::to_string(number);
+  };
+  run.Check(statement, colour == wanted, "colour of cell " + row + " " + column, shown(wanted),
+            shown(colour));
 }
 
 constexpr ScriptHandler kDeeds[] = {
@@ -176,6 +207,8 @@ constexpr ScriptHandler kExpectations[] = {
     {"expect_enabled", &ExpectEnabled},    {"expect_visible", &ExpectVisible},
     {"expect_label", &ExpectLabel},        {"expect_cell", &ExpectCell},
     {"expect_rows_none", &ExpectRows},     {"expect_rows", &ExpectRows},
+    {"expect_columns", &ExpectColumns},    {"expect_labels", &ExpectLabels},
+    {"expect_colour_none", &ExpectColour}, {"expect_colour", &ExpectColour},
 };
 
 }  // namespace

@@ -21,15 +21,6 @@ void ExpectCalls(ScriptRun& run, const Statement& statement) {
             (at_most ? "at most " : "") + std::to_string(wanted), std::to_string(got));
 }
 
-// Lines are written when a call ends; an order is one of beginnings.
-std::vector<Crossed> LinesInOrder(const ScriptRun& run) {
-  if (!run.host.trace.keep_lines) throw ScriptError("the trace is off");
-  std::vector<Crossed> lines = run.host.trace.lines();
-  std::sort(lines.begin(), lines.end(),
-            [](const Crossed& a, const Crossed& b) { return a.call < b.call; });
-  return lines;
-}
-
 void ExpectCall(ScriptRun& run, const Statement& statement) {
   std::vector<std::string> arguments;
   for (const Crossed& line : LinesInOrder(run)) {
@@ -100,6 +91,14 @@ constexpr ScriptHandler kHandlers[] = {
 };
 
 }  // namespace
+
+std::vector<Crossed> LinesInOrder(const ScriptRun& run) {
+  if (!run.host.trace.keep_lines) throw ScriptError("the trace is off");
+  std::vector<Crossed> lines = run.host.trace.lines();
+  std::sort(lines.begin(), lines.end(),
+            [](const Crossed& a, const Crossed& b) { return a.call < b.call; });
+  return lines;
+}
 
 ScriptHandlers CallExpectations() {
   return kHandlers;

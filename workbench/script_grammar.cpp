@@ -78,6 +78,14 @@ constexpr StatementForm kForms[] = {
     {"withhold",          "withhold FUNCTION...", kT},
     {"trace",             "trace STATE:on|off", kT},
 
+    // How the spreadsheet program behaves from now on.
+    {"excel_ready",       "excel ready", kT},
+    {"excel_missing",     "excel missing", kT},
+    {"excel_busy",        "excel busy N", kT},
+    {"excel_slow",        "excel slow N", kT},
+    {"excel_fail",        "excel fail call NTH {[of MEMBER] [silently]}", kT},
+    {"excel_dies",        "excel dies at NTH", kT},
+
     // The user's answers.
     {"dialog",            "dialog NAME", kA | kD, kD},
     {"message_while",     "message KIND:caption|plain TEXT [answer BUTTON:ok|cancel|yes|no] while", kA | kD, kD},
@@ -114,6 +122,10 @@ constexpr StatementForm kForms[] = {
     {"expect_cell",       "expect cell COMPONENT ROW COLUMN TEXT", kD},
     {"expect_rows_none",  "expect rows COMPONENT none", kD},
     {"expect_rows",       "expect rows COMPONENT ROW...", kD},
+    {"expect_columns",    "expect columns COMPONENT COLUMN...", kD},
+    {"expect_labels",     "expect labels COMPONENT TEXT...", kD},
+    {"expect_colour_none","expect colour COMPONENT ROW COLUMN none", kD},
+    {"expect_colour",     "expect colour COMPONENT ROW COLUMN N", kD},
 
     // What the last action showed and asked of Windows.
     {"expect_note",       "expect note TEXT", kT | kD},
@@ -167,6 +179,24 @@ constexpr StatementForm kForms[] = {
     {"expect_environment",   "expect selection_environment TEXT", kT | kD},
     {"expect_status",        "expect status STATUS", kT},
     {"expect_faults",        "expect faults N", kT},
+
+    // The spreadsheet program, and the first sheets of workbooks.
+    {"expect_excel_calls",       "expect excel calls N", kT | kD},
+    {"expect_excel_order",       "expect excel order MEMBER...", kT | kD},
+    {"expect_excel_gone",        "expect excel gone", kT | kD},
+    {"expect_sheet_number",      "expect workbook PATH cell CELL is number NUMBER", kT | kD},
+    {"expect_sheet_empty",       "expect workbook PATH cell CELL is empty", kT | kD},
+    {"expect_sheet_cell",        "expect workbook PATH cell CELL is TEXT", kT | kD},
+    {"expect_sheet_format",      "expect workbook PATH cell CELL format TEXT", kT | kD},
+    {"expect_sheet_size",        "expect workbook PATH cell CELL size NUMBER", kT | kD},
+    {"expect_sheet_fill_none",   "expect workbook PATH cell CELL fill none", kT | kD},
+    {"expect_sheet_fill_rgb",    "expect workbook PATH cell CELL fill rgb COLOR", kT | kD},
+    {"expect_sheet_fill_index",  "expect workbook PATH cell CELL fill index N", kT | kD},
+    {"expect_sheet_style",       "expect workbook PATH cell CELL STATE:bold|not_bold|centred|not_centred", kT | kD},
+    {"expect_sheet_merged_none", "expect workbook PATH merged none", kT | kD},
+    {"expect_sheet_merged",      "expect workbook PATH merged AREA...", kT | kD},
+    {"expect_sheet_used",        "expect workbook PATH used AREA", kT | kD},
+    {"expect_sheet_row",         "expect workbook PATH row NTH is TEXT...", kT | kD},
 
     // What the plug-in has registered.
     {"expect_access",        "expect access COMMAND is STATE:available|unavailable", kT},

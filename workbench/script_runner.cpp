@@ -31,9 +31,10 @@ void TakeNew(const List& list, size_t* mark, std::vector<std::string>* complaint
 }
 
 std::vector<ScriptHandlers> AllHandlers() {
-  return {FolderStatements(), ModelStatements(),    StateStatements(),     LifeStatements(),
-          DialogStatements(), DialogExpectations(), ActionExpectations(),  ModelExpectations(),
-          FileExpectations(), CallExpectations(),   RegistryExpectations()};
+  return {FolderStatements(),   ModelStatements(),      StateStatements(),
+          LifeStatements(),     DialogStatements(),     DialogExpectations(),
+          ActionExpectations(), ModelExpectations(),    FileExpectations(),
+          CallExpectations(),   RegistryExpectations(), SpreadsheetStatements()};
 }
 
 }  // namespace

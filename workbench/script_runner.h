@@ -153,6 +153,11 @@ ScriptHandlers ModelExpectations();
 ScriptHandlers FileExpectations();
 ScriptHandlers CallExpectations();
 ScriptHandlers RegistryExpectations();
+ScriptHandlers SpreadsheetStatements();
+
+// Calls of the last action in the order of their beginnings; a call's line is written when it ends.
+// Throws ScriptError while the trace is off.
+std::vector<Crossed> LinesInOrder(const ScriptRun& run);
 
 // Null for answers, which are taken when the plug-in asks.
 ScriptAction FindScriptAction(const StatementForm& form);
