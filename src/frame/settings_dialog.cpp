@@ -64,14 +64,19 @@ std::wstring Section(const char* component) {
   return FromAnsi(component);
 }
 
-// Fields that the host does not tell keep their stored value.
+// A group without a selection, or one that the host does not tell, keeps its stored value; a new
+// file gets its section all the same.
+void SaveOption(DialogView dialog, const char* option, const std::wstring& path) {
+  const std::wstring section = Section(option);
+  const auto button = dialog.TryRadioValue(option);
+  WriteSetting(section.c_str(), kValueKey,
+               button ? FromAnsi(*button) : ReadSetting(section.c_str(), kValueKey, path), path);
+}
+
+// Paths that the host does not tell keep their stored value.
 void Save(DialogView dialog) {
   const std::wstring path = ConfigPath(kConfigFile);
-  for (const char* const option : kOptionsAsSaved) {
-    if (const auto button = dialog.TryRadioValue(option)) {
-      WriteSetting(Section(option).c_str(), kValueKey, FromAnsi(*button), path);
-    }
-  }
+  for (const char* const option : kOptionsAsSaved) SaveOption(dialog, option, path);
   for (const TemplateRow& row : kTemplates) {
     if (const auto text = dialog.TryInputValue(row.panel)) {
       WriteSetting(Section(row.panel).c_str(), kPathKey, *text, path);
