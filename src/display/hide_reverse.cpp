@@ -15,14 +15,15 @@ namespace {
 constexpr wchar_t kNoComponentsHere[] = L"当前模型中没有合适的子零/ 组件";
 
 void ReversePart(ProFeature* part) {
-  ProBoolean hidden = PRO_B_FALSE;
+  // Neither, should the host answer success without a state.
+  ProBoolean hidden = static_cast<ProBoolean>(-1);
   const ProError status = ProModelitemIsHidden(part, &hidden);
-  if (!Ok(status)) {
-    LogFailure(part->owner, "ProModelitemIsHidden", status);
-  } else if (hidden == PRO_B_TRUE) {
+  if (Ok(status) && hidden == PRO_B_TRUE) {
     ShowComponent(part);
-  } else {
+  } else if (Ok(status) && hidden == PRO_B_FALSE) {
     HideComponent(part);
+  } else {
+    LogFailure(part->owner, "ProModelitemIsHidden", status);
   }
 }
 

@@ -49,6 +49,8 @@ ProError QmMdlNameCopy() {
   ProName name = {};
   const ProError status = ProMdlNameGet(model, name);
   if (!Ok(status)) return status;
+  // An empty name would only empty the clipboard.
+  if (name[0] == L'\0') return PRO_TK_E_NOT_FOUND;
   name[PRO_NAME_SIZE - 1] = L'\0';
   if (CopyToClipboard(name)) DisplayNote("The model name has been copied");
   return PRO_TK_NO_ERROR;

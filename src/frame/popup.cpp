@@ -85,7 +85,8 @@ int RunOpenDrawing(uiCmdCmdId, uiCmdValue*, void*) noexcept {
 std::wstring MenuText(const char* key) {
   std::wstring menu_file = kMenuFile;
   ProLine line = {};
-  if (!Ok(ProMessageToBuffer(line, menu_file.data(), key))) return FromAnsi(key);
+  const ProError status = ProMessageToBuffer(line, menu_file.data(), key);
+  if (!Ok(status) || line[0] == L'\0') return FromAnsi(key);
   line[PRO_LINE_SIZE - 1] = L'\0';
   return line;
 }

@@ -52,7 +52,7 @@ std::optional<std::string> Encoded(const wchar_t* folder) {
 
 void SaveWorkingDirectory() {
   ProPath folder = {};
-  if (!Ok(ProDirectoryCurrentGet(folder))) return;
+  if (!Ok(ProDirectoryCurrentGet(folder)) || folder[0] == L'\0') return;
   folder[PRO_PATH_SIZE - 1] = L'\0';
   const std::optional<std::string> line = Encoded(folder);
   if (!line) {

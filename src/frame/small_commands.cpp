@@ -40,6 +40,7 @@ ProError ShowInWindow(ProMdl drawing, ProName name) {
   int window = -1;
   ProError status = ProObjectwindowCreate(name, PRO_DRAWING, &window);
   if (!Ok(status)) return status;
+  if (window < 0) return PRO_TK_GENERAL_ERROR;
   status = ProMdlDisplay(drawing);
   if (!Ok(status)) return status;
   return ProWindowActivate(window);
@@ -51,6 +52,7 @@ ProError QmOpenDir() {
   ProPath folder = {};
   const ProError status = ProDirectoryCurrentGet(folder);
   if (!Ok(status)) return status;
+  if (folder[0] == L'\0') return PRO_TK_INVALID_DIR;
   folder[PRO_PATH_SIZE - 1] = L'\0';
   ::ShellExecuteW(nullptr, nullptr, L"explorer", folder, nullptr, SW_SHOW);
   return PRO_TK_NO_ERROR;
