@@ -13,7 +13,7 @@ constexpr ProUIColorType kNoColor = -1;
 template <typename List>
 using TextOf = std::conditional_t<std::is_same_v<List, NameList>, std::string, std::wstring>;
 
-// What a list-giving function of the host answers. Some hosts say "not found" of an empty table.
+// What a list-giving function of the host answers. "Not found" counts as an empty table.
 template <typename List, typename Function>
 std::optional<std::vector<TextOf<List>>> Gathered(Function& function, const char* dialog,
                                                   const std::string& component) {
