@@ -43,8 +43,8 @@ void SaveParamSettings(const DialogView& dialog) {
     const auto value = dialog.TryInputValue(input.component);
     if (value) WriteSetting(input.section, kContentKey, *value, path);
   }
-  const std::wstring decimals = dialog.OptionValue(kDecimals);
-  if (!decimals.empty()) WriteSetting(kDecimalsSection, kContentKey, decimals, path);
+  const auto decimals = dialog.TryOptionValue(kDecimals);
+  if (decimals) WriteSetting(kDecimalsSection, kContentKey, *decimals, path);
   const auto order = dialog.CheckState(kOrder);
   if (order) WriteSetting(kOrderSection, kContentKey, *order ? L"1" : L"0", path);
 }
