@@ -38,16 +38,15 @@ ProParamvalue HostValue(const ParamValue& value) {
   return host;
 }
 
-void WriteTextParameter(ProModelitem item, std::wstring_view name, std::wstring_view text) {
-  HostName host_name(name);
+void WriteTextParameter(ProModelitem item, HostName& name, std::wstring_view text) {
   ProParamvalue value = HostValue(std::wstring(text));
   ProParameter parameter{};
-  if (Ok(FindParameter(&item, host_name, &parameter))) {
+  if (Ok(FindParameter(&item, name, &parameter))) {
     const ProError status = ProParameterValueSet(&parameter, &value);
     if (!Ok(status)) LogFailure(item.owner, "ProParameterValueSet", status);
     return;
   }
-  const ProError status = ProParameterCreate(&item, host_name.name, &value, &parameter);
+  const ProError status = ProParameterCreate(&item, name.name, &value, &parameter);
   if (!Ok(status)) LogFailure(item.owner, "ProParameterCreate", status);
 }
 

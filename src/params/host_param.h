@@ -15,6 +15,6 @@ ProParamvalue HostValue(const ParamValue& value);
 
 // Creates the string parameter on `item`, or sets it when it is there. A failure is passed over and
 // logged.
-void WriteTextParameter(ProModelitem item, std::wstring_view name, std::wstring_view text);
+void WriteTextParameter(ProModelitem item, HostName& name, std::wstring_view text);
 
 }  // namespace qm

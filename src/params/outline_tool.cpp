@@ -49,8 +49,7 @@ OutlineBox Measure(ProMdl model) {
 }
 
 // False when the model is left alone.
-bool WriteOutline(const ParamTarget& target, const std::wstring& name,
-                  const OutlineFormat& format) {
+bool WriteOutline(const ParamTarget& target, HostName& name, const OutlineFormat& format) {
   const OutlineBox box = Measure(target.model);
   if (box.empty()) return false;
   const auto text = OutlineText(box.Sizes(), format.decimals, format.descending);
@@ -71,12 +70,12 @@ void WriteOutlines(DialogView dialog) {
     ShowMessage(kNoAssembly);
     return;
   }
-  const auto name = ReadParamName(dialog, "outlinePname");
-  if (!name) return;
   const OutlineFormat format{OutlineDecimals(dialog.OptionValue("QmOutlineNum")),
                              dialog.CheckState("QmOutlineOrder").value_or(false)};
-  ForEachTarget("QmOutline", dialog, kToolTargets, top,
-                [&](const ParamTarget& target) { return WriteOutline(target, *name, format); });
+  ForEachTarget("QmOutline", dialog, kOutlineFields, top,
+                [&](const ParamTarget& target, HostName& name) {
+                  return WriteOutline(target, name, format);
+                });
 }
 
 }  // namespace qm

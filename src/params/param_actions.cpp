@@ -69,13 +69,12 @@ void Run(const DialogView& dialog, const ParamAction& action) {
   // First, so that the user's fields survive even when the action then stops.
   SaveParamSettings(dialog);
   const auto top = CurrentModelOrAssembly();
-  const auto name = ReadParamName(dialog, "ParaName");
-  if (!name) return;
   auto value = ReadValue(dialog, action);
   if (!value) return;
-  HostName host_name(*name);
-  ForEachTarget(action.log_name, dialog, kParameterTargets, top,
-                [&](const ParamTarget& target) { return action.apply(target, host_name, *value); });
+  ForEachTarget(action.log_name, dialog, kParameterFields, top,
+                [&](const ParamTarget& target, HostName& name) {
+                  return action.apply(target, name, *value);
+                });
 }
 
 }  // namespace

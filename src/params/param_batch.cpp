@@ -16,7 +16,7 @@ namespace {
 constexpr wchar_t kNoComponents[] = L"当前模型中没有合适的子零件/组件";
 
 // False, after the message, when there is nothing to work on. A top model alone is not enough.
-bool FindTargets(const DialogView& dialog, const TargetFields& fields,
+bool FindTargets(const DialogView& dialog, const BatchFields& fields,
                  const std::optional<CurrentModel>& top, TargetList* targets) {
   const std::string class_name = dialog.RadioValue(fields.class_radio);
   if (top && !Ok(CollectTargets(*top, class_name, targets))) {
@@ -45,10 +45,13 @@ std::optional<ParamTarget> ReadTarget(ProMdl model, const KeywordFilter& keyword
   return std::nullopt;
 }
 
-void LogBatch(const char* action, const TargetList& targets, size_t applied) {
-  LogEvent(std::string(action) + ": " + std::to_string(targets.component_count) + " components, " +
-           std::to_string(targets.models.size()) + " models, " + std::to_string(applied) +
-           " worked on");
+// Nothing, after a message, when the text cannot be a parameter's name.
+std::optional<HostName> ReadParamName(const DialogView& dialog, const char* component) {
+  const auto name = dialog.TryInputValue(component);
+  const wchar_t* const refusal = name ? ParamNameRefusal(*name) : kUnreadableField;
+  if (refusal == nullptr) return HostName(*name);
+  ShowShortMessage(refusal);
+  return std::nullopt;
 }
 
 void RefreshModelTree() {
@@ -58,31 +61,29 @@ void RefreshModelTree() {
 
 }  // namespace
 
-std::optional<std::wstring> ReadParamName(const DialogView& dialog, const char* component) {
-  auto name = dialog.TryInputValue(component);
-  const wchar_t* const refusal = name ? ParamNameRefusal(*name) : kUnreadableField;
-  if (refusal == nullptr) return name;
-  ShowShortMessage(refusal);
-  return std::nullopt;
-}
-
-void ForEachTarget(const char* action, const DialogView& dialog, const TargetFields& fields,
+void ForEachTarget(const char* action, const DialogView& dialog, const BatchFields& fields,
                    const std::optional<CurrentModel>& top,
-                   const std::function<bool(const ParamTarget&)>& apply) {
+                   const std::function<bool(const ParamTarget&, HostName&)>& apply) {
+  CommandLog log(action);
   TargetList targets;
   if (!FindTargets(dialog, fields, top, &targets)) return;
+  // After the search: a name is of no account where there is nothing to name it in.
+  auto name = ReadParamName(dialog, fields.name_input);
+  if (!name) return;
   const auto keyword_list = dialog.TryInputValue(fields.keywords_input);
   if (!keyword_list) {
     ShowShortMessage(kUnreadableField);
     return;
   }
   const KeywordFilter keywords(*keyword_list);
-  size_t applied = 0;
+  long long applied = 0;
   for (const ProMdl model : targets.models) {
     const auto target = ReadTarget(model, keywords);
-    if (target && apply(*target)) ++applied;
+    if (target && apply(*target, *name)) ++applied;
   }
-  LogBatch(action, targets, applied);
+  LogCount("components", targets.component_count);
+  LogCount("models", static_cast<long long>(targets.models.size()));
+  LogCount("worked on", applied);
   RefreshModelTree();
 }
 

@@ -7,17 +7,20 @@
 
 #include "frame/current_assembly.h"
 #include "frame/dialog.h"
+#include "frame/parameter_lookup.h"
 #include "toolkit/types.h"
 
 namespace qm {
 
-// The dialog's fields that choose the targets.
-struct TargetFields {
+// The dialog's fields that choose the targets and the parameter.
+struct BatchFields {
   const char* class_radio;
   const char* keywords_input;
+  const char* name_input;
 };
-inline constexpr TargetFields kParameterTargets = {"TypeRadio", "InputKeyWords"};
-inline constexpr TargetFields kToolTargets = {"TypeRadio2", "InputKeyWords2"};
+inline constexpr BatchFields kParameterFields = {"TypeRadio", "InputKeyWords", "ParaName"};
+inline constexpr BatchFields kOutlineFields = {"TypeRadio2", "InputKeyWords2", "outlinePname"};
+inline constexpr BatchFields kSheetSizeFields = {"TypeRadio2", "InputKeyWords2", "shSizePname"};
 
 // One model to work on.
 struct ParamTarget {
@@ -26,14 +29,12 @@ struct ParamTarget {
   ProModelitem item;  // the model as owner of parameters
 };
 
-// The parameter name in an input panel; nothing, after a message, when it cannot be one.
-std::optional<std::wstring> ReadParamName(const DialogView& dialog, const char* component);
-
-// Calls `apply` for each target under `top` whose name begins with no exclusion keyword, then
-// refreshes the model tree. Shows a message and calls nothing when no component is found. `apply`
-// answers whether it found something to do; the run log counts that under `action`.
-void ForEachTarget(const char* action, const DialogView& dialog, const TargetFields& fields,
+// Calls `apply` with the parameter's name for each target under `top` whose own name begins with no
+// exclusion keyword, then refreshes the model tree. Shows a message and calls nothing when no
+// component is found or the typed name cannot be a parameter's, in this order. `apply` answers
+// whether it found something to do; the run log counts that under `action`.
+void ForEachTarget(const char* action, const DialogView& dialog, const BatchFields& fields,
                    const std::optional<CurrentModel>& top,
-                   const std::function<bool(const ParamTarget&)>& apply);
+                   const std::function<bool(const ParamTarget&, HostName&)>& apply);
 
 }  // namespace qm

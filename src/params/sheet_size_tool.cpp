@@ -34,18 +34,19 @@ std::wstring SheetSize(const ParamTarget& target) {
   return size;
 }
 
+// False when the model is left alone.
+bool WriteSheetSize(const ParamTarget& target, HostName& name) {
+  const std::wstring size = SheetSize(target);
+  if (!size.empty()) WriteTextParameter(target.item, name, size);
+  return !size.empty();
+}
+
 }  // namespace
 
 void WriteSheetSizes(DialogView dialog) {
   SaveParamSettings(dialog);
   const auto top = CurrentModelOrAssembly();
-  const auto name = ReadParamName(dialog, "shSizePname");
-  if (!name) return;
-  ForEachTarget("QmSheetSize", dialog, kToolTargets, top, [&](const ParamTarget& target) {
-    const std::wstring size = SheetSize(target);
-    if (!size.empty()) WriteTextParameter(target.item, *name, size);
-    return !size.empty();
-  });
+  ForEachTarget("QmSheetSize", dialog, kSheetSizeFields, top, &WriteSheetSize);
 }
 
 }  // namespace qm
