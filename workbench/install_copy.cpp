@@ -1,6 +1,8 @@
 // Copies the install tree and cleans up behind it.
 #include "workbench/install_copy.h"
 
+#include <cstdlib>
+
 #include "workbench/model_file.h"
 #include "workbench/windows_headers.h"
 
@@ -26,11 +28,26 @@ fs::path InstallCopy::dll() const {
   return tree_ / "quillmax5.1C3.dll";
 }
 
-// What another running process has loaded cannot be removed and stays.
+namespace {
+
+// Whether a process other than this one still works in the folder, by the number at its name's end.
+bool IsInUse(const std::string& name, size_t prefix_length) {
+  const auto process = static_cast<DWORD>(std::strtoul(name.c_str() + prefix_length, nullptr, 10));
+  if (process == ::GetCurrentProcessId()) return false;
+  const HANDLE handle = ::OpenProcess(SYNCHRONIZE, FALSE, process);
+  if (handle == nullptr) return false;
+  const bool runs = ::WaitForSingleObject(handle, 0) == WAIT_TIMEOUT;
+  ::CloseHandle(handle);
+  return runs;
+}
+
+}  // namespace
+
 void InstallCopy::RemoveLeftovers() const {
   std::error_code error;
   for (const auto& entry : fs::directory_iterator(top_.parent_path(), error)) {
-    if (!PathToUtf8(entry.path().filename()).starts_with(prefix_)) continue;
+    const std::string name = PathToUtf8(entry.path().filename());
+    if (!name.starts_with(prefix_) || IsInUse(name, prefix_.size())) continue;
     fs::remove_all(entry.path(), error);
   }
 }

@@ -66,7 +66,7 @@ ScriptRun::ScriptRun(const std::string& script, const ScriptOptions& run_options
       folders(run_options.out, script),
       options(run_options),
       plugin_name(kPluginFile),
-      install_name("quillmax"),
+      install_name("script"),
       fault(run_options.fault),
       record_(record) {
   host.user = &user;
@@ -77,6 +77,12 @@ ScriptRun::ScriptRun(const std::string& script, const ScriptOptions& run_options
 }
 
 ScriptRun::~ScriptRun() {
+  plugin_.reset();
+  if (folders.kept && install_ != nullptr) {
+    std::error_code error;
+    std::filesystem::copy(folders.install / "QMconfig", folders.top / "QMconfig",
+                          std::filesystem::copy_options::recursive, error);
+  }
   host.user = nullptr;
 }
 
@@ -137,27 +143,33 @@ void ScriptRun::CheckText(const Statement& at, const std::string& what, const st
   Check(at, expected == got, what, Quoted(expected), Quoted(got));
 }
 
+// The plug-in keeps itself loaded and finds its folder by its file's name: in one process all
+// scripts must use one place.
+void ScriptRun::CheckOnePlace(const std::filesystem::path& dll) {
+  static std::filesystem::path loaded;
+  if (!loaded.empty() && loaded != dll) {
+    throw ScriptError("another script of this process has loaded " + PathToUtf8(loaded) +
+                      ", which stays loaded; run this script on its own");
+  }
+  loaded = dll;
+}
+
 const std::filesystem::path& ScriptRun::Installed() {
-  if (installed_) return folders.install;
+  if (install_ != nullptr) return folders.install;
   namespace fs = std::filesystem;
-  folders.install = folders.top / PathFromUtf8(install_name);
-  std::error_code error;
-  fs::copy(options.install, folders.install, fs::copy_options::recursive, error);
-  if (error) {
-    throw ScriptError("the install tree " + PathToUtf8(options.install) +
-                      " cannot be copied: " + error.message());
-  }
-  const fs::path shipped = folders.install / kPluginFile;
+  install_ = std::make_unique<InstallCopy>(options.install, install_name);
+  folders.install = install_->tree();
   const fs::path wanted = folders.install / PathFromUtf8(plugin_name);
+  CheckOnePlace(wanted);
+  std::error_code is_loaded_already;
   if (!options.plugin.empty()) {
-    fs::copy_file(options.plugin, wanted, fs::copy_options::overwrite_existing);
+    fs::copy_file(options.plugin, wanted, fs::copy_options::overwrite_existing, is_loaded_already);
   }
-  if (wanted != shipped && fs::exists(shipped)) {
-    if (options.plugin.empty()) fs::copy_file(shipped, wanted);
-    fs::remove(shipped);
+  if (wanted != install_->dll()) {
+    if (options.plugin.empty()) fs::copy_file(install_->dll(), wanted);
+    fs::remove(install_->dll());
   }
   host.install_folder = folders.install;
-  installed_ = true;
   return folders.install;
 }
 

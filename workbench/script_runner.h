@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "workbench/host.h"
+#include "workbench/install_copy.h"
 #include "workbench/plugin.h"
 #include "workbench/popups.h"
 #include "workbench/run_record.h"
@@ -128,10 +129,11 @@ class ScriptRun {
  private:
   Statement Expanded(const Statement& statement) const;
   void AppendTrace(const Statement& at);
+  static void CheckOnePlace(const std::filesystem::path& dll);
 
   RunRecord& record_;
+  std::unique_ptr<InstallCopy> install_;
   std::unique_ptr<Plugin> plugin_;
-  bool installed_ = false;
 };
 
 using ScriptAction = void (*)(ScriptRun& run, const Statement& statement);
