@@ -16,8 +16,8 @@ small, .more, .legend { color: #6b7683; font-size: 12px; font-weight: normal; }
 a { color: #1f5fa8; text-decoration: none; }
 a:hover { text-decoration: underline; }
 .t { white-space: pre-wrap; overflow-wrap: anywhere; }
-.tab { display: inline-block; width: .5em; height: .9em; overflow: hidden; white-space: pre;
-  vertical-align: -.1em; background: linear-gradient(#b9c3ce, #b9c3ce) 0 100%/100% 2px no-repeat; }
+.tab { display: inline-block; width: .5em; height: 1.1em; overflow: hidden; white-space: pre;
+  vertical-align: -.2em; background: #d9e2ec; border-radius: 2px; }
 .none { color: #9aa3ad; }
 header { display: flex; justify-content: space-between; align-items: center; gap: 20px;
   padding-bottom: 14px; border-bottom: 2px solid #34506e; }
@@ -66,9 +66,11 @@ section > p { margin: 0; color: #6b7683; }
   background: #eef1f5; }
 .notes li { padding: 3px 10px; border-top: 1px solid #d4d9df; }
 .notes li:first-child { border-top: 0; }
-.sides { display: grid; grid-template-columns: minmax(0, 1fr) minmax(0, 1fr); gap: 16px; }
-.sides > div { padding: 8px 10px; border: 1px solid #dde1e6; border-radius: 5px; background: #fff;
-  overflow-x: auto; }
+.sides { display: grid; grid-template-columns: minmax(0, 1fr) minmax(0, 1fr);
+  max-height: 640px; overflow: auto; border: 1px solid #dde1e6; border-radius: 5px;
+  background: #fff; }
+.sides > div { padding: 8px 10px; overflow-x: auto; }
+.sides > div + div { border-left: 1px solid #dde1e6; }
 .tree, .tree ul { list-style: none; margin: 0; padding: 0; }
 .tree ul { margin-left: 9px; padding-left: 9px; border-left: 1px dotted #b9c3ce; }
 .tree .row { white-space: nowrap; padding: 0 4px; border-radius: 3px; list-style: none;
@@ -92,7 +94,7 @@ section > p { margin: 0; color: #6b7683; }
 .fold > summary { cursor: pointer; color: #34506e; font-weight: 600; }
 .fold > .tree, .fold > table { margin: 6px 0 0 14px; }
 .sheet-box text { font: 11px "Segoe UI", "Microsoft YaHei", "Noto Sans CJK SC", sans-serif; }
-@media print { section { break-inside: auto; } .box, .dlg { box-shadow: none; } }
+@media print { .sides { max-height: none; } section { break-inside: auto; } .box, .dlg { box-shadow: none; } }
 @media (max-width: 700px) { .sides { grid-template-columns: 1fr; } }
 )css";
 

@@ -12,7 +12,7 @@ std::string ShownText(std::string_view text) {
   for (const char c : escaped) {
     if (c == '\t') {
       // The tab stays inside, so that copying from the page gives the text as it was.
-      shown += "<span class=\"tab\">\t</span>";
+      shown += "<span class=\"tab\" title=\"tab\">\t</span>";
     } else {
       shown += c;
     }

@@ -12,6 +12,7 @@ namespace {
 
 // Branches without a change are folded in trees of more rows than this.
 constexpr std::size_t kMostRowsUnfolded = 60;
+constexpr std::size_t kOthersInLargeTrees = 20;
 
 const char* SymbolOf(TreeIcon icon) {
   switch (icon) {
@@ -48,7 +49,8 @@ const char* MarkClass(RowMark mark) {
 }
 
 // Marked rows and the rows above them first, then from the top, up to the limits. A row is never
-// drawn without its parent.
+// drawn without its parent. Of a large tree few unmarked rows are drawn, so that the marked ones
+// are found.
 std::vector<bool> ChooseRows(const ModelTree& tree, const std::vector<RowMark>& marks,
                              const std::vector<std::size_t>& parents, const TreeLimits& limits) {
   std::vector<bool> chosen(tree.rows.size(), false);
@@ -60,7 +62,10 @@ std::vector<bool> ChooseRows(const ModelTree& tree, const std::vector<RowMark>& 
       ++count;
     }
   }
-  for (std::size_t i = 0; i < tree.rows.size() && count < limits.rows; ++i) {
+  const bool large = tree.rows.size() > limits.rows;
+  const std::size_t most =
+      large && count > 0 ? std::min(count + kOthersInLargeTrees, limits.rows) : limits.rows;
+  for (std::size_t i = 0; i < tree.rows.size() && count < most; ++i) {
     if (chosen[i] || tree.rows[i].depth > limits.depth) continue;
     chosen[i] = true;
     ++count;
@@ -195,7 +200,8 @@ std::string DrawTrees(const CommandRecord& command, const TreeLimits& limits) {
            SizeOf(after) + "</summary>" + DrawTree(after, marks.after, limits) + "</details>";
   }
   return "<h3>Model tree</h3><p class=\"legend\"><span class=\"hid\">grey</span> hidden · "
-         "<s>struck</s> suppressed · <mark>marked</mark> changed</p><div class=\"sides\">" +
+         "<s>struck</s> suppressed · <mark>yellow</mark> changed · "
+         "<span class=\"touched\">blue</span> parameters changed</p><div class=\"sides\">" +
          Column("Before", before, marks.before, limits) +
          Column("After", after, marks.after, limits) + "</div>";
 }
