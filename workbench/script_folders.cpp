@@ -37,6 +37,8 @@ void FolderCopy(ScriptRun& run, const Statement& statement) {
   const fs::path copy = FreshFolder(run.folders.top, "work");
   const fs::path original = run.ScriptPath(statement.Text("PATH"));
   std::error_code error;
+  // Onto a folder that exists the library refuses: it takes the two for the same one.
+  fs::remove(copy, error);
   fs::copy(original, copy, fs::copy_options::recursive, error);
   if (error) throw ScriptError(PathToUtf8(original) + " cannot be copied: " + error.message());
   WorkIn(run, copy);
