@@ -14,6 +14,7 @@ namespace {
 // More entries of a kind than these are only counted.
 constexpr std::size_t kMostShown = 60;  // dialogs, boxes, sheets
 constexpr std::size_t kMostLines = 500;
+constexpr std::size_t kMostLinesUnfolded = 40;  // longer tables are folded
 
 // Draws the first entries of a list, then says how many more there are.
 template <typename List, typename Draw>
@@ -29,13 +30,18 @@ template <typename List, typename DrawCells>
 std::string DrawTable(const std::string& heading, const std::vector<std::string>& columns,
                       const List& list, const std::string& noun, DrawCells draw_cells) {
   if (list.empty()) return {};
-  std::string html = "<h3>" + heading + "</h3><table class=\"list\"><thead><tr>";
+  std::string html = list.size() > kMostLinesUnfolded
+                         ? "<details class=\"fold\"><summary>" + heading + " <small>" +
+                               Counted(list.size(), noun) + "</small></summary>"
+                         : "<div><h3>" + heading + "</h3>";
+  html += "<table class=\"list\"><thead><tr>";
   for (const std::string& column : columns) html += "<th>" + column + "</th>";
   html += "</tr></thead><tbody>";
   for (std::size_t i = 0; i < std::min(kMostLines, list.size()); ++i) {
     html += "<tr>" + draw_cells(list[i]) + "</tr>";
   }
-  return html + "</tbody></table>" + MoreLine(list.size(), kMostLines, noun);
+  html += "</tbody></table>" + MoreLine(list.size(), kMostLines, noun);
+  return html + (list.size() > kMostLinesUnfolded ? "</details>" : "</div>");
 }
 
 std::string Cell(const std::string& text) {

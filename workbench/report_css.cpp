@@ -75,13 +75,15 @@ section > p { margin: 0; color: #6b7683; }
 .tree ul { margin-left: 9px; padding-left: 9px; border-left: 1px dotted #b9c3ce; }
 .tree .row { white-space: nowrap; padding: 0 4px; border-radius: 3px; list-style: none;
   width: max-content; line-height: 21px; }
-.tree summary { cursor: pointer; }
+.tree summary { cursor: pointer; list-style: none; }
 .tree summary::-webkit-details-marker { display: none; }
 .tree summary::before { content: "▸"; display: inline-block; width: 12px; color: #6b7683; }
 .tree details[open] > summary::before { content: "▾"; }
 .tree div.row { margin-left: 12px; }
 .tree small { margin-left: 7px; }
 .tree .gap { color: #6b7683; font-style: italic; padding-left: 16px; }
+.tree li.gap:has(> details) { padding-left: 4px; }
+.tree .gap ul { color: #1b1f24; font-style: normal; }
 .i { width: 16px; height: 16px; vertical-align: -3px; margin-right: 5px; }
 .tree .hid, .legend .hid { color: #a3abb4; }
 .tree .hid .i { opacity: .35; }

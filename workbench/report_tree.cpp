@@ -10,8 +10,9 @@
 namespace wb {
 namespace {
 
-// Branches without a change are folded in trees of more rows than this.
+// In trees of more rows than this, branches and runs of components without a change are folded.
 constexpr std::size_t kMostRowsUnfolded = 60;
+constexpr std::size_t kFewestRowsFolded = 4;
 constexpr std::size_t kOthersInLargeTrees = 20;
 
 const char* SymbolOf(TreeIcon icon) {
@@ -98,7 +99,7 @@ class TreePainter {
     for (std::size_t i = 0; i < tree_.rows.size(); ++i) {
       if (chosen_[i]) {
         PaintGap();
-        PaintRow(i);
+        i = PaintRowOrRun(i);
       } else if (gap_++ == 0) {
         gap_depth_ = tree_.rows[i].depth;
       }
@@ -118,14 +119,38 @@ class TreePainter {
     for (; open_ > depth; --open_) html_ += "</ul></details></li>";
   }
 
+  bool HasRows(std::size_t i) const {
+    return i + 1 < tree_.rows.size() && tree_.rows[i + 1].depth > tree_.rows[i].depth;
+  }
+
+  // Gives the last row painted.
+  std::size_t PaintRowOrRun(std::size_t i) {
+    const int depth = tree_.rows[i].depth;
+    CloseTo(depth);
+    std::size_t end = i;
+    if (tree_.rows.size() > kMostRowsUnfolded) {
+      while (end < tree_.rows.size() && chosen_[end] && marks_[end] == RowMark::kSame &&
+             tree_.rows[end].depth == depth && !HasRows(end)) {
+        ++end;
+      }
+    }
+    if (end - i < kFewestRowsFolded) {
+      PaintRow(i);
+      return i;
+    }
+    html_ += "<li class=\"gap\"><details><summary>" + Counted(end - i, "row") +
+             " without a change</summary><ul>";
+    for (; i < end; ++i) PaintRow(i);
+    html_ += "</ul></details></li>";
+    return end - 1;
+  }
+
   void PaintRow(std::size_t i) {
     const TreeRow& row = tree_.rows[i];
-    CloseTo(row.depth);
     html_ += std::string("<li class=\"") + (row.hidden ? "hid" : "") +
              (row.suppressed ? " sup" : "") + "\">";
-    const bool has_rows = i + 1 < tree_.rows.size() && tree_.rows[i + 1].depth > row.depth;
     const std::string mark = MarkClass(marks_[i]);
-    if (!has_rows) {
+    if (!HasRows(i)) {
       html_ += "<div class=\"row" + mark + "\">" + RowContent(row, marks_[i]) + "</div></li>";
       return;
     }

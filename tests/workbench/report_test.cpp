@@ -187,6 +187,19 @@ TEST(ReportTreeTest, OfALongTreeMarkedRowsAreDrawnAndTheRestIsCounted) {
   EXPECT_TRUE(Shows(html, "… 100 more rows"));
 }
 
+TEST(ReportTreeTest, InTreesOfSomeSizeRunsWithoutAChangeAreFolded) {
+  ModelTree tree = {{Row(0, 0, "top.asm")}, 0};
+  for (int i = 1; i <= 70; ++i) tree.rows.push_back(Row(1, i, "bolt.prt"));
+  std::vector<RowMark> marks(tree.rows.size(), RowMark::kSame);
+  marks[4] = marks[66] = RowMark::kChanged;
+  const std::string html = DrawTree(tree, marks, {});
+  EXPECT_EQ(Count(html, " without a change"), 2u);  // not the three rows before the first change
+  EXPECT_TRUE(Shows(html, "61 rows without a change"));
+  EXPECT_TRUE(Shows(html, "4 rows without a change"));
+  EXPECT_EQ(Count(html, "class=\"n\""), 71u);
+  EXPECT_EQ(Count(html, "<details"), Count(html, "</details>"));
+}
+
 TEST(ReportTreeTest, ListsStayBalancedWhereverRowsAreLeftOut) {
   for (const std::size_t most : {1u, 2u, 3u, 4u, 5u}) {
     const std::string html = Unmarked(PumpTree(), {most, 24});
