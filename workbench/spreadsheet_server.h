@@ -18,13 +18,13 @@ class AutomationObject;
 
 // How the program behaves. Counts run from the moment the orders were given.
 struct SpreadsheetOrders {
-  bool missing = false;        // not installed
-  int busy = 0;                // this many calls to come are rejected, to be tried again
-  int slow_ms = 0;             // taken by every call
-  long fail_at = 0;            // the n-th call fails; 0: none
-  std::string fail_member;     // only calls of this member count ("Range.Merge"); empty: of any
-  bool fail_silently = false;  // by a bare result instead of an exception that explains itself
-  long die_at = 0;             // the program is gone at the n-th call; 0: it lives
+  bool missing = false;          // not installed
+  int busy = 0;                  // this many calls to come are rejected, to be tried again
+  int slow_ms = 0;               // taken by every call
+  long fail_at = 0;              // the n-th call fails; 0: none
+  std::string fail_member = {};  // only calls of this member count ("Range.Merge"); empty: of any
+  bool fail_silently = false;    // by a bare result instead of an exception that explains itself
+  long die_at = 0;               // the program is gone at the n-th call; 0: it lives
 };
 
 struct OpenWorkbook {

@@ -81,7 +81,7 @@ std::uint32_t CheckSum(std::string_view content) {
 size_t FindDirectoryEnd(std::string_view bytes) {
   const std::string mark = {'P', 'K', 5, 6};
   const size_t at = bytes.size() < kEndSize ? bytes.npos : bytes.rfind(mark);
-  if (at == bytes.npos) throw ZipError("not a ZIP archive");
+  if (at == bytes.npos || at + kEndSize > bytes.size()) throw ZipError("not a ZIP archive");
   return at;
 }
 

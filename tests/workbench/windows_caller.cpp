@@ -85,6 +85,17 @@ int Object() {
   return ::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC, IID_IUnknown, &object);
 }
 
+// Starts the spreadsheet program and lets go of it without ending it.
+int Spreadsheet() {
+  CLSID class_id;
+  HRESULT result = ::CLSIDFromProgID(L"Excel.Application", &class_id);
+  if (FAILED(result)) return result;
+  void* object = nullptr;
+  result = ::CoCreateInstance(class_id, nullptr, CLSCTX_LOCAL_SERVER, IID_IDispatch, &object);
+  if (SUCCEEDED(result)) static_cast<IUnknown*>(object)->Release();
+  return result;
+}
+
 int Mouse() {
   ::mouse_event(MOUSEEVENTF_LEFTDOWN, 3, 4, 0, 0);
   return 0;
@@ -103,5 +114,6 @@ void RegisterCommands() {
   Register<&AskForFile<&::GetOpenFileNameW>>("OpenFile");
   Register<&AskForFile<&::GetSaveFileNameW>>("SaveFile");
   Register<&Object>("Object");
+  Register<&Spreadsheet>("Spreadsheet");
   Register<&Mouse>("Mouse");
 }
