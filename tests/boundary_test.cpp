@@ -1,0 +1,200 @@
+// The boundary between the plug-in and its host: no exception leaves a function that was given
+// away, and each command comes with all that the host shows of it.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <regex>
+#include <set>
+
+#include "tests/frame/shield_probe.h"
+#include "tests/plugin_host.h"
+#include "workbench/message_file.h"
+#include "workbench/model_file.h"
+
+namespace wb {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Boundary : public PluginHost {};
+
+// The library with the probes, its Windows calls intercepted.
+class ProbeLibrary {
+ public:
+  ProbeLibrary() : module_(::LoadLibraryW((TestBinaryFolder() / "shield_probe.dll").c_str())) {
+    if (module_ != nullptr) InterceptImports(module_);
+  }
+  ~ProbeLibrary() { ::FreeLibrary(module_); }
+  ProbeLibrary(const ProbeLibrary&) = delete;
+  ProbeLibrary& operator=(const ProbeLibrary&) = delete;
+
+  template <typename Function>
+  Function Find(const char* name) const {
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(module_, name)));
+  }
+
+ private:
+  HMODULE module_;
+};
+
+TEST_F(Boundary, AnExceptionInAnyKindOfFunctionGivenAwayBecomesAnAnswer) {
+  const ProbeLibrary library;
+  const auto run = library.Find<RunShieldProbe>("RunProbe");
+  ASSERT_NE(run, nullptr);
+  ShieldProbe probe{};
+  int count = 0;
+  for (; host_.windows.boxes.clear(), run(count, &probe); ++count) {
+    const std::string kind = std::string(probe.kind) + " of " + probe.given_to;
+    EXPECT_EQ(probe.answered, probe.wanted) << kind;
+    ASSERT_EQ(host_.windows.boxes.size(), probe.is_shown ? 1u : 0u) << kind;
+    if (!probe.is_shown) continue;
+    EXPECT_EQ(host_.windows.boxes[0].text, "\t命令执行中发生内部错误，操作已停止。\t") << kind;
+    EXPECT_EQ(host_.windows.boxes[0].style, 0x40000u) << kind;
+  }
+  EXPECT_GE(count, 8);
+  EXPECT_EQ(TakeBreaches(), Lines());
+}
+
+TEST_F(Boundary, AnExceptionInAVisitComesOutBehindTheVisit) {
+  Model assembly;
+  assembly.id = {"box", ModelKind::kAssembly};
+  assembly.features.resize(3);
+  for (int i = 0; i < 3; ++i) assembly.features[static_cast<size_t>(i)].id = i + 1;
+  const Model& added = host_.session.Add(std::move(assembly));
+  const ProbeLibrary library;
+  const auto run = library.Find<RunThrowingVisit>("RunVisit");
+  ASSERT_NE(run, nullptr);
+  for (const bool in_filter : {false, true}) {
+    EXPECT_TRUE(run(added.handle, in_filter)) << in_filter;
+    EXPECT_EQ(TakeBreaches(), Lines()) << in_filter;
+  }
+}
+
+std::string ReadText(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
+}
+
+// All matches of `expression` in `text`: the whole match, then its groups.
+std::vector<Lines> Matches(const std::string& text, const char* expression) {
+  const std::regex wanted(expression);
+  std::vector<Lines> matches;
+  for (std::sregex_iterator at(text.begin(), text.end(), wanted), end; at != end; ++at) {
+    matches.emplace_back(at->begin(), at->end());
+  }
+  return matches;
+}
+
+// A host function that takes a function of ours without standing in the shield's table would be
+// tried by no probe. The two visits have a test of their own above.
+TEST_F(Boundary, EveryHostFunctionThatTakesAFunctionHasItsProbe) {
+  std::string headers;
+  for (const auto& file : fs::directory_iterator(fs::path(QM_SOURCE_DIR) / "src" / "toolkit")) {
+    if (file.path().extension() == ".h") headers += ReadText(file.path());
+  }
+  const std::string table =
+      ReadText(fs::path(QM_SOURCE_DIR) / "src" / "frame" / "shielded_entries.h");
+  std::set<std::string> callbacks;
+  for (const auto& type : Matches(headers, R"(\(\*(\w+)\)\([^()]*\) QM_CALLBACK;)")) {
+    callbacks.insert(type[1]);
+  }
+  ASSERT_GE(callbacks.size(), 8u);
+  const std::set<std::string> visits = {"ProSolidFeatVisit", "ProSolidSurfaceVisit"};
+  int checked = 0;
+  for (const auto& function : Matches(headers, R"(PRO_FUNCTION\(\w+, (\w+)([^()]*)\))")) {
+    for (const auto& word : Matches(function[2], R"(\w+)")) {
+      if (!callbacks.contains(word[0]) || visits.contains(function[1])) continue;
+      EXPECT_NE(table.find("\"" + function[1] + "\""), std::string::npos) << function[1];
+      ++checked;
+    }
+  }
+  EXPECT_GE(checked, 6);
+}
+
+// Both languages in full; the label of the second language may not be the key itself.
+void ExpectMenuTexts(const fs::path& tree, const Command& command, const MenuButton& button) {
+  for (const char* language : {"chinese_cn", "usascii"}) {
+    const fs::path path = tree / "text" / language / "qmMenu.txt";
+    const MessageFile file = MessageFile::Load(path);
+    for (const std::string& key : {button.label_key, button.help_key}) {
+      const MessageRecord* const record = file.Find(key);
+      ASSERT_NE(record, nullptr) << language << ": " << key;
+      EXPECT_NE(record->Text(), key) << language << ": " << key;
+      EXPECT_FALSE(record->Text().empty()) << language << ": " << key;
+    }
+  }
+  if (!command.designated) return;
+  EXPECT_EQ(command.label_key, button.label_key) << command.name;
+  EXPECT_EQ(command.help_key, button.help_key) << command.name;
+  EXPECT_EQ(command.description_key, button.label_key) << command.name;
+}
+
+TEST_F(Boundary, EveryCommandHasItsLabelHelpAndIcon) {
+  Plugin plugin(Installed().dll());
+  ASSERT_EQ(plugin.Start(), 0);
+  const Menu* const menu = host_.commands.FindMenu("Menu");
+  ASSERT_NE(menu, nullptr);
+  ASSERT_EQ(menu->buttons.size(), 55u);
+  ASSERT_EQ(host_.commands.commands.size(), 55u);
+  for (size_t i = 0; i < menu->buttons.size(); ++i) {
+    const MenuButton& button = menu->buttons[i];
+    const Command& command = host_.commands.commands[i];
+    EXPECT_EQ(button.command, &command) << command.name;
+    EXPECT_EQ(button.name, command.name);
+    ExpectMenuTexts(Installed().tree(), command, button);
+    EXPECT_TRUE(fs::is_regular_file(Installed().tree() / "text" / "resource" / command.icon))
+        << command.name;
+    EXPECT_FALSE(command.icon.empty()) << command.name;
+  }
+}
+
+// Words of `text`, which are names of commands.
+std::set<std::string> Names(const std::string& text) {
+  std::set<std::string> names;
+  for (const auto& word : Matches(text, R"(\S+)")) names.insert(word[0]);
+  return names;
+}
+
+// The modes in which each command can be used, out of all that the host may report.
+TEST_F(Boundary, EveryCommandIsAvailableInTheModesOfItsRuleAndGreyElsewhere) {
+  const struct {
+    std::set<int> modes;
+    const char* commands;
+  } rules[] = {
+      {{5, 8},
+       "QmBackup NewPart NewAsm NewSmt BoxSel QmIsolate QmHideReverse QmShowAllComp QmParams "
+       "QmRelations CloneComp CloneAndReplace QmMerge QmMergeTo QmExStp QmExIgs QmExSat QmBom "
+       "QmRename QmRemoveCons QmMdlCount QmNewDrw QmSimRep QmBox QmMdlNameCopy QmMdlRename"},
+      {{1, 2, 5, 8},
+       "BatchColor QmClearAllColor QmBoxSelSur QmTransparent SurfTransparent TweViews NewDraw "
+       "QmExportStp"},
+      {{1, 2, 5}, "SetMat SetBendTable SetUnit"},
+      {{6},
+       "SameScale QmDimModify QmExportDwg QmExportPdf QmUpdateSheetScale QmUpdateMainViewScale "
+       "QmSingleDim"},
+      {{0, 1, 2, 3, 4, 5, 6, 7, 8, 9},
+       "QmOpenDir QmNormalView QmExport QmFrmReplace QmDrwScaleCheck QmSetDirectory QmConfig "
+       "ForTest QmQQGroup QmVersion AboutQm"},
+  };
+  constexpr int kUnavailable = 1;
+  constexpr int kAvailable = 3;
+  Plugin plugin(Installed().dll());
+  ASSERT_EQ(plugin.Start(), 0);
+  size_t covered = 0;
+  for (const auto& rule : rules) {
+    for (const std::string& name : Names(rule.commands)) {
+      ++covered;
+      for (host_.forced_mode = 0; host_.forced_mode < 10; ++host_.forced_mode) {
+        EXPECT_EQ(AskAccess(name),
+                  rule.modes.contains(host_.forced_mode) ? kAvailable : kUnavailable)
+            << name << " in mode " << host_.forced_mode;
+      }
+    }
+  }
+  EXPECT_EQ(covered, host_.commands.commands.size());
+}
+
+}  // namespace
+}  // namespace wb

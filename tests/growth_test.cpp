@@ -1,0 +1,96 @@
+// How the commands grow with the assembly, as far as it does not depend on the machine's speed:
+// calls, memory and depth. `workbench bench` measures the rest.
+#include <gtest/gtest.h>
+
+#include "tests/plugin_host.h"
+#include "workbench/bench_measure.h"
+#include "workbench/bench_options.h"
+#include "workbench/bench_report.h"
+#include "workbench/command_line.h"
+
+namespace wb {
+namespace {
+
+BenchResult MeasureOnce(const BenchShape& shape, int occurrences, bool with_most_asked) {
+  return Measure({&shape, occurrences, 1, with_most_asked}, Installed().dll(), Installed().work());
+}
+
+class Growth : public testing::TestWithParam<BenchShape> {};
+
+TEST_P(Growth, HostCallsAreExactlyLinearInTheOccurrences) {
+  std::map<BenchPart, std::vector<std::pair<long, long>>> calls;
+  for (const int occurrences : {100, 200, 400}) {
+    for (const BenchRow& row : MeasureOnce(GetParam(), occurrences, false).rows) {
+      calls[row.part].emplace_back(row.occurrences, row.calls);
+    }
+  }
+  for (const BenchPart part : kBenchParts) {
+    EXPECT_EQ(calls[part].size(), 3u);
+    EXPECT_TRUE(IsExactlyLinear(calls[part])) << BenchPartName(part);
+    // A component that is an assembly as well takes eight in the collection and three after it.
+    EXPECT_LE(calls[part][2].second - calls[part][1].second, 11 * 200) << BenchPartName(part);
+  }
+}
+
+TEST_P(Growth, QmParamsAsksEachModelForEachFactOnce) {
+  const BenchResult result = MeasureOnce(GetParam(), 100, true);
+  EXPECT_FALSE(result.most_asked.empty());
+  for (const MostAsked& row : result.most_asked) EXPECT_EQ(row.times, 1) << row.function;
+}
+
+TEST_P(Growth, AComponentCostsAFewHundredBytes) {
+  for (const BenchRow& row : MeasureOnce(GetParam(), 2000, false).rows) {
+    if (row.part == BenchPart::kCollection) continue;
+    EXPECT_GT(row.heap_bytes, 0) << BenchPartName(row.part);
+    EXPECT_LT(row.heap_bytes, 300 * 2000) << BenchPartName(row.part);
+  }
+}
+
+std::string ShapeName(const testing::TestParamInfo<BenchShape>& row) {
+  return row.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Shapes, Growth,
+                         testing::ValuesIn(BenchShapes().begin(), BenchShapes().end()), ShapeName);
+
+TEST(GrowthOfDepth, TenThousandLevelsPass) {
+  const BenchResult result = MeasureOnce(*FindBenchShape("chain"), kDeepestChain, false);
+  EXPECT_EQ(result.rows.size(), std::size(kBenchParts));
+}
+
+TEST(GrowthReport, FitsTheExponentOfAPower) {
+  EXPECT_NEAR(FittedExponent({{10, 30}, {100, 300}, {1000, 3000}}), 1, 1e-9);
+  EXPECT_NEAR(FittedExponent({{4, 8}, {16, 64}}), 1.5, 1e-9);
+  EXPECT_NEAR(FittedExponent({{1, 5}, {10, 5}, {100, 5}}), 0, 1e-9);
+}
+
+TEST(GrowthReport, OnlyPointsOnOneLineAreLinear) {
+  EXPECT_TRUE(IsExactlyLinear({{100, 703}, {200, 1403}, {400, 2803}}));
+  EXPECT_FALSE(IsExactlyLinear({{100, 703}, {200, 1403}, {400, 2804}}));
+}
+
+TEST(GrowthOptions, WrongOnesSayWhatIsWrong) {
+  const struct {
+    std::vector<std::string> args;
+    const char* reason;
+  } cases[] = {
+      {{"--sizes", "1000,many"}, "\"many\" is no size"},
+      {{"--sizes", "9"}, "\"9\" is no size"},
+      {{"--sizes"}, "--sizes"},
+      {{"--shapes", "flat,round"}, "no shape \"round\""},
+      {{"--runs", "0"}, "\"0\" is no number of runs"},
+      {{"flat"}, "options only"},
+      {{"--fast"}, "--fast"},
+  };
+  for (const auto& item : cases) {
+    try {
+      ParseBenchOptions(item.args);
+      ADD_FAILURE() << "accepted: " << item.args.back();
+    } catch (const UsageError& error) {
+      EXPECT_NE(std::string(error.what()).find(item.reason), std::string::npos) << error.what();
+    }
+  }
+}
+
+}  // namespace
+}  // namespace wb

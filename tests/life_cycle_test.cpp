@@ -1,0 +1,209 @@
+// Starts, stops, loads and unloads of the plug-in, a great many of them and disturbed ones.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <functional>
+
+#include "tests/plugin_host.h"
+#include "workbench/bench_heap.h"
+#include "workbench/windows_hooks.h"
+
+#include <psapi.h>
+
+namespace wb {
+namespace {
+
+class LifeCycle : public PluginHost {
+ protected:
+  void StartAndStop(Plugin& plugin) {
+    ASSERT_EQ(plugin.Start(), 0);
+    plugin.Stop();
+    ASSERT_EQ(TakeBreaches(), Lines());
+    ASSERT_TRUE(host_.accounts.open().empty());
+    host_.trace.Restart();
+  }
+};
+
+DWORD HandleCount() {
+  DWORD count = 0;
+  ::GetProcessHandleCount(::GetCurrentProcess(), &count);
+  return count;
+}
+
+long long MemoryInUse() {
+  PROCESS_MEMORY_COUNTERS counters = {};
+  ::GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof(counters));
+  return static_cast<long long>(counters.PagefileUsage);
+}
+
+TEST_F(LifeCycle, AThousandStartsAndStopsLeaveNothingBehind) {
+  Plugin plugin(Installed().dll());
+  // The first ones fill what is kept for good: looked-up functions, message files.
+  for (int i = 0; i < 10; ++i) ASSERT_NO_FATAL_FAILURE(StartAndStop(plugin));
+  const DWORD handles_before = HandleCount();
+  const HeapWatch heap(::GetModuleHandleW(Installed().dll().c_str()));
+  for (int i = 10; i < 1000; ++i) ASSERT_NO_FATAL_FAILURE(StartAndStop(plugin)) << i;
+  EXPECT_GT(heap.peak(), 0);
+  EXPECT_EQ(heap.live(), 0);
+  EXPECT_EQ(HandleCount(), handles_before);
+  EXPECT_TRUE(host_.windows.timers.empty());
+  EXPECT_TRUE(host_.commands.commands.empty());
+  EXPECT_TRUE(host_.windows.boxes.empty());
+}
+
+// A library that was never started goes with its unloading, and takes everything along.
+TEST_F(LifeCycle, TwoThousandLoadsAndUnloadsWithoutAStart) {
+  const std::filesystem::path dll = Installed().tree() / "unstarted.dll";
+  std::filesystem::copy_file(Installed().dll(), dll,
+                             std::filesystem::copy_options::overwrite_existing);
+  constexpr long long kNoise = 2 * 1024 * 1024;
+  long long memory_before = 0;
+  for (int i = 0; i < 2000; ++i) {
+    if (i == 100) memory_before = MemoryInUse();
+    const Plugin plugin(dll);
+    ASSERT_FALSE(plugin.started());
+  }
+  EXPECT_EQ(::GetModuleHandleW(dll.c_str()), nullptr);
+  EXPECT_GT(memory_before, 0);
+  EXPECT_LT(MemoryInUse() - memory_before, kNoise);
+  EXPECT_EQ(TakeBreaches(), Lines());
+}
+
+// Makes the plug-in's own allocations fail: the n-th one once, counted from the order on.
+class ShortMemory {
+ public:
+  explicit ShortMemory(const std::filesystem::path& dll)
+      : module_(::GetModuleHandleW(dll.c_str())) {
+    const Hook hook{"malloc", reinterpret_cast<void*>(&Allocate)};
+    const Interception done = InterceptImports(module_, std::span(&hook, 1));
+    EXPECT_EQ(done.replaced.size(), 1u);
+  }
+  ~ShortMemory() {
+    const Hook hook{"malloc", reinterpret_cast<void*>(&std::malloc)};
+    InterceptImports(module_, std::span(&hook, 1));
+  }
+  ShortMemory(const ShortMemory&) = delete;
+  ShortMemory& operator=(const ShortMemory&) = delete;
+
+  void FailOnce(int nth) { left_ = nth; }
+  // Ends the order; true when the failure has happened.
+  bool TakeStruck() { return std::exchange(left_, 0) == 0; }
+
+ private:
+  static void* Allocate(size_t size) {
+    if (left_ > 0 && --left_ == 0) return nullptr;
+    return std::malloc(size);
+  }
+
+  static inline int left_ = 0;
+  HMODULE module_;
+};
+
+// Each loading and unloading of a library that throws costs the process a thread-local slot, and
+// there are about a thousand: a started plug-in stays loaded.
+TEST_F(LifeCycle, TwoThousandLoadsAndUnloadsWithExceptionsInside) {
+  Plugin first(Installed().dll());
+  ShortMemory memory(Installed().dll());
+  int struck = 0;
+  for (int i = 0; i < 2000; ++i) {
+    Plugin plugin(Installed().dll());
+    if (i % 10 != 0) continue;
+    memory.FailOnce(1 + i / 10 % 20);
+    ASSERT_EQ(plugin.Start(), 0) << i;
+    struck += memory.TakeStruck() ? 1 : 0;
+    plugin.Stop();
+    ASSERT_EQ(TakeBreaches(), Lines()) << i;
+    host_.trace.Restart();
+  }
+  EXPECT_GT(struck, 100);
+}
+
+TEST_F(LifeCycle, AStartThatRunsOutOfMemoryAtAnyAllocationStillAnswers) {
+  Plugin plugin(Installed().dll());
+  ShortMemory memory(Installed().dll());
+  int nth = 0;
+  for (bool struck = true; struck;) {
+    memory.FailOnce(++nth);
+    ASSERT_EQ(plugin.Start(), 0) << "allocation " << nth;
+    struck = memory.TakeStruck();
+    plugin.Stop();
+    ASSERT_EQ(TakeBreaches(), Lines()) << "allocation " << nth;
+    host_.trace.Restart();
+  }
+  EXPECT_GT(nth, 10);
+}
+
+// Faults of every kind, at each call in turn until none is left to fail.
+struct FaultRow {
+  const char* name;
+  FaultKind kind;
+  int status;
+  bool from_then_on;
+};
+constexpr FaultRow kFaults[] = {
+    {"general error, once", FaultKind::kStatus, -1, false},
+    {"general error, from then on", FaultKind::kStatus, -1, true},
+    {"bad context, once", FaultKind::kStatus, -5, false},
+    {"bad context, from then on", FaultKind::kStatus, -5, true},
+    {"empty success, once", FaultKind::kEmptySuccess, 0, false},
+    {"empty success, from then on", FaultKind::kEmptySuccess, 0, true},
+};
+
+class DisturbedLifeCycle : public PluginHost, public testing::WithParamInterface<FaultRow> {
+ protected:
+  // Runs `part` with its n-th call of the host or of Windows failed; true when there was one.
+  bool Disturb(int nth, const std::function<void()>& part) {
+    const FaultRow& row = GetParam();
+    FaultPlan plan;
+    plan.windows_too = true;
+    plan.nth = nth;
+    plan.from_then_on = row.from_then_on;
+    plan.kind = row.kind;
+    plan.status = row.status;
+    host_.faults.Order(plan);
+    part();
+    const bool struck = host_.faults.struck() > 0;
+    host_.faults.Clear();
+    return struck;
+  }
+};
+
+TEST_P(DisturbedLifeCycle, StartAnswersSuccessWhicheverOfItsCallsFails) {
+  Plugin plugin(Installed().dll());
+  int nth = 1;
+  for (;; ++nth) {
+    const bool struck = Disturb(
+        nth, [&] { ASSERT_EQ(plugin.Start(), 0) << GetParam().name << " at call " << nth; });
+    plugin.Stop();
+    ASSERT_EQ(TakeBreaches(), Lines()) << GetParam().name << " at call " << nth;
+    ASSERT_TRUE(host_.accounts.open().empty()) << GetParam().name << " at call " << nth;
+    host_.trace.Restart();
+    if (!struck) break;
+  }
+  EXPECT_GT(nth, 200);
+}
+
+TEST_P(DisturbedLifeCycle, StopLeavesNothingOutWhicheverOfItsCallsFails) {
+  Plugin plugin(Installed().dll());
+  int nth = 1;
+  for (;; ++nth) {
+    ASSERT_EQ(plugin.Start(), 0);
+    const bool struck = Disturb(nth, [&] { plugin.Stop(); });
+    ASSERT_EQ(TakeBreaches(), Lines()) << GetParam().name << " at call " << nth;
+    ASSERT_TRUE(host_.accounts.open().empty()) << GetParam().name << " at call " << nth;
+    host_.trace.Restart();
+    if (!struck) break;
+  }
+  EXPECT_GT(nth, 2);
+}
+
+std::string FaultName(const testing::TestParamInfo<FaultRow>& row) {
+  std::string name = row.param.name;
+  std::erase_if(name, [](char c) { return c == ' ' || c == ','; });
+  return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryCall, DisturbedLifeCycle, testing::ValuesIn(kFaults), FaultName);
+
+}  // namespace
+}  // namespace wb

@@ -1,0 +1,55 @@
+// A fresh host around the shipping plug-in, for tests of what scripts cannot say. The plug-in lies
+// in a private copy of the install tree that all tests of this process share.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/workbench/test_paths.h"
+#include "workbench/host.h"
+#include "workbench/install_copy.h"
+#include "workbench/plugin.h"
+
+namespace wb {
+
+inline const InstallCopy& Installed() {
+  static const InstallCopy copy(TestBinaryFolder() / "quillmax-5.1-C3", "tests");
+  return copy;
+}
+
+// Reads boxes away, closes nothing and chooses nothing.
+class AbsentUser : public User {
+ public:
+  void WorkDialog(LiveDialog&) override {}
+  std::optional<std::vector<PickedItem>> Pick(const PickRequest&) override { return std::nullopt; }
+  std::optional<std::string> ChooseFile(const FileRequest&) override { return std::nullopt; }
+  std::optional<std::string> AnswerPrompt(const std::string&, int) override { return std::nullopt; }
+  int AnswerMessageBox(const MessageBox&) override { return 1; }
+};
+
+class PluginHost : public testing::Test {
+ protected:
+  PluginHost() {
+    host_.user = &user_;
+    host_.install_folder = Installed().tree();
+    host_.windows.local_app_folder = Installed().work();
+    host_.session.ChangeDirectory(Installed().work());
+  }
+
+  // What the plug-in did wrong since the last call.
+  std::vector<std::string> TakeBreaches() {
+    std::vector<std::string> lines;
+    for (const Breach& breach : host_.breaches) lines.push_back(breach.Text());
+    host_.breaches.clear();
+    return lines;
+  }
+
+  AbsentUser user_;
+  Host host_;
+};
+
+using Lines = std::vector<std::string>;
+
+}  // namespace wb
