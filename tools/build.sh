@@ -5,10 +5,13 @@ here=$(dirname "${BASH_SOURCE[0]}")
 "$here/setup.sh"
 . "$here/environment.sh"
 
+# The commit names the build; a folder that is no checkout builds "dev".
+build_id=$(git -C "$root" rev-parse --short=12 HEAD 2>/dev/null || echo dev)
+
 configure() {
   local folder=$1
   shift
-  [ -e "$folder/build.ninja" ] || cmake -S "$root" -B "$folder" -G Ninja "$@" >/dev/null
+  cmake -S "$root" -B "$folder" -G Ninja -DQM_BUILD_ID="$build_id" "$@" >/dev/null
 }
 
 configure "$cross" -DCMAKE_TOOLCHAIN_FILE="$root/cmake/mingw.cmake" -DCMAKE_BUILD_TYPE=Release
