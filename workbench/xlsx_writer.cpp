@@ -124,7 +124,7 @@ class SheetWriter {
       return " t=\"s\"><v>" + std::to_string(texts_.Number(*text)) + "</v></c>";
     }
     if (const auto* flag = std::get_if<bool>(&value)) {
-      return std::string(" t=\"b\"><v>") + (*flag ? "1" : "0") + "</v></c>";
+      return *flag ? " t=\"b\"><v>1</v></c>" : " t=\"b\"><v>0</v></c>";
     }
     if (const auto* number = std::get_if<double>(&value)) {
       return "><v>" + NumberText(*number) + "</v></c>";
