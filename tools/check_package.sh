@@ -19,9 +19,12 @@ grep -q '^STARTUP *dll' "$tree/protk.dat"
 
 cat >"$build/package_check/run.qms" <<'S'
 folder temp
-run QmVersion
-  message caption "*Quillmax*"
-end
+part bolt
+assembly pump
+component pump <- bolt hidden
+open pump.asm
+run QmShowAllComp
+expect shown bolt
 S
 run_windows "$cross/workbench.exe" run "$build/package_check/run.qms" \
   --plugin "$tree/quillmax5.1C3.dll" | tr -d '\r' | tee "$build/package_check/run.log"
