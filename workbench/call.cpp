@@ -3,6 +3,8 @@
 
 #include <mutex>
 
+#include "workbench/api_shared.h"
+
 namespace wb {
 namespace {
 
@@ -152,6 +154,20 @@ void Call::TakeBack(const void* what, Resource resource) const {
   host.accounts.Take(what);
 }
 
+namespace {
+
+// A selection array is given back with the selections in it.
+void ForgiveSelections(const void* array) {
+  Host& host = TheHost();
+  if (!host.accounts.Check(array, Resource::kArray).empty()) return;
+  const int count = ArraySize(Call(host, "ProSelectionarrayFree", 0), array);
+  for (int i = 0; i < count; ++i) {
+    host.accounts.Forgive(static_cast<const ProSelection*>(array)[i]);
+  }
+}
+
+}  // namespace
+
 void ForgiveArguments(const char* function, const void* first) {
   if (std::string_view(function) == "ProUIDialogDestroy" && first != nullptr) {
     const LiveDialog* const dialog = TheHost().dialogs.Find(static_cast<const char*>(first));
@@ -159,6 +175,7 @@ void ForgiveArguments(const char* function, const void* first) {
     return;
   }
   if (!Releases(function) || first == nullptr) return;
+  if (std::string_view(function) == "ProSelectionarrayFree") ForgiveSelections(first);
   TheHost().accounts.Forgive(TakesPlace(function) ? *static_cast<const void* const*>(first)
                                                   : first);
 }

@@ -82,8 +82,10 @@ void ExpectWindow(ScriptRun& run, const Statement& statement) {
             current == nullptr ? "none" : current->id.Text());
 }
 
+// Items other than models are told by their owner alone, however it was reached.
 bool IsSamePick(const PickedItem& a, const PickedItem& b) {
-  return a.type == b.type && a.id == b.id && a.owner == b.owner && a.path == b.path;
+  const bool is_model = a.owner != nullptr && a.type == static_cast<int>(a.owner->id.kind);
+  return a.type == b.type && a.id == b.id && a.owner == b.owner && (!is_model || a.path == b.path);
 }
 
 void ExpectSelection(ScriptRun& run, const Statement& statement) {

@@ -102,25 +102,27 @@ std::string ScriptRun::RunAll(const std::vector<Statement>& statements) {
   return "";
 }
 
-Statement ScriptRun::Expanded(const Statement& statement) const {
-  Statement expanded = statement;
-  const std::pair<const char*, const std::filesystem::path&> names[] = {
-      {"{folder}", folders.work},     {"{install}", folders.install}, {"{local}", folders.local},
-      {"{desktop}", folders.desktop}, {"{script}", folders.script},   {"{temp}", folders.top},
-  };
-  for (auto& [name, texts] : expanded.arguments) {
+void ScriptRun::Expand(Statement* statement) {
+  for (auto& [name, texts] : statement->arguments) {
     for (std::string& text : texts) {
+      if (text.find('{') == std::string::npos) continue;
+      const std::pair<const char*, const std::filesystem::path&> names[] = {
+          {"{folder}", folders.work},     {"{install}", Installed()},   {"{local}", folders.local},
+          {"{desktop}", folders.desktop}, {"{script}", folders.script}, {"{temp}", folders.top},
+      };
       for (const auto& [word, folder] : names) ReplaceAll(&text, word, PathToUtf8(folder));
     }
   }
-  return expanded;
+  for (Statement& inner : statement->block) Expand(&inner);
 }
 
 void ScriptRun::Execute(const Statement& statement) {
   NotePlace(statement.Place());
   const ScriptAction action = FindScriptAction(*statement.form);
   if (action == nullptr) throw ScriptError("nothing asked for this answer");
-  action(*this, Expanded(statement));
+  Statement expanded = statement;
+  Expand(&expanded);
+  action(*this, expanded);
 }
 
 void ScriptRun::Fail(const Statement& at, const std::string& what) {

@@ -127,7 +127,8 @@ class ScriptRun {
   RunRecord& record() { return record_; }
 
  private:
-  Statement Expanded(const Statement& statement) const;
+  // Fills in the names of folders, in the statement's block as well.
+  void Expand(Statement* statement);
   void AppendTrace(const Statement& at);
   static void CheckOnePlace(const std::filesystem::path& dll);
 

@@ -19,7 +19,7 @@ constexpr DWORD kProfileBuffer = 32 * 1024;
 
 class OpenClipboardScope {
  public:
-  OpenClipboardScope() : open_(::OpenClipboard(nullptr) != 0) {}
+  explicit OpenClipboardScope(HWND owner = nullptr) : open_(::OpenClipboard(owner) != 0) {}
   ~OpenClipboardScope() {
     if (open_) ::CloseClipboard();
   }
@@ -87,9 +87,15 @@ struct ClipboardHolder::Thread {
 
   static DWORD WINAPI Hold(void* data) {
     auto* const self = static_cast<Thread*>(data);
-    const OpenClipboardScope clipboard;
-    ::SetEvent(self->held);
-    ::WaitForSingleObject(self->let_go, INFINITE);
+    // Only a window keeps the clipboard from others.
+    const HWND window = ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                                          nullptr, nullptr);
+    {
+      const OpenClipboardScope clipboard(window);
+      ::SetEvent(self->held);
+      ::WaitForSingleObject(self->let_go, INFINITE);
+    }
+    ::DestroyWindow(window);
     return 0;
   }
 };
