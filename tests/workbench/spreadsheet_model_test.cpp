@@ -78,6 +78,14 @@ TEST(SpreadsheetModel, TextsThatTheProgramWouldNotKeepAreTold) {
   EXPECT_EQ(sheet.EnterText({{1, 1}, {1, 1}}, std::string(32767, 'x')), Entered::kDone);
 }
 
+TEST(SpreadsheetModel, AnApostropheIsHiddenInTextCellsToo) {
+  Worksheet sheet;
+  const CellArea cell = {{1, 1}, {1, 1}};
+  sheet.ChangeFormat(cell, [](CellFormat& format) { format.number_format = "@"; });
+  sheet.EnterText(cell, "''quoted'");
+  EXPECT_EQ(sheet.ValueAt({1, 1}), CellValue("'quoted'"));
+}
+
 TEST(SpreadsheetModel, AMergeKeepsTheUpperLeftValueOnly) {
   Worksheet sheet;
   sheet.EnterText({{1, 1}, {2, 3}}, "title");
