@@ -28,6 +28,9 @@ ProError GiveList(const Call& call, const std::vector<std::string>& texts, int* 
   return PRO_TK_NO_ERROR;
 }
 
+// Longest label, in 16-bit characters: a position number ten thousand levels down has 20,000.
+constexpr size_t kLabelLimit = 32 * 1024;
+
 struct CellName {
   std::string row;
   std::string column;
@@ -137,7 +140,7 @@ ProError ProUITableCellLabelSet(const char* dialog, const char* component, const
       .Run([&](Call& call) {
         TableModel& table = TableAt(call, dialog, component);
         const CellName cell = CellAt(call, row, column);
-        const std::string text = call.Text(label, kFieldLimit, "label");
+        const std::string text = call.Text(label, kLabelLimit, "label");
         return Answer(call, table.SetLabel(cell.row, cell.column, text), "");
       });
 }

@@ -88,8 +88,8 @@ constexpr StatementForm kForms[] = {
 
     // The user's answers.
     {"dialog",            "dialog NAME", kA | kD, kD},
-    {"message_while",     "message KIND:caption|plain TEXT [answer BUTTON:ok|cancel|yes|no] while", kA | kD, kD},
-    {"message",           "message KIND:caption|plain TEXT [answer BUTTON:ok|cancel|yes|no]", kA | kD},
+    {"message_while",     "message KIND:caption|plain|warning TEXT [answer BUTTON:ok|cancel|yes|no] while", kA | kD, kD},
+    {"message",           "message KIND:caption|plain|warning TEXT [answer BUTTON:ok|cancel|yes|no]", kA | kD},
     {"pick_cancel",       "pick cancel", kA | kD},
     {"pick_item",         "pick item ITEM ID of MODEL [at PATH]", kA | kD},
     {"pick",              "pick PATH...", kA | kD},
@@ -131,7 +131,7 @@ constexpr StatementForm kForms[] = {
     {"expect_note",       "expect note TEXT", kT | kD},
     {"expect_notes",      "expect notes TEXT...", kT | kD},
     {"expect_no_note",    "expect no note", kT | kD},
-    {"expect_message",    "expect message KIND:caption|plain TEXT", kT | kD},
+    {"expect_message",    "expect message KIND:caption|plain|warning TEXT", kT | kD},
     {"expect_no_message", "expect no message", kT | kD},
     {"expect_shell",      "expect shell PROGRAM PARAMETERS", kT | kD},
     {"expect_no_shell",   "expect no shell", kT | kD},

@@ -12,10 +12,11 @@
 namespace wb {
 namespace {
 
-// The two kinds of message box that users of the plug-in tell apart.
+// The kinds of message box that users of the plug-in tell apart.
 constexpr const char* kCaption = "羽石工具箱";
 constexpr unsigned kTopmostStyle = 0x40000;
 constexpr unsigned kButtonsOnlyStyle = 0;
+constexpr unsigned kExclamationStyle = 0x30;
 
 struct ButtonRow {
   const char* word;
@@ -31,20 +32,21 @@ int ButtonId(const std::string& word) {
   return kOkButton;
 }
 
+// The plain box has no icon, the warning an exclamation mark.
 bool IsKind(const MessageBox& box, const std::string& kind) {
   if (kind == "caption") return box.style == kTopmostStyle && box.caption == kCaption;
-  return box.style == kButtonsOnlyStyle && box.caption != kCaption;
+  const unsigned style = kind == "plain" ? kButtonsOnlyStyle : kExclamationStyle;
+  return box.style == style && box.caption != kCaption;
 }
 
 }  // namespace
 
 std::string DescribeBox(const MessageBox& box) {
-  const char* kind = IsKind(box, "caption") ? "caption" : IsKind(box, "plain") ? "plain" : "other";
-  std::string text = std::string(kind) + " " + Quoted(box.text);
-  if (std::string(kind) == "other") {
-    text += " (style " + std::to_string(box.style) + ", caption " + Quoted(box.caption) + ")";
+  for (const char* const kind : {"caption", "plain", "warning"}) {
+    if (IsKind(box, kind)) return std::string(kind) + " " + Quoted(box.text);
   }
-  return text;
+  return "other " + Quoted(box.text) + " (style " + std::to_string(box.style) + ", caption " +
+         Quoted(box.caption) + ")";
 }
 
 bool BoxIs(const MessageBox& box, const std::string& kind, const std::string& text) {
