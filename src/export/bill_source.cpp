@@ -10,8 +10,10 @@
 namespace qm {
 namespace {
 
-// A model that cannot tell its name is left out of the bill, its components are not.
-std::wstring NameOf(ProMdl model) {
+// Empty, so that the model is left out of the bill but not its components, when the host does not
+// tell the name or the type.
+std::wstring NameOf(ProMdl model, ProMdlType type) {
+  if (type != PRO_MDL_PART && type != PRO_MDL_ASSEMBLY) return {};
   ProName name{};
   const ProError status = ProMdlNameGet(model, name);
   if (!Ok(status)) {
@@ -46,7 +48,8 @@ class StructureReader {
   uint32_t NumberOf(int index) {
     const ProMdl model = components_.model(index);
     const auto [number, is_new] = index_.Insert(model);
-    if (is_new) structure_.models.push_back({NameOf(model), components_.type(index), {}});
+    const ProMdlType type = components_.type(index);
+    if (is_new) structure_.models.push_back({NameOf(model, type), type, {}});
     return number;
   }
 

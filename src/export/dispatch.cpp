@@ -96,6 +96,11 @@ AutomationError::AutomationError(std::wstring step, HRESULT result, std::wstring
       description_(std::move(description)),
       log_text_(ToUtf8(step_ + L": " + Reason())) {}
 
+void AutomationError::set_place(const std::wstring& place) {
+  step_ += L" (" + place + L")";
+  log_text_ = ToUtf8(step_ + L": " + Reason());
+}
+
 std::wstring AutomationError::Reason() const {
   wchar_t number[16];
   std::swprintf(number, std::size(number), L"(0x%08X)", static_cast<unsigned>(result_));

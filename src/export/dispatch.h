@@ -25,8 +25,9 @@ class AutomationError : public std::exception {
   AutomationError(std::wstring step, HRESULT result, std::wstring description);
 
   const char* what() const noexcept override { return log_text_.c_str(); }
-  // The member that was called.
+  // The member that was called, with the place where it was.
   const std::wstring& step() const { return step_; }
+  void set_place(const std::wstring& place);
   HRESULT result() const { return result_; }
   // What the other program says, or the system's text for the result, and the result's number.
   std::wstring Reason() const;

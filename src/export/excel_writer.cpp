@@ -22,9 +22,19 @@ class SheetWriter {
  public:
   SheetWriter(const Dispatch& sheet, const WorkbookTable& table) : sheet_(sheet), table_(table) {}
 
+  void Write() {
+    try {
+      WriteAll();
+    } catch (AutomationError& error) {
+      error.set_place(last_range_);
+      throw;
+    }
+  }
+
+ private:
   // In this order: the text format of the data cells precedes their values, or long digits would be
   // numbers already, and the widths follow all values.
-  void Write() const {
+  void WriteAll() {
     WriteTitle();
     for (size_t column = 0; column < table_.labels.size(); ++column) WriteLabel(column);
     for (size_t row = 0; row < table_.rows.size(); ++row) {
@@ -34,13 +44,13 @@ class SheetWriter {
     sheet_.Get(excel::kRows).Call(excel::kAutoFit);
   }
 
- private:
-  Dispatch Range(const std::wstring& first, const std::wstring& last) const {
+  Dispatch Range(const std::wstring& first, const std::wstring& last) {
+    last_range_ = first;
     const Variant from(first);
     const Variant to(last);
     return sheet_.Get(excel::kRange, {&from, &to});
   }
-  Dispatch Cell(size_t column, size_t row) const {
+  Dispatch Cell(size_t column, size_t row) {
     const std::wstring address = CellAddress(column, row);
     return Range(address, address);
   }
@@ -49,7 +59,7 @@ class SheetWriter {
   }
 
   // Title and labels have no text format, so a text that would be read as something else is marked.
-  void WriteTitle() const {
+  void WriteTitle() {
     const std::wstring first = CellAddress(0, kTitleRow);
     const std::wstring last = CellAddress(table_.labels.size() - 1, kTitleRow);
     Range(first, last).Put(excel::kValue2, Variant(AsPlainText(table_.title)));
@@ -63,14 +73,14 @@ class SheetWriter {
     font.Put(excel::kSize, Variant(kTitleSize));
   }
 
-  void WriteLabel(size_t column) const {
+  void WriteLabel(size_t column) {
     const Dispatch cell = Cell(column, kLabelRow);
     cell.Put(excel::kValue2, Variant(AsPlainText(table_.labels[column])));
     Centre(cell);
     cell.Get(excel::kFont).Put(excel::kBold, Variant(true));
   }
 
-  void WriteCell(size_t row, size_t column) const {
+  void WriteCell(size_t row, size_t column) {
     const WorkbookCell& source = table_.rows[row][column];
     const Dispatch cell = Cell(column, row + kFirstDataRow);
     cell.Put(excel::kNumberFormat, Variant(std::wstring(excel::kTextFormat)));
@@ -81,6 +91,7 @@ class SheetWriter {
 
   const Dispatch& sheet_;
   const WorkbookTable& table_;
+  std::wstring last_range_;  // tells the user how far it came
 };
 
 // What tells a file that is being written from the old one.
