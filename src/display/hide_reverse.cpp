@@ -50,6 +50,7 @@ ProError QmHideReverse() {
     if (components.type(i) == PRO_MDL_ASSEMBLY) ShowComponent(components.feature(i));
     if (components.type(i) == PRO_MDL_PART) ReversePart(components.feature(i));
   }
+  components = ComponentList();
   RefreshDisplay(*root);
   return PRO_TK_NO_ERROR;
 }

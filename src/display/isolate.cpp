@@ -119,8 +119,9 @@ void Show(std::vector<SelectedComponent>& selected, const std::vector<ComponentL
 }  // namespace
 
 ProError QmIsolate() {
+  // The window is asked for but only the root decides: the repaint at the end takes all windows.
   int window = 0;
-  if (!Ok(ProWindowCurrentGet(&window))) return PRO_TK_NO_ERROR;
+  ProWindowCurrentGet(&window);
   const auto root = CurrentAssembly();
   if (!root) return PRO_TK_NO_ERROR;
 
@@ -144,6 +145,7 @@ ProError QmIsolate() {
   LogCount("components", all.size());
   LogCount("selected", static_cast<long long>(selected.size()));
   HideParts(all);
+  all = ComponentList();
   Show(selected, inside);
   RefreshDisplay(*root);
   return PRO_TK_NO_ERROR;

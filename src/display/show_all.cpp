@@ -24,6 +24,7 @@ ProError QmShowAllComp() {
   }
   LogCount("components", components.size());
   ShowComponents(components);
+  components = ComponentList();
   RefreshDisplay(*root);
   return PRO_TK_NO_ERROR;
 }

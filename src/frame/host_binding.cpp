@@ -11,7 +11,7 @@ namespace qm {
 // The loader has bound every function.
 void ReportMissingFunctions() {}
 HostBinding CurrentHostBinding() {
-  return {};
+  return {.by_vendor_library = true};
 }
 
 #else

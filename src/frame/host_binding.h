@@ -11,6 +11,7 @@ namespace qm {
 void ReportMissingFunctions();
 
 struct HostBinding {
+  bool by_vendor_library = false;  // then the loader has bound everything and nothing is counted
   int looked_up = 0;
   int bound = 0;
   std::vector<std::string> missing;

@@ -25,6 +25,7 @@ ProError ShowInformationDialog(const char* name) {
 }
 
 std::wstring BindingText(const HostBinding& binding) {
+  if (binding.by_vendor_library) return L"\t宿主接口：已由厂商库绑定\t";
   std::wstring text = L"\t宿主接口：已查找 " + std::to_wstring(binding.looked_up) +
                       L" 个函数，已绑定 " + std::to_wstring(binding.bound) + L" 个，缺失 " +
                       std::to_wstring(binding.missing.size()) + L" 个\t";

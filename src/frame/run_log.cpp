@@ -94,12 +94,26 @@ void LogEvent(std::string_view text) noexcept {
   }
 }
 
+// False when the running command has listed enough of them.
+bool CountFailure() noexcept {
+  return running_command == nullptr || ++running_command->failures_ <= kMaxFailureLines;
+}
+
 void LogFailure(ProMdl model, const char* function, ProError status) noexcept {
-  if (running_command != nullptr && ++running_command->failures_ > kMaxFailureLines) return;
+  if (!CountFailure()) return;
   try {
     LogEvent(ModelName(model) + ": " + function + " answered " + StatusName(status));
   } catch (...) {
     // As above; the failure stays counted.
+  }
+}
+
+void LogFailure(std::wstring_view model_name, const char* function, ProError status) noexcept {
+  if (!CountFailure()) return;
+  try {
+    LogEvent(ToUtf8(model_name) + ": " + function + " answered " + StatusName(status));
+  } catch (...) {
+    // As above.
   }
 }
 

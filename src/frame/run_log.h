@@ -16,8 +16,9 @@ namespace qm {
 void LogEvent(std::string_view text) noexcept;
 
 // A per-model failure that a command passes over. Counted in the command's line; beyond the first
-// 1,000 of a command only counted. The model's name is asked of the host.
+// 1,000 of a command only counted. The model's name is asked of the host, or given by who has it.
 void LogFailure(ProMdl model, const char* function, ProError status) noexcept;
+void LogFailure(std::wstring_view model_name, const char* function, ProError status) noexcept;
 
 // A count for the running command's line, for example ("models", 40). Nothing when none runs.
 void LogCount(const char* what, long long count) noexcept;
@@ -37,7 +38,7 @@ class CommandLog {
 
  private:
   friend void LogEvent(std::string_view) noexcept;
-  friend void LogFailure(ProMdl, const char*, ProError) noexcept;
+  friend bool CountFailure() noexcept;
   friend void LogCount(const char*, long long) noexcept;
 
   void AddLine(std::string_view text);

@@ -89,7 +89,7 @@ std::wstring FormatFolder() {
   ProName option = L"pro_format_dir";
   HostArray<ProPath> folders;
   if (!Ok(ProConfigoptArrayGet(option, folders.put())) || folders.size() < 1) return {};
-  return folders[0];
+  return std::wstring(FixedText(folders[0]));
 }
 
 // `data` is the row of the pressed button.

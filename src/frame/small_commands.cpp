@@ -5,7 +5,6 @@
 
 #include <shellapi.h>
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -13,18 +12,13 @@
 #include "frame/message_area.h"
 #include "frame/message_box.h"
 #include "frame/preselection.h"
+#include "frame/text.h"
 #include "toolkit/model.h"
 #include "toolkit/status.h"
 #include "toolkit/window.h"
 
 namespace qm {
 namespace {
-
-// A text field of a host record, up to its zero or its end.
-template <std::size_t N>
-std::wstring_view Field(const wchar_t (&field)[N]) {
-  return {field, static_cast<std::size_t>(std::find(field, field + N, L'\0') - field)};
-}
 
 // The one preselected assembly or part; null when something else is preselected.
 ProMdl PreselectedModel() {
@@ -66,7 +60,7 @@ ProError QmSetDirectory() {
   ProMdldata data = {};
   status = ProMdlDataGet(model, &data);
   if (!Ok(status)) return status;
-  const std::wstring folder = ModelFolder(Field(data.device), Field(data.path));
+  const std::wstring folder = ModelFolder(FixedText(data.device), FixedText(data.path));
   if (folder.empty() || folder.size() >= PRO_PATH_SIZE) return PRO_TK_INVALID_DIR;
   ProPath path = {};
   folder.copy(path, PRO_PATH_SIZE - 1);

@@ -13,33 +13,33 @@ namespace qm {
 namespace {
 
 // True when the call succeeded; otherwise the model is passed over with a line in the log.
-bool Done(ProMdl model, const char* function, ProError status) {
-  if (!Ok(status)) LogFailure(model, function, status);
+bool Done(const ParamTarget& target, const char* function, ProError status) {
+  if (!Ok(status)) LogFailure(target.name, function, status);
   return Ok(status);
 }
 
 bool Create(const ParamTarget& target, HostName& name, ProParamvalue& value) {
   ProModelitem item = target.item;
   ProParameter parameter{};
-  return Done(target.model, "ProParameterCreate",
+  return Done(target, "ProParameterCreate",
               ProParameterCreate(&item, name.name, &value, &parameter));
 }
 
 bool Find(const ParamTarget& target, HostName& name, ProParameter* parameter) {
   ProModelitem item = target.item;
-  return Done(target.model, "ProParameterInit", FindParameter(&item, name, parameter));
+  return Done(target, "ProParameterInit", FindParameter(&item, name, parameter));
 }
 
 bool Set(const ParamTarget& target, HostName& name, ProParamvalue& value) {
   ProParameter parameter{};
   return Find(target, name, &parameter) &&
-         Done(target.model, "ProParameterValueSet", ProParameterValueSet(&parameter, &value));
+         Done(target, "ProParameterValueSet", ProParameterValueSet(&parameter, &value));
 }
 
 bool Remove(const ParamTarget& target, HostName& name, ProParamvalue&) {
   ProParameter parameter{};
   return Find(target, name, &parameter) &&
-         Done(target.model, "ProParameterDelete", ProParameterDelete(&parameter));
+         Done(target, "ProParameterDelete", ProParameterDelete(&parameter));
 }
 
 struct ParamAction {

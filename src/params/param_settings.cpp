@@ -8,6 +8,7 @@ namespace {
 
 constexpr wchar_t kParamsFile[] = L"QmParams.ini";
 
+constexpr const char* kKeywords = "InputKeyWords";
 constexpr char kDecimals[] = "QmOutlineNum";
 constexpr char kOrder[] = "QmOutlineOrder";
 constexpr wchar_t kDecimalsSection[] = L"QmOutlineNum";
@@ -18,7 +19,7 @@ struct InputField {
   const wchar_t* section;
 };
 constexpr InputField kInputs[] = {
-    {"InputKeyWords", L"InputKeyWords"},
+    {kKeywords, L"InputKeyWords"},
     {"outlinePname", L"outlinePname"},
     {"shSizePname", L"shSizePname"},
 };
@@ -28,10 +29,11 @@ constexpr InputField kInputs[] = {
 void LoadParamSettings(const DialogView& dialog) {
   const std::wstring path = TextFolderConfigPath(kParamsFile);
   for (const InputField& input : kInputs) {
-    dialog.SetInputValue(input.component, ReadSetting(input.section, kContentKey, path));
+    const std::wstring value = ReadSetting(input.section, kContentKey, path);
+    dialog.SetInputValue(input.component, value);
+    // The two further tools start with the same keywords; theirs are not stored.
+    if (input.component == kKeywords) dialog.SetInputValue("InputKeyWords2", value);
   }
-  // The two further tools start with the same keywords; theirs are not stored.
-  dialog.SetInputValue("InputKeyWords2", ReadSetting(L"InputKeyWords", kContentKey, path));
   dialog.SetOptionValue(kDecimals, ReadSetting(kDecimalsSection, kContentKey, path));
   const std::wstring order = ReadSetting(kOrderSection, kContentKey, path);
   if (order == L"1" || order == L"0") dialog.SetCheck(kOrder, order == L"1");

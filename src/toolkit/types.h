@@ -91,7 +91,7 @@ typedef enum {
   PRO_MDL_MFG = PRO_MFG,
 } ProMdlType;
 
-// Part subtypes used here; the numbers are shared with the other model types' subtypes.
+// Model subtypes used here.
 typedef enum {
   PROMDLSTYPE_NONE = 0,
   PROMDLSTYPE_PART_SOLID = 3,
