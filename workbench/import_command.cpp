@@ -89,6 +89,38 @@ class Neighbour {
   fs::path folder_;
 };
 
+// Models in an order in which each comes before those under it.
+std::vector<const Model*> FromTheTop(const ImportedModels& imported) {
+  std::map<std::string, const Model*> by_name;
+  std::map<std::string, int> above;  // placements not yet passed
+  for (const Model& model : imported.models) {
+    by_name[model.id.Text()] = &model;
+    for (const Feature& feature : model.features) ++above[feature.component.Text()];
+  }
+  std::vector<const Model*> order;
+  for (const ModelName& top : imported.tops) order.push_back(by_name.at(top.Text()));
+  for (size_t i = 0; i < order.size(); ++i) {
+    for (const Feature& feature : order[i]->features) {
+      const std::string name = feature.component.Text();
+      if (--above[name] == 0) order.push_back(by_name.at(name));
+    }
+  }
+  return order;
+}
+
+// How often each model occurs under the tops, those themselves once.
+std::map<std::string, long> OccurrencesBelow(const ImportedModels& imported) {
+  std::map<std::string, long> totals;
+  for (const Model& model : imported.models) totals[model.id.Text()] = 0;
+  for (const ModelName& top : imported.tops) totals[top.Text()] = 1;
+  for (const Model* const model : FromTheTop(imported)) {
+    for (const Feature& feature : model->features) {
+      totals[feature.component.Text()] += totals[model->id.Text()];
+    }
+  }
+  return totals;
+}
+
 std::string Padded(std::string text, size_t width) {
   const size_t length = WideLength(text);
   if (length < width) text.append(width - length, ' ');
@@ -134,18 +166,20 @@ void WriteModels(const ImportedModels& imported, const fs::path& folder, bool fo
 }
 
 std::string ModelTable(const ImportedModels& imported) {
+  const std::map<std::string, long> totals = OccurrencesBelow(imported);
   std::map<std::string, int> placed;
+  size_t width = 5;
   for (const Model& model : imported.models) {
+    width = std::max(width, WideLength(model.id.Text()));
     for (const Feature& feature : model.features) ++placed[feature.component.Text()];
   }
-  size_t width = 5;
-  for (const Model& model : imported.models) width = std::max(width, WideLength(model.id.Text()));
-  std::string table = Padded("model", width) + "  components  surfaces  placed\n";
+  std::string table = Padded("model", width) + "  components  surfaces  placed  in all\n";
   for (const Model& model : imported.models) {
-    table += Padded(model.id.Text(), width) + "  " +
-             Padded(std::to_string(model.features.size()), 10) + "  " +
+    const std::string name = model.id.Text();
+    table += Padded(name, width) + "  " + Padded(std::to_string(model.features.size()), 10) + "  " +
              Padded(std::to_string(model.surfaces.size()), 8) + "  " +
-             std::to_string(placed[model.id.Text()]) + "\n";
+             Padded(std::to_string(placed[name]), 6) + "  " + std::to_string(totals.at(name)) +
+             "\n";
   }
   return table;
 }

@@ -25,7 +25,8 @@ ImportedModels ReadStepModels(const std::filesystem::path& file);
 void WriteModels(const ImportedModels& imported, const std::filesystem::path& folder,
                  bool force = false);
 
-// A line a model: its name, its components, its surfaces, and how often it is placed.
+// A line a model: its name, its components, its surfaces, how often it is placed, and how often it
+// occurs under the tops.
 std::string ModelTable(const ImportedModels& imported);
 
 }  // namespace wb
