@@ -14,8 +14,9 @@ mkdir -p "$place"
 unzip -q "$zip" -d "$place"
 tree=$(dirname "$(find "$place" -name install.cmd)")
 (cd "$tree" && run_windows cmd /c install.cmd </dev/null >"$build/package_check/install.log" 2>&1)
-grep -q 'EXEC_FILE.*quillmax5.1C3.dll' "$tree/protk.dat"
-grep -q '^STARTUP *dll' "$tree/protk.dat"
+# The file is in the system's code page: compared as bytes.
+LC_ALL=C grep -aq '^EXEC_FILE .*quillmax5.1C3.dll' "$tree/protk.dat"
+LC_ALL=C grep -aq '^STARTUP *dll' "$tree/protk.dat"
 
 cat >"$build/package_check/run.qms" <<'S'
 folder temp
