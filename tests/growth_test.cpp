@@ -69,6 +69,27 @@ TEST(GrowthReport, OnlyPointsOnOneLineAreLinear) {
   EXPECT_FALSE(IsExactlyLinear({{100, 703}, {200, 1403}, {400, 2804}}));
 }
 
+TEST(GrowthReport, HoldsEveryRowAndTellsWhichBoundIsMissed) {
+  const BenchShape* const shape = FindBenchShape("flat");
+  BenchResult result;
+  for (const int size : {10000, 100000}) {
+    result.rows.push_back({shape, BenchPart::kCollection, size, size, 7 * size, size * 1e-6,
+                           size * 1e-6, size * 1e-6, 1.6, 1.6, 0});
+  }
+  result.most_asked = {{"ProMdlNameGet", 2}};
+  const std::string tables = BenchTables(result, false);
+  EXPECT_NE(tables.find("flat   collection       100000  100000      700000           7.000"),
+            std::string::npos)
+      << tables;
+  Lines missed;
+  for (const BenchBound& bound : CheckBounds(result)) {
+    if (!bound.kept) missed.push_back(bound.text + ": " + bound.found);
+  }
+  EXPECT_EQ(missed, (Lines{"QmParams asks each model for each fact once: ProMdlNameGet 2 times",
+                           "collection at most 1.5 times the bare walk: 1.60 at most (flat, "
+                           "10000)"}));
+}
+
 TEST(GrowthOptions, WrongOnesSayWhatIsWrong) {
   const struct {
     std::vector<std::string> args;

@@ -100,10 +100,10 @@ std::string Growth(const std::vector<BenchRow>& rows, bool markdown) {
   std::vector<TextRow> table = {{"shape", "part", "exponent of time", "of the bare walk's",
                                  "of x same work", "of host calls", "calls exactly linear"}};
   for (const Curve& curve : CurvesOf(rows)) {
-    table.push_back({curve.shape->name, BenchPartName(curve.part),
-                     Number(FittedExponent(curve.times), 3),
-                     Number(FittedExponent(curve.bare_times), 3), Number(curve.CallsExponent(), 3),
-                     IsExactlyLinear(curve.calls) ? "yes" : "no"});
+    table.push_back(
+        {curve.shape->name, BenchPartName(curve.part), Number(FittedExponent(curve.times), 3),
+         Number(FittedExponent(curve.bare_times), 3), Number(FittedExponent(curve.ratios), 3),
+         Number(curve.CallsExponent(), 3), IsExactlyLinear(curve.calls) ? "yes" : "no"});
   }
   return Table(table, 2, markdown);
 }

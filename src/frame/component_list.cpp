@@ -47,8 +47,8 @@ struct Node {
   bool level_read = false;
   bool entered = false;  // on the way from the root to where the walk is
   bool walked = false;   // its components stand in the list already
-  size_t level_begin = 0;
-  size_t level_end = 0;
+  uint32_t level_begin = 0;
+  uint32_t level_end = 0;
 };
 using NodeNumber = uint32_t;
 constexpr NodeNumber kNoNode = UINT32_MAX;  // the model is not in session
@@ -78,7 +78,7 @@ class ComponentCollector {
  private:
   struct Position {
     NodeNumber assembly;
-    size_t next;
+    uint32_t next;
     bool repeated;
   };
 
@@ -114,7 +114,7 @@ class ComponentCollector {
 
   void ReadLevel(NodeNumber assembly, LevelFilter filter) {
     const ProMdl model = nodes_[assembly].model;
-    const size_t begin = placements_.size();
+    const auto begin = static_cast<uint32_t>(placements_.size());
     const ProError status = VisitFeatures(
         model, [&](ProFeature& feature) { return Accepts(filter, feature); },
         [&](ProFeature& feature) { return ReadPlacement(model, feature); });
@@ -124,7 +124,7 @@ class ComponentCollector {
     Node& node = nodes_[assembly];
     node.level_read = true;
     node.level_begin = begin;
-    node.level_end = placements_.size();
+    node.level_end = static_cast<uint32_t>(placements_.size());
   }
 
   ProError ReadPlacement(ProMdl assembly, ProFeature& feature) {
