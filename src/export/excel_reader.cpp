@@ -64,7 +64,7 @@ std::optional<SheetTexts> Read(const std::wstring& path, size_t columns) {
   if (!excel) return std::nullopt;
   excel->OpenWorkbook(path);
   SheetTexts rows = ReadSheet(excel->workbook(), columns);
-  excel->workbook().Call(excel::kClose);
+  excel->CloseWorkbook();
   excel->Quit();
   return rows;
 }

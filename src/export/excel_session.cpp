@@ -44,6 +44,11 @@ void ExcelSession::OpenWorkbook(const std::wstring& path) {
   workbook_ = application_.Get(excel::kWorkbooks).CallForObject(excel::kOpen, {&file});
 }
 
+void ExcelSession::CloseWorkbook() {
+  workbook_.Call(excel::kClose);
+  workbook_.reset();
+}
+
 void ExcelSession::Quit() {
   application_.Call(excel::kQuit);
   workbook_.reset();

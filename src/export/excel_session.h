@@ -23,6 +23,7 @@ class ExcelSession {
   // Throw AutomationError, as do all calls on the objects.
   void AddWorkbook();
   void OpenWorkbook(const std::wstring& path);
+  void CloseWorkbook();
   // Ends the program.
   void Quit();
 

@@ -68,9 +68,8 @@ class SheetWriter {
     range.Call(excel::kMerge, {&not_across});
     range.Get(excel::kInterior).Put(excel::kColor, Variant(excel::kYellow));
     Centre(range);
-    const Dispatch font = range.Get(excel::kFont);
-    font.Put(excel::kBold, Variant(true));
-    font.Put(excel::kSize, Variant(kTitleSize));
+    range.Get(excel::kFont).Put(excel::kBold, Variant(true));
+    range.Get(excel::kFont).Put(excel::kSize, Variant(kTitleSize));
   }
 
   void WriteLabel(size_t column) {
@@ -84,7 +83,7 @@ class SheetWriter {
     const WorkbookCell& source = table_.rows[row][column];
     const Dispatch cell = Cell(column, row + kFirstDataRow);
     cell.Put(excel::kNumberFormat, Variant(std::wstring(excel::kTextFormat)));
-    cell.Put(excel::kValue2, Variant(source.text));
+    cell.Put(excel::kValue2, Variant(AsFormattedText(source.text)));
     if (!source.tinted) return;
     cell.Get(excel::kInterior).Put(excel::kColorIndex, Variant(excel::kLightGreenIndex));
   }

@@ -79,6 +79,10 @@ std::wstring AsPlainText(std::wstring_view text) {
   return (ReadsAsOther(text) ? L"'" : L"") + std::wstring(text);
 }
 
+std::wstring AsFormattedText(std::wstring_view text) {
+  return (text.starts_with(L'\'') ? L"'" : L"") + std::wstring(text);
+}
+
 std::wstring WholePart(double number) {
   if (!std::isfinite(number)) return {};
   char digits[400];

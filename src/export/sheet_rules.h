@@ -21,6 +21,9 @@ bool ReadsAsOther(std::wstring_view text);
 // The value to put into such a cell so that the text arrives as it stands.
 std::wstring AsPlainText(std::wstring_view text);
 
+// The same for a cell with the text format, which still swallows an apostrophe in front.
+std::wstring AsFormattedText(std::wstring_view text);
+
 // A cell's number as its text: the digits before the decimal sign, nothing rounded.
 std::wstring WholePart(double number);
 

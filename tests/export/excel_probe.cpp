@@ -1,0 +1,26 @@
+// The exports of the probe library.
+#include "tests/export/excel_probe.h"
+
+#include "export/dispatch.h"
+#include "export/excel_reader.h"
+#include "export/excel_writer.h"
+
+extern "C" __declspec(dllexport) bool WriteTable(const wchar_t* path) {
+  const qm::ComScope com;
+  const qm::WorkbookTable table = {
+      L"1/2", {L"=A1", L"007"}, {{{L"'a"}, {L"=1+1", true}}, {{L"0012"}, {L""}}}};
+  return qm::WriteWorkbook(table, path);
+}
+
+extern "C" __declspec(dllexport) bool ReadTable(const wchar_t* path, wchar_t* texts, int size) {
+  const qm::ComScope com;
+  const auto rows = qm::ReadWorkbook(path, 2);
+  if (!rows) return false;
+  std::wstring all;
+  for (const auto& row : *rows) {
+    for (const std::wstring& text : row) all += text + L"|";
+    all += L"\n";
+  }
+  texts[all.copy(texts, static_cast<size_t>(size) - 1)] = L'\0';
+  return true;
+}
