@@ -82,7 +82,7 @@ std::filesystem::path CommandLine::Path(const std::string& option) const {
 
 std::filesystem::path InstallTree(const CommandLine& line) {
   const std::filesystem::path tree =
-      line.Has("--install") ? line.Path("--install") : ProgramFolder() / kTreeName;
+      line.Has("--install") ? line.Path("--install") : ProgramFile().parent_path() / kTreeName;
   if (std::filesystem::is_directory(tree / "text")) return tree;
   throw UsageError("there is no install tree at " + PathToUtf8(tree) +
                    "; build one, or name it with --install DIR");

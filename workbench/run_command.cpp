@@ -1,5 +1,7 @@
 // `workbench run`: runs scripts, says what failed, and closes with "N passed, N failed".
+#include <algorithm>
 #include <cstdio>
+#include <sstream>
 
 #include "workbench/command_line.h"
 #include "workbench/model_file.h"
@@ -9,6 +11,7 @@
 #include "workbench/script_windows.h"
 #include "workbench/script_words.h"
 #include "workbench/text.h"
+#include "workbench/utf8_text.h"
 
 namespace wb {
 namespace {
@@ -69,6 +72,43 @@ void RunOne(const std::string& script, const ScriptOptions& options, RunRecord& 
   std::fflush(stdout);
 }
 
+// A script that puts the plug-in elsewhere cannot share a process with others.
+bool NeedsOwnProcess(const std::string& script) {
+  const ParsedScript parsed = ParseScript(ReadFileBytes(PathFromUtf8(script)).value_or(""), script);
+  return std::any_of(parsed.statements.begin(), parsed.statements.end(),
+                     [](const Statement& s) { return s.Is("install_as") || s.Is("plugin_as"); });
+}
+
+// Counts what a process of its own closes with, and passes on the lines before.
+void TakeOver(const std::string& script, const std::string& output, RunRecord& record) {
+  std::vector<std::string> lines;
+  std::istringstream text(output);
+  for (std::string line; std::getline(text, line);) lines.push_back(Trimmed(line));
+  int passed = 0;
+  int failed = 0;
+  if (!lines.empty() &&
+      std::sscanf(lines.back().c_str(), "%d passed, %d failed", &passed, &failed) == 2) {
+    lines.pop_back();
+  } else {
+    failed = 1;
+    lines.push_back(script + ": it ended without its closing line");
+  }
+  record.passed += passed;
+  record.failed += failed;
+  for (const std::string& line : lines) {
+    std::printf("%s\n", line.c_str());
+    if (failed > 0) record.failures.push_back({script, 0, line, -1});
+  }
+}
+
+void RunApart(const std::string& script, const CommandLine& line, RunRecord& record) {
+  CommandArguments arguments = {"run", script};
+  for (const char* option : {"--out", "--plugin", "--install", "--fault"}) {
+    if (line.Has(option)) arguments.insert(arguments.end(), {option, line.Value(option)});
+  }
+  TakeOver(script, OutputOf(ProgramFile(), arguments).value_or(""), record);
+}
+
 }  // namespace
 
 int RunScriptsCommand(const CommandArguments& arguments) {
@@ -91,7 +131,14 @@ int RunScriptsCommand(const CommandArguments& arguments) {
   record.facts.emplace_back("Code page", std::to_string(AnsiCodePage()));
   WatchForHangs(kHangSeconds);
   bool readable = true;
-  for (const std::string& script : line.words()) RunOne(script, options, record, &readable);
+  const bool alone = line.words().size() == 1;
+  for (const std::string& script : line.words()) {
+    if (!alone && NeedsOwnProcess(script)) {
+      RunApart(script, line, record);
+    } else {
+      RunOne(script, options, record, &readable);
+    }
+  }
   if (options.record) {
     WriteReport(line.Path("--report"), record);
     std::printf("report: %s\n", PathToUtf8(line.Path("--report")).c_str());

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "workbench/text.h"
+#include "workbench/utf8_text.h"
 #include "workbench/windows_headers.h"
 
 namespace wb {
@@ -113,10 +114,68 @@ ClipboardHolder::~ClipboardHolder() {
   }
 }
 
-std::filesystem::path ProgramFolder() {
+namespace {
+
+// A file that a started program writes its output into; gone when this is.
+class OutputFile {
+ public:
+  OutputFile()
+      : path_(std::filesystem::temp_directory_path() /
+              ("workbench output " + std::to_string(::GetCurrentProcessId()) + ".txt")) {
+    SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};
+    handle_ = ::CreateFileW(path_.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited,
+                            CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+  }
+  ~OutputFile() {
+    Close();
+    std::error_code error;
+    std::filesystem::remove(path_, error);
+  }
+  OutputFile(const OutputFile&) = delete;
+  OutputFile& operator=(const OutputFile&) = delete;
+
+  HANDLE handle() const { return handle_; }
+  std::string Content() {
+    Close();
+    return ReadFileBytes(path_).value_or("");
+  }
+
+ private:
+  void Close() {
+    if (handle_ != INVALID_HANDLE_VALUE) ::CloseHandle(handle_);
+    handle_ = INVALID_HANDLE_VALUE;
+  }
+
+  std::filesystem::path path_;
+  HANDLE handle_;
+};
+
+}  // namespace
+
+std::optional<std::string> OutputOf(const std::filesystem::path& program,
+                                    const std::vector<std::string>& arguments) {
+  std::wstring command = L"\"" + program.wstring() + L"\"";
+  for (const std::string& argument : arguments) command += L" \"" + ToWide(argument) + L"\"";
+  OutputFile output;
+  STARTUPINFOW startup{};
+  startup.cb = sizeof(startup);
+  startup.dwFlags = STARTF_USESTDHANDLES;
+  startup.hStdOutput = startup.hStdError = output.handle();
+  PROCESS_INFORMATION process{};
+  if (!::CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                        &startup, &process)) {
+    return std::nullopt;
+  }
+  ::WaitForSingleObject(process.hProcess, INFINITE);
+  ::CloseHandle(process.hThread);
+  ::CloseHandle(process.hProcess);
+  return output.Content();
+}
+
+std::filesystem::path ProgramFile() {
   wchar_t path[MAX_PATH] = {};
   ::GetModuleFileNameW(nullptr, path, MAX_PATH - 1);
-  return std::filesystem::path(path).parent_path();
+  return path;
 }
 
 unsigned AnsiCodePage() {

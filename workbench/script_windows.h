@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace wb {
 
@@ -33,8 +34,13 @@ class ClipboardHolder {
   std::unique_ptr<Thread> thread_;
 };
 
-// Where the running program lies.
-std::filesystem::path ProgramFolder();
+// Runs a program to its end and gives what it printed; no text when it cannot be started.
+// Arguments are quoted by blanks only, so they must hold no quotes.
+std::optional<std::string> OutputOf(const std::filesystem::path& program,
+                                    const std::vector<std::string>& arguments);
+
+// The running program.
+std::filesystem::path ProgramFile();
 unsigned AnsiCodePage();
 unsigned ProcessId();
 

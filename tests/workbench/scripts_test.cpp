@@ -9,8 +9,7 @@
 #include "tests/workbench/test_paths.h"
 #include "workbench/model_file.h"
 #include "workbench/script_runner.h"
-#include "workbench/utf8_text.h"
-#include "workbench/windows_headers.h"
+#include "workbench/script_windows.h"
 
 namespace wb {
 namespace {
@@ -44,35 +43,12 @@ std::string Failures(const RunRecord& record) {
   return lines;
 }
 
-// Runs `workbench run SCRIPT` and gives what it prints.
-std::string RunWorkbench(const fs::path& script) {
-  const fs::path output = fs::temp_directory_path() / "scripts_test.txt";
-  SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};
-  const HANDLE file = ::CreateFileW(output.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited,
-                                    CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-  STARTUPINFOW startup{};
-  startup.cb = sizeof(startup);
-  startup.dwFlags = STARTF_USESTDHANDLES;
-  startup.hStdOutput = startup.hStdError = file;
-  std::wstring command = L"\"" + (TestBinaryFolder() / "workbench.exe").wstring() + L"\" run \"" +
-                         script.wstring() + L"\"";
-  PROCESS_INFORMATION process{};
-  if (!::CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                        &startup, &process)) {
-    ::CloseHandle(file);
-    return "workbench.exe cannot be started";
-  }
-  ::WaitForSingleObject(process.hProcess, INFINITE);
-  for (const HANDLE handle : {process.hThread, process.hProcess, file}) ::CloseHandle(handle);
-  const std::string text = ReadFileBytes(output).value_or("");
-  fs::remove(output);
-  return text;
-}
-
 class Script : public testing::TestWithParam<fs::path> {};
 
 TEST_P(Script, Passes) {
-  const std::string text = RunWorkbench(GetParam());
+  const std::string text =
+      OutputOf(TestBinaryFolder() / "workbench.exe", {"run", PathToUtf8(GetParam())})
+          .value_or("workbench.exe cannot be started");
   if (text.find(": skipped, since ") != std::string::npos) GTEST_SKIP() << text;
   EXPECT_NE(text.find(" passed, 0 failed"), std::string::npos) << text;
   EXPECT_EQ(text.find("\n0 passed"), std::string::npos) << text;
