@@ -76,8 +76,19 @@ print_changes() {
     }' "$out/trace.txt"
 }
 
+# The workbooks that the bills were exported to lie on the scripted user's desktop.
+collect_workbooks() {
+  local kind
+  for kind in summary levels; do
+    mv "$out"/demo-*/desktop/$kind.xlsx "$out/" || stop "the $kind bill is missing" "$log"
+  done
+}
+
 build_programs
 run_script
+collect_workbooks
 print_changes
+echo "QmBom      wrote $out/summary.xlsx"
+echo "           and   $out/levels.xlsx"
 echo "$closing"
 echo "Report     $out/report.html"
