@@ -16,7 +16,23 @@ namespace {
 // in one language on a system in another refuses calls in the system's.
 constexpr LCID kCallLocale = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
 
-std::wstring SystemText(HRESULT result) {
+struct KnownResult {
+  HRESULT result;
+  const wchar_t* text;
+};
+constexpr KnownResult kKnownResults[] = {
+    {RPC_E_CALL_REJECTED, L"程序正忙，没有应答"},
+    {RPC_E_SERVERCALL_RETRYLATER, L"程序正忙，没有应答"},
+    {RPC_E_SERVERFAULT, L"程序已意外退出"},
+    {RPC_E_DISCONNECTED, L"程序已意外退出"},
+    {static_cast<HRESULT>(0x800706BA), L"程序已意外退出"},  // RPC_S_SERVER_UNAVAILABLE
+};
+
+// The system's own text, where it has any, is rarely of help to users.
+std::wstring ResultText(HRESULT result) {
+  for (const KnownResult& known : kKnownResults) {
+    if (known.result == result) return known.text;
+  }
   wchar_t text[512] = {};
   DWORD length = ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
                                   nullptr, static_cast<DWORD>(result), 0, text,
@@ -104,7 +120,7 @@ void AutomationError::set_place(const std::wstring& place) {
 std::wstring AutomationError::Reason() const {
   wchar_t number[16];
   std::swprintf(number, std::size(number), L"(0x%08X)", static_cast<unsigned>(result_));
-  const std::wstring text = description_.empty() ? SystemText(result_) : description_;
+  const std::wstring text = description_.empty() ? ResultText(result_) : description_;
   return text.empty() ? number : text + L" " + number;
 }
 
