@@ -52,7 +52,7 @@ std::optional<WorkbookTable> ReadTable(const DialogTable& table, std::wstring ti
 }  // namespace
 
 void ExportBill(DialogView dialog) {
-  const CommandLog log("QmExportBom");
+  CommandLog log("QmExportBom");
   const auto name = CurrentModelName();
   if (!name) {
     ShowMessage(kNoName);

@@ -46,7 +46,7 @@ void PrepareChosenBill(DialogView dialog) {
 }
 
 void LoadBill(DialogView dialog) {
-  const CommandLog log("QmLoadBom");
+  CommandLog log("QmLoadBom");
   const auto assembly = CurrentAssembly();
   if (!assembly) {
     ShowShortMessage(kAssembliesOnly);
