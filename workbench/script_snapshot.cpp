@@ -2,6 +2,7 @@
 #include "workbench/script_snapshot.h"
 
 #include <fstream>
+#include <set>
 
 #include "workbench/model_file.h"
 #include "workbench/script_windows.h"
@@ -21,13 +22,18 @@ std::vector<fs::path> FilesBelow(const fs::path& folder) {
   return files;
 }
 
+// Only settings files are kept in memory by Windows.
+void FlushIfProfile(const fs::path& file) {
+  if (file.extension() == ".ini") FlushProfile(file);
+}
+
 std::string Content(const fs::path& file) {
-  FlushProfile(file);
+  FlushIfProfile(file);
   return ReadFileBytes(file).value_or("");
 }
 
 void WriteBack(const fs::path& file, const std::string& content) {
-  FlushProfile(file);
+  FlushIfProfile(file);
   fs::create_directories(file.parent_path());
   std::ofstream(file, std::ios::binary | std::ios::trunc) << content;
 }
@@ -51,15 +57,18 @@ FolderSnapshot::FolderSnapshot(fs::path folder) : folder_(std::move(folder)) {
 
 std::vector<std::pair<std::string, std::string>> FolderSnapshot::Differences() const {
   std::vector<std::pair<std::string, std::string>> differences;
-  for (const auto& [file, content] : files_) {
-    if (!fs::exists(file)) {
-      differences.emplace_back(PathToUtf8(file), "deleted");
-    } else if (Content(file) != content) {
+  std::set<fs::path> present;
+  for (const fs::path& file : FilesBelow(folder_)) {
+    present.insert(file);
+    const auto held = files_.find(file);
+    if (held == files_.end()) {
+      differences.emplace_back(PathToUtf8(file), "new");
+    } else if (Content(file) != held->second) {
       differences.emplace_back(PathToUtf8(file), "changed");
     }
   }
-  for (const fs::path& file : FilesBelow(folder_)) {
-    if (!files_.contains(file)) differences.emplace_back(PathToUtf8(file), "new");
+  for (const auto& [file, content] : files_) {
+    if (!present.contains(file)) differences.emplace_back(PathToUtf8(file), "deleted");
   }
   return differences;
 }
