@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "workbench/dialog_resource_checks.h"
+#include "workbench/text.h"
 #include "workbench/utf8_text.h"
 
 namespace wb {
@@ -287,7 +288,7 @@ DialogResource ParseDialogResource(std::string_view text, const std::string& fil
 }
 
 DialogResource LoadDialogResource(const std::filesystem::path& path) {
-  const std::string file = PathText(path);
+  const std::string file = PathToUtf8(path);
   const std::optional<std::string> text = ReadFileBytes(path);
   if (!text) throw ResourceError(file, 0, "the dialog resource cannot be read");
   DialogResource resource = ParseDialogResource(*text, file);

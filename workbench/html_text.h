@@ -1,4 +1,4 @@
-// Text on its way into an HTML page.
+// Text on its way into an HTML page or an XML part of a workbook.
 #pragma once
 
 #include <string>

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "workbench/text.h"
 #include "workbench/utf8_text.h"
 
 namespace wb {
@@ -188,8 +189,8 @@ MessageFile MessageFile::Parse(std::string_view text, const std::string& file) {
 
 MessageFile MessageFile::Load(const std::filesystem::path& path) {
   const std::optional<std::string> text = ReadFileBytes(path);
-  if (!text) throw MessageFileError(PathText(path), 0, "the message file cannot be read");
-  return Parse(*text, PathText(path));
+  if (!text) throw MessageFileError(PathToUtf8(path), 0, "the message file cannot be read");
+  return Parse(*text, PathToUtf8(path));
 }
 
 const MessageRecord* MessageFile::Find(std::string_view key) const {

@@ -218,13 +218,4 @@ std::optional<VersionedName> ParseFileName(const std::string& file_name) {
   return VersionedName{*model, version};
 }
 
-std::filesystem::path PathFromUtf8(std::string_view text) {
-  return std::filesystem::path(std::u8string(text.begin(), text.end()));
-}
-
-std::string PathToUtf8(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
-  return std::string(text.begin(), text.end());
-}
-
 }  // namespace wb

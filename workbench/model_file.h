@@ -7,6 +7,7 @@
 #include <string>
 
 #include "workbench/model.h"
+#include "workbench/text.h"
 
 namespace wb {
 
@@ -30,8 +31,5 @@ struct VersionedName {
   int version = 0;
 };
 std::optional<VersionedName> ParseFileName(const std::string& file_name);
-
-std::filesystem::path PathFromUtf8(std::string_view text);
-std::string PathToUtf8(const std::filesystem::path& path);
 
 }  // namespace wb

@@ -7,6 +7,7 @@
 
 #include "workbench/step_index.h"
 #include "workbench/step_text.h"
+#include "workbench/text.h"
 #include "workbench/utf8_text.h"
 
 namespace wb {
@@ -114,10 +115,10 @@ StepFile StepFile::Read(const std::filesystem::path& path) {
     stream.read(text.data(), size);
   }
   if (!stream || size < 0 || std::filesystem::is_directory(path)) {
-    throw StepError(PathText(path), 0, "the file cannot be read",
+    throw StepError(PathToUtf8(path), 0, "the file cannot be read",
                     "check its path and that it exists");
   }
-  return Parse(std::move(text), PathText(path));
+  return Parse(std::move(text), PathToUtf8(path));
 }
 
 StepFile StepFile::Parse(std::string text, std::string file_name) {

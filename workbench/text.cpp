@@ -128,6 +128,15 @@ std::string ToAnsi(std::string_view utf8) {
 }
 #endif
 
+std::filesystem::path PathFromUtf8(std::string_view text) {
+  return std::filesystem::path(std::u8string(text.begin(), text.end()));
+}
+
+std::string PathToUtf8(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return std::string(text.begin(), text.end());
+}
+
 std::string NumberText(double value) {
   char buffer[40];
   const auto end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;

@@ -1,6 +1,7 @@
 // Text of the workbench: UTF-8 inside, 16-bit wide at the host interface, names without case.
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -27,6 +28,9 @@ inline std::string FromWide(std::wstring_view wide) {
 std::string FromAnsi(std::string_view ansi);
 std::string ToAnsi(std::string_view utf8);
 #endif
+
+std::filesystem::path PathFromUtf8(std::string_view text);
+std::string PathToUtf8(const std::filesystem::path& path);
 
 // "%g"-like shortest decimal form that reads back as the same double.
 std::string NumberText(double value);

@@ -59,11 +59,6 @@ std::string_view WithoutBom(std::string_view text) {
   return text;
 }
 
-std::string PathText(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
-  return std::string(text.begin(), text.end());
-}
-
 std::optional<std::string> ReadFileBytes(const std::filesystem::path& path) {
   std::ifstream stream(path, std::ios::binary);
   if (!stream) return std::nullopt;

@@ -20,9 +20,6 @@ std::size_t WideLength(std::string_view text);
 // `text` without a leading byte-order mark.
 std::string_view WithoutBom(std::string_view text);
 
-// `path` as UTF-8, for error texts.
-std::string PathText(const std::filesystem::path& path);
-
 // All bytes of a file; none when it cannot be read.
 std::optional<std::string> ReadFileBytes(const std::filesystem::path& path);
 

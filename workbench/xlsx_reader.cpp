@@ -259,7 +259,7 @@ class BookReader {
 }  // namespace
 
 Workbook ReadXlsx(const std::filesystem::path& file) {
-  const std::string name = PathText(file);
+  const std::string name = PathToUtf8(file);
   auto bytes = ReadFileBytes(file);
   if (!bytes) throw XlsxError(name + ": cannot be read");
   try {

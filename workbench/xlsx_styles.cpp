@@ -1,5 +1,6 @@
 // Writes and reads the table of cell formats.
 #include "workbench/xlsx_styles.h"
+#include "workbench/html_text.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -154,29 +155,6 @@ CellFormat ReadCellFormat(XmlReader& xml, const StyleParts& parts) {
 
 }  // namespace
 
-std::string XmlText(std::string_view text) {
-  std::string escaped;
-  for (const char c : text) {
-    switch (c) {
-      case '&':
-        escaped += "&amp;";
-        break;
-      case '<':
-        escaped += "&lt;";
-        break;
-      case '>':
-        escaped += "&gt;";
-        break;
-      case '"':
-        escaped += "&quot;";
-        break;
-      default:
-        escaped += c;
-    }
-  }
-  return escaped;
-}
-
 size_t XlsxStyleWriter::Number(const CellFormat& format) {
   const auto [at, fresh] = numbers_.try_emplace(format, formats_.size());
   if (fresh) formats_.push_back(format);
@@ -208,7 +186,7 @@ std::string XlsxStyleWriter::Document() const {
   for (const std::string& code : own_formats.items()) {
     number_elements.push_back("<numFmt numFmtId=\"" +
                               std::to_string(kFirstOwnFormat + number_elements.size()) +
-                              "\" formatCode=\"" + XmlText(code) + "\"/>");
+                              "\" formatCode=\"" + EscapeHtml(code) + "\"/>");
   }
   std::vector<std::string> font_elements;
   for (const auto& [bold, size] : fonts.items()) font_elements.push_back(FontElement(bold, size));

@@ -28,7 +28,4 @@ class XlsxStyleWriter {
 // The formats of a file by number. Throws LineError.
 std::vector<CellFormat> ReadXlsxStyles(std::string_view document, const std::string& name);
 
-// Text inside elements and attributes.
-std::string XmlText(std::string_view text);
-
 }  // namespace wb

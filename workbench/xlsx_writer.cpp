@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <fstream>
 
+#include "workbench/html_text.h"
 #include "workbench/model_file.h"
 #include "workbench/text.h"
 #include "workbench/xlsx_file.h"
@@ -54,7 +55,7 @@ class SharedTexts {
     ++uses_;
     const auto [at, fresh] = numbers_.try_emplace(text, numbers_.size());
     if (fresh) {
-      items_ += "<si><t xml:space=\"preserve\">" + XmlText(EscapedControls(text)) + "</t></si>";
+      items_ += "<si><t xml:space=\"preserve\">" + EscapeHtml(EscapedControls(text)) + "</t></si>";
     }
     return at->second;
   }
@@ -191,7 +192,7 @@ std::string WorkbookDocument(const Workbook& book) {
                      std::to_string(book.active_sheet) + "\"/></bookViews><sheets>";
   for (size_t i = 0; i < book.sheets.size(); ++i) {
     const std::string number = std::to_string(i + 1);
-    text += "<sheet name=\"" + XmlText(book.sheets[i].name) + "\" sheetId=\"" + number +
+    text += "<sheet name=\"" + EscapeHtml(book.sheets[i].name) + "\" sheetId=\"" + number +
             "\" r:id=\"rId" + number + "\"/>";
   }
   return text + "</sheets></workbook>";
