@@ -29,6 +29,8 @@ class Faults {
   // The same for an intercepted Windows call: unless the plan names it, it counts only where the
   // plan says so. It fails in the way natural to it, whatever status the plan has.
   const FaultPlan* StrikeWindows(const char* function);
+  // Whether the calls it strikes claim success.
+  bool claims_success() const { return plan_ && plan_->kind == FaultKind::kEmptySuccess; }
   // How many calls the current plan has failed.
   long struck() const { return struck_; }
 
