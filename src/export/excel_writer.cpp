@@ -118,7 +118,14 @@ class NewFile {
   ~NewFile() {
     if (!finished_ && !IsSame(before_, StateOf(path_))) ::DeleteFileW(path_.c_str());
   }
-  void Finish() { finished_ = true; }
+  // Throws when the program has answered success but written nothing.
+  void Finish() {
+    if (IsSame(before_, StateOf(path_))) {
+      throw AutomationError(excel::kSaveCopyAs.name, HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND),
+                            L"文件没有生成");
+    }
+    finished_ = true;
+  }
 
  private:
   const std::wstring& path_;
