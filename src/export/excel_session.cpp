@@ -45,7 +45,9 @@ void ExcelSession::OpenWorkbook(const std::wstring& path) {
 }
 
 void ExcelSession::CloseWorkbook() {
-  workbook_.Call(excel::kClose);
+  // Opening an older file may have changed it, and the program would ask whether to save that.
+  const Variant saves(false);
+  workbook_.Call(excel::kClose, {&saves});
   workbook_.reset();
 }
 
