@@ -4,6 +4,7 @@
 #include "workbench/script_runner.h"
 #include "workbench/script_words.h"
 #include "workbench/text.h"
+#include "workbench/windows_hooks.h"
 
 namespace wb {
 namespace {
@@ -13,6 +14,7 @@ long CountOf(const ScriptRun& run, const std::string& function) {
 }
 
 void ExpectCalls(ScriptRun& run, const Statement& statement) {
+  CheckFunctions(statement);
   const long got = CountOf(run, statement.Text("FUNCTION"));
   const long wanted = statement.Has("none") ? 0 : statement.Number("N");
   const bool at_most = statement.Has("at");
@@ -22,6 +24,7 @@ void ExpectCalls(ScriptRun& run, const Statement& statement) {
 }
 
 void ExpectCall(ScriptRun& run, const Statement& statement) {
+  CheckFunctions(statement);
   std::vector<std::string> arguments;
   for (const Crossed& line : LinesInOrder(run)) {
     if (line.function == statement.Text("FUNCTION")) arguments.push_back(line.arguments);
@@ -35,6 +38,7 @@ void ExpectCall(ScriptRun& run, const Statement& statement) {
 }
 
 void ExpectOrder(ScriptRun& run, const Statement& statement) {
+  CheckFunctions(statement);
   const std::vector<std::string>& wanted = statement.Texts("FUNCTION");
   size_t met = 0;
   for (const Crossed& line : LinesInOrder(run)) {
@@ -91,6 +95,16 @@ constexpr ScriptHandler kHandlers[] = {
 };
 
 }  // namespace
+
+void CheckFunctions(const Statement& statement) {
+  for (const std::string& function : statement.Texts("FUNCTION")) {
+    if (function == "any" || function.starts_with("Excel.")) continue;
+    if (!IsMetFunction(function.c_str())) {
+      throw ScriptError("neither the host nor the intercepted part of Windows has a function " +
+                        function);
+    }
+  }
+}
 
 std::vector<Crossed> LinesInOrder(const ScriptRun& run) {
   if (!run.host.trace.keep_lines) throw ScriptError("the trace is off");

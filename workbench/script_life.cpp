@@ -68,6 +68,7 @@ void FaultNone(ScriptRun& run, const Statement&) {
 }
 
 void OrderFault(ScriptRun& run, const Statement& statement) {
+  CheckFunctions(statement);
   run.fault = {};
   if (statement.Text("FUNCTION") != "any") run.fault.function = statement.Text("FUNCTION");
   run.fault.nth = statement.Number("NTH");
@@ -80,6 +81,7 @@ void OrderFault(ScriptRun& run, const Statement& statement) {
 }
 
 void Withhold(ScriptRun& run, const Statement& statement) {
+  CheckFunctions(statement);
   for (const std::string& function : statement.Texts("FUNCTION")) {
     run.host.windows.withheld.insert(function);
   }

@@ -161,6 +161,8 @@ ScriptHandlers SpreadsheetStatements();
 // Calls of the last action in the order of their beginnings; a call's line is written when it ends.
 // Throws ScriptError while the trace is off.
 std::vector<Crossed> LinesInOrder(const ScriptRun& run);
+// A name that no call bears would make "none" hold for ever; it ends the script.
+void CheckFunctions(const Statement& statement);
 
 // Null for answers, which are taken when the plug-in asks.
 ScriptAction FindScriptAction(const StatementForm& form);

@@ -265,4 +265,12 @@ std::span<const Hook> Hooks() {
   return kHooks;
 }
 
+bool IsMetFunction(const char* name) {
+  const std::string versioned = std::string(name) + QM_HOST_NAME_SUFFIX;
+  if (::GetProcAddress(::GetModuleHandleW(nullptr), versioned.c_str()) != nullptr) return true;
+  const std::span<const Hook> hooks = Hooks();
+  return std::any_of(hooks.begin(), hooks.end(),
+                     [&](const Hook& hook) { return std::strcmp(hook.name, name) == 0; });
+}
+
 }  // namespace wb

@@ -11,6 +11,9 @@ struct Hook {
 };
 std::span<const Hook> Hooks();
 
+// Whether calls of this function can be met at all: the host offers it, or it is intercepted.
+bool IsMetFunction(const char* name);
+
 // Replaces those imports of a loaded module (HMODULE) that are named in `hooks`.
 struct Interception;
 Interception InterceptImports(void* module, std::span<const Hook> hooks);
