@@ -31,6 +31,9 @@ ScriptOutcome RunScriptFile(const std::filesystem::path& file, const ScriptOptio
   if (outcome.readable) {
     outcome.skipped = ScriptRun(name, options, record).RunAll(script.statements);
   }
+  if (outcome.skipped.empty() && record.passed == passed_before && record.failed == failed_before) {
+    FailWhole(name, 0, "checks nothing; it needs a \"run\" or an \"expect\" at least", record);
+  }
   outcome.passed = record.passed - passed_before;
   outcome.failed = record.failed - failed_before;
   return outcome;

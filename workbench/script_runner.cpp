@@ -94,6 +94,7 @@ std::string ScriptRun::RunAll(const std::vector<Statement>& statements) {
       Execute(statement);
     }
     if (at != nullptr) Stop(*at);
+    if (fault.nth != 0 && options.fault.nth == 0) Fail(*at, "no action followed the fault ordered");
   } catch (const ScriptSkip& skip) {
     return skip.why;
   } catch (const std::exception& error) {
