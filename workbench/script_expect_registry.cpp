@@ -21,12 +21,15 @@ Command& CommandAt(ScriptRun& run, const Statement& statement) {
   throw ScriptError("the plug-in has registered no command " + statement.Text("NAME"));
 }
 
+const char* StateWord(int state) {
+  constexpr const char* kWords[] = {"not_offered", "unavailable", "disallowed", "available"};
+  return state >= 0 && state <= kAvailable ? kWords[state] : "unknown";
+}
+
 void ExpectAccess(ScriptRun& run, const Statement& statement) {
   run.EnsureStarted();
   const int state = AskAccess(statement.Text("COMMAND"));
-  const std::string got = state < 0             ? "no such command"
-                          : state == kAvailable ? "available"
-                                                : "unavailable";
+  const std::string got = state < 0 ? "no such command" : StateWord(state);
   run.Check(statement, got == statement.Text("STATE"), statement.Text("COMMAND"),
             statement.Text("STATE"), got);
   for (const std::string& complaint : run.TakeComplaints()) run.Fail(statement, complaint);
@@ -65,7 +68,9 @@ void ExpectPopupButton(ScriptRun& run, const Statement& statement) {
     return Quoted(label) + " " + state;
   };
   const std::string wanted = shown(statement.Text("TEXT"), statement.Text("STATE"));
-  const std::string got = shown(button->label, button->available() ? "available" : "not_available");
+  const bool whichever = statement.Text("STATE") == "not_available" && !button->available();
+  const std::string got =
+      shown(button->label, whichever ? "not_available" : StateWord(button->state));
   run.Check(statement, wanted == got, what, wanted, got);
 }
 

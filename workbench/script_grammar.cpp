@@ -202,7 +202,7 @@ constexpr StatementForm kForms[] = {
     {"expect_access",        "expect access COMMAND is STATE:available|unavailable", kT},
     {"expect_popup_none",    "expect popup none", kT},
     {"expect_popup_missing", "expect popup button NAME missing", kT},
-    {"expect_popup_button",  "expect popup button NAME label TEXT STATE:available|not_available", kT},
+    {"expect_popup_button",  "expect popup button NAME label TEXT STATE:available|not_available|unavailable|not_offered", kT},
     {"expect_popup_order",   "expect popup order NAME...", kT},
     {"expect_registered",    "expect command NAME STATE:registered|missing", kT},
     {"expect_registrations", "expect command NAME registrations N", kT},
