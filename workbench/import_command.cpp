@@ -66,8 +66,10 @@ std::vector<ModelName> NamesOf(const StepAssembly& step) {
 class Neighbour {
  public:
   explicit Neighbour(const fs::path& target) : folder_(target) {
-    folder_ += ".import";
-    fs::remove_all(folder_);
+    // What lies there already is somebody's.
+    do {
+      folder_ += ".import";
+    } while (fs::exists(folder_));
     fs::create_directories(folder_);
   }
   ~Neighbour() {
