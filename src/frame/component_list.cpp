@@ -23,11 +23,11 @@ bool AcceptsType(LevelFilter filter, ProFeattype type) {
          (type == PRO_FEAT_TOP_LEVEL_1104 || type == PRO_FEAT_TOP_LEVEL_1232);
 }
 
-bool Accepts(LevelFilter filter, ProFeature& feature) {
+// `type` receives the type of an accepted feature.
+bool Accepts(LevelFilter filter, ProFeature& feature, ProFeattype* type) {
   int flags = 0;
   if (!Ok(ProFeatureStatusflagsGet(&feature, &flags)) || flags == kSkippedStatusFlags) return false;
-  ProFeattype type = 0;
-  return Ok(ProFeatureTypeGet(&feature, &type)) && AcceptsType(filter, type);
+  return Ok(ProFeatureTypeGet(&feature, type)) && AcceptsType(filter, *type);
 }
 
 bool IsActiveAndVisible(ProFeature& feature) {
@@ -115,9 +115,10 @@ class ComponentCollector {
   void ReadLevel(NodeNumber assembly, LevelFilter filter) {
     const ProMdl model = nodes_[assembly].model;
     const auto begin = static_cast<uint32_t>(placements_.size());
+    ProFeattype type = 0;
     const ProError status = VisitFeatures(
-        model, [&](ProFeature& feature) { return Accepts(filter, feature); },
-        [&](ProFeature& feature) { return ReadPlacement(model, feature); });
+        model, [&](ProFeature& feature) { return Accepts(filter, feature, &type); },
+        [&](ProFeature& feature) { return ReadPlacement(model, feature, type); });
     if (!Ok(status) && status != PRO_TK_CONTINUE && status != PRO_TK_E_NOT_FOUND) {
       LogFailure(model, "ProSolidFeatVisit", status);
     }
@@ -127,12 +128,14 @@ class ComponentCollector {
     node.level_end = static_cast<uint32_t>(placements_.size());
   }
 
-  ProError ReadPlacement(ProMdl assembly, ProFeature& feature) {
+  ProError ReadPlacement(ProMdl assembly, ProFeature& feature, ProFeattype type) {
     if (!IsActiveAndVisible(feature)) return PRO_TK_NO_ERROR;
     placements_.push_back({feature, kNoNode});
     ProMdl model = nullptr;
     const ProError status = ProAsmcompMdlGet(&feature, &model);
     if (!Ok(status) || model == nullptr) {
+      // The further types of the show-all command need not place a model: nothing is missing then.
+      if (type != PRO_FEAT_COMPONENT) return PRO_TK_NO_ERROR;
       LogFailure(assembly, "ProAsmcompMdlGet", status);
       // As an action's answer this ends the level: what follows the missing model is not listed.
       return PRO_TK_CONTINUE;
