@@ -11,7 +11,7 @@ packages=(
   googletest nlohmann-json3-dev libgtest-dev
   librsvg2-bin zip unzip                 # icons, package
   locales                                # Chinese code page for the tests
-  python3-minimal                        # documents from sources
+  python3                                # documents from sources
 )
 
 missing=()
