@@ -16,6 +16,8 @@ using Refusal = SpreadsheetServer::Refusal;
 constexpr const char* kNoMember = "Excel.unknown";
 // The program's own code for nearly all of its errors.
 constexpr HRESULT kProgramFailure = static_cast<HRESULT>(0x800A03EC);
+// Its user is in the middle of something.
+constexpr HRESULT kUserIsTyping = static_cast<HRESULT>(0x800AC472);
 
 std::string DescribeVariant(const VARIANT& value) {
   switch (value.vt) {
@@ -62,6 +64,8 @@ HRESULT Refused(Refusal refusal, EXCEPINFO* exception) {
       return RPC_E_CALL_REJECTED;
     case Refusal::kRetryLater:
       return RPC_E_SERVERCALL_RETRYLATER;
+    case Refusal::kInterrupted:
+      return kUserIsTyping;
     case Refusal::kDead:
       return RPC_E_SERVERFAULT;
     case Refusal::kException:

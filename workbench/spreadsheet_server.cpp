@@ -2,6 +2,7 @@
 #include "workbench/spreadsheet_server.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "workbench/call.h"
 #include "workbench/spreadsheet_objects.h"
@@ -14,6 +15,11 @@ namespace {
 // Published class of the program.
 constexpr CLSID kSpreadsheetClass = {
     0x00024500, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
+
+// The ways in which a busy program turns a call away, by turns.
+constexpr SpreadsheetServer::Refusal kBusyRefusals[] = {SpreadsheetServer::Refusal::kRejected,
+                                                        SpreadsheetServer::Refusal::kRetryLater,
+                                                        SpreadsheetServer::Refusal::kInterrupted};
 
 bool ComIsReady() {
   APTTYPE type;
@@ -42,7 +48,7 @@ SpreadsheetServer::Refusal SpreadsheetServer::Meet(const char* member,
     program.running = false;
   }
   if (program.died) return Refusal::kDead;
-  if (orders_.busy > 0) return --orders_.busy % 2 == 0 ? Refusal::kRejected : Refusal::kRetryLater;
+  if (orders_.busy > 0) return kBusyRefusals[--orders_.busy % std::size(kBusyRefusals)];
   const std::string_view plain = std::string_view(member).substr(kSpreadsheetPrefix.size());
   if (!orders_.fail_member.empty() && orders_.fail_member != plain) return Refusal::kNone;
   if (++member_calls_ != orders_.fail_at) return Refusal::kNone;

@@ -62,7 +62,7 @@ class SpreadsheetServer {
   bool Gone() const;
 
   // --- For the objects themselves.
-  enum class Refusal { kNone, kRejected, kRetryLater, kDead, kException, kSilent };
+  enum class Refusal { kNone, kRejected, kRetryLater, kInterrupted, kDead, kException, kSilent };
   // Whether the orders refuse this call of `member`.
   Refusal Meet(const char* member, SpreadsheetProgram& program);
   std::shared_ptr<SpreadsheetProgram> StartProgram(long call);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -43,6 +44,9 @@ struct WindowsCalls {
   std::vector<ShellCall> shell;
   std::vector<Timer> timers;               // pending
   std::vector<FileRequest> file_requests;  // of the open and save dialogs
+  unsigned long dialog_error = 0;          // how the latest of them failed; 0: it did not
+  unsigned long long slept_ms = 0;         // the plug-in's pauses, which take no time here
+  std::function<void()> in_pause;          // what goes on elsewhere in each of them
   std::vector<MouseEvent> mouse;
   std::vector<std::string> classes;        // class ids of objects asked for, "{...}"
   MakeObject make_object = nullptr;        // null: no class is registered

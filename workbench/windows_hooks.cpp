@@ -11,6 +11,7 @@
 #include "workbench/windows_crossing.h"
 #include "workbench/windows_headers.h"
 
+#include <cderr.h>
 #include <commdlg.h>
 #include <objbase.h>
 #include <shellapi.h>
@@ -199,21 +200,26 @@ void FillIn(const Call& call, OPENFILENAMEW& dialog, const std::string& choice) 
       dot == std::wstring::npos || dot < dialog.nFileOffset ? WORD{0} : static_cast<WORD>(dot + 1);
 }
 
+// The dialogs themselves answer a failure and a cancelled choice alike.
 BOOL AskForFile(const char* function, OPENFILENAMEW* dialog) {
-  return WindowsCrossing(
-      function, dialog == nullptr ? "null" : DescribeArgument(dialog->lpstrTitle), BOOL{FALSE},
-      [&](const Call& call) {
-        OPENFILENAMEW& place = call.Place(dialog, "dialog structure");
-        if (place.lStructSize != sizeof(OPENFILENAMEW)) call.Fail("wrong structure size");
-        if (place.lpstrFile == nullptr) call.Fail("null file buffer");
-        const FileRequest request = RequestOf(function, place);
-        call.host.windows.file_requests.push_back(request);
-        if (call.host.user == nullptr) return BOOL{FALSE};
-        const std::optional<std::string> choice = call.host.user->ChooseFile(request);
-        if (!choice) return BOOL{FALSE};
-        FillIn(call, place, *choice);
-        return BOOL{TRUE};
-      });
+  TheHost().windows.dialog_error = CDERR_DIALOGFAILURE;
+  return WindowsCrossing(function,
+                         dialog == nullptr ? "null" : DescribeArgument(dialog->lpstrTitle),
+                         BOOL{FALSE}, [&](const Call& call) {
+                           OPENFILENAMEW& place = call.Place(dialog, "dialog structure");
+                           if (place.lStructSize != sizeof(OPENFILENAMEW))
+                             call.Fail("wrong structure size");
+                           if (place.lpstrFile == nullptr) call.Fail("null file buffer");
+                           const FileRequest request = RequestOf(function, place);
+                           call.host.windows.file_requests.push_back(request);
+                           std::optional<std::string> choice;
+                           if (call.host.user != nullptr)
+                             choice = call.host.user->ChooseFile(request);
+                           call.host.windows.dialog_error = 0;
+                           if (!choice) return BOOL{FALSE};
+                           FillIn(call, place, *choice);
+                           return BOOL{TRUE};
+                         });
 }
 
 BOOL WINAPI HookGetOpenFileNameW(LPOPENFILENAMEW dialog) {
@@ -222,6 +228,23 @@ BOOL WINAPI HookGetOpenFileNameW(LPOPENFILENAMEW dialog) {
 
 BOOL WINAPI HookGetSaveFileNameW(LPOPENFILENAMEW dialog) {
   return AskForFile("GetSaveFileNameW", dialog);
+}
+
+DWORD WINAPI HookCommDlgExtendedError() {
+  return TheHost().windows.dialog_error;
+}
+
+// A pause on the user-interface thread only moves the time on that the plug-in is told.
+void WINAPI HookSleep(DWORD milliseconds) {
+  if (!HasHost() || !TheHost().OnUiThread()) return ::Sleep(milliseconds);
+  WindowsCalls& windows = TheHost().windows;
+  windows.slept_ms += milliseconds;
+  if (windows.in_pause) windows.in_pause();
+}
+
+ULONGLONG WINAPI HookGetTickCount64() {
+  const bool slept = HasHost() && TheHost().OnUiThread();
+  return ::GetTickCount64() + (slept ? TheHost().windows.slept_ms : 0);
 }
 
 // A function of the host that the workbench does not have, or withholds in this run, is named: the
@@ -260,6 +283,9 @@ std::span<const Hook> Hooks() {
       Row("CoCreateInstance", &HookCoCreateInstance),
       Row("GetOpenFileNameW", &HookGetOpenFileNameW),
       Row("GetSaveFileNameW", &HookGetSaveFileNameW),
+      Row("CommDlgExtendedError", &HookCommDlgExtendedError),
+      Row("Sleep", &HookSleep),
+      Row("GetTickCount64", &HookGetTickCount64),
       Row("GetProcAddress", &HookGetProcAddress),
   };
   return kHooks;

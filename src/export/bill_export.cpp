@@ -59,7 +59,7 @@ void ExportBill(DialogView dialog) {
     return;
   }
   const ComScope com;
-  const auto path = ChooseWorkbookFile();
+  const auto path = ChooseWorkbookToWrite();
   if (!path || !IsFreeToWrite(*path, OldFile::kDelete)) return;
   const auto table = ReadTable(DialogTable(dialog, kBillTable), *name + L" BOM");
   if (!table) {

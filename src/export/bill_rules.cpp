@@ -12,17 +12,28 @@ namespace {
 constexpr wchar_t kAllLevelsLabel[] = L"全部";
 constexpr uint32_t kNone = std::numeric_limits<uint32_t>::max();
 
-// For each model the first one of its name and type.
-std::vector<uint32_t> FirstOfEachName(const std::vector<BillModel>& models) {
-  std::unordered_map<std::wstring, uint32_t> seen;
+// For each model the first one of the same key. A model without a name shares none.
+template <typename KeyOf>
+std::vector<uint32_t> FirstOfEach(const std::vector<BillModel>& models, KeyOf key_of) {
+  std::unordered_map<decltype(key_of(models.front())), uint32_t> seen;
   std::vector<uint32_t> first;
   first.reserve(models.size());
   for (const BillModel& model : models) {
-    // No name holds a zero.
-    const std::wstring key = model.name + L'\0' + std::to_wstring(model.type);
-    first.push_back(seen.try_emplace(key, static_cast<uint32_t>(first.size())).first->second);
+    const auto own = static_cast<uint32_t>(first.size());
+    first.push_back(model.name.empty() ? own : seen.try_emplace(key_of(model), own).first->second);
   }
   return first;
+}
+
+std::vector<uint32_t> FirstOfEachNameAndType(const std::vector<BillModel>& models) {
+  // No name holds a zero.
+  return FirstOfEach(models, [](const BillModel& model) {
+    return model.name + L'\0' + std::to_wstring(model.type);
+  });
+}
+
+std::vector<uint32_t> FirstOfEachName(const std::vector<BillModel>& models) {
+  return FirstOfEach(models, [](const BillModel& model) { return std::wstring_view(model.name); });
 }
 
 class LevelWalk {
@@ -51,7 +62,7 @@ class LevelWalk {
       const int level = static_cast<int>(path_.size());
       rows.push_back({entry.model, entry.quantity, level, static_cast<int64_t>(position.next)});
       // An assembly inside itself would never end.
-      if (level < depth_ && !entered_[entry.model]) Enter(entry.model);
+      if (level < depth_ && !entered_[entry.inside]) Enter(entry.inside);
     }
     return rows;
   }
@@ -59,6 +70,7 @@ class LevelWalk {
  private:
   struct Entry {
     uint32_t model;
+    uint32_t inside;  // whose components stand below it
     int64_t quantity;
   };
   struct Position {
@@ -73,26 +85,29 @@ class LevelWalk {
     path_.push_back({model, 0});
   }
 
-  // The components of one assembly with repeated ones counted; done once however often it occurs.
+  // The components of one assembly with repeated names counted; done once however often it occurs.
+  // The name alone decides among siblings: a part and an assembly of one name are one entry, which
+  // is shown as the first of them and has the assembly's components below it.
   void Merge(uint32_t assembly) {
     std::vector<Entry>& entries = entries_[assembly];
     for (const uint32_t component : models_[assembly].components) {
-      const uint32_t model = first_[component];
-      if (models_[model].name.empty()) continue;
-      if (entry_of_[model] == kNone) {
-        entry_of_[model] = static_cast<uint32_t>(entries.size());
-        entries.push_back({model, 0});
+      uint32_t& place = entry_of_[first_[component]];
+      if (place == kNone) {
+        place = static_cast<uint32_t>(entries.size());
+        entries.push_back({component, component, 0});
       }
-      ++entries[entry_of_[model]].quantity;
+      Entry& entry = entries[place];
+      ++entry.quantity;
+      if (models_[entry.inside].components.empty()) entry.inside = component;
     }
-    for (const Entry& entry : entries) entry_of_[entry.model] = kNone;
+    for (const Entry& entry : entries) entry_of_[first_[entry.model]] = kNone;
   }
 
   const std::vector<BillModel>& models_;
   const int depth_;
   const std::vector<uint32_t> first_;
   std::vector<std::vector<Entry>> entries_;  // of each assembly, once merged
-  std::vector<uint32_t> entry_of_;           // of each model, while an assembly is merged
+  std::vector<uint32_t> entry_of_;           // of each name, while an assembly is merged
   std::vector<bool> entered_;                // on the way to where the walk is
   std::vector<Position> path_;
 };
@@ -100,7 +115,7 @@ class LevelWalk {
 }  // namespace
 
 std::vector<BillRow> SummaryBill(const BillStructure& structure) {
-  const std::vector<uint32_t> first = FirstOfEachName(structure.models);
+  const std::vector<uint32_t> first = FirstOfEachNameAndType(structure.models);
   std::vector<uint32_t> row_of(structure.models.size(), kNone);
   std::vector<BillRow> rows;
   for (const uint32_t occurrence : structure.occurrences) {

@@ -11,7 +11,8 @@
 
 namespace qm {
 
-// A model of the assembly. A model whose name could not be read has an empty one and is not listed.
+// A model of the assembly. A model whose name could not be read has an empty one and is not to be
+// listed, but what it holds is.
 struct BillModel {
   std::wstring name;
   int type = 0;  // the host's number; a part and an assembly may bear the same name
@@ -40,8 +41,9 @@ std::vector<BillRow> SummaryBill(const BillStructure& structure);
 inline constexpr int kAllLevels = 99;
 
 // The components of levels 1 to `depth` (kAllLevels: of all), each before those inside it. Siblings
-// of the same name and type are one row with their number, and what is inside them stands below it
-// once, with the quantities of a single one.
+// of the same name, of whatever type, are one row with their number, and what is inside them stands
+// below it once, with the quantities of a single one. Models without a name have rows here, since
+// they keep their places in the numbering.
 std::vector<BillRow> LevelBill(const BillStructure& structure, int depth);
 
 // The depth chosen in the menu by its number or by the words for all levels; 0 for anything else.

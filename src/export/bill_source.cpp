@@ -85,6 +85,7 @@ BillModelTexts::Model& BillModelTexts::At(uint32_t model) {
 
 void BillModelTexts::Read(const BillModel& source, Model* model) const {
   model->read = true;
+  if (source.name.empty()) return;
   const ProMdl handle = RetrieveModel(source.name, static_cast<ProMdlType>(source.type));
   model->listed = handle != nullptr && !IsSkeleton(handle);
   if (!model->listed || parameters_.empty()) return;

@@ -23,7 +23,7 @@ class BillModelTexts {
         parameters_(std::move(parameters)),
         models_(structure.models.size()) {}
 
-  // False for skeleton models and for models that cannot be retrieved.
+  // False for skeleton models, and for models that cannot be retrieved or have no name.
   bool IsListed(uint32_t model) { return At(model).listed; }
   // One text for each parameter; empty where the model has none or one of another type.
   const std::vector<std::wstring>& Texts(uint32_t model) { return At(model).texts; }

@@ -65,11 +65,6 @@ std::optional<BillColumns> ReadColumns(const DialogTable& table, BillKind kind) 
   return columns;
 }
 
-bool DeleteRows(const DialogTable& table) {
-  auto rows = table.RowNames();
-  return rows && Ok(table.DeleteRows(std::move(*rows)));
-}
-
 // Writes the rows of one bill, one after another.
 class RowWriter {
  public:
@@ -131,7 +126,7 @@ void SetBillColumns(const DialogTable& table, BillKind kind) {
   std::vector<std::wstring> labels =
       SplitNames(ReadSetting(section, kContentKey, ConfigPath(kBillFile)));
   auto old_columns = table.ColumnNames();
-  if (!DeleteRows(table) || !old_columns) {
+  if (!table.DeleteAllRows() || !old_columns) {
     ShowMessage(kUnreadableField);
     return;
   }
@@ -146,7 +141,7 @@ void SetBillColumns(const DialogTable& table, BillKind kind) {
 
 void FillBill(const DialogTable& table, ProMdl assembly, BillKind kind, int depth) {
   const auto columns = ReadColumns(table, kind);
-  if (!columns || !DeleteRows(table)) {
+  if (!columns || !table.DeleteAllRows()) {
     ShowMessage(kUnreadableField);
     return;
   }

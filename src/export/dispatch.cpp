@@ -16,6 +16,9 @@ namespace {
 // in one language on a system in another refuses calls in the system's.
 constexpr LCID kCallLocale = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
 
+// The program is in the middle of something of its user's, such as the typing of a cell.
+constexpr auto kInterrupted = static_cast<HRESULT>(0x800AC472);
+
 struct KnownResult {
   HRESULT result;
   const wchar_t* text;
@@ -23,6 +26,7 @@ struct KnownResult {
 constexpr KnownResult kKnownResults[] = {
     {RPC_E_CALL_REJECTED, L"程序正忙，没有应答"},
     {RPC_E_SERVERCALL_RETRYLATER, L"程序正忙，没有应答"},
+    {kInterrupted, L"程序正忙，没有应答"},
     {RPC_E_SERVERFAULT, L"程序已意外退出"},
     {RPC_E_DISCONNECTED, L"程序已意外退出"},
     {static_cast<HRESULT>(0x800706BA), L"程序已意外退出"},  // RPC_S_SERVER_UNAVAILABLE
@@ -41,24 +45,34 @@ std::wstring ResultText(HRESULT result) {
   return {text, length};
 }
 
-// Waits between the attempts of one call, each time twice as long, until 30 seconds are over.
+bool IsBusy(HRESULT result) {
+  return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER ||
+         result == kInterrupted;
+}
+
+// Waits between the attempts of one call, each time twice as long, until the patience is over.
 class BusyWait {
  public:
+  explicit BusyWait(Patience patience)
+      : limit_(patience == Patience::kFull ? kFullLimitMs : kShortLimitMs) {}
+
   // False when the result is not that of a busy server, or it has been busy for too long.
   bool WaitAfter(HRESULT result) {
-    if (result != RPC_E_CALL_REJECTED && result != RPC_E_SERVERCALL_RETRYLATER) return false;
+    if (!IsBusy(result)) return false;
     const ULONGLONG now = ::GetTickCount64();
     if (start_ == 0) start_ = now;
     const ULONGLONG waited = now - start_;
-    if (waited >= kLimitMs) return false;
-    ::Sleep(static_cast<DWORD>(std::min<ULONGLONG>(wait_, kLimitMs - waited)));
+    if (waited >= limit_) return false;
+    ::Sleep(static_cast<DWORD>(std::min<ULONGLONG>(wait_, limit_ - waited)));
     wait_ = std::min(wait_ * 2, kLongestWaitMs);
     return true;
   }
 
  private:
-  static constexpr ULONGLONG kLimitMs = 30'000;
+  static constexpr ULONGLONG kFullLimitMs = 30'000;
+  static constexpr ULONGLONG kShortLimitMs = 3'000;
   static constexpr ULONGLONG kLongestWaitMs = 4'000;
+  const ULONGLONG limit_;
   ULONGLONG start_ = 0;
   ULONGLONG wait_ = 20;
 };
@@ -143,7 +157,7 @@ Variant::Variant(const std::wstring& text) : Variant() {
 Dispatch Dispatch::Create(const wchar_t* program_id) {
   CLSID class_id;
   if (FAILED(::CLSIDFromProgID(program_id, &class_id))) return {};
-  BusyWait busy;
+  BusyWait busy(Patience::kFull);
   for (;;) {
     void* object = nullptr;
     const HRESULT result = ::CoCreateInstance(
@@ -153,7 +167,8 @@ Dispatch Dispatch::Create(const wchar_t* program_id) {
   }
 }
 
-Variant Dispatch::Invoke(const Member& member, WORD kind, Arguments arguments) const {
+Variant Dispatch::Invoke(const Member& member, WORD kind, Arguments arguments,
+                         Patience patience) const {
   if (object_ == nullptr) throw AutomationError(member.name, E_POINTER, {});
   // The call wants the last argument first. The values stay ours.
   std::vector<VARIANTARG> reversed;
@@ -163,14 +178,14 @@ Variant Dispatch::Invoke(const Member& member, WORD kind, Arguments arguments) c
   const bool puts = kind == DISPATCH_PROPERTYPUT;
   DISPPARAMS parameters = {reversed.data(), puts ? &named : nullptr,
                            static_cast<UINT>(reversed.size()), puts ? 1u : 0u};
-  BusyWait busy;
+  BusyWait busy(patience);
   ExceptionInfo exception;
   for (;;) {
     Variant answer;
     const HRESULT result = object_->Invoke(member.id, IID_NULL, kCallLocale, kind, &parameters,
                                            puts ? nullptr : answer.put(), exception.put(), nullptr);
     if (SUCCEEDED(result)) return answer;
-    if (busy.WaitAfter(result)) continue;
+    if (busy.WaitAfter(exception.Result(result))) continue;
     throw AutomationError(member.name, exception.Result(result), exception.Description());
   }
 }
@@ -183,12 +198,12 @@ Variant Dispatch::GetValue(const Member& member) const {
   return Invoke(member, DISPATCH_PROPERTYGET, {});
 }
 
-void Dispatch::Put(const Member& member, const Variant& value) const {
-  Invoke(member, DISPATCH_PROPERTYPUT, {&value});
+void Dispatch::Put(const Member& member, const Variant& value, Patience patience) const {
+  Invoke(member, DISPATCH_PROPERTYPUT, {&value}, patience);
 }
 
-void Dispatch::Call(const Member& member, Arguments arguments) const {
-  Invoke(member, DISPATCH_METHOD, arguments);
+void Dispatch::Call(const Member& member, Arguments arguments, Patience patience) const {
+  Invoke(member, DISPATCH_METHOD, arguments, patience);
 }
 
 Dispatch Dispatch::CallForObject(const Member& member, Arguments arguments) const {

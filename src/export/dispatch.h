@@ -60,6 +60,12 @@ class Variant {
   VARIANT value_;
 };
 
+// How long a busy server is asked again.
+enum class Patience {
+  kFull,   // 30 seconds
+  kShort,  // 3 seconds: for clearing up after a failure, which the user is waiting to be told of
+};
+
 // Owner of one reference to an object.
 class Dispatch {
  public:
@@ -84,16 +90,18 @@ class Dispatch {
   // attached to. Empty when the program cannot be started.
   static Dispatch Create(const wchar_t* program_id);
 
-  // Each throws AutomationError; a busy server is asked again for up to 30 seconds.
+  // Each throws AutomationError.
   using Arguments = std::initializer_list<const Variant*>;
   Dispatch Get(const Member& member, Arguments arguments = {}) const;
   Variant GetValue(const Member& member) const;
-  void Put(const Member& member, const Variant& value) const;
-  void Call(const Member& member, Arguments arguments = {}) const;
+  void Put(const Member& member, const Variant& value, Patience patience = Patience::kFull) const;
+  void Call(const Member& member, Arguments arguments = {},
+            Patience patience = Patience::kFull) const;
   Dispatch CallForObject(const Member& member, Arguments arguments = {}) const;
 
  private:
-  Variant Invoke(const Member& member, WORD kind, Arguments arguments) const;
+  Variant Invoke(const Member& member, WORD kind, Arguments arguments,
+                 Patience patience = Patience::kFull) const;
 
   IDispatch* object_ = nullptr;
 };

@@ -31,8 +31,8 @@ std::optional<ExcelSession> ExcelSession::Start() {
 
 ExcelSession::~ExcelSession() {
   if (!application_) return;
-  if (workbook_) Try([&] { workbook_.Put(excel::kSaved, Variant(true)); });
-  Try([&] { application_.Call(excel::kQuit); });
+  if (workbook_) Try([&] { workbook_.Put(excel::kSaved, Variant(true), Patience::kShort); });
+  Try([&] { application_.Call(excel::kQuit, {}, Patience::kShort); });
 }
 
 void ExcelSession::AddWorkbook() {

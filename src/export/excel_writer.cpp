@@ -3,6 +3,7 @@
 
 #include "export/excel_ids.h"
 #include "export/excel_session.h"
+#include "export/new_file.h"
 #include "export/sheet_rules.h"
 #include "frame/message_box.h"
 
@@ -93,46 +94,6 @@ class SheetWriter {
   std::wstring last_range_;  // tells the user how far it came
 };
 
-// What tells a file that is being written from the old one.
-struct FileState {
-  bool exists = false;
-  WIN32_FILE_ATTRIBUTE_DATA data = {};
-};
-FileState StateOf(const std::wstring& path) {
-  FileState state;
-  state.exists = ::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &state.data);
-  return state;
-}
-bool IsSame(const FileState& a, const FileState& b) {
-  return a.exists == b.exists && a.data.nFileSizeLow == b.data.nFileSizeLow &&
-         a.data.nFileSizeHigh == b.data.nFileSizeHigh &&
-         ::CompareFileTime(&a.data.ftLastWriteTime, &b.data.ftLastWriteTime) == 0;
-}
-
-// Deletes what was begun of the file, but never an old file that was not touched.
-class NewFile {
- public:
-  explicit NewFile(const std::wstring& path) : path_(path), before_(StateOf(path)) {}
-  NewFile(const NewFile&) = delete;
-  NewFile& operator=(const NewFile&) = delete;
-  ~NewFile() {
-    if (!finished_ && !IsSame(before_, StateOf(path_))) ::DeleteFileW(path_.c_str());
-  }
-  // Throws when the program has answered success but written nothing.
-  void Finish() {
-    if (IsSame(before_, StateOf(path_))) {
-      throw AutomationError(excel::kSaveCopyAs.name, HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND),
-                            L"文件没有生成");
-    }
-    finished_ = true;
-  }
-
- private:
-  const std::wstring& path_;
-  const FileState before_;
-  bool finished_ = false;
-};
-
 void Save(ExcelSession& excel, const std::wstring& path) {
   excel.application().Put(excel::kVisible, Variant(false));
   excel.application().Put(excel::kUserControl, Variant(false));
@@ -157,7 +118,10 @@ Outcome Write(const WorkbookTable& table, const std::wstring& path) {
   if (table.labels.size() > kMaxColumns) return Outcome::kRefused;
   SheetWriter(sheet, table).Write();
   Save(*excel, path);
-  file.Finish();
+  if (!file.Finish()) {
+    throw AutomationError(excel::kSaveCopyAs.name, HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND),
+                          L"文件没有生成");
+  }
   return Outcome::kWritten;
 }
 

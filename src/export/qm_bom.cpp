@@ -49,7 +49,11 @@ void LoadBill(DialogView dialog) {
   CommandLog log("QmLoadBom");
   const auto assembly = CurrentAssembly();
   if (!assembly) {
+    // The user has opened a part from the bill, say. The dialog is of no use to it, and its end
+    // shows the assembly again.
+    TableOf(dialog).DeleteAllRows();
     ShowShortMessage(kAssembliesOnly);
+    dialog.Exit();
     return;
   }
   const auto kind = ChosenKind(dialog);
@@ -102,13 +106,12 @@ void Bind(const Dialog& dialog) {
 }  // namespace
 
 ProError QmBom() {
-  ProMdl shown = nullptr;
-  if (!Ok(ProMdlCurrentGet(&shown))) shown = nullptr;
+  const auto shown = CurrentModelItself();
   Dialog dialog("QmBom");
   if (!dialog.Create()) return PRO_TK_GENERAL_ERROR;
   Bind(dialog);
   SetBillColumns(TableOf(dialog), BillKind::kSummary);
-  const auto assembly = CurrentAssembly();
+  const auto assembly = AssemblyOf(shown);
   if (!assembly) {
     ShowShortMessage(kAssembliesOnly);
     return PRO_TK_BAD_CONTEXT;
@@ -119,7 +122,7 @@ ProError QmBom() {
   const bool activated = dialog.Activate();
   dialog.Destroy();
   // The user may have looked at models of the bill meanwhile.
-  if (shown != nullptr) ProMdlDisplay(shown);
+  ProMdlDisplay(shown->model);
   return activated ? PRO_TK_NO_ERROR : PRO_TK_GENERAL_ERROR;
 }
 

@@ -18,7 +18,9 @@ namespace qm {
 namespace {
 
 constexpr wchar_t kHeldOpen[] = L"文件已在excel打开，请关闭后重试";
-constexpr wchar_t kFilter[] = L"EXCEL文件(*.xlsx)\0*.xlsx\0 All Files (*.*) \0*.*\0";
+constexpr wchar_t kWriteFilter[] = L"EXCEL文件(*.xlsx)\0*.xlsx\0 All Files (*.*) \0*.*\0";
+constexpr wchar_t kReadFilter[] = L"Microsoft Excel 2000(*.xls)\0*.xls\0所有文件(*.*)\0*.*\0";
+constexpr wchar_t kReadTitle[] = L"请选择需要加载的批量重命名表格文件";
 // Without the point, which the dialog adds itself.
 constexpr wchar_t kExtension[] = L"xlsx";
 constexpr size_t kLongestPath = 4096;
@@ -37,27 +39,44 @@ class WorkingDirectory {
   std::wstring path_;
 };
 
-}  // namespace
-
-std::optional<std::wstring> ChooseWorkbookFile() {
-  wchar_t desktop[MAX_PATH] = {};
-  ::SHGetSpecialFolderPathW(nullptr, desktop, CSIDL_DESKTOPDIRECTORY, FALSE);
+// Both file dialogs: nothing when the user cancels.
+std::optional<std::wstring> Choose(BOOL(WINAPI* ask)(OPENFILENAMEW*), OPENFILENAMEW dialog) {
   std::array<wchar_t, kLongestPath> path = {};
-  OPENFILENAMEW dialog = {};
   dialog.lStructSize = sizeof(dialog);
   dialog.hwndOwner = ::GetActiveWindow();
-  dialog.lpstrFilter = kFilter;
   dialog.nFilterIndex = 1;
   dialog.lpstrFile = path.data();
   dialog.nMaxFile = static_cast<DWORD>(path.size());
-  dialog.lpstrInitialDir = desktop;
-  dialog.lpstrDefExt = kExtension;
-  dialog.Flags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT;
   const WorkingDirectory restored_at_the_end;
-  if (!::GetSaveFileNameW(&dialog)) return std::nullopt;
+  if (!ask(&dialog)) {
+    const DWORD error = ::CommDlgExtendedError();
+    if (error != 0) LogEvent("the file dialog failed with error " + std::to_string(error));
+    return std::nullopt;
+  }
   path.back() = L'\0';
   if (path[0] == L'\0') return std::nullopt;
   return path.data();
+}
+
+}  // namespace
+
+std::optional<std::wstring> ChooseWorkbookToWrite() {
+  wchar_t desktop[MAX_PATH] = {};
+  ::SHGetSpecialFolderPathW(nullptr, desktop, CSIDL_DESKTOPDIRECTORY, FALSE);
+  OPENFILENAMEW dialog = {};
+  dialog.lpstrFilter = kWriteFilter;
+  dialog.lpstrInitialDir = desktop;
+  dialog.lpstrDefExt = kExtension;
+  dialog.Flags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT;
+  return Choose(&::GetSaveFileNameW, dialog);
+}
+
+std::optional<std::wstring> ChooseWorkbookToRead() {
+  OPENFILENAMEW dialog = {};
+  dialog.lpstrFilter = kReadFilter;
+  dialog.lpstrTitle = kReadTitle;
+  dialog.Flags = OFN_HIDEREADONLY | OFN_FILEMUSTEXIST;
+  return Choose(&::GetOpenFileNameW, dialog);
 }
 
 bool IsFreeToWrite(const std::wstring& path, OldFile old_file) {

@@ -1,5 +1,5 @@
-// The file that a workbook is written to: chosen by the user, free to be written, opened at the
-// end.
+// The file that a workbook is written to or read from: chosen by the user, free to be written,
+// opened at the end.
 #pragma once
 
 #include <optional>
@@ -7,9 +7,10 @@
 
 namespace qm {
 
-// The path that the user chooses in a save dialog that begins on the desktop; nothing when the user
-// cancels. The process's working directory stays.
-std::optional<std::wstring> ChooseWorkbookFile();
+// The path that the user chooses in a save dialog that begins on the desktop, or in an open dialog
+// for a table of new names; nothing when the user cancels. The process's working directory stays.
+std::optional<std::wstring> ChooseWorkbookToWrite();
+std::optional<std::wstring> ChooseWorkbookToRead();
 
 enum class OldFile { kDelete, kKeep };
 

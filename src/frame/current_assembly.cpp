@@ -5,21 +5,37 @@
 
 namespace qm {
 
-std::optional<CurrentModel> CurrentModelOrAssembly() {
+namespace {
+
+std::optional<CurrentModel> WithoutManufacturing(const std::optional<CurrentModel>& current) {
+  if (!current || current->type != PRO_MDL_MFG) return current;
+  ProAssembly assembly = nullptr;
+  if (!Ok(ProMfgAssemGet(current->model, &assembly)) || assembly == nullptr) return std::nullopt;
+  return CurrentModel{assembly, PRO_MDL_ASSEMBLY};
+}
+
+}  // namespace
+
+std::optional<CurrentModel> CurrentModelItself() {
   ProMdl model = nullptr;
   ProMdlType type = PRO_MDL_UNUSED;
   if (!Ok(ProMdlCurrentGet(&model)) || model == nullptr) return std::nullopt;
   if (!Ok(ProMdlTypeGet(model, &type))) return std::nullopt;
-  if (type != PRO_MDL_MFG) return CurrentModel{model, type};
-  ProAssembly assembly = nullptr;
-  if (!Ok(ProMfgAssemGet(model, &assembly)) || assembly == nullptr) return std::nullopt;
-  return CurrentModel{assembly, PRO_MDL_ASSEMBLY};
+  return CurrentModel{model, type};
+}
+
+std::optional<CurrentModel> CurrentModelOrAssembly() {
+  return WithoutManufacturing(CurrentModelItself());
+}
+
+std::optional<ProMdl> AssemblyOf(const std::optional<CurrentModel>& current) {
+  const auto assembly = WithoutManufacturing(current);
+  if (!assembly || assembly->type != PRO_MDL_ASSEMBLY) return std::nullopt;
+  return assembly->model;
 }
 
 std::optional<ProMdl> CurrentAssembly() {
-  const auto current = CurrentModelOrAssembly();
-  if (!current || current->type != PRO_MDL_ASSEMBLY) return std::nullopt;
-  return current->model;
+  return AssemblyOf(CurrentModelItself());
 }
 
 }  // namespace qm

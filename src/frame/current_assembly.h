@@ -13,11 +13,16 @@ struct CurrentModel {
   ProMdlType type;
 };
 
-// The current model with its type; for a manufacturing model its assembly. Nothing when there is
-// none or the host does not tell.
+// The current model with its type, a manufacturing model as itself. Nothing when there is none or
+// the host does not tell.
+std::optional<CurrentModel> CurrentModelItself();
+
+// The same; for a manufacturing model its assembly.
 std::optional<CurrentModel> CurrentModelOrAssembly();
 
-// The same for commands that work on assemblies only: nothing for any other type of model.
+// For commands that work on assemblies only: `current`, or its assembly where it is a manufacturing
+// model; nothing for any other type of model.
+std::optional<ProMdl> AssemblyOf(const std::optional<CurrentModel>& current);
 std::optional<ProMdl> CurrentAssembly();
 
 }  // namespace qm

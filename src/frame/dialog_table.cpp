@@ -45,6 +45,11 @@ std::optional<std::vector<std::string>> DialogTable::RowNames() const {
   return Gathered<NameList>(ProUITableRownamesGet, dialog_.name(), component_);
 }
 
+bool DialogTable::DeleteAllRows() const {
+  auto rows = RowNames();
+  return rows && Ok(DeleteRows(std::move(*rows)));
+}
+
 std::optional<std::vector<std::string>> DialogTable::ColumnNames() const {
   return Gathered<NameList>(ProUITableColumnnamesGet, dialog_.name(), component_);
 }

@@ -26,6 +26,8 @@ class DialogTable {
   // After row `neighbour`; an empty one inserts at the start.
   ProError InsertRow(const std::string& neighbour, std::string name) const;
   ProError DeleteRows(std::vector<std::string> names) const;
+  // False when a row may be left.
+  bool DeleteAllRows() const;
   ProError InsertColumns(const std::string& neighbour, std::vector<std::string> names) const;
   ProError DeleteColumns(std::vector<std::string> names) const;
   // One label for each column, in their order.

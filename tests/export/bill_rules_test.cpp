@@ -123,12 +123,34 @@ TEST(LevelBill, AnAssemblyStandsWithItsComponentsUnderEachParent) {
                                                          {"2.2.1", "PIN", 3, 1}}));
 }
 
-TEST(LevelBill, SiblingsOfOneNameAreTwoRowsWhenTheirTypesDiffer) {
+// The host knows models by name and type, the level bill its siblings by name: they stay apart in
+// the summary and under different parents only.
+TEST(LevelBill, SiblingsOfOneNameAreOneRowWhateverTheirTypes) {
   BillStructure structure;
-  structure.models = {
-      {L"TOP", kAssembly, {1, 2, 1}}, {L"FRAME", kPart, {}}, {L"FRAME", kAssembly, {}}};
-  EXPECT_EQ(LevelLines(structure, 1),
-            (std::vector<Line>{{"1", "FRAME", 1, 2}, {"2", "FRAME", 1, 1}}));
+  structure.models = {{L"TOP", kAssembly, {1, 2, 1, 3}},
+                      {L"FRAME", kPart, {}},
+                      {L"FRAME", kAssembly, {4}},
+                      {L"BOX", kAssembly, {2}},
+                      {L"BAR", kPart, {}}};
+  EXPECT_EQ(LevelLines(structure, kAllLevels), (std::vector<Line>{{"1", "FRAME", 1, 3},
+                                                                  {"1.1", "BAR", 2, 1},
+                                                                  {"2", "BOX", 1, 1},
+                                                                  {"2.1", "FRAME", 2, 1},
+                                                                  {"2.1.1", "BAR", 3, 1}}));
+  const std::vector<BillRow> rows = LevelBill(structure, 2);
+  EXPECT_EQ(structure.models[rows[0].model].type, kPart) << "shown as the first";
+  EXPECT_EQ(structure.models[rows[3].model].type, kAssembly);
+}
+
+TEST(LevelBill, ModelsWithoutNameKeepTheirPlacesAndWhatTheyHold) {
+  BillStructure structure = Pump();
+  structure.models[2].name.clear();
+  structure.models[3].name.clear();
+  EXPECT_EQ(LevelLines(structure, 2), (std::vector<Line>{{"1", "BOLT", 1, 3},
+                                                         {"2", "", 1, 2},
+                                                         {"2.1", "BOLT", 2, 2},
+                                                         {"2.2", "", 2, 1},
+                                                         {"3", "", 1, 1}}));
 }
 
 TEST(LevelBill, AnAssemblyInsideItselfIsListedButNotEntered) {

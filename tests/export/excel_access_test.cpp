@@ -61,6 +61,31 @@ class ExcelAccess : public HostFixture {
     return 0;
   }
 
+  // Answers every file dialog with this path, or cancels.
+  struct Chooser : User {
+    void WorkDialog(LiveDialog&) override {}
+    std::optional<std::vector<PickedItem>> Pick(const PickRequest&) override { return {}; }
+    std::optional<std::string> ChooseFile(const FileRequest&) override { return file; }
+    std::optional<std::string> AnswerPrompt(const std::string&, int) override { return {}; }
+    int AnswerMessageBox(const MessageBox&) override { return IDOK; }
+    std::optional<std::string> file;
+  };
+  std::string Choose() {
+    host_.user = &chooser_;
+    wchar_t path[MAX_PATH] = {};
+    const bool chosen = Find<ChooseProbe>("ChooseTable")(path, MAX_PATH);
+    host_.user = nullptr;
+    return chosen ? FromWide(path) : "none";
+  }
+  bool IsFree(const fs::path& file, bool deletes) const {
+    return Find<CheckProbe>("CheckFree")(file.c_str(), deletes);
+  }
+  std::string Log() const {
+    std::ifstream log(folder_ / "Quillmax" / "quillmax.log");
+    return {std::istreambuf_iterator<char>(log), {}};
+  }
+
+  Chooser chooser_;
   const fs::path file_ = folder_ / "table.xlsx";
 
  private:
@@ -120,6 +145,90 @@ TEST_F(ExcelAccess, AFileThatWasNotTouchedYetSurvivesAFailure) {
   host_.spreadsheet.Order(orders);
   EXPECT_FALSE(Write());
   EXPECT_EQ(fs::file_size(file_), 3u);
+}
+
+// Not to be asked again for 30 seconds at each step of the clearing up, too.
+TEST_F(ExcelAccess, AProgramThatIsBusyForGoodIsGivenUpAfterThirtySeconds) {
+  SpreadsheetOrders orders;
+  orders.busy = 1'000'000;
+  host_.spreadsheet.Order(orders);
+  EXPECT_FALSE(Write());
+  EXPECT_NE(TakeBox().find("步骤：Workbooks\t\n\t原因：程序正忙，没有应答"), std::string::npos);
+  EXPECT_GE(host_.windows.slept_ms, 30'000u);
+  EXPECT_LE(host_.windows.slept_ms, 34'000u);
+  EXPECT_EQ(host_.spreadsheet.Settle(0), Lines()) << "no object is kept";
+}
+
+TEST_F(ExcelAccess, AProgramThatIsBusyForSomeSecondsIsWaitedFor) {
+  SpreadsheetOrders orders;
+  orders.busy = 9;  // 20 + 40 + ... milliseconds
+  host_.spreadsheet.Order(orders);
+  EXPECT_TRUE(Write());
+  EXPECT_EQ(host_.windows.slept_ms, 20u * 255 + 4000u);
+}
+
+TEST_F(ExcelAccess, AnUnfinishedFileIsDeletedOnceItsHolderLetsGo) {
+  struct Holder {
+    const fs::path& file;
+    HANDLE handle = INVALID_HANDLE_VALUE;
+  } holder{file_};
+  const auto write_and_hold = [](void* data) {
+    auto& to = *static_cast<Holder*>(data);
+    std::ofstream(to.file) << "half";
+    to.handle = ::CreateFileW(to.file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                              OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  };
+  host_.windows.in_pause = [&] {
+    if (host_.windows.slept_ms == 300) ::CloseHandle(holder.handle);
+  };
+  Find<BeginProbe>("BeginFile")(file_.c_str(), write_and_hold, &holder);
+  EXPECT_EQ(host_.windows.slept_ms, 300u);
+  EXPECT_FALSE(fs::exists(file_));
+  EXPECT_EQ(Log(), "");
+  // Somebody who does not is left alone after two seconds.
+  host_.windows.slept_ms = 1000;
+  Find<BeginProbe>("BeginFile")(file_.c_str(), write_and_hold, &holder);
+  EXPECT_EQ(host_.windows.slept_ms, 3000u);
+  EXPECT_NE(Log().find("could not be deleted"), std::string::npos);
+  ::CloseHandle(holder.handle);
+}
+
+TEST_F(ExcelAccess, TheTableToReadIsAskedForInAnOpenDialog) {
+  chooser_.file = "C:\\names\\table.xls";
+  EXPECT_EQ(Choose(), "C:\\names\\table.xls");
+  ASSERT_EQ(host_.windows.file_requests.size(), 1u);
+  const FileRequest& request = host_.windows.file_requests[0];
+  EXPECT_EQ(request.asked_by, "GetOpenFileNameW");
+  EXPECT_EQ(request.title, "请选择需要加载的批量重命名表格文件");
+  EXPECT_EQ(request.filter, "Microsoft Excel 2000(*.xls)|*.xls|所有文件(*.*)|*.*");
+  chooser_.file.reset();
+  EXPECT_EQ(Choose(), "none");
+  EXPECT_EQ(Log(), "");
+}
+
+TEST_F(ExcelAccess, AFileDialogThatFailsIsToldFromACancelInTheLog) {
+  chooser_.file = "C:\\a.xls";
+  host_.faults.Order({.function = "GetOpenFileNameW", .nth = 1});
+  EXPECT_EQ(Choose(), "none");
+  EXPECT_NE(Log().find("the file dialog failed with error 65535"), std::string::npos) << Log();
+}
+
+TEST_F(ExcelAccess, AFileHeldOpenIsReportedAndKept) {
+  WriteFile("table.xlsx", "old");
+  const HANDLE held = ::CreateFileW(file_.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  for (const bool deletes : {false, true}) {
+    EXPECT_FALSE(IsFree(file_, deletes));
+    EXPECT_EQ(TakeBox(), PathToUtf8(file_) + "文件已在excel打开，请关闭后重试");
+  }
+  ::CloseHandle(held);
+  EXPECT_TRUE(IsFree(file_, false));
+  EXPECT_EQ(fs::file_size(file_), 3u) << "the check alone deletes nothing";
+  EXPECT_TRUE(IsFree(file_, true));
+  EXPECT_FALSE(fs::exists(file_));
+  EXPECT_TRUE(IsFree(file_, true));
+  EXPECT_TRUE(IsFree(folder_ / "no folder" / "table.xlsx", false));
+  EXPECT_EQ(TakeBox(), "");
 }
 
 TEST_F(ExcelAccess, AProgramThatIsNotThereIsReported) {

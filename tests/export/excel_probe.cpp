@@ -4,6 +4,8 @@
 #include "export/dispatch.h"
 #include "export/excel_reader.h"
 #include "export/excel_writer.h"
+#include "export/new_file.h"
+#include "export/workbook_file.h"
 
 extern "C" __declspec(dllexport) bool WriteTable(const wchar_t* path) {
   const qm::ComScope com;
@@ -23,4 +25,20 @@ extern "C" __declspec(dllexport) bool ReadTable(const wchar_t* path, wchar_t* te
   }
   texts[all.copy(texts, static_cast<size_t>(size) - 1)] = L'\0';
   return true;
+}
+
+extern "C" __declspec(dllexport) bool ChooseTable(wchar_t* path, int size) {
+  const auto choice = qm::ChooseWorkbookToRead();
+  if (choice) path[choice->copy(path, static_cast<size_t>(size) - 1)] = L'\0';
+  return choice.has_value();
+}
+
+extern "C" __declspec(dllexport) bool CheckFree(const wchar_t* path, bool deletes) {
+  return qm::IsFreeToWrite(path, deletes ? qm::OldFile::kDelete : qm::OldFile::kKeep);
+}
+
+extern "C" __declspec(dllexport) void BeginFile(const wchar_t* path, void (*write)(void*),
+                                                void* data) {
+  const qm::NewFile file(path);
+  write(data);
 }

@@ -1,0 +1,51 @@
+// Comparison of a file with its former self, and deletion.
+#include "export/new_file.h"
+
+#include "frame/run_log.h"
+
+namespace qm {
+namespace {
+
+// Two seconds in all: a program that has ended, or a virus scanner, may hold a file a little
+// longer.
+constexpr int kDeleteAttempts = 20;
+constexpr DWORD kDeletePauseMs = 100;
+
+FileState StateOf(const std::wstring& path) {
+  FileState state;
+  state.exists = ::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &state.data);
+  return state;
+}
+
+bool IsSame(const FileState& a, const FileState& b) {
+  return a.exists == b.exists && a.data.nFileSizeLow == b.data.nFileSizeLow &&
+         a.data.nFileSizeHigh == b.data.nFileSizeHigh &&
+         ::CompareFileTime(&a.data.ftLastWriteTime, &b.data.ftLastWriteTime) == 0;
+}
+
+}  // namespace
+
+NewFile::NewFile(std::wstring path) : path_(std::move(path)), before_(StateOf(path_)) {}
+
+NewFile::~NewFile() {
+  if (!finished_) DeleteBegun();
+}
+
+bool NewFile::Finish() {
+  finished_ = !IsUntouched();
+  return finished_;
+}
+
+bool NewFile::IsUntouched() const {
+  return IsSame(before_, StateOf(path_));
+}
+
+void NewFile::DeleteBegun() const {
+  for (int attempt = 0; attempt < kDeleteAttempts; ++attempt) {
+    if (IsUntouched() || ::DeleteFileW(path_.c_str())) return;
+    ::Sleep(kDeletePauseMs);
+  }
+  LogEvent("an unfinished file could not be deleted");
+}
+
+}  // namespace qm
