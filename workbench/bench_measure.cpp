@@ -3,7 +3,6 @@
 #include "workbench/bench_measure.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <map>
 #include <stdexcept>
@@ -20,25 +19,15 @@
 namespace wb {
 namespace {
 
-struct PartRow {
-  BenchPart part;
-  const char* name;
-  const char* command;
-  BenchWork same_work;
-};
-constexpr PartRow kParts[] = {
-    {BenchPart::kCollection, "collection", "QmShowAllComp", BenchWork::kCollect},
-    {BenchPart::kShowAll, "QmShowAllComp", "QmShowAllComp", BenchWork::kShow},
-    {BenchPart::kHideReverse, "QmHideReverse", "QmHideReverse", BenchWork::kReverse},
-    {BenchPart::kAddParameter, "QmParams Add", "QmParams", BenchWork::kParameter},
-};
-constexpr size_t kPartCount = std::size(kParts);
-static_assert(kPartCount == std::size(kBenchParts));
+// Columns of the level bill. The position number is none of them: in a chain its text grows with
+// the depth, so that writing it is quadratic by itself.
+constexpr wchar_t kLevelColumns[] = L"层级2,模型名称,模型数量,名称,材料,重量";
 
 // Seconds and calls of one part in one round.
 struct Taken {
   double seconds = 0;
   long calls = 0;
+  long parameters = 0;
 };
 
 double Median(std::vector<double> values) {
@@ -55,6 +44,12 @@ class Bench {
     host_.install_folder = dll.parent_path();
     host_.windows.local_app_folder = folder;
     host_.session.ChangeDirectory(folder);
+    // An export then ends where the program would start.
+    SpreadsheetOrders orders;
+    orders.missing = true;
+    host_.spreadsheet.Order(orders);
+    const std::filesystem::path settings = dll.parent_path() / "QMconfig" / "QmBom.ini";
+    ::WritePrivateProfileStringW(L"tableCols_level", L"content", kLevelColumns, settings.c_str());
     top_ = &job.shape->build(host_.session, job.occurrences);
     host_.session.ActivateWindow(host_.session.ShowInWindow(*top_).id);
     plugin_.emplace(dll);
@@ -62,11 +57,16 @@ class Bench {
   }
 
   BenchResult Run() {
-    std::array<long long, kPartCount> heap{};
-    for (size_t i = 0; i < kPartCount; ++i) heap[i] = HeapOf(kParts[i]);
+    std::vector<long long> heap;
+    ForEachCommand([&](std::span<const BenchPartRow> parts) {
+      const std::vector<long long> of_command = HeapOf(parts);
+      heap.insert(heap.end(), of_command.begin(), of_command.end());
+    });
     for (int round = 0; round < Rounds(); ++round) RunRound();
     BenchResult result;
-    for (size_t i = 0; i < kPartCount; ++i) result.rows.push_back(RowOf(i, heap[i]));
+    for (const BenchPartRow& part : BenchParts()) {
+      result.rows.push_back(RowOf(part, heap[result.rows.size()]));
+    }
     if (job_.with_most_asked) result.most_asked = FindMostAsked();
     return result;
   }
@@ -79,6 +79,7 @@ class Bench {
     std::vector<double> times_walk;
     std::vector<double> times_same_work;
     long calls = 0;
+    long parameters = 0;
   };
 
   int Rounds() const {
@@ -86,24 +87,40 @@ class Bench {
     return job_.runs > 0 ? job_.runs : std::clamp(kOccurrencesInAll / job_.occurrences, 7, 41);
   }
 
+  // The parts of each command, which one run of it shows.
+  template <typename Action>
+  static void ForEachCommand(Action action) {
+    std::span<const BenchPartRow> rest = BenchParts();
+    while (!rest.empty()) {
+      size_t count = 1;
+      const std::string_view command = rest.front().command;
+      while (count < rest.size() && rest[count].command == command) ++count;
+      action(rest.first(count));
+      rest = rest.subspan(count);
+    }
+  }
+
   void RunRound() {
     const double walk = Bare(BenchWork::kCollect).seconds;
-    for (size_t i = 0; i < kPartCount; ++i) {
-      const PartRow& part = kParts[i];
-      const Taken taken = Command(part);
-      const double same =
-          part.same_work == BenchWork::kCollect ? walk : Bare(part.same_work).seconds;
-      Samples& samples = samples_[i];
-      if (samples.calls != 0 && samples.calls != taken.calls) {
-        throw std::runtime_error(std::string(part.name) + " made " + std::to_string(taken.calls) +
-                                 " host calls, and " + std::to_string(samples.calls) + " before");
-      }
-      samples.calls = taken.calls;
-      samples.seconds.push_back(taken.seconds);
-      samples.same_work.push_back(same);
-      samples.times_walk.push_back(taken.seconds / walk);
-      samples.times_same_work.push_back(taken.seconds / same);
+    ForEachCommand([&](std::span<const BenchPartRow> parts) {
+      const std::vector<Taken> taken = Command(parts);
+      for (size_t i = 0; i < parts.size(); ++i) Note(parts[i], taken[i], walk);
+    });
+  }
+
+  void Note(const BenchPartRow& part, const Taken& taken, double walk) {
+    const double same = part.same_work == BenchWork::kCollect ? walk : Bare(part.same_work).seconds;
+    Samples& samples = samples_[part.part];
+    if (samples.calls != 0 && samples.calls != taken.calls) {
+      throw std::runtime_error(std::string(part.name) + " made " + std::to_string(taken.calls) +
+                               " host calls, and " + std::to_string(samples.calls) + " before");
     }
+    samples.calls = taken.calls;
+    samples.parameters = taken.parameters;
+    samples.seconds.push_back(taken.seconds);
+    samples.same_work.push_back(same);
+    samples.times_walk.push_back(taken.seconds / walk);
+    samples.times_same_work.push_back(taken.seconds / same);
   }
 
   WalkTaken Bare(BenchWork work) {
@@ -113,16 +130,27 @@ class Bench {
     return BareWalk(*top_, work);
   }
 
-  Taken Command(const PartRow& part) {
-    DropParameter(part.part == BenchPart::kAddParameter);
+  // One run of a command: what each of its parts took.
+  std::vector<Taken> Command(std::span<const BenchPartRow> parts) {
+    const BenchPartRow& first = parts.front();
+    DropParameter(first.part == BenchPart::kAddParameter);
     host_.dialogs.pictures.clear();
     const auto start = std::chrono::steady_clock::now();
-    const CommandRun run = RunCommand(part.command);
+    const CommandRun run = RunCommand(first.command);
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
-    RequireCleanRun(part, run);
-    if (part.part == BenchPart::kAddParameter) return {user_.press().seconds, user_.press().calls};
-    if (part.part == BenchPart::kCollection) return Collection();
-    return {seconds.count(), host_.trace.calls()};
+    RequireCleanRun(first, run);
+    std::vector<Taken> taken;
+    for (const BenchPartRow& part : parts) {
+      if (part.is_press) {
+        const BenchPress& press = user_.press(part.part);
+        taken.push_back({press.seconds, press.calls, press.parameters});
+      } else {
+        taken.push_back(part.part == BenchPart::kCollection
+                            ? Collection()
+                            : Taken{seconds.count(), host_.trace.calls()});
+      }
+    }
+    return taken;
   }
 
   Taken Collection() const {
@@ -133,7 +161,7 @@ class Bench {
     return {seconds.count(), after.call - first.call};
   }
 
-  void RequireCleanRun(const PartRow& part, const CommandRun& run) const {
+  void RequireCleanRun(const BenchPartRow& part, const CommandRun& run) const {
     const auto fail = [&](const std::string& why) {
       throw std::runtime_error(std::string(part.command) + " on " + job_.shape->name + ": " + why);
     };
@@ -153,19 +181,33 @@ class Bench {
     for (const auto& model : host_.session.models()) model->DeleteParameter(kBenchParameter);
   }
 
-  long long HeapOf(const PartRow& part) {
-    const HeapWatch watch(::GetModuleHandleW(ToWide(PathToUtf8(dll_)).c_str()));
-    Command(part);
-    return part.part == BenchPart::kCollection ? 0 : watch.peak();
+  // In a run that is not timed. 0 where a part is not told apart.
+  std::vector<long long> HeapOf(std::span<const BenchPartRow> parts) {
+    const HMODULE module = ::GetModuleHandleW(ToWide(PathToUtf8(dll_)).c_str());
+    std::vector<long long> heap;
+    if (parts.front().is_press) {
+      user_.WatchHeapOf(module);
+      Command(parts);
+      user_.WatchHeapOf(nullptr);
+      for (const BenchPartRow& part : parts) heap.push_back(user_.press(part.part).heap_bytes);
+    } else {
+      const HeapWatch watch(module);
+      Command(parts);
+      for (const BenchPartRow& part : parts) {
+        heap.push_back(part.part == BenchPart::kCollection ? 0 : watch.peak());
+      }
+    }
+    return heap;
   }
 
-  BenchRow RowOf(size_t i, long long heap) const {
-    const Samples& samples = samples_[i];
+  BenchRow RowOf(const BenchPartRow& part, long long heap) const {
+    const Samples& samples = samples_.at(part.part);
     return {job_.shape,
-            kParts[i].part,
+            part.part,
             job_.occurrences,
             static_cast<int>(host_.session.models().size()),
             samples.calls,
+            samples.parameters,
             Median(samples.seconds),
             std::ranges::min(samples.seconds),
             std::ranges::min(samples.same_work),
@@ -177,7 +219,7 @@ class Bench {
   // Function and the item asked about: what stands first among the arguments.
   std::vector<MostAsked> FindMostAsked() {
     host_.trace.keep_lines = true;
-    Command(kParts[static_cast<size_t>(BenchPart::kAddParameter)]);
+    Command(BenchParts().subspan(static_cast<size_t>(BenchPart::kAddParameter), 1));
     std::map<std::pair<std::string, std::string>, long> asked;
     for (const Crossed& line : host_.trace.lines()) {
       ++asked[{line.function, line.arguments.substr(0, line.arguments.find(", "))}];
@@ -202,14 +244,10 @@ class Bench {
   Host host_;
   Model* top_ = nullptr;
   std::optional<Plugin> plugin_;
-  std::array<Samples, kPartCount> samples_;
+  std::map<BenchPart, Samples> samples_;
 };
 
 }  // namespace
-
-const char* BenchPartName(BenchPart part) {
-  return kParts[static_cast<size_t>(part)].name;
-}
 
 BenchResult Measure(const BenchJob& job, const std::filesystem::path& plugin,
                     const std::filesystem::path& work_folder) {

@@ -5,20 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "workbench/bench_parts.h"
 #include "workbench/bench_shapes.h"
 
 namespace wb {
-
-// The part of a command that a row is about.
-enum class BenchPart {
-  kCollection,  // from the array's allocation to the first component shown, in QmShowAllComp
-  kShowAll,
-  kHideReverse,
-  kAddParameter,  // the press of Add in the dialog of QmParams, class AsmAndPart
-};
-inline constexpr BenchPart kBenchParts[] = {BenchPart::kCollection, BenchPart::kShowAll,
-                                            BenchPart::kHideReverse, BenchPart::kAddParameter};
-const char* BenchPartName(BenchPart part);
 
 struct BenchRow {
   const BenchShape* shape;
@@ -26,6 +16,7 @@ struct BenchRow {
   int occurrences;
   int models;
   long calls;
+  long parameters;           // of models, looked up; counted in a press only
   double seconds;            // median
   double fastest;            // of all rounds: what other programs disturbed least
   double fastest_same_work;  // of the bare walks that also do the command's work

@@ -126,6 +126,20 @@ BenchBound CallsAreLinear(const BenchResult& result) {
   return bound;
 }
 
+// The summary and the level bill of the benchmark have this many columns that name a parameter.
+constexpr long kParameterColumns = 3;
+
+BenchBound ParametersReadOnce(const BenchResult& result) {
+  BenchBound bound{"QmBom reads each model's parameter once for each column", "it does", true};
+  for (const BenchRow& row : result.rows) {
+    if (!IsBill(row.part) || row.parameters <= kParameterColumns * row.models) continue;
+    bound.kept = false;
+    bound.found = std::to_string(row.parameters) + " readings of " + std::to_string(row.models) +
+                  " models (" + row.shape->name + ")";
+  }
+  return bound;
+}
+
 BenchBound ReadOnce(const BenchResult& result) {
   BenchBound bound{"QmParams asks each model for each fact once", "it does", true};
   for (const MostAsked& row : result.most_asked) {
@@ -204,7 +218,10 @@ bool IsExactlyLinear(const std::vector<std::pair<long, long>>& points) {
 }
 
 std::vector<BenchBound> CheckBounds(const BenchResult& result) {
-  return {CallsAreLinear(result), ReadOnce(result), TimeGrows(result, 1.1),
+  return {CallsAreLinear(result),
+          ReadOnce(result),
+          ParametersReadOnce(result),
+          TimeGrows(result, 1.1),
           Times(result, BenchPart::kCollection, 1.5, "collection at most 1.5 times the bare walk",
                 &BenchRow::times_walk),
           Times(result, BenchPart::kAddParameter, 2,
@@ -218,10 +235,14 @@ std::string BenchHead() {
   collection    the part of QmShowAllComp from the allocation of its array to the first component
                 it shows: the component collection alone
   QmParams Add  one press of Add for all models (AsmAndPart), settings file included
+  QmBom ...     one press of QmLoadBom, for the summary (模型名称, 模型数量, 名称, 材料, 重量) or for
+                all levels (层级2 and these), and one of QmExportBom with the summary in the table,
+                up to the start of the spreadsheet program: the writer's preparation
   x walk        against a bare walk in the workbench: a plain visitor that makes the same host calls
                 for each occurrence (flags, type, status, visibility, append, model, model type),
                 level by level, and keeps nothing else
-  x same work   against a bare walk that also shows, reverses or creates as the command does
+  x same work   against a bare walk that also shows, reverses or creates as the command does; for
+                QmBom, whose rows and cells are its work, against the bare walk alone
   heap          the most that the plug-in had allocated at one time, counted exactly; the host's own
                 memory, its arrays for instance, is not in it
 Times are medians of several rounds; each round times the bare walks beside the commands. The bare

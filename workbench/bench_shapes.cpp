@@ -18,7 +18,9 @@ Model NewModel(std::string name, ModelKind kind) {
 }
 
 Model& AddPart(Session& session, int number) {
-  return session.Add(NewModel("part" + std::to_string(number), ModelKind::kPart));
+  Model part = NewModel("part" + std::to_string(number), ModelKind::kPart);
+  part.parameters.push_back({"材料", std::string("Q235")});
+  return session.Add(std::move(part));
 }
 
 void Place(Model& assembly, const Model& component) {
@@ -93,6 +95,29 @@ Model& BuildRepeated(Session& session, int occurrences) {
   return session.Add(std::move(top));
 }
 
+// A hundredth of the occurrences are subassemblies of 99 parts, three each of 33 that follow one
+// another in a pool of a twenty-fifth of the occurrences: a twentieth are models.
+Model& BuildPool(Session& session, int occurrences) {
+  constexpr int kUnit = 100;
+  constexpr int kTimes = 3;
+  constexpr int kDistinct = (kUnit - 1) / kTimes;
+  const int parts = std::max(occurrences / 25, 1);
+  for (int i = 0; i < parts; ++i) AddPart(session, i);
+  const auto part = [](int number) {
+    return NewModel("part" + std::to_string(number), ModelKind::kPart);
+  };
+  Model top = NewModel(kTop, ModelKind::kAssembly);
+  for (int unit = 0; unit < occurrences / kUnit; ++unit) {
+    Model assembly = NewModel("unit" + std::to_string(unit), ModelKind::kAssembly);
+    for (int i = 0; i < kUnit - 1; ++i) {
+      Place(assembly, part((unit * kDistinct + i / kTimes) % parts));
+    }
+    Place(top, session.Add(std::move(assembly)));
+  }
+  for (int i = 0; i < occurrences % kUnit; ++i) Place(top, part(i % parts));
+  return session.Add(std::move(top));
+}
+
 constexpr BenchShape kShapes[] = {
     {"flat", "one level of distinct parts", &BuildFlat, 0},
     {"tree", "ten components an assembly, all models distinct", &BuildTree, 0},
@@ -100,6 +125,7 @@ constexpr BenchShape kShapes[] = {
     {"single", "one part placed again and again", &BuildSingle, 0},
     {"half", "one level of distinct parts, every other one suppressed", &BuildHalfSuppressed, 0},
     {"repeated", "one subassembly of nine parts placed again and again", &BuildRepeated, 0},
+    {"pool", "subassemblies of 99 parts from a pool, twenty occurrences a model", &BuildPool, 0},
 };
 
 }  // namespace

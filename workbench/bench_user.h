@@ -1,17 +1,21 @@
-// The user of the benchmark: adds one parameter in the dialog of QmParams and answers nothing else.
+// The user of the benchmark: adds one parameter in the dialog of QmParams, loads and exports bills
+// in the dialog of QmBom, and answers nothing else.
 #pragma once
 
-#include <chrono>
+#include <functional>
+#include <map>
 
-#include "workbench/trace.h"
+#include "workbench/bench_parts.h"
 #include "workbench/user.h"
 
 namespace wb {
 
-// The press of Add, as it was seen from outside.
+// One press of a button, as it was seen from outside.
 struct BenchPress {
   long calls = 0;
+  long parameters = 0;  // looked up
   double seconds = 0;
+  long long heap_bytes = 0;  // the plug-in's peak; 0 unless it was to be watched
 };
 
 // Every question that a benchmark does not expect throws std::runtime_error.
@@ -23,11 +27,18 @@ class BenchUser : public User {
   std::optional<std::string> AnswerPrompt(const std::string& prompt, int max_length) override;
   int AnswerMessageBox(const MessageBox& box) override;
 
-  // The latest press.
-  const BenchPress& press() const { return press_; }
+  // The heap of this HMODULE is watched during each press, which takes time; null: no longer.
+  void WatchHeapOf(void* module) { watched_ = module; }
+  // The latest press of a part.
+  const BenchPress& press(BenchPart part) const { return presses_.at(part); }
 
  private:
-  BenchPress press_;
+  void AddParameter(LiveDialog& dialog);
+  void WorkBills(LiveDialog& dialog);
+  void Take(BenchPart part, const std::function<void()>& press);
+
+  void* watched_ = nullptr;
+  std::map<BenchPart, BenchPress> presses_;
 };
 
 }  // namespace wb
