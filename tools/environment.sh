@@ -19,7 +19,8 @@ prepare_locale() {
     localedef -i zh_CN -f UTF-8 "$LOCPATH/zh_CN.UTF-8" || true
     localedef -i en_US -f UTF-8 "$LOCPATH/en_US.UTF-8" || true
   fi
-  export LC_ALL=zh_CN.UTF-8
+  # The shell itself cannot use it, and would say so; the programs that it starts can.
+  { export LC_ALL=zh_CN.UTF-8; } 2>/dev/null
 }
 
 prepare_wine() {
