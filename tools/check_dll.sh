@@ -34,6 +34,11 @@ if ! grep -qE '^Entry d 0+ 0+ Delay Import Directory' <<<"$headers"; then
   fail "has delay-loaded imports"
 fi
 
+# The user's own spreadsheet program is never attached to: nothing that finds running ones.
+attaching=$(grep -oE '\b(GetActiveObject|GetRunningObjectTable|CoGetObject|BindMoniker)\b' \
+  <<<"$headers" | LC_ALL=C sort -u | tr '\n' ' ' || true)
+[ -z "$attaching" ] || fail "imports ${attaching% }, which finds programs of the user's"
+
 bytes=$(stat -c %s "$dll")
 [ "$bytes" -le "$max_bytes" ] || fail "has $bytes bytes, more than $max_bytes"
 

@@ -7,6 +7,7 @@
 #include "workbench/bench_heap.h"
 #include "workbench/bench_walk.h"
 #include "workbench/host.h"
+#include "workbench/model_file.h"
 
 namespace wb {
 namespace {
@@ -102,7 +103,7 @@ std::optional<std::vector<PickedItem>> BenchUser::Pick(const PickRequest& reques
 
 std::optional<std::string> BenchUser::ChooseFile(const FileRequest& request) {
   if (request.asked_by != "GetSaveFileNameW") Unexpected("file for " + request.asked_by);
-  return "bench.xlsx";
+  return PathToUtf8(TheHost().session.working_directory() / "bench.xlsx");
 }
 
 std::optional<std::string> BenchUser::AnswerPrompt(const std::string& prompt, int) {

@@ -11,6 +11,7 @@ namespace wb {
 namespace {
 
 void Order(ScriptRun& run, const Statement& statement) {
+  if (statement.Has("ready")) run.host.spreadsheet.EndAll();
   SpreadsheetOrders orders;
   orders.missing = statement.Has("missing");
   if (statement.Has("busy")) orders.busy = statement.Number("N");

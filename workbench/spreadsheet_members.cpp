@@ -62,8 +62,10 @@ void TakeFlag(const Invocation& invocation) {
   invocation.Flag(0);
 }
 
+// A program that was busy only for a while should have been asked again.
 void CheckNothingAsked(const OpenWorkbook& book, const char* by) {
-  if (!book.open || book.saved || book.saving_failed) return;
+  const bool still_busy = book.saving_rejected && TheHost().spreadsheet.orders().busy > 0;
+  if (!book.open || book.saved || book.saving_failed || still_busy) return;
   TheHost().ReportBreach("Excel", std::string(by) + " asks the user whether to save the workbook");
 }
 

@@ -128,11 +128,12 @@ void CheckAlive(const AutomationObject& object) {
 // What the plug-in could not do for no fault of its own is not held against it later.
 void Excuse(const AutomationObject& object, const SpreadsheetMember* member, HRESULT result) {
   const std::string_view name = member == nullptr ? kNoMember : member->name;
-  const bool rejected = result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER;
+  const bool rejected = result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER ||
+                        result == kUserIsTyping;
   if (name == "Excel.Application.Quit") {
     (rejected ? object.place.program->quit_rejected : object.place.program->quit_failed) = true;
   } else if (name == "Excel.Workbook.Saved=" || name == "Excel.Workbook.Close") {
-    object.place.book->saving_failed = true;
+    (rejected ? object.place.book->saving_rejected : object.place.book->saving_failed) = true;
   }
 }
 

@@ -48,7 +48,8 @@ SpreadsheetServer::Refusal SpreadsheetServer::Meet(const char* member,
     program.running = false;
   }
   if (program.died) return Refusal::kDead;
-  if (orders_.busy > 0) return kBusyRefusals[--orders_.busy % std::size(kBusyRefusals)];
+  if (orders_.busy > 0 && calls_ > orders_.busy_after)
+    return kBusyRefusals[--orders_.busy % std::size(kBusyRefusals)];
   const std::string_view plain = std::string_view(member).substr(kSpreadsheetPrefix.size());
   if (!orders_.fail_member.empty() && orders_.fail_member != plain) return Refusal::kNone;
   if (++member_calls_ != orders_.fail_at) return Refusal::kNone;
@@ -67,8 +68,8 @@ std::vector<std::string> SpreadsheetServer::Settle(long after) {
   for (const auto& program : programs_) {
     // A program that would not end although it was told to is not held against the plug-in.
     const bool excused = program->quit_failed || (program->quit_rejected && orders_.busy > 0);
-    if (!program->running || program->started_by <= after) continue;
-    program->running = false;
+    if (!program->running || program->told || program->started_by <= after) continue;
+    program->told = true;
     if (!excused)
       left.push_back("left running (started by call " + std::to_string(program->started_by) + ")");
   }
@@ -84,6 +85,10 @@ std::vector<std::string> SpreadsheetServer::Settle(long after) {
     left.push_back("not released: " + object->Describe());
   }
   return left;
+}
+
+void SpreadsheetServer::EndAll() {
+  for (const auto& program : programs_) program->running = false;
 }
 
 bool SpreadsheetServer::Gone() const {

@@ -20,6 +20,7 @@ class AutomationObject;
 struct SpreadsheetOrders {
   bool missing = false;          // not installed
   int busy = 0;                  // this many calls to come are rejected, to be tried again
+  long busy_after = 0;           // but not before this many calls have been taken
   int slow_ms = 0;               // taken by every call
   long fail_at = 0;              // the n-th call fails; 0: none
   std::string fail_member = {};  // only calls of this member count ("Range.Merge"); empty: of any
@@ -29,8 +30,9 @@ struct SpreadsheetOrders {
 
 struct OpenWorkbook {
   Workbook book;
-  bool saved = true;           // closing it asks nothing
-  bool saving_failed = false;  // an order or fault kept the plug-in from marking it as saved
+  bool saved = true;             // closing it asks nothing
+  bool saving_failed = false;    // an order or fault kept the plug-in from marking it as saved
+  bool saving_rejected = false;  // it was busy when it was to be marked
   bool open = true;
 };
 
@@ -40,6 +42,7 @@ struct SpreadsheetProgram {
   std::shared_ptr<OpenWorkbook> active;
   long started_by = 0;  // number of the call
   bool running = true;
+  bool told = false;  // as left behind, or excused
   bool died = false;
   bool quit_failed = false;    // an order or fault kept the plug-in from ending it
   bool quit_rejected = false;  // it was busy when it was to end
@@ -58,7 +61,9 @@ class SpreadsheetServer {
   // What the plug-in left behind of all it took after call number `after`: programs that still run,
   // objects that it still holds. Each is told once.
   std::vector<std::string> Settle(long after);
-  // No program runs and nobody holds an object.
+  // Ends the programs that would not end.
+  void EndAll();
+  // No program runs, for whatever reason, and nobody holds an object.
   bool Gone() const;
 
   // --- For the objects themselves.

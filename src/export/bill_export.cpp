@@ -8,6 +8,7 @@
 #include "export/excel_writer.h"
 #include "export/workbook_file.h"
 #include "frame/message_box.h"
+#include "frame/model_name.h"
 #include "frame/run_log.h"
 #include "toolkit/model.h"
 #include "toolkit/status.h"
@@ -19,12 +20,8 @@ constexpr wchar_t kNoName[] = L"\t无法读取当前模型的名称，操作已�
 
 std::optional<std::wstring> CurrentModelName() {
   ProMdl model = nullptr;
-  ProName name{};
-  if (!Ok(ProMdlCurrentGet(&model)) || model == nullptr || !Ok(ProMdlNameGet(model, name))) {
-    return std::nullopt;
-  }
-  name[PRO_NAME_SIZE - 1] = L'\0';
-  return name;
+  if (!Ok(ProMdlCurrentGet(&model)) || model == nullptr) return std::nullopt;
+  return ModelName(model);
 }
 
 WorkbookCell ReadCell(const DialogTable& table, const std::string& row, const std::string& column) {
@@ -36,9 +33,11 @@ std::optional<WorkbookTable> ReadTable(const DialogTable& table, std::wstring ti
   auto labels = table.ColumnLabels();
   const auto columns = table.ColumnNames();
   const auto rows = table.RowNames();
-  if (!labels || !columns || !rows || columns->empty() || labels->size() != columns->size()) {
-    return std::nullopt;
-  }
+  const auto row_labels = table.RowLabels();
+  if (!labels || !columns || !rows || !row_labels) return std::nullopt;
+  if (columns->empty() || labels->size() != columns->size()) return std::nullopt;
+  // Our rows have names only, for which the host may give no labels at all; but as many or none.
+  if (!row_labels->empty() && row_labels->size() != rows->size()) return std::nullopt;
   WorkbookTable result{std::move(title), std::move(*labels), {}};
   result.rows.reserve(rows->size());
   for (const std::string& row : *rows) {

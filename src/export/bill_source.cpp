@@ -4,6 +4,7 @@
 #include "export/parameter_text.h"
 #include "frame/component_list.h"
 #include "frame/handle_index.h"
+#include "frame/model_name.h"
 #include "frame/retrieve.h"
 #include "frame/run_log.h"
 
@@ -14,14 +15,7 @@ namespace {
 // tell the name or the type.
 std::wstring NameOf(ProMdl model, ProMdlType type) {
   if (type != PRO_MDL_PART && type != PRO_MDL_ASSEMBLY) return {};
-  ProName name{};
-  const ProError status = ProMdlNameGet(model, name);
-  if (!Ok(status)) {
-    LogFailure(model, "ProMdlNameGet", status);
-    return {};
-  }
-  name[PRO_NAME_SIZE - 1] = L'\0';
-  return name;
+  return ModelName(model).value_or(std::wstring());
 }
 
 class StructureReader {

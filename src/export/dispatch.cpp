@@ -131,6 +131,10 @@ void AutomationError::set_place(const std::wstring& place) {
   log_text_ = ToUtf8(step_ + L": " + Reason());
 }
 
+bool AutomationError::is_busy() const {
+  return IsBusy(result_);
+}
+
 std::wstring AutomationError::Reason() const {
   wchar_t number[16];
   std::swprintf(number, std::size(number), L"(0x%08X)", static_cast<unsigned>(result_));

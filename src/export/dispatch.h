@@ -29,6 +29,8 @@ class AutomationError : public std::exception {
   const std::wstring& step() const { return step_; }
   void set_place(const std::wstring& place);
   HRESULT result() const { return result_; }
+  // The server would not take the call, and was asked again for as long as the patience lasted.
+  bool is_busy() const;
   // What the other program says, or the system's text for the result, and the result's number.
   std::wstring Reason() const;
 
@@ -63,7 +65,7 @@ class Variant {
 // How long a busy server is asked again.
 enum class Patience {
   kFull,   // 30 seconds
-  kShort,  // 3 seconds: for clearing up after a failure, which the user is waiting to be told of
+  kShort,  // 3 seconds: where it has been busy for long already
 };
 
 // Owner of one reference to an object.

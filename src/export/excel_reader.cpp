@@ -62,11 +62,13 @@ SheetTexts ReadSheet(const Dispatch& workbook, size_t columns) {
 std::optional<SheetTexts> Read(const std::wstring& path, size_t columns) {
   std::optional<ExcelSession> excel = ExcelSession::Start();
   if (!excel) return std::nullopt;
-  excel->OpenWorkbook(path);
-  SheetTexts rows = ReadSheet(excel->workbook(), columns);
-  excel->CloseWorkbook();
-  excel->Quit();
-  return rows;
+  return excel->Do([&] {
+    excel->OpenWorkbook(path);
+    SheetTexts rows = ReadSheet(excel->workbook(), columns);
+    excel->CloseWorkbook();
+    excel->Quit();
+    return rows;
+  });
 }
 
 }  // namespace

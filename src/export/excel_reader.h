@@ -1,4 +1,4 @@
-// Reads the cells of a workbook's first sheet by way of the spreadsheet program.
+// Reads the cells of a workbook's active sheet by way of the spreadsheet program.
 #pragma once
 
 #include <cstddef>

@@ -31,8 +31,8 @@ std::optional<ExcelSession> ExcelSession::Start() {
 
 ExcelSession::~ExcelSession() {
   if (!application_) return;
-  if (workbook_) Try([&] { workbook_.Put(excel::kSaved, Variant(true), Patience::kShort); });
-  Try([&] { application_.Call(excel::kQuit, {}, Patience::kShort); });
+  if (workbook_) Try([&] { workbook_.Put(excel::kSaved, Variant(true), ending_); });
+  Try([&] { application_.Call(excel::kQuit, {}, ending_); });
 }
 
 void ExcelSession::AddWorkbook() {
@@ -57,10 +57,10 @@ void ExcelSession::Quit() {
   application_.reset();
 }
 
-void ShowExcelFailure(const wchar_t* activity, const AutomationError& error) {
+void ShowExcelFailure(const std::wstring& outcome, const AutomationError& error) {
   LogEvent(error.what());
-  ShowMessage(L"\t" + std::wstring(activity) + L"\t\n\t步骤：" + error.step() + L"\t\n\t原因：" +
-              error.Reason() + L"\t");
+  ShowMessage(L"\t" + outcome + L"\t\n\t步骤：" + error.step() + L"\t\n\t原因：" + error.Reason() +
+              L"\t");
 }
 
 }  // namespace qm

@@ -17,6 +17,18 @@ class ExcelSession {
   // Ends the program without a question about unsaved work, if it still runs.
   ~ExcelSession();
 
+  // Does `work` with the program. One that stays busy for the whole patience of a call is not
+  // waited for as long again at its end.
+  template <typename Work>
+  auto Do(Work work) {
+    try {
+      return work();
+    } catch (const AutomationError& error) {
+      if (error.is_busy()) ending_ = Patience::kShort;
+      throw;
+    }
+  }
+
   const Dispatch& application() const { return application_; }
   const Dispatch& workbook() const { return workbook_; }
 
@@ -33,9 +45,10 @@ class ExcelSession {
   // Declared in this order, so that the workbook is released first.
   Dispatch application_;
   Dispatch workbook_;
+  Patience ending_ = Patience::kFull;
 };
 
-// Tells the user at which step of `activity` the program failed, and why.
-void ShowExcelFailure(const wchar_t* activity, const AutomationError& error);
+// Tells the user what became of it, at which step the program failed, and why.
+void ShowExcelFailure(const std::wstring& outcome, const AutomationError& error);
 
 }  // namespace qm

@@ -13,6 +13,7 @@ namespace {
 constexpr wchar_t kNoExcel[] = L"创建Excel失败";
 constexpr wchar_t kTooWide[] = L"bom表格列数不得大于26列";
 constexpr wchar_t kFailed[] = L"导出Excel失败，未生成文件。";
+const std::wstring kUnfinished = L"导出Excel失败，未完成的文件无法删除，请手动删除：";
 
 constexpr size_t kTitleRow = 1;
 constexpr size_t kLabelRow = 2;
@@ -27,7 +28,7 @@ class SheetWriter {
     try {
       WriteAll();
     } catch (AutomationError& error) {
-      error.set_place(last_range_);
+      if (!last_range_.empty()) error.set_place(last_range_);
       throw;
     }
   }
@@ -41,6 +42,7 @@ class SheetWriter {
     for (size_t row = 0; row < table_.rows.size(); ++row) {
       for (size_t column = 0; column < table_.labels.size(); ++column) WriteCell(row, column);
     }
+    last_range_.clear();
     sheet_.Get(excel::kColumns).Call(excel::kAutoFit);
     sheet_.Get(excel::kRows).Call(excel::kAutoFit);
   }
@@ -108,33 +110,33 @@ enum class Outcome { kWritten, kNotStarted, kRefused };
 
 // Throws AutomationError. The program has ended when it returns, in whatever way.
 Outcome Write(const WorkbookTable& table, const std::wstring& path) {
-  // Outlives the program, which may hold the file until it has ended.
-  NewFile file(path);
   std::optional<ExcelSession> excel = ExcelSession::Start();
   if (!excel) return Outcome::kNotStarted;
-  excel->AddWorkbook();
-  const Variant first(1);
-  const Dispatch sheet = excel->workbook().Get(excel::kSheets).Get(excel::kItem, {&first});
-  if (table.labels.size() > kMaxColumns) return Outcome::kRefused;
-  SheetWriter(sheet, table).Write();
-  Save(*excel, path);
-  if (!file.Finish()) {
-    throw AutomationError(excel::kSaveCopyAs.name, HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND),
-                          L"文件没有生成");
-  }
-  return Outcome::kWritten;
+  return excel->Do([&] {
+    excel->AddWorkbook();
+    const Variant first(1);
+    const Dispatch sheet = excel->workbook().Get(excel::kSheets).Get(excel::kItem, {&first});
+    if (table.labels.size() > kMaxColumns) return Outcome::kRefused;
+    SheetWriter(sheet, table).Write();
+    Save(*excel, path);
+    return Outcome::kWritten;
+  });
 }
 
 }  // namespace
 
 bool WriteWorkbook(const WorkbookTable& table, const std::wstring& path) {
+  NewFile file(path);
   try {
     const Outcome outcome = Write(table, path);
     if (outcome == Outcome::kNotStarted) ShowShortWarning(kNoExcel);
     if (outcome == Outcome::kRefused) ShowMessage(kTooWide);
-    return outcome == Outcome::kWritten;
+    if (outcome != Outcome::kWritten) return false;
+    if (file.Finish()) return true;
+    throw AutomationError(excel::kSaveCopyAs.name, HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND),
+                          L"文件没有生成");
   } catch (const AutomationError& error) {
-    ShowExcelFailure(kFailed, error);
+    ShowExcelFailure(file.Discard() ? kFailed : kUnfinished + path, error);
     return false;
   }
 }

@@ -28,24 +28,26 @@ bool IsSame(const FileState& a, const FileState& b) {
 NewFile::NewFile(std::wstring path) : path_(std::move(path)), before_(StateOf(path_)) {}
 
 NewFile::~NewFile() {
-  if (!finished_) DeleteBegun();
+  if (!ended_) Discard();
 }
 
 bool NewFile::Finish() {
-  finished_ = !IsUntouched();
-  return finished_;
+  ended_ = !IsUntouched();
+  return ended_;
+}
+
+bool NewFile::Discard() {
+  ended_ = true;
+  for (int attempt = 0; attempt < kDeleteAttempts; ++attempt) {
+    if (IsUntouched() || ::DeleteFileW(path_.c_str())) return true;
+    ::Sleep(kDeletePauseMs);
+  }
+  LogEvent("an unfinished file could not be deleted");
+  return false;
 }
 
 bool NewFile::IsUntouched() const {
   return IsSame(before_, StateOf(path_));
-}
-
-void NewFile::DeleteBegun() const {
-  for (int attempt = 0; attempt < kDeleteAttempts; ++attempt) {
-    if (IsUntouched() || ::DeleteFileW(path_.c_str())) return;
-    ::Sleep(kDeletePauseMs);
-  }
-  LogEvent("an unfinished file could not be deleted");
 }
 
 }  // namespace qm

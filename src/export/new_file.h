@@ -14,7 +14,7 @@ struct FileState {
 };
 
 // From the moment before the first byte. Unless it was finished, what was begun of the file is
-// deleted at the end, but never an old file that was not touched.
+// deleted, at the end at the latest, but never an old file that was not touched.
 class NewFile {
  public:
   explicit NewFile(std::wstring path);
@@ -24,14 +24,15 @@ class NewFile {
 
   // False when nothing was written.
   bool Finish();
+  // Deletes what was begun now. False when it cannot be deleted.
+  bool Discard();
 
  private:
   bool IsUntouched() const;
-  void DeleteBegun() const;
 
   const std::wstring path_;
   const FileState before_;
-  bool finished_ = false;
+  bool ended_ = false;
 };
 
 }  // namespace qm

@@ -7,6 +7,7 @@
 #include "export/bill_table.h"
 #include "frame/current_assembly.h"
 #include "frame/message_box.h"
+#include "frame/model_name.h"
 #include "frame/notepad.h"
 #include "frame/retrieve.h"
 #include "frame/run_log.h"
@@ -92,6 +93,24 @@ void ShowRowModel(DialogView dialog) {
   if (!Ok(status)) LogFailure(model, "ProMdlDisplay", status);
 }
 
+// What was shown before the dialog, by name: the user may erase it meanwhile.
+class ShownModel {
+ public:
+  explicit ShownModel(const std::optional<CurrentModel>& current) {
+    if (!current) return;
+    name_ = ModelName(current->model);
+    type_ = current->type;
+  }
+  void ShowAgain() const {
+    const ProMdl model = name_ ? RetrieveModel(*name_, type_) : nullptr;
+    if (model != nullptr) ProMdlDisplay(model);
+  }
+
+ private:
+  std::optional<std::wstring> name_;
+  ProMdlType type_ = PRO_MDL_UNUSED;
+};
+
 void Bind(const Dialog& dialog) {
   dialog.BindButton<&OpenSettings>("QmOpenBomIni");
   dialog.BindButton<&PrepareChosenBill>("QmUpdateBomIni");
@@ -106,12 +125,13 @@ void Bind(const Dialog& dialog) {
 }  // namespace
 
 ProError QmBom() {
-  const auto shown = CurrentModelItself();
+  const auto current = CurrentModelItself();
+  const ShownModel shown(current);
   Dialog dialog("QmBom");
   if (!dialog.Create()) return PRO_TK_GENERAL_ERROR;
   Bind(dialog);
   SetBillColumns(TableOf(dialog), BillKind::kSummary);
-  const auto assembly = AssemblyOf(shown);
+  const auto assembly = AssemblyOf(current);
   if (!assembly) {
     ShowShortMessage(kAssembliesOnly);
     return PRO_TK_BAD_CONTEXT;
@@ -122,7 +142,7 @@ ProError QmBom() {
   const bool activated = dialog.Activate();
   dialog.Destroy();
   // The user may have looked at models of the bill meanwhile.
-  ProMdlDisplay(shown->model);
+  shown.ShowAgain();
   return activated ? PRO_TK_NO_ERROR : PRO_TK_GENERAL_ERROR;
 }
 

@@ -20,9 +20,10 @@ namespace {
 constexpr wchar_t kHeldOpen[] = L"文件已在excel打开，请关闭后重试";
 constexpr wchar_t kWriteFilter[] = L"EXCEL文件(*.xlsx)\0*.xlsx\0 All Files (*.*) \0*.*\0";
 constexpr wchar_t kReadFilter[] = L"Microsoft Excel 2000(*.xls)\0*.xls\0所有文件(*.*)\0*.*\0";
+constexpr wchar_t kReadExtension[] = L"xls";
 constexpr wchar_t kReadTitle[] = L"请选择需要加载的批量重命名表格文件";
 // Without the point, which the dialog adds itself.
-constexpr wchar_t kExtension[] = L"xlsx";
+constexpr wchar_t kWriteExtension[] = L"xlsx";
 constexpr size_t kLongestPath = 4096;
 
 // A file dialog makes the folder that the user looks at the process's working directory.
@@ -66,7 +67,7 @@ std::optional<std::wstring> ChooseWorkbookToWrite() {
   OPENFILENAMEW dialog = {};
   dialog.lpstrFilter = kWriteFilter;
   dialog.lpstrInitialDir = desktop;
-  dialog.lpstrDefExt = kExtension;
+  dialog.lpstrDefExt = kWriteExtension;
   dialog.Flags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT;
   return Choose(&::GetSaveFileNameW, dialog);
 }
@@ -75,6 +76,7 @@ std::optional<std::wstring> ChooseWorkbookToRead() {
   OPENFILENAMEW dialog = {};
   dialog.lpstrFilter = kReadFilter;
   dialog.lpstrTitle = kReadTitle;
+  dialog.lpstrDefExt = kReadExtension;
   dialog.Flags = OFN_HIDEREADONLY | OFN_FILEMUSTEXIST;
   return Choose(&::GetOpenFileNameW, dialog);
 }

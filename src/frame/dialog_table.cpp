@@ -50,6 +50,10 @@ bool DialogTable::DeleteAllRows() const {
   return rows && Ok(DeleteRows(std::move(*rows)));
 }
 
+std::optional<std::vector<std::wstring>> DialogTable::RowLabels() const {
+  return Gathered<WideTextList>(ProUITableRowlabelsGet, dialog_.name(), component_);
+}
+
 std::optional<std::vector<std::string>> DialogTable::ColumnNames() const {
   return Gathered<NameList>(ProUITableColumnnamesGet, dialog_.name(), component_);
 }

@@ -19,6 +19,7 @@ class DialogTable {
 
   // Nothing when the host does not tell, which differs from an empty table.
   std::optional<std::vector<std::string>> RowNames() const;
+  std::optional<std::vector<std::wstring>> RowLabels() const;
   std::optional<std::vector<std::string>> ColumnNames() const;
   std::optional<std::vector<std::wstring>> ColumnLabels() const;
   std::optional<std::vector<std::string>> SelectedRows() const;

@@ -11,6 +11,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// How a call fails: with a reason of the program's own, with a bare result, or since it is gone.
+struct FailureWay {
+  SpreadsheetOrders (*orders)(long nth);
+  const char* reason;
+};
+constexpr FailureWay kFailureWays[] = {
+    {[](long nth) { return SpreadsheetOrders{.fail_at = nth}; },
+     "the workbench was told to fail this call"},
+    {[](long nth) { return SpreadsheetOrders{.fail_at = nth, .fail_silently = true}; },
+     "(0x8007000E)"},
+    {[](long nth) { return SpreadsheetOrders{.die_at = nth}; }, "程序已意外退出"},
+};
+
 class ExcelAccess : public HostFixture {
  protected:
   ExcelAccess() : module_(::LoadLibraryW((TestBinaryFolder() / "excel_probe.dll").c_str())) {
@@ -45,16 +58,14 @@ class ExcelAccess : public HostFixture {
     }
     return names;
   }
-  // Fails call 1, 2, 3 ... of `action` until it succeeds, with `check` after each failure.
+  // Gives `way` of failing to call 1, 2, 3 ... of `action` until it succeeds, with `check` after
+  // each failure.
   template <typename Action, typename Check>
-  int FailEachCall(Action action, Check check) {
+  int FailEachCall(const FailureWay& way, Action action, Check check) {
     for (int nth = 1; nth < 1000; ++nth) {
-      SpreadsheetOrders orders;
-      orders.fail_at = nth;
-      host_.spreadsheet.Order(orders);
+      host_.spreadsheet.Order(way.orders(nth));
       if (action()) return nth;
-      EXPECT_NE(TakeBox().find("the workbench was told to fail this call"), std::string::npos)
-          << nth;
+      EXPECT_NE(TakeBox().find(way.reason), std::string::npos) << nth;
       EXPECT_TRUE(host_.spreadsheet.Gone()) << nth;
       check(nth);
     }
@@ -124,16 +135,25 @@ TEST_F(ExcelAccess, TheReaderAsksForTheSheetAndThenForEachCell) {
 
 TEST_F(ExcelAccess, AFailureAtAnyCallOfTheReaderLeavesNothingRunning) {
   WriteXlsx(NewWorkbook(), file_);
-  const int succeeded = FailEachCall([&] { return Read() != "unreadable"; }, [](int) {});
-  EXPECT_EQ(succeeded, 16);
+  for (const FailureWay& way : kFailureWays) {
+    EXPECT_EQ(FailEachCall(
+                  way, [&] { return Read() != "unreadable"; }, [](int) {}),
+              16)
+        << way.reason;
+  }
   EXPECT_EQ(Breaches(), Lines());
 }
 
 TEST_F(ExcelAccess, AFailureAtAnyCallOfTheWriterLeavesNoFile) {
-  EXPECT_GT(FailEachCall([&] { return Write(); },
-                         [&](int nth) { EXPECT_FALSE(fs::exists(file_)) << nth; }),
-            40);
-  EXPECT_TRUE(fs::exists(file_));
+  for (const FailureWay& way : kFailureWays) {
+    fs::remove(file_);
+    const auto check = [&](int nth) { EXPECT_FALSE(fs::exists(file_)) << nth; };
+    EXPECT_GT(FailEachCall(
+                  way, [&] { return Write(); }, check),
+              40)
+        << way.reason;
+    EXPECT_TRUE(fs::exists(file_));
+  }
   EXPECT_EQ(Breaches(), Lines());
 }
 
@@ -157,14 +177,18 @@ TEST_F(ExcelAccess, AProgramThatIsBusyForGoodIsGivenUpAfterThirtySeconds) {
   EXPECT_GE(host_.windows.slept_ms, 30'000u);
   EXPECT_LE(host_.windows.slept_ms, 34'000u);
   EXPECT_EQ(host_.spreadsheet.Settle(0), Lines()) << "no object is kept";
+  EXPECT_FALSE(host_.spreadsheet.Gone()) << "it never ended";
 }
 
 TEST_F(ExcelAccess, AProgramThatIsBusyForSomeSecondsIsWaitedFor) {
-  SpreadsheetOrders orders;
-  orders.busy = 9;  // 20 + 40 + ... milliseconds
-  host_.spreadsheet.Order(orders);
+  host_.spreadsheet.Order({.busy = 9});
   EXPECT_TRUE(Write());
-  EXPECT_EQ(host_.windows.slept_ms, 20u * 255 + 4000u);
+  EXPECT_EQ(host_.windows.slept_ms, 20u * 255 + 4000u);  // 20, 40, ... 2560, then 4000
+  // Also when it is to end after a failure.
+  host_.spreadsheet.Order({.busy = 9, .busy_after = 10, .fail_at = 10});
+  EXPECT_FALSE(Write());
+  EXPECT_EQ(host_.windows.slept_ms, 2 * (20u * 255 + 4000u));
+  EXPECT_TRUE(host_.spreadsheet.Gone());
 }
 
 TEST_F(ExcelAccess, AnUnfinishedFileIsDeletedOnceItsHolderLetsGo) {
@@ -191,6 +215,25 @@ TEST_F(ExcelAccess, AnUnfinishedFileIsDeletedOnceItsHolderLetsGo) {
   EXPECT_EQ(host_.windows.slept_ms, 3000u);
   EXPECT_NE(Log().find("could not be deleted"), std::string::npos);
   ::CloseHandle(holder.handle);
+}
+
+TEST_F(ExcelAccess, AnUnfinishedFileThatStaysIsTold) {
+  EXPECT_TRUE(Write());
+  fs::remove(file_);
+  // Somebody takes hold of the file between its saving and the call that fails.
+  const auto saving = static_cast<long>(ExcelCalls().size()) - 2;
+  host_.spreadsheet.Order(
+      {.busy = 1, .busy_after = saving, .fail_at = 1, .fail_member = "Workbook.Saved="});
+  HANDLE held = INVALID_HANDLE_VALUE;
+  host_.windows.in_pause = [&] {
+    if (held != INVALID_HANDLE_VALUE) return;
+    held = ::CreateFileW(file_.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                         FILE_ATTRIBUTE_NORMAL, nullptr);
+  };
+  EXPECT_FALSE(Write());
+  EXPECT_TRUE(TakeBox().starts_with("\t导出Excel失败，未完成的文件无法删除，请手动删除：" +
+                                    PathToUtf8(file_) + "\t\n\t步骤：Saved\t"));
+  ::CloseHandle(held);
 }
 
 TEST_F(ExcelAccess, TheTableToReadIsAskedForInAnOpenDialog) {

@@ -295,6 +295,8 @@ TEST_F(SpreadsheetServerTest, WhatIsLeftBehindIsToldOnce) {
   EXPECT_EQ(Breaches().size(), 4u);
   EXPECT_FALSE(host_.spreadsheet.Gone());
   excel = {};
+  EXPECT_FALSE(host_.spreadsheet.Gone()) << "it runs on, told or not";
+  host_.spreadsheet.EndAll();
   EXPECT_TRUE(host_.spreadsheet.Gone());
 }
 
@@ -318,11 +320,30 @@ TEST_F(SpreadsheetServerTest, AProgramThatWouldNotEndIsNotHeldAgainstThePlugin) 
   }
   ReportLeftPrograms(-1);
   EXPECT_EQ(Breaches(), Lines{});
-  const TestObject program = Start();
-  host_.spreadsheet.Order({.busy = 1});
-  program.Call(kQuit);
-  ReportLeftPrograms(-1);
-  EXPECT_EQ(Breaches().size(), 2u) << "busy once only: it should have been tried again";
+  EXPECT_FALSE(host_.spreadsheet.Gone());
+  // Busy for a while only, in each of the three ways: it should have been tried again.
+  for (int busy = 1; busy <= 3; ++busy) {
+    const TestObject program = Start();
+    host_.spreadsheet.Order({.busy = busy});
+    for (int i = 0; i < busy; ++i) program.Call(kQuit);
+    host_.breaches.clear();
+    ReportLeftPrograms(-1);
+    EXPECT_EQ(Breaches().size(), 2u) << busy;
+  }
+}
+
+TEST_F(SpreadsheetServerTest, AWorkbookThatABusyProgramDidNotMarkIsAskedAbout) {
+  for (int busy = 1; busy <= 3; ++busy) {
+    Opened excel = OpenNew();
+    excel.Cell("A1").Put(kValue2, "a");
+    host_.spreadsheet.Order({.busy = busy});
+    for (int i = 0; i < busy; ++i) excel.book.Put(kSaved, true);
+    host_.breaches.clear();
+    excel.program.Call(kQuit);
+    EXPECT_EQ(Breaches(),
+              (Lines{"plug-in misused Excel: Quit asks the user whether to save the workbook"}))
+        << busy;
+  }
 }
 
 TEST_F(SpreadsheetServerTest, ThePluginsOwnCallsComeHere) {

@@ -107,12 +107,12 @@ class StepTextBuilder {
     return Add("SHELL_BASED_SURFACE_MODEL('',(" + Ref(shell) + "))");
   }
 
-  StepAssembly Read() const {
-    return ReadStepAssembly(
-        StepFile::Parse("ISO-10303-21;HEADER;\nFILE_SCHEMA(('AP'));\nENDSEC;\nDATA;\n" + text_ +
-                            "ENDSEC;\nEND-ISO-10303-21;\n",
-                        "pump.stp"));
+  // The whole file.
+  std::string Text() const {
+    return "ISO-10303-21;HEADER;\nFILE_SCHEMA(('AP'));\nENDSEC;\nDATA;\n" + text_ +
+           "ENDSEC;\nEND-ISO-10303-21;\n";
   }
+  StepAssembly Read() const { return ReadStepAssembly(StepFile::Parse(Text(), "pump.stp")); }
 
  private:
   std::string text_;
