@@ -47,7 +47,6 @@ class HostEntry {
       : name_(name), versioned_name_(versioned_name) {}
 
   const char* name() const { return name_; }
-  bool looked_up() const { return looked_up_; }
   bool bound() const { return address_ != nullptr; }
 
   // All functions looked up so far, latest first, chained by next().
