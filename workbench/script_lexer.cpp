@@ -3,6 +3,7 @@
 
 #include <charconv>
 
+#include "workbench/text.h"
 #include "workbench/utf8_text.h"
 
 namespace wb {
@@ -20,11 +21,13 @@ class LineLexer {
   explicit LineLexer(std::string_view rest) : rest_(rest) {}
 
   // Empty: the line is well formed; otherwise what is wrong with it.
-  std::string Read(std::vector<ScriptWord>* words) {
+  std::string Read(ScriptLine* line) {
+    const std::string_view whole = rest_;
     for (SkipBlanks(); !rest_.empty() && rest_.front() != '#'; SkipBlanks()) {
-      std::string problem = rest_.front() == '"' ? Quoted(words) : Plain(words);
+      std::string problem = rest_.front() == '"' ? Quoted(&line->words) : Plain(&line->words);
       if (!problem.empty()) return problem;
     }
+    line->text = Trimmed(whole.substr(0, whole.size() - rest_.size()));
     return "";
   }
 
@@ -109,13 +112,13 @@ std::vector<ScriptLine> LexScript(std::string_view text, const std::string& file
     std::string_view line = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
     if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-    ScriptLine words{number, {}};
+    ScriptLine read{number, {}, {}};
     std::string problem =
-        IsUtf8(line) ? LineLexer(line).Read(&words.words) : "not UTF-8; save the script as UTF-8";
+        IsUtf8(line) ? LineLexer(line).Read(&read) : "not UTF-8; save the script as UTF-8";
     if (!problem.empty()) {
       errors->emplace_back(file, number, problem);
-    } else if (!words.words.empty()) {
-      lines.push_back(std::move(words));
+    } else if (!read.words.empty()) {
+      lines.push_back(std::move(read));
     }
   }
   return lines;

@@ -17,6 +17,7 @@ struct ScriptWord {
 struct ScriptLine {
   int number = 0;
   std::vector<ScriptWord> words;  // never empty
+  std::string text;               // as written, without indentation and comment
 };
 
 // Words are separated by blanks; "#" at the start of a word begins a comment. A quoted text knows

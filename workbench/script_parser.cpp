@@ -131,7 +131,8 @@ class Parser {
       SkipBlockOf(line);
       return;
     }
-    Statement statement{search.found(), file_, line.number, std::move(search.arguments()), {}};
+    Statement statement{
+        search.found(), file_, line.number, line.text, std::move(search.arguments()), {}};
     if (statement.form->block != 0) Block(statement.form->block, line.number, &statement.block);
     statements->push_back(std::move(statement));
   }

@@ -16,6 +16,7 @@ struct Statement {
   const StatementForm* form = nullptr;
   std::string file;
   int line = 0;
+  std::string text;  // its line as written
   ScriptArguments arguments;
   std::vector<Statement> block;
 

@@ -64,16 +64,18 @@ void ScriptUser::Answering(const Statement& asked_at, const std::vector<Statemen
 
 void ScriptUser::ReportUnused(const Level& level) {
   if (run_.lenient) return;
+  const bool in_dialog = level.opened_at->form->block == kDialogPlace;
+  const std::string why = std::string("not used, since the ") + (in_dialog ? "dialog" : "command") +
+                          " had ended before";
   for (size_t i = level.next; i < level.statements->size(); ++i) {
     const Statement& left = (*level.statements)[i];
-    run_.Fail(left, "\"" + std::string(left.form->pattern) +
-                        "\" was not used: the command had ended before");
+    run_.Fail(left, why + ": " + left.text);
   }
 }
 
 const Statement& ScriptUser::Place() const {
   static const StatementForm kNowhere{"", "", 0};
-  static const Statement nowhere{&kNowhere, "script", 0, {}, {}};
+  static const Statement nowhere{&kNowhere, "script", 0, "", {}, {}};
   if (levels_.empty()) return nowhere;
   const Level& level = levels_.back();
   return level.next < level.statements->size() ? (*level.statements)[level.next] : *level.opened_at;
