@@ -91,6 +91,16 @@ class Neighbour {
   fs::path folder_;
 };
 
+// A file in the way of `folder`, or of a folder above it.
+void RefuseFileInTheWay(const fs::path& folder) {
+  fs::path at = fs::absolute(folder);
+  while (!fs::exists(at) && at.has_relative_path()) at = at.parent_path();
+  if (!fs::exists(at) || fs::is_directory(at)) return;
+  throw std::runtime_error(PathToUtf8(at) +
+                           " is a file, and models need a folder; name another folder, which is "
+                           "made when it is missing, or move the file away");
+}
+
 // Models in an order in which each comes before those under it.
 std::vector<const Model*> FromTheTop(const ImportedModels& imported) {
   std::map<std::string, const Model*> by_name;
@@ -151,6 +161,7 @@ ImportedModels ReadStepModels(const fs::path& file) {
 }
 
 void WriteModels(const ImportedModels& imported, const fs::path& folder, bool force) {
+  RefuseFileInTheWay(folder);
   const FolderIndex present(folder);
   for (const Model& model : imported.models) {
     if (force || present.NewestVersion(model.id) == 0) continue;
