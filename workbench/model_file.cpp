@@ -135,6 +135,26 @@ int LineOfByte(const std::string& text, size_t byte) {
          static_cast<int>(std::count(text.begin(), text.begin() + static_cast<long>(end), '\n'));
 }
 
+// The line of the component `under`, or of such an assembly; the first line when none names it.
+int LineNaming(const std::string& text, const ModelName& under) {
+  constexpr int kTopLevel = 1;
+  std::istringstream in(text);
+  std::string key;
+  int line = 0;
+  const auto look = [&](int depth, Json::parse_event_t event, const Json& value) {
+    if (event == Json::parse_event_t::key) key = value;
+    const bool names = key == "assembly" || (key == "model" && depth > kTopLevel);
+    const bool is_text = event == Json::parse_event_t::value && value.is_string();
+    if (line != 0 || !names || !is_text) return true;
+    if (EqualFolded(value.get<std::string>(), under.Text())) {
+      line = LineOfByte(text, static_cast<size_t>(in.tellg()));
+    }
+    return true;
+  };
+  const Json read = Json::parse(in, look);
+  return std::max(line, 1);
+}
+
 Json ModelJson(const Model& model) {
   Json json;
   json["format"] = kFormat;
@@ -169,6 +189,11 @@ Model ReadModelFile(const std::filesystem::path& file) {
   } catch (const std::exception& error) {
     Fail(file, error.what());
   }
+}
+
+void RefuseModelUnder(const std::filesystem::path& file, const ModelName& under,
+                      const std::string& why) {
+  Fail(file, "line " + std::to_string(LineNaming(ReadText(file), under)) + ": " + why);
 }
 
 std::string ModelDocument(const Model& model) {

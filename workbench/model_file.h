@@ -23,6 +23,11 @@ Model ReadModelFile(const std::filesystem::path& file);
 // was there. Throws ModelFileError.
 void WriteModelFile(const Model& model, const std::filesystem::path& file);
 
+// Refuses what `file` says of `under`, a component or the assembly of a manufacturing model: throws
+// ModelFileError with the line that names it.
+[[noreturn]] void RefuseModelUnder(const std::filesystem::path& file, const ModelName& under,
+                                   const std::string& why);
+
 std::string ModelDocument(const Model& model);
 
 // "bolt.prt.3" -> bolt.prt and 3; no value for other names.

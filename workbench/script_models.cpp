@@ -3,6 +3,7 @@
 
 #include "workbench/bench_shapes.h"
 #include "workbench/import_command.h"
+#include "workbench/model_cycle.h"
 #include "workbench/model_file.h"
 #include "workbench/script_arguments.h"
 #include "workbench/script_runner.h"
@@ -99,6 +100,10 @@ void Component(ScriptRun& run, const Statement& statement) {
                             1};
   }
   AddFeatures(owner, std::move(feature), statement.Has("times") ? statement.Number("TIMES") : 1);
+  const std::vector<const Model*> cycle = FindCycle({&owner});
+  if (!cycle.empty()) {
+    throw ScriptError(owner.id.Text() + " would hold itself: " + CycleText(cycle));
+  }
 }
 
 void OtherFeature(ScriptRun& run, const Statement& statement) {

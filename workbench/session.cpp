@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "workbench/model_cycle.h"
 #include "workbench/model_file.h"
 #include "workbench/text.h"
 
@@ -89,14 +90,16 @@ Model* Session::Retrieve(const ModelName& name) {
 
 Model* Session::RetrieveTree(const ModelName& name, const FolderIndex& folder) {
   Model* const top = Load(name, folder);
+  std::vector<Model*> loaded;
   std::vector<Model*> pending;
   if (top != nullptr) pending.push_back(top);
   while (!pending.empty()) {
     Model* const model = pending.back();
     pending.pop_back();
+    loaded.push_back(model);
     const auto want = [&](const ModelName& wanted) {
       if (Find(wanted) != nullptr) return;
-      if (Model* loaded = Load(wanted, folder)) pending.push_back(loaded);
+      if (Model* const found = Load(wanted, folder)) pending.push_back(found);
     };
     for (const Feature& feature : model->features) {
       if (feature.IsComponent()) want(feature.component);
@@ -105,7 +108,20 @@ Model* Session::RetrieveTree(const ModelName& name, const FolderIndex& folder) {
     if (model->drawing_of) want(*model->drawing_of);
     Resolve(*model);
   }
+  RefuseCycle(loaded, folder);
   return top;
+}
+
+// Models that were in session before hold none of the `loaded` ones, so a new cycle is all of
+// these.
+void Session::RefuseCycle(const std::vector<Model*>& loaded, const FolderIndex& folder) {
+  const std::vector<const Model*> cycle = FindCycle({loaded.begin(), loaded.end()});
+  if (cycle.empty() || std::ranges::find(loaded, cycle.back()) == loaded.end()) return;
+  const std::filesystem::path file = folder.Newest(cycle[cycle.size() - 2]->id);
+  const ModelName under = cycle.back()->id;
+  const std::string why = under.Text() + " would hold itself: " + CycleText(cycle);
+  for (Model* const model : loaded) Erase(*model);
+  RefuseModelUnder(file, under, why);
 }
 
 Model* Session::Load(const ModelName& name, const FolderIndex& folder) {

@@ -59,7 +59,8 @@ class Session {
   Model* Find(const ModelName& name);
   // Takes the model from session or from the working directory (newest version), with all models
   // under it; a component whose file is missing stays unresolved. Null: not found.
-  // Throws ModelFileError for a file that cannot be read.
+  // Throws ModelFileError for a file that cannot be read, and for files by which an assembly would
+  // hold itself; none of these models is in session then.
   Model* Retrieve(const ModelName& name);
   // Takes over a model made in memory; resolves its components from session only.
   Model& Add(Model model);
@@ -83,6 +84,7 @@ class Session {
 
  private:
   Model* RetrieveTree(const ModelName& name, const FolderIndex& folder);
+  void RefuseCycle(const std::vector<Model*>& loaded, const FolderIndex& folder);
   Model* Load(const ModelName& name, const FolderIndex& folder);
 
   std::filesystem::path working_directory_;

@@ -105,6 +105,12 @@ TEST(ScriptRunner, WhatNobodyAnswersFailsWithWhatWasAsked) {
        "5: there is no model \"bolt.drw\" in session; the script ends here"},
       {"select pump/bolt", "5: pump.asm has no component \"pump\"; the script ends here"},
       {"expect hidden bolt", "5: bolt, expected hidden, got shown"},
+      {"component pump <- pump", "5: pump.asm would hold itself: pump.asm > pump.asm; the script"},
+      {"assembly rotor\ncomponent pump <- rotor times 2\ncomponent rotor <- bolt\n"
+       "component rotor <- pump",
+       "8: rotor.asm would hold itself: rotor.asm > pump.asm > rotor.asm; the script ends here"},
+      {"manufacturing mill of pump\ncomponent pump <- mill",
+       "6: pump.asm would hold itself: pump.asm > mill.mfg > pump.asm; the script ends here"},
       {"open nothing", "5: there is no model \"nothing\" in session or in "},
   };
   for (const auto& item : cases) {
