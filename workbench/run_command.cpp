@@ -6,10 +6,10 @@
 #include "workbench/command_line.h"
 #include "workbench/model_file.h"
 #include "workbench/report.h"
+#include "workbench/script_faults.h"
 #include "workbench/script_runner.h"
 #include "workbench/script_watch.h"
 #include "workbench/script_windows.h"
-#include "workbench/script_words.h"
 #include "workbench/text.h"
 #include "workbench/utf8_text.h"
 
@@ -18,34 +18,6 @@ namespace {
 
 // A batch command on a large assembly may be at work for minutes between two statements.
 constexpr unsigned kHangSeconds = 600;
-
-// "ProMdlNameGet:2:general_error" or "any:5:empty:from_then_on".
-FaultPlan FaultOption(const std::string& text) {
-  if (text.empty()) return {};
-  std::vector<std::string> words(1);
-  for (const char c : text) {
-    if (c == ':') {
-      words.emplace_back();
-    } else {
-      words.back() += c;
-    }
-  }
-  FaultPlan plan;
-  const bool has_words = words.size() == 3 || (words.size() == 4 && words[3] == "from_then_on");
-  const int nth = has_words ? WholeNumber(words[1]).value_or(0) : 0;
-  const auto status = has_words ? NumberOf(StatusWords(), words[2]) : std::nullopt;
-  if (nth < 1 || (!status && words[2] != "empty")) {
-    throw UsageError(
-        "--fault wants FUNCTION:NTH:STATUS, with \"any\" for any function, \"empty\" "
-        "for an empty success, and \":from_then_on\" at its end if wanted");
-  }
-  if (words[0] != "any") plan.function = words[0];
-  plan.nth = nth;
-  plan.from_then_on = words.size() == 4;
-  plan.kind = status ? FaultKind::kStatus : FaultKind::kEmptySuccess;
-  plan.status = status.value_or(0);
-  return plan;
-}
 
 void PrintFailures(const RunRecord& record, size_t from) {
   for (size_t i = from; i < record.failures.size(); ++i) {

@@ -3,6 +3,7 @@
 
 #include "workbench/script_runner.h"
 #include "workbench/script_words.h"
+#include "workbench/spreadsheet_members.h"
 #include "workbench/text.h"
 #include "workbench/windows_hooks.h"
 
@@ -98,7 +99,11 @@ constexpr ScriptHandler kHandlers[] = {
 
 void CheckFunctions(const Statement& statement) {
   for (const std::string& function : statement.Texts("FUNCTION")) {
-    if (function == "any" || function.starts_with("Excel.")) continue;
+    if (function == "any" || IsSpreadsheetMember(function)) continue;
+    if (function.starts_with(kSpreadsheetPrefix)) {
+      throw ScriptError("the spreadsheet program has no member " + function +
+                        "; a property that is put ends with \"=\"");
+    }
     if (!IsMetFunction(function.c_str())) {
       throw ScriptError("neither the host nor the intercepted part of Windows has a function " +
                         function);

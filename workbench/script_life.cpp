@@ -1,8 +1,8 @@
 // Statements on the plug-in's life and on commands.
+#include "workbench/script_faults.h"
 #include "workbench/script_record.h"
 #include "workbench/script_runner.h"
 #include "workbench/script_sweep.h"
-#include "workbench/script_words.h"
 
 namespace wb {
 namespace {
@@ -68,16 +68,7 @@ void FaultNone(ScriptRun& run, const Statement&) {
 }
 
 void OrderFault(ScriptRun& run, const Statement& statement) {
-  CheckFunctions(statement);
-  run.fault = {};
-  if (statement.Text("FUNCTION") != "any") run.fault.function = statement.Text("FUNCTION");
-  run.fault.nth = statement.Number("NTH");
-  run.fault.from_then_on = statement.Has("from_then_on");
-  if (statement.Has("empty")) {
-    run.fault.kind = FaultKind::kEmptySuccess;
-  } else {
-    run.fault.status = *NumberOf(StatusWords(), statement.Text("STATUS"));
-  }
+  run.fault = FaultOf(statement);
 }
 
 void Withhold(ScriptRun& run, const Statement& statement) {

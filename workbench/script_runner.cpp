@@ -67,7 +67,6 @@ ScriptRun::ScriptRun(const std::string& script, const ScriptOptions& run_options
       options(run_options),
       plugin_name(kPluginFile),
       install_name("script"),
-      fault(run_options.fault),
       record_(record) {
   host.user = &user;
   host.trace.keep_lines = true;
@@ -93,8 +92,9 @@ std::string ScriptRun::RunAll(const std::vector<Statement>& statements) {
       at = &statement;
       Execute(statement);
     }
-    if (at != nullptr) Stop(*at);
-    if (fault.nth != 0 && options.fault.nth == 0) Fail(*at, "no action followed the fault ordered");
+    if (at == nullptr) return "";
+    Stop(*at);
+    CheckFaultsStruck(*at);
   } catch (const ScriptSkip& skip) {
     return skip.why;
   } catch (const std::exception& error) {
@@ -228,18 +228,24 @@ std::vector<std::string> ScriptRun::TakeComplaints() {
 void ScriptRun::Act(const Statement& at, const std::function<void()>& action) {
   const int failed_before = record_.failed;
   BeginMarks();
-  const FaultPlan ordered = fault;
+  const bool by_script = fault.nth != 0;
+  const FaultPlan ordered = by_script ? fault : options.fault;
   if (ordered.nth != 0) host.faults.Order(ordered);
   user.Answering(at, at.block, action);
   faults_struck = ordered.nth != 0 ? host.faults.struck() : 0;
   host.faults.Clear();
   for (const std::string& complaint : TakeComplaints()) Fail(at, complaint);
-  if (ordered.nth != 0 && faults_struck == 0 && options.fault.nth == 0) {
-    Fail(at, "the fault ordered for it did not strike");
-  }
-  fault = options.fault;
+  if (by_script && faults_struck == 0) Fail(at, "the fault ordered for it did not strike");
+  if (!by_script && faults_struck != 0) option_fault_struck_ = true;
+  fault = {};
   AppendTrace(at);
   if (record_.failed == failed_before) Pass();
+}
+
+void ScriptRun::CheckFaultsStruck(const Statement& at) {
+  if (fault.nth != 0) Fail(at, "no action followed the fault ordered");
+  if (options.fault.nth == 0 || option_fault_struck_) return;
+  Fail(at, "the fault that the command line orders struck in no action of this script");
 }
 
 void ScriptRun::AppendTrace(const Statement& at) {

@@ -27,7 +27,7 @@ struct ScriptOptions {
   std::filesystem::path out;      // keeps each script's folders below here; empty: they are removed
   std::filesystem::path trace;    // file that takes the calls of every action; empty: none
   bool record = false;            // collects what a report shows
-  FaultPlan fault;                // met by every `run`; nth 0: none
+  FaultPlan fault;                // met by every action without one of its own; nth 0: none
 };
 
 // A statement that cannot be carried out; the script ends there.
@@ -117,7 +117,7 @@ class ScriptRun {
   std::string plugin_name;           // file name of the DLL in the copy
   std::string install_name;          // folder name of the copy
   std::vector<OfferedButton> popup;  // as last created
-  FaultPlan fault;                   // for the next action
+  FaultPlan fault;                   // ordered by the script for the next action
   long faults_struck = 0;            // by the last action
   int status = 0;                    // of the last command
   int recording = -1;                // index of the record of the command at work
@@ -132,7 +132,10 @@ class ScriptRun {
   void AppendTrace(const Statement& at);
   static void CheckOnePlace(const std::filesystem::path& dll);
 
+  void CheckFaultsStruck(const Statement& at);
+
   RunRecord& record_;
+  bool option_fault_struck_ = false;  // in any action so far
   std::unique_ptr<InstallCopy> install_;
   std::unique_ptr<Plugin> plugin_;
 };

@@ -149,6 +149,11 @@ const SpreadsheetMember* FindFitting(Fits fits) {
 
 }  // namespace
 
+bool IsSpreadsheetMember(std::string_view name) {
+  return FindFitting([&](const SpreadsheetMember& member) { return member.name == name; }) !=
+         nullptr;
+}
+
 const SpreadsheetMember* FindMember(ObjectKind kind, DISPID id, WORD call_kind) {
   return FindFitting([&](const SpreadsheetMember& member) {
     return member.kind == kind && member.id == id && member.call_kind == call_kind;

@@ -71,6 +71,8 @@ inline constexpr WORD kCall = DISPATCH_METHOD;
 // Those of worksheets, ranges, fills and fonts.
 std::span<const SpreadsheetMember> RangeMembers();
 
+// Whether calls of this name can be met, "Excel.Range.Merge".
+bool IsSpreadsheetMember(std::string_view name);
 // Null when the object has no such member, or not in this kind of call.
 const SpreadsheetMember* FindMember(ObjectKind kind, DISPID id, WORD call_kind);
 // The same in whatever kind of call.

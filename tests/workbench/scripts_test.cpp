@@ -7,7 +7,9 @@
 #include <set>
 
 #include "tests/workbench/test_paths.h"
+#include "workbench/command_line.h"
 #include "workbench/model_file.h"
+#include "workbench/script_faults.h"
 #include "workbench/script_runner.h"
 #include "workbench/script_windows.h"
 
@@ -58,11 +60,11 @@ INSTANTIATE_TEST_SUITE_P(Files, Script, testing::ValuesIn(Scripts()),
                          [](const auto& script) { return PathToUtf8(script.param.stem()); });
 
 // Runs a script text and gives its failures.
-std::string FailuresOf(const std::string& text) {
+std::string FailuresOf(const std::string& text, const ScriptOptions& options = Options()) {
   const fs::path file = fs::temp_directory_path() / "scripts_test.qms";
   std::ofstream(file, std::ios::binary | std::ios::trunc) << text;
   RunRecord record;
-  RunScriptFile(file, Options(), record);
+  RunScriptFile(file, options, record);
   fs::remove(file);
   return Failures(record);
 }
@@ -97,6 +99,8 @@ TEST(ScriptRunner, WhatNobodyAnswersFailsWithWhatWasAsked) {
        "6: the fault ordered for it did not strike"},
       {"run ForTest\nfault any 1 empty", "6: no action followed the fault ordered"},
       {"expect calls ProMdlNameGte none", "5: neither the host nor the intercepted part"},
+      {"fault Excel.Range.Mrege 1 empty",
+       "5: the spreadsheet program has no member Excel.Range.Mr"},
       {"withhold ProMdlNameGte", "5: neither the host nor the intercepted part"},
       {"", "0: checks nothing"},
       {"mode part\nrun QmIsolate", "6: QmIsolate is not available here"},
@@ -119,6 +123,57 @@ TEST(ScriptRunner, WhatNobodyAnswersFailsWithWhatWasAsked) {
         << item.statements << "\n"
         << failures;
   }
+}
+
+// The usage error of an option, or "" when it is taken.
+std::string RefusalOf(const std::string& fault) {
+  try {
+    FaultOption(fault);
+  } catch (const UsageError& error) {
+    return error.what();
+  }
+  return "";
+}
+
+TEST(FaultOptions, AreReadAndRefusedAsTheStatementIs) {
+  const struct {
+    const char* option;
+    const char* why;
+  } cases[] = {
+      {"ProMdlNameGte:2:general_error", "neither the host nor the intercepted part of Windows has"},
+      {"Excel.Range.Value:2:empty", "the spreadsheet program has no member Excel.Range.Value; a"},
+      {"ProMdlNameGet:0:general_error",
+       "\"0\" is not a count from 1; it wants FUNCTION:NTH:STATUS"},
+      {"ProMdlNameGet:2x:empty", "\"2x\" is not a count from 1; it wants FUNCTION:NTH:STATUS"},
+      {"ProMdlNameGet:2:general", "\"general\" is not a status such as general_error; it wants"},
+      {"ProMdlNameGet:2", "STATUS is missing at its end; it wants"},
+      {"ProMdlNameGet", "NTH is missing at its end; it wants"},
+      {"any:1:empty:for_ever", "\"for_ever\" is one word too many; it wants"},
+      {":1:empty", "neither the host nor the intercepted part of Windows has"},
+  };
+  for (const auto& item : cases) {
+    const std::string refusal = RefusalOf(item.option);
+    EXPECT_EQ(refusal.find("--fault " + std::string(item.option) + ": " + item.why), 0u) << refusal;
+  }
+  const FaultPlan plan = FaultOption("Excel.Range.Value2=:3:out_of_memory:from_then_on");
+  EXPECT_EQ(plan.function, "Excel.Range.Value2=");
+  EXPECT_EQ(plan.nth, 3);
+  EXPECT_EQ(plan.status, -10);
+  EXPECT_TRUE(plan.from_then_on);
+  EXPECT_EQ(FaultOption("any:5:empty").function, "");
+  EXPECT_EQ(FaultOption("any:5:empty").kind, FaultKind::kEmptySuccess);
+}
+
+TEST(FaultOptions, ThatStrikeInNoActionFailTheScript) {
+  const std::string script = std::string(kPump) + "run ForTest\nselect bolt\nrun QmMdlNameCopy\n";
+  ScriptOptions options = Options();
+  options.fault = FaultOption("ProMdlNameGet:1:general_error");
+  EXPECT_EQ(FailuresOf(script + "expect faults 1\nexpect note \"x\"\n", options).find("9: "), 17u);
+  options.fault = FaultOption("ProMdlNameGet:9:general_error");
+  EXPECT_EQ(
+      FailuresOf(script, options),
+      "scripts_test.qms:7: the fault that the command line orders struck in no action of this "
+      "script\n");
 }
 
 TEST(ScriptRunner, NothingRunsOfAScriptWithErrors) {
