@@ -43,6 +43,7 @@ ProError ProSolidFeatVisit(ProSolid solid, ProFeatureVisitAction action,
         for (size_t i = 0; i < model.features.size(); ++i) {
           ProFeature item{PRO_FEATURE, model.features[i].id, solid};
           const ProError answer = VisitOne(item, action, filter, data, visited);
+          call.CheckStillThere(solid);
           if (answer != PRO_TK_NO_ERROR) return answer;
         }
         return visited ? PRO_TK_NO_ERROR : PRO_TK_E_NOT_FOUND;

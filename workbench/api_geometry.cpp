@@ -46,9 +46,11 @@ ProError ProSolidSurfaceVisit(ProSolid solid, ProSurfaceVisitAction action,
         for (const Box& box : model.surfaces) {
           const ProSurface surface = SurfaceHandle(call.host, box);
           const ProError filtered = filter == nullptr ? PRO_TK_NO_ERROR : filter(surface, data);
+          call.CheckStillThere(solid);
           if (filtered == PRO_TK_CONTINUE) continue;
           visited = true;
           const ProError answer = action(surface, filtered, data);
+          call.CheckStillThere(solid);
           if (answer != PRO_TK_NO_ERROR) return answer;
         }
         return visited ? PRO_TK_NO_ERROR : PRO_TK_E_NOT_FOUND;

@@ -64,14 +64,15 @@ bool CrossingBase::Begin() {
   }
   call_ = host_.trace.Enter(function_);
   fault_ = host_.faults.Strike(function_);
+  user_acted_ = host_.LetUserIn(function_);
   return fault_ == nullptr;
 }
 
-ProError CaughtInCrossing(Host& host, const char* function) {
+ProError CaughtInCrossing(Host& host, const char* function, bool user_acted) {
   try {
     throw;
   } catch (const Misuse& misuse) {
-    host.ReportBreach(function, misuse.why);
+    if (!user_acted) host.ReportBreach(function, misuse.why);
     return PRO_TK_BAD_INPUTS;
   } catch (const NotModelled& gap) {
     host.not_modelled.push_back("workbench: not modelled: " + std::string(function) + ": " +
@@ -98,6 +99,11 @@ Model& Call::SolidAt(const void* handle) const {
     Fail("a " + std::string(KindWord(model.id.kind)) + " given where a solid is needed");
   }
   return model;
+}
+
+void Call::CheckStillThere(const void* handle) const {
+  if (host.handles.Look(handle, HandleKind::kModel).object != nullptr) return;
+  throw NotModelled{"a model that is erased while it is visited"};
 }
 
 PickedItem& Call::SelectionAt(const void* handle) const {

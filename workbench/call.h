@@ -87,6 +87,8 @@ class Call {
   // A part or assembly.
   Model& SolidAt(const void* handle) const;
   PickedItem& SelectionAt(const void* handle) const;
+  // For visits: the user may have erased the model since the last look.
+  void CheckStillThere(const void* handle) const;
   // A component or other feature of a solid.
   Feature& FeatureAt(const ProModelitem* item, Model** owner = nullptr) const;
 
@@ -125,6 +127,7 @@ class CrossingBase {
   const char* function_;
   long call_ = 0;
   const FaultPlan* fault_ = nullptr;
+  bool user_acted_ = false;  // between the plug-in's call and its being carried out
 };
 
 template <typename... Args>
@@ -178,12 +181,13 @@ class Crossing : CrossingBase {
   std::tuple<Args...> args_;
 };
 
-// Turns the exception in flight into a recorded breach and a failing status.
-ProError CaughtInCrossing(Host& host, const char* function);
+// Turns the exception in flight into a recorded breach and a failing status. What the call was
+// given may have been right until the user acted: then it only fails.
+ProError CaughtInCrossing(Host& host, const char* function, bool user_acted = false);
 
 template <typename... Args>
 ProError Crossing<Args...>::Caught() {
-  return CaughtInCrossing(host_, function_);
+  return CaughtInCrossing(host_, function_, user_acted_);
 }
 
 }  // namespace wb

@@ -50,6 +50,10 @@ bool Host::OnUiThread() const {
   return ::GetCurrentThreadId() == ui_thread;
 }
 
+bool Host::LetUserIn(const char* function) {
+  return user != nullptr && user->CallBegins(function);
+}
+
 std::string Host::DescribeHandle(const void* handle) const {
   if (handle == nullptr) return "null";
   void* object = nullptr;

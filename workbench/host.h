@@ -68,6 +68,8 @@ struct Host {
 
   void ReportBreach(const std::string& function, const std::string& why);
   bool OnUiThread() const;
+  // Whether the user did something at this moment, in the middle of a call of `function`.
+  bool LetUserIn(const char* function);
   // Ends every handle to a model that leaves the session, its surfaces and selections included.
   void Forget(Model& model);
   // What a handle stands for, for traces: "part bolt".

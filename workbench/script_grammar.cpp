@@ -33,10 +33,11 @@ constexpr StatementForm kForms[] = {
                           "[flags FLAGS] [hidden] [missing] [at X Y Z] [times TIMES]}", kT},
     {"feature",           "feature MODEL type FEATURE_TYPE {[id ID] [" WB_STATE "] [invisible] "
                           "[flags FLAGS] [hidden]}", kT},
-    {"parameter_real",    "parameter MODEL NAME real NUMBER", kT},
-    {"parameter_integer", "parameter MODEL NAME integer INTEGER", kT},
-    {"parameter_string",  "parameter MODEL NAME string TEXT", kT},
-    {"parameter_yes_no",  "parameter MODEL NAME yes_no FLAG:yes|no", kT},
+    {"parameter_real",    "parameter MODEL NAME real NUMBER", kT | kD},
+    {"parameter_integer", "parameter MODEL NAME integer INTEGER", kT | kD},
+    {"parameter_string",  "parameter MODEL NAME string TEXT", kT | kD},
+    {"parameter_yes_no",  "parameter MODEL NAME yes_no FLAG:yes|no", kT | kD},
+    {"parameter_missing", "parameter MODEL NAME missing", kT | kD},
     {"surface",           "surface MODEL X Y Z X2 Y2 Z2", kT},
     {"bulk",              "bulk SHAPE:flat|tree|chain|single|half|repeated TIMES", kT},
     {"import",            "import PATH", kT},
@@ -97,6 +98,9 @@ constexpr StatementForm kForms[] = {
     {"file",              "file PATH {[title TITLE] [filter FILTER] [folder FOLDER]}", kA | kD},
     {"prompt_cancel",     "prompt cancel [asks PROMPT]", kA | kD},
     {"prompt",            "prompt TEXT [asks PROMPT]", kA | kD},
+
+    // What the user does in the middle of an action that shows nothing.
+    {"at_call",           "at call NTH of FUNCTION", kA | kD, kD},
 
     // The user's deeds in a dialog.
     {"set",               "set COMPONENT TEXT", kD},

@@ -63,6 +63,11 @@ void SweepFaults(ScriptRun& run, const Statement& statement) {
   Sweep(run, statement).Run();
 }
 
+void AwaitCall(ScriptRun& run, const Statement& statement) {
+  CheckFunctions(statement);
+  run.user.Await(statement);
+}
+
 void FaultNone(ScriptRun& run, const Statement&) {
   run.fault = {};
 }
@@ -83,19 +88,13 @@ void SwitchTrace(ScriptRun& run, const Statement& statement) {
 }
 
 constexpr ScriptHandler kHandlers[] = {
-    {"start", &Start},
-    {"stop", &Stop},
-    {"timers", &Timers},
-    {"popup", &CreatePopup},
-    {"run", &Run},
-    {"run_with", &Run},
-    {"sweep", &SweepFaults},
-    {"sweep_with", &SweepFaults},
-    {"fault_none", &FaultNone},
-    {"fault", &OrderFault},
-    {"fault_empty", &OrderFault},
-    {"withhold", &Withhold},
-    {"trace", &SwitchTrace},
+    {"start", &Start},       {"stop", &Stop},
+    {"timers", &Timers},     {"popup", &CreatePopup},
+    {"run", &Run},           {"run_with", &Run},
+    {"sweep", &SweepFaults}, {"sweep_with", &SweepFaults},
+    {"at_call", &AwaitCall}, {"fault_none", &FaultNone},
+    {"fault", &OrderFault},  {"fault_empty", &OrderFault},
+    {"withhold", &Withhold}, {"trace", &SwitchTrace},
 };
 
 }  // namespace

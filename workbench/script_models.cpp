@@ -114,10 +114,23 @@ void OtherFeature(ScriptRun& run, const Statement& statement) {
   AddFeatures(owner, std::move(feature), 1);
 }
 
+// What a script says before a command runs is how the models are; later the user changes them.
+bool ChangedByUser(const ScriptRun& run) {
+  return !run.host.running_command.empty();
+}
+
 void SetParameter(ScriptRun& run, const Statement& statement) {
   Model& model = run.ModelNamed(statement.Text("MODEL"));
   model.SetParameter(statement.Text("NAME"), ParameterArgument(statement));
-  model.modified = false;
+  model.modified = ChangedByUser(run);
+}
+
+void DeleteParameter(ScriptRun& run, const Statement& statement) {
+  Model& model = run.ModelNamed(statement.Text("MODEL"));
+  if (!model.DeleteParameter(statement.Text("NAME"))) {
+    throw ScriptError(model.id.Text() + " has no parameter " + statement.Text("NAME"));
+  }
+  model.modified = ChangedByUser(run);
 }
 
 void Surface(ScriptRun& run, const Statement& statement) {
@@ -206,6 +219,7 @@ constexpr ScriptHandler kHandlers[] = {
     {"parameter_integer", &SetParameter},
     {"parameter_string", &SetParameter},
     {"parameter_yes_no", &SetParameter},
+    {"parameter_missing", &DeleteParameter},
     {"surface", &Surface},
     {"bulk", &Bulk},
     {"import", &Import},

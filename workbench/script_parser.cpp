@@ -150,10 +150,11 @@ class Parser {
   // error.
   void SkipBlockOf(const ScriptLine& line) {
     const std::string& last = line.words.back().text;
-    if (line.words[0].text != "dialog" && last != "with" && last != "while") return;
+    const std::string& first = line.words[0].text;
+    const bool in_dialog = first == "dialog" || first == "at" || last == "while";
+    if (!in_dialog && last != "with") return;
     std::vector<Statement> dropped;
-    Block(line.words[0].text == "dialog" || last == "while" ? kDialogPlace : kAnswerPlace,
-          line.number, &dropped);
+    Block(in_dialog ? kDialogPlace : kAnswerPlace, line.number, &dropped);
   }
 
   const std::string& file_;

@@ -55,15 +55,21 @@ bool BoxIs(const MessageBox& box, const std::string& kind, const std::string& te
 
 void ScriptUser::Answering(const Statement& asked_at, const std::vector<Statement>& answers,
                            const std::function<void()>& action) {
-  levels_.push_back({&asked_at, &answers});
+  levels_.push_back({&asked_at, &answers, true});
   action();
+  EndLevel();
+}
+
+void ScriptUser::EndLevel() {
   const Level level = levels_.back();
   levels_.pop_back();
+  const std::vector<ScriptMoments::Missed> all_missed = moments_.Forget(levels_.size());
+  if (run_.lenient) return;
   ReportUnused(level);
+  for (const ScriptMoments::Missed& missed : all_missed) ReportMissed(missed);
 }
 
 void ScriptUser::ReportUnused(const Level& level) {
-  if (run_.lenient) return;
   const bool in_dialog = level.opened_at->form->block == kDialogPlace;
   const std::string why = std::string("not used, since the ") + (in_dialog ? "dialog" : "command") +
                           " had ended before";
@@ -71,6 +77,33 @@ void ScriptUser::ReportUnused(const Level& level) {
     const Statement& left = (*level.statements)[i];
     run_.Fail(left, why + ": " + left.text);
   }
+}
+
+void ScriptUser::ReportMissed(const ScriptMoments::Missed& missed) {
+  const std::string came =
+      missed.calls == 0 ? "no call" : std::to_string(missed.calls) + " of them";
+  run_.Fail(missed.statement, "never came: " + missed.statement.text + " (" + came + ")");
+}
+
+// Those that stand next among answers count from here on.
+void ScriptUser::AwaitNext() {
+  if (levels_.empty() || !levels_.back().of_answers) return;
+  const std::vector<Statement>& statements = *levels_.back().statements;
+  for (size_t& next = levels_.back().next;
+       next < statements.size() && statements[next].Is("at_call");) {
+    ExecuteGuarded(statements[next++]);
+  }
+}
+
+// What the call was made for goes on with whatever the user has changed by then.
+bool ScriptUser::CallBegins(const char* function) {
+  AwaitNext();
+  const std::vector<Statement> reached = moments_.Reached(function);
+  for (const Statement& statement : reached) {
+    const bool open = !dialogs_.empty() && !dialogs_.back()->ended;
+    Perform(statement, statement.block, open ? dialogs_.back() : nullptr);
+  }
+  return !reached.empty();
 }
 
 const Statement& ScriptUser::Place() const {
@@ -102,7 +135,7 @@ void ScriptUser::Unanswered(const std::string& what) {
 }
 
 LiveDialog& ScriptUser::dialog() const {
-  if (dialogs_.empty()) throw ScriptError("no dialog is open");
+  if (dialogs_.empty() || dialogs_.back()->ended) throw ScriptError("no dialog is open");
   return *dialogs_.back();
 }
 
@@ -145,9 +178,7 @@ void ScriptUser::Perform(const Statement& opened_at, const std::vector<Statement
     const Statement& statement = statements[levels_[depth - 1].next++];
     ExecuteGuarded(statement);
   }
-  const Level level = levels_.back();
-  levels_.pop_back();
-  ReportUnused(level);
+  EndLevel();
 }
 
 void ScriptUser::WorkDialog(LiveDialog& dialog) {

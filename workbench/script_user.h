@@ -9,6 +9,7 @@
 
 #include "workbench/live_dialog.h"
 #include "workbench/run_record.h"
+#include "workbench/script_moments.h"
 #include "workbench/script_parser.h"
 #include "workbench/user.h"
 
@@ -29,6 +30,10 @@ class ScriptUser : public User {
   std::optional<std::string> ChooseFile(const FileRequest& request) override;
   std::optional<std::string> AnswerPrompt(const std::string& prompt, int max_length) override;
   int AnswerMessageBox(const MessageBox& box) override;
+  bool CallBegins(const char* function) override;
+
+  // Carries out the block of an "at call" when its call comes.
+  void Await(const Statement& statement) { moments_.Await(statement, levels_.size()); }
 
   // The innermost open dialog. Throws ScriptError when none is open.
   LiveDialog& dialog() const;
@@ -42,6 +47,7 @@ class ScriptUser : public User {
   struct Level {
     const Statement* opened_at;
     const std::vector<Statement>* statements;
+    bool of_answers = false;  // taken when asked for; otherwise deeds, done one after another
     size_t next = 0;
   };
 
@@ -56,7 +62,11 @@ class ScriptUser : public User {
   void Perform(const Statement& opened_at, const std::vector<Statement>& statements,
                const LiveDialog* dialog);
   void ExecuteGuarded(const Statement& statement);
+  // Ends the innermost level, with what it left over.
+  void EndLevel();
   void ReportUnused(const Level& level);
+  void ReportMissed(const ScriptMoments::Missed& missed);
+  void AwaitNext();
   void Unanswered(const std::string& what);
   void CloseForUser(LiveDialog& dialog);
   void CheckFileRequest(const Statement& answer, const FileRequest& request);
@@ -68,6 +78,7 @@ class ScriptUser : public User {
   ScriptRun& run_;
   CommandRecord* noting_ = nullptr;
   std::vector<Level> levels_;
+  ScriptMoments moments_;
   std::vector<LiveDialog*> dialogs_;
 };
 

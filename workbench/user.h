@@ -42,6 +42,11 @@ class User {
   virtual std::optional<std::vector<PickedItem>> Pick(const PickRequest& request) = 0;
   virtual std::optional<std::string> ChooseFile(const FileRequest& request) = 0;
   virtual std::optional<std::string> AnswerPrompt(const std::string& prompt, int max_length) = 0;
+  // A call of the plug-in begins; true: the user did something before it is carried out.
+  virtual bool CallBegins(const char* function) {
+    static_cast<void>(function);
+    return false;
+  }
   // Gives the id of the pressed button.
   virtual int AnswerMessageBox(const MessageBox& box) = 0;
 };

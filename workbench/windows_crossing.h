@@ -32,10 +32,11 @@ Result WindowsCrossing(const char* function, const std::string& arguments, Resul
   const Call call(host, function, on_ui_thread ? host.trace.Enter(function) : 0);
   Result result = failure;
   const bool struck = on_ui_thread && host.faults.StrikeWindows(function) != nullptr;
+  const bool user_acted = on_ui_thread && host.LetUserIn(function);
   try {
     if (!struck) result = body(call);
   } catch (...) {
-    CaughtInCrossing(host, function);
+    CaughtInCrossing(host, function, user_acted);
   }
   if (!on_ui_thread) return result;
   if (host.trace.keep_lines) {

@@ -133,6 +133,8 @@ TEST(Script, MistakesAreToldTogetherAndTheNearestWordIsOffered) {
 TEST(Script, AFaultyLineThatOpensABlockIsOneError) {
   EXPECT_EQ(ErrorsOf("rum A with\n pick cancel\nend\nstart"),
             "1: unknown statement \"rum\"; did you mean \"run\"?\n");
+  EXPECT_EQ(ErrorsOf("run A with\n at call 0 of B\n  close\n end\nend\nstart"),
+            "2: \"0\" is not a count from 1; it reads: at call NTH of FUNCTION\n");
 }
 
 TEST(Script, NearestWordIsNotFarFetched) {
