@@ -116,15 +116,18 @@ ClipboardHolder::~ClipboardHolder() {
 
 namespace {
 
-// A file that a started program writes its output into; gone when this is.
+// A file that a started program writes its output into; gone when this is. What the program starts
+// in its turn may keep the file open beyond that, so each has a name of its own.
 class OutputFile {
  public:
-  OutputFile()
-      : path_(std::filesystem::temp_directory_path() /
-              ("workbench output " + std::to_string(::GetCurrentProcessId()) + ".txt")) {
+  OutputFile() {
+    static int count = 0;
+    path_ = std::filesystem::temp_directory_path() /
+            ("workbench output " + std::to_string(::GetCurrentProcessId()) + " " +
+             std::to_string(++count) + ".txt");
     SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};
-    handle_ = ::CreateFileW(path_.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited,
-                            CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    handle_ = ::CreateFileW(path_.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE,
+                            &inherited, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
   }
   ~OutputFile() {
     Close();
@@ -147,7 +150,7 @@ class OutputFile {
   }
 
   std::filesystem::path path_;
-  HANDLE handle_;
+  HANDLE handle_ = INVALID_HANDLE_VALUE;
 };
 
 }  // namespace
@@ -157,6 +160,7 @@ std::optional<std::string> OutputOf(const std::filesystem::path& program,
   std::wstring command = L"\"" + program.wstring() + L"\"";
   for (const std::string& argument : arguments) command += L" \"" + ToWide(argument) + L"\"";
   OutputFile output;
+  if (output.handle() == INVALID_HANDLE_VALUE) return std::nullopt;
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
   startup.dwFlags = STARTF_USESTDHANDLES;
