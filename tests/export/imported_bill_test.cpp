@@ -9,6 +9,8 @@
 #include "tests/workbench/step_text_builder.h"
 #include "workbench/import_command.h"
 #include "workbench/model_file.h"
+#include "workbench/script_windows.h"
+#include "workbench/utf8_text.h"
 #include "workbench/windows_headers.h"
 #include "workbench/xlsx_file.h"
 
@@ -179,11 +181,15 @@ class ImportedBill : public PluginHost {
     host_.user = &user_;
     EXPECT_EQ(plugin_.Start(), 0);
   }
-  ~ImportedBill() override { fs::remove_all(folder_); }
+  // Other tests of this process use the same settings.
+  ~ImportedBill() override {
+    FlushProfile(settings_);
+    std::ofstream(settings_, std::ios::binary | std::ios::trunc) << settings_before_;
+    fs::remove_all(folder_);
+  }
 
-  static void SetColumns(const wchar_t* section, const wchar_t* columns) {
-    const fs::path settings = Installed().tree() / "QMconfig" / "QmBom.ini";
-    ASSERT_TRUE(::WritePrivateProfileStringW(section, L"content", columns, settings.c_str()));
+  void SetColumns(const wchar_t* section, const wchar_t* columns) const {
+    ASSERT_TRUE(::WritePrivateProfileStringW(section, L"content", columns, settings_.c_str()));
   }
   void Open(const Tree& tree) {
     const fs::path step = folder_ / "top.stp";
@@ -219,6 +225,8 @@ class ImportedBill : public PluginHost {
     return calls;
   }
 
+  const fs::path settings_ = Installed().tree() / "QMconfig" / "QmBom.ini";
+  const std::string settings_before_ = ReadFileBytes(settings_).value_or("");
   const fs::path folder_ = fs::temp_directory_path() / "workbench imported bill";
   Exporter user_;
   Plugin plugin_{Installed().dll()};
