@@ -51,13 +51,23 @@ Feature ComponentOf(const StepOccurrence& occurrence, const ModelName& model, in
   return feature;
 }
 
-std::vector<ModelName> NamesOf(const StepAssembly& step) {
-  std::vector<std::string> products;
-  for (const StepModel& model : step.models) products.push_back(model.name);
-  const std::vector<std::string> names = MakeHostNames(products);
+// A note a product whose model could not bear its name alone, up to this many.
+constexpr size_t kMostRenamed = 20;
+
+std::vector<ModelName> NamesOf(const StepAssembly& step, std::vector<std::string>& notes) {
+  std::vector<ProductName> products;
+  for (const StepModel& model : step.models) products.push_back({model.name, model.assembly});
+  const std::vector<HostName> names = MakeHostNames(products);
   std::vector<ModelName> full;
+  size_t renamed = 0;
   for (size_t i = 0; i < names.size(); ++i) {
-    full.push_back({names[i], step.models[i].assembly ? ModelKind::kAssembly : ModelKind::kPart});
+    full.push_back({names[i].name, products[i].assembly ? ModelKind::kAssembly : ModelKind::kPart});
+    if (!names[i].numbered || ++renamed > kMostRenamed) continue;
+    notes.push_back("another product named \"" + products[i].name + "\" is the model " +
+                    full.back().Text());
+  }
+  if (renamed > kMostRenamed) {
+    notes.push_back("and " + std::to_string(renamed - kMostRenamed) + " more of such products");
   }
   return full;
 }
@@ -143,8 +153,8 @@ std::string Padded(std::string text, size_t width) {
 
 ImportedModels ReadStepModels(const fs::path& file) {
   const StepAssembly step = ReadStepAssembly(file);
-  const std::vector<ModelName> names = NamesOf(step);
   ImportedModels imported{{}, {}, step.notes};
+  const std::vector<ModelName> names = NamesOf(step, imported.notes);
   for (size_t i = 0; i < step.models.size(); ++i) {
     Model model;
     model.id = names[i];
@@ -172,8 +182,14 @@ void WriteModels(const ImportedModels& imported, const fs::path& folder, bool fo
   const Neighbour neighbour(folder);
   for (const Model& model : imported.models) {
     const int version = present.NewestVersion(model.id) + 1;
-    WriteModelFile(
-        model, neighbour.folder() / PathFromUtf8(model.id.Text() + "." + std::to_string(version)));
+    const fs::path file =
+        neighbour.folder() / PathFromUtf8(model.id.Text() + "." + std::to_string(version));
+    // The file system may take more names for one than we do.
+    if (fs::exists(file)) {
+      throw std::runtime_error("two models would share the file " + PathToUtf8(file.filename()) +
+                               "; rename one of the products");
+    }
+    WriteModelFile(model, file);
   }
   neighbour.MoveTo(folder);
 }

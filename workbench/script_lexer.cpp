@@ -69,11 +69,11 @@ class LineLexer {
     char c = rest_.front();
     rest_.remove_prefix(1);
     if (c == '\\') {
-      constexpr std::string_view kCodes = "tn\"\\";
-      constexpr std::string_view kCharacters = "\t\n\"\\";
+      constexpr std::string_view kCodes = "tnr\"\\";
+      constexpr std::string_view kCharacters = "\t\n\r\"\\";
       const size_t code = rest_.empty() ? kCodes.npos : kCodes.find(rest_.front());
       if (code == kCodes.npos) {
-        return "a backslash in a quoted text stands before t, n, \" or another backslash";
+        return "a backslash in a quoted text stands before t, n, r, \" or another backslash";
       }
       c = kCharacters[code];
       rest_.remove_prefix(1);

@@ -114,6 +114,9 @@ void OtherFeature(ScriptRun& run, const Statement& statement) {
   AddFeatures(owner, std::move(feature), 1);
 }
 
+// In 16-bit characters.
+constexpr size_t kLongestParameterText = 80;
+
 // What a script says before a command runs is how the models are; later the user changes them.
 bool ChangedByUser(const ScriptRun& run) {
   return !run.host.running_command.empty();
@@ -238,7 +241,12 @@ ParameterValue ParameterArgument(const Statement& statement) {
   if (statement.Has("real")) return statement.Decimal("NUMBER");
   if (statement.Has("integer")) return statement.Number("INTEGER");
   if (statement.Has("yes_no")) return statement.Text("FLAG") == "yes";
-  return statement.Text("TEXT");
+  const std::string& text = statement.Text("TEXT");
+  if (WideLength(text) > kLongestParameterText) {
+    throw ScriptError("a text of " + std::to_string(WideLength(text)) +
+                      " characters; parameters hold " + std::to_string(kLongestParameterText));
+  }
+  return text;
 }
 
 ScriptHandlers ModelStatements() {

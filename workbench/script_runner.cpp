@@ -54,9 +54,9 @@ ScriptAction FindScriptAction(const StatementForm& form) {
 std::string Quoted(const std::string& text) {
   std::string quoted = "\"";
   for (const char c : text) {
-    const size_t code = std::string_view("\t\n\"\\").find(c);
+    const size_t code = std::string_view("\t\n\r\"\\").find(c);
     quoted +=
-        code == std::string_view::npos ? std::string(1, c) : std::string("\\") + "tn\"\\"[code];
+        code == std::string_view::npos ? std::string(1, c) : std::string("\\") + "tnr\"\\"[code];
   }
   return quoted + "\"";
 }

@@ -133,6 +133,11 @@ void ExpectFill(ScriptRun& run, const Statement& statement) {
   if (statement.Has("rgb")) wanted = "rgb " + statement.Text("COLOR");
   if (statement.Has("index")) wanted = "index " + statement.Text("N");
   const CheckedCell cell = CellOf(run, statement);
+  if (cell.format.fill && cell.format.fill->value == kThemeColor) {
+    throw ScriptError("the fill of " + cell.what +
+                      " is a colour of the book's theme, which is not "
+                      "modelled");
+  }
   const std::string got = DescribeFill(cell.format.fill);
   run.Check(statement, got == wanted, "fill of " + cell.what, wanted, got);
 }
@@ -162,7 +167,12 @@ void ExpectSheetRow(ScriptRun& run, const Statement& statement) {
   const int row = statement.Number("NTH");
   const int columns = std::max(sheet.UsedArea().last.column, static_cast<int>(wanted.size()));
   for (int column = 1; column <= columns; ++column) {
-    got.push_back(Quoted(CellText(sheet.ValueAt({row, column}))));
+    // A number that looks like the text is no text.
+    const CellValue value = sheet.ValueAt({row, column});
+    const bool is_text = std::holds_alternative<std::string>(value);
+    got.push_back(is_text                                         ? Quoted(CellText(value))
+                  : std::holds_alternative<std::monostate>(value) ? Quoted("")
+                                                                  : DescribeValue(value));
   }
   run.Check(statement, got == wanted, "row " + statement.Text("NTH"), Join(" ", wanted),
             Join(" ", got));

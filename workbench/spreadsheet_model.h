@@ -42,6 +42,9 @@ std::string AreaAddress(const CellArea& area);
 // "A1:C1", or one cell.
 std::optional<CellArea> ParseAreaAddress(std::string_view text);
 
+// What stands for a colour of a workbook's theme: there is one, but which is not modelled.
+inline constexpr unsigned kThemeColor = 0x1000000;
+
 // A colour, or one of the 56 of the workbook's palette.
 struct CellFill {
   bool from_palette = false;

@@ -2,7 +2,7 @@
 #include "workbench/step_names.h"
 
 #include <map>
-#include <unordered_set>
+#include <set>
 
 #include "workbench/text.h"
 
@@ -32,12 +32,20 @@ bool IsAllowed(char16_t c) {
   return true;
 }
 
+// What Windows takes for a device, whatever extension follows.
+bool IsDevice(std::string_view folded) {
+  if (folded == "con" || folded == "prn" || folded == "aux" || folded == "nul") return true;
+  const bool port = folded.starts_with("com") || folded.starts_with("lpt");
+  return port && folded.size() == 4 && folded[3] >= '1' && folded[3] <= '9';
+}
+
 std::u16string Cleaned(const std::string& name) {
   std::u16string cleaned;
   for (const char16_t c : ToUtf16(name)) {
     if (c >= 0xDC00 && c <= 0xDFFF) continue;  // its first half has become '_' already
     cleaned += IsAllowed(c) ? c : u'_';
   }
+  if (IsDevice(FoldCase(FromUtf16(cleaned)))) cleaned += u'_';
   return cleaned.empty() ? u"unnamed" : cleaned;
 }
 
@@ -47,18 +55,20 @@ std::string Cut(const std::u16string& name, const std::string& suffix) {
 
 }  // namespace
 
-std::vector<std::string> MakeHostNames(const std::vector<std::string>& product_names) {
-  std::vector<std::string> names;
-  std::unordered_set<std::string> taken;    // without case
-  std::map<std::u16string, int> last_used;  // number by cleaned name, so that many twins stay fast
-  for (const std::string& product : product_names) {
-    const std::u16string cleaned = Cleaned(product);
+std::vector<HostName> MakeHostNames(const std::vector<ProductName>& products) {
+  std::vector<HostName> names;
+  using Key = std::pair<std::string, bool>;  // without case, with the type
+  std::set<Key> taken;
+  std::map<std::pair<std::u16string, bool>, int> last_used;  // so that many twins stay fast
+  for (const ProductName& product : products) {
+    const std::u16string cleaned = Cleaned(product.name);
     std::string name = Cut(cleaned, "");
-    int& number = last_used[cleaned];
-    while (!taken.insert(FoldCase(name)).second) {
+    int& number = last_used[{cleaned, product.assembly}];
+    const int before = number;
+    while (!taken.insert({FoldCase(name), product.assembly}).second) {
       name = Cut(cleaned, "_" + std::to_string(++number));
     }
-    names.push_back(std::move(name));
+    names.push_back({std::move(name), number > before});
   }
   return names;
 }

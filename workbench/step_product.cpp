@@ -2,12 +2,14 @@
 #include "workbench/step_product.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <unordered_set>
 
 #include "workbench/step_definitions.h"
 #include "workbench/step_placement.h"
 #include "workbench/step_shape.h"
+#include "workbench/text.h"
 
 namespace wb {
 namespace {
@@ -66,6 +68,7 @@ class ProductReader {
  private:
   void ReadUsages();
   void ReadUsage(const StepRecord& record);
+  std::size_t QuantityOf(const Usage& usage);
   void PlaceByMappedItems();
   void MakeModels();
   void AddComponents();
@@ -118,11 +121,26 @@ void ProductReader::ReadUsage(const StepRecord& record) {
               {}};
   if (usage.name.empty()) usage.name = values.OptionalText(0);
   usage.placement = placements_.OfUsage(record, usage.parent, usage.child);
-  if (file_.TypeOf(record).Has("QUANTIFIED_ASSEMBLY_COMPONENT_USAGE")) {
-    Note(usage.name + " in " + definitions_.all()[usage.parent].name +
-         ": given with a quantity, imported once");
+  usages_.insert(usages_.end(), QuantityOf(usage), usage);
+}
+
+// How many components a usage stands for. They all lie in its one place, unless mapped items have
+// others for them.
+std::size_t ProductReader::QuantityOf(const Usage& usage) {
+  constexpr std::string_view kQuantified = "QUANTIFIED_ASSEMBLY_COMPONENT_USAGE";
+  constexpr std::size_t kInherited = 6;  // those of other usages
+  constexpr double kMost = 10000;
+  if (!file_.TypeOf(*usage.record).Has(kQuantified)) return 1;
+  const StepArguments values = file_.Arguments(*usage.record, kQuantified, kInherited);
+  const StepRecord& measure = values.Reference(0);
+  const double quantity = file_.Arguments(measure, "MEASURE_WITH_UNIT").Number(0);
+  const std::string where = usage.name + " in " + definitions_.all()[usage.parent].name;
+  if (quantity >= 1 && quantity <= kMost && quantity == std::floor(quantity)) {
+    Note(where + ": given with a quantity, imported " + NumberText(quantity) + " times");
+    return static_cast<std::size_t>(quantity);
   }
-  usages_.push_back(std::move(usage));
+  Note(where + ": given with the quantity " + NumberText(quantity) + ", imported once");
+  return 1;
 }
 
 // Mapped items place the usages that have no placement yet, in order; those beyond the number of

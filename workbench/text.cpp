@@ -1,10 +1,14 @@
 // Conversions between the text forms that meet in the workbench.
 #include "workbench/text.h"
 
+#include <algorithm>
 #include <charconv>
 
 #if defined(_WIN32)
 #include <windows.h>
+#else
+#include <locale.h>
+#include <wctype.h>
 #endif
 
 namespace wb {
@@ -14,6 +18,30 @@ constexpr char32_t kReplacement = 0xFFFD;
 
 char FoldedChar(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool IsAscii(std::string_view text) {
+  return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+// By way of the capital, since some letters have two small ones.
+char16_t FoldedUnit(char16_t unit) {
+#if defined(_WIN32)
+  wchar_t letter = unit;
+  ::CharUpperBuffW(&letter, 1);
+  ::CharLowerBuffW(&letter, 1);
+  return letter;
+#else
+  static const locale_t unicode = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+  if (unicode == nullptr) return unit;
+  return static_cast<char16_t>(::towlower_l(::towupper_l(unit, unicode), unicode));
+#endif
+}
+
+std::string FoldedUnicode(std::string_view text) {
+  std::u16string units = ToUtf16(text);
+  for (char16_t& unit : units) unit = FoldedUnit(unit);
+  return FromUtf16(units);
 }
 
 // Decodes one code point at `at` and moves past it; malformed bytes give the replacement mark.
@@ -60,16 +88,19 @@ bool IsLowSurrogate(char16_t unit) {
 }  // namespace
 
 std::string FoldCase(std::string_view text) {
+  if (!IsAscii(text)) return FoldedUnicode(text);
   std::string folded(text);
   for (char& c : folded) c = FoldedChar(c);
   return folded;
 }
 
 bool EqualFolded(std::string_view a, std::string_view b) {
+  if (!IsAscii(a) || !IsAscii(b)) return FoldCase(a) == FoldCase(b);
   return a.size() == b.size() && StartsWithFolded(a, b);
 }
 
 bool StartsWithFolded(std::string_view text, std::string_view prefix) {
+  if (!IsAscii(prefix)) return FoldCase(text).starts_with(FoldCase(prefix));
   if (text.size() < prefix.size()) return false;
   for (size_t i = 0; i < prefix.size(); ++i) {
     if (FoldedChar(text[i]) != FoldedChar(prefix[i])) return false;

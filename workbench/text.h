@@ -7,10 +7,11 @@
 
 namespace wb {
 
-// Lower-cases ASCII letters only: the case rule of model, parameter and file names.
+// The case rule of model, parameter and file names: letters of any script that are each other's
+// capital and small letter are one.
 std::string FoldCase(std::string_view text);
 bool EqualFolded(std::string_view a, std::string_view b);
-// True when `text` begins with `prefix`, ignoring ASCII case.
+// True when `text` begins with `prefix`, without regard to case.
 bool StartsWithFolded(std::string_view text, std::string_view prefix);
 
 std::u16string ToUtf16(std::string_view utf8);

@@ -151,6 +151,7 @@ class SheetReader {
     }
     if (type == "b") return text == "1";
     if (type == "str" || type == "e" || type == "d") return WithControls(text);
+    if (text.empty()) return {};  // of a formula that was never worked out
     char* end = nullptr;
     const double number = std::strtod(text.c_str(), &end);
     if (end == text.c_str() || *end != '\0') xml_.Fail("\"" + text + "\" is no number");

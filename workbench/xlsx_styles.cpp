@@ -15,6 +15,11 @@ namespace {
 
 constexpr int kTextFormatNumber = 49;
 constexpr int kFirstOwnFormat = 164;  // smaller ones have a meaning of their own
+// Those that mean the same in every country.
+const std::map<int, std::string> kBuiltInFormats = {
+    {0, "General"},  {1, "0"},        {2, "0.00"},      {3, "#,##0"},
+    {4, "#,##0.00"}, {9, "0%"},       {10, "0.00%"},    {11, "0.00E+00"},
+    {12, "# ?/?"},   {13, "# \?\?/\?\?"}, {48, "##0.0E+0"}, {kTextFormatNumber, kTextFormat}};
 // Files number the 56 colours of the palette from 8 on.
 constexpr unsigned kPaletteOffset = 7;
 constexpr unsigned kPaletteSize = 56;
@@ -50,6 +55,9 @@ std::string Hexadecimal(unsigned value) {
 }
 
 std::string FillElement(const CellFill& fill) {
+  if (fill.value == kThemeColor) {
+    return "<fill><patternFill patternType=\"solid\"><fgColor theme=\"0\"/></patternFill></fill>";
+  }
   const std::string color = fill.from_palette
                                 ? "indexed=\"" + std::to_string(fill.value + kPaletteOffset) + "\""
                                 : "rgb=\"" + Hexadecimal(fill.value) + "\"";
@@ -78,7 +86,7 @@ std::string AlignmentElement(const CellFormat& format) {
 
 // The parts of a format table while it is read.
 struct StyleParts {
-  std::map<int, std::string> number_formats = {{0, "General"}, {kTextFormatNumber, kTextFormat}};
+  std::map<int, std::string> number_formats = kBuiltInFormats;
   std::vector<CellFormat> fonts;  // only bold and size count
   std::vector<std::optional<CellFill>> fills;
   std::vector<CellFormat> formats;
@@ -107,6 +115,8 @@ std::optional<CellFill> ReadColor(const XmlReader& xml) {
     const std::string digits = rgb.substr(rgb.size() - 6);
     return CellFill{false, static_cast<unsigned>(std::strtoul(digits.c_str(), nullptr, 16))};
   }
+  // Depends on the book's theme, which is not read.
+  if (xml.HasAttribute("theme")) return CellFill{false, kThemeColor};
   const auto index = static_cast<unsigned>(Whole(xml, "indexed"));
   if (index <= kPaletteOffset || index > kPaletteOffset + kPaletteSize) return std::nullopt;
   return CellFill{true, index - kPaletteOffset};

@@ -21,31 +21,34 @@ const std::string kOfficeRelations =
 const std::string kPackage = "http://schemas.openxmlformats.org/package/2006/";
 const std::string kContentType = "application/vnd.openxmlformats-officedocument.spreadsheetml.";
 
-bool IsHexadecimal(char c) {
-  return std::isxdigit(static_cast<unsigned char>(c)) != 0;
+bool IsHexadecimal(char16_t c) {
+  return c < 0x80 && std::isxdigit(c) != 0;
 }
 
 // "_x000D_" is how a file writes characters that documents cannot hold.
-bool LooksEscaped(std::string_view text, size_t at) {
-  return text.size() >= at + 7 && text[at] == '_' && text[at + 1] == 'x' && text[at + 6] == '_' &&
+bool LooksEscaped(std::u16string_view text, size_t at) {
+  return text.size() >= at + 7 && text[at] == u'_' && text[at + 1] == u'x' &&
+         text[at + 6] == u'_' &&
          std::all_of(text.begin() + static_cast<long>(at) + 2,
                      text.begin() + static_cast<long>(at) + 6, IsHexadecimal);
 }
 
 std::string EscapedControls(std::string_view text) {
-  std::string escaped;
-  for (size_t i = 0; i < text.size(); ++i) {
-    const auto code = static_cast<unsigned char>(text[i]);
-    if (LooksEscaped(text, i)) escaped += "_x005F";
-    if (code >= 0x20 || code == '\t' || code == '\n') {
-      escaped += text[i];
+  std::u16string escaped;
+  const std::u16string units = ToUtf16(text);
+  for (size_t i = 0; i < units.size(); ++i) {
+    const char16_t unit = units[i];
+    if (LooksEscaped(units, i)) escaped += u"_x005F";
+    const bool fits = unit >= 0x20 ? unit < 0xFFFE : unit == u'\t' || unit == u'\n';
+    if (fits) {
+      escaped += unit;
     } else {
       char form[8];
-      std::snprintf(form, sizeof(form), "_x%04X_", code);
-      escaped += form;
+      std::snprintf(form, sizeof(form), "_x%04X_", static_cast<unsigned>(unit));
+      escaped += ToUtf16(form);
     }
   }
-  return escaped;
+  return FromUtf16(escaped);
 }
 
 // Every distinct text once; cells refer to it by number.
@@ -219,8 +222,11 @@ std::string XlsxBytes(const Workbook& book) {
 
 void WriteXlsx(const Workbook& book, const std::filesystem::path& file) {
   const std::string bytes = XlsxBytes(book);
+  // What lies there already is somebody's.
   std::filesystem::path neighbour = file;
-  neighbour += ".part";
+  do {
+    neighbour += ".part";
+  } while (std::filesystem::exists(neighbour));
   std::error_code error;
   std::ofstream out(neighbour, std::ios::binary);
   out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));

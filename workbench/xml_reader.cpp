@@ -31,6 +31,18 @@ std::string Utf8Of(unsigned long code) {
                                   static_cast<char16_t>(0xdc00 + (code & 0x3ff))});
 }
 
+// Controls other than blanks, and the two code points that are no characters. Gives the text's size
+// where there is none.
+size_t FirstForbidden(std::string_view text) {
+  for (size_t i = 0; i < text.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    const bool control = byte < 0x20 && kBlanks.find(text[i]) == kBlanks.npos;
+    const std::string_view three = text.substr(i, 3);
+    if (control || three == "\xEF\xBF\xBE" || three == "\xEF\xBF\xBF") return i;
+  }
+  return text.size();
+}
+
 // "amp", "#65" or "#x41"; empty when it is none of these.
 std::string Referenced(const std::string& reference) {
   for (const NamedCharacter& row : kNamedCharacters) {
@@ -51,6 +63,9 @@ std::string Referenced(const std::string& reference) {
 XmlReader::XmlReader(std::string_view text, std::string name)
     : text_(WithoutBom(text)), name_(std::move(name)) {
   if (!IsUtf8(text_)) Fail("not UTF-8");
+  at_ = FirstForbidden(text_);
+  if (at_ != text_.size()) Fail("a character that no document may hold");
+  at_ = 0;
 }
 
 void XmlReader::Fail(const std::string& why) const {

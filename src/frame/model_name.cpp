@@ -10,7 +10,7 @@ std::optional<std::wstring> ModelName(ProMdl model) {
   ProName name{};
   const ProError status = ProMdlNameGet(model, name);
   if (!Ok(status)) {
-    LogFailure(model, "ProMdlNameGet", status);
+    LogFailure(nullptr, "ProMdlNameGet", status);
     return std::nullopt;
   }
   name[PRO_NAME_SIZE - 1] = L'\0';

@@ -102,7 +102,9 @@ bool CountFailure() noexcept {
 void LogFailure(ProMdl model, const char* function, ProError status) noexcept {
   if (!CountFailure()) return;
   try {
-    LogEvent(ModelName(model) + ": " + function + " answered " + StatusName(status));
+    // A handle that the host has just refused may be stale: nothing more is asked with it.
+    const ProMdl named = status == PRO_TK_BAD_INPUTS ? nullptr : model;
+    LogEvent(ModelName(named) + ": " + function + " answered " + StatusName(status));
   } catch (...) {
     // As above; the failure stays counted.
   }

@@ -43,7 +43,7 @@ TEST(Script, TextsKnowEscapesCommentsAndRepetition) {
 TEST(Script, BadTextsAreToldWithTheirLine) {
   EXPECT_EQ(ErrorsOf("start\nexpect note \"open\n"), "2: a quoted text is not closed\n");
   EXPECT_EQ(ErrorsOf("\n\nexpect note \"a\\q\""),
-            "3: a backslash in a quoted text stands before t, n, \" or another backslash\n");
+            "3: a backslash in a quoted text stands before t, n, r, \" or another backslash\n");
   EXPECT_EQ(ErrorsOf("expect note \"a\"b"), "1: a blank is missing after the quoted text\n");
   EXPECT_EQ(ErrorsOf("expect note a\"b"),
             "1: a quote inside the word a\"b; quote the whole text\n");

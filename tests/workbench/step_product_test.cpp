@@ -320,6 +320,31 @@ TEST(StepProduct, CountsOnlyDirectUsagesAndNotesTheOthers) {
   }
 }
 
+TEST(StepProduct, AUsageWithAQuantityIsAsManyComponents) {
+  const struct {
+    const char* quantity;
+    size_t components;
+    const char* note;
+  } cases[] = {{"4.", 4, "7 in pump: given with a quantity, imported 4 times"},
+               {"2.5", 1, "7 in pump: given with the quantity 2.5, imported once"},
+               {"0.", 1, "given with the quantity 0, imported once"},
+               {"1.E9", 1, "imported once"}};
+  for (const auto& item : cases) {
+    Pair p;
+    const int measure =
+        p.file.Add("MEASURE_WITH_UNIT(COUNT_MEASURE(" + std::string(item.quantity) + "),$)");
+    p.file.Add(
+        "(ASSEMBLY_COMPONENT_USAGE($)NEXT_ASSEMBLY_USAGE_OCCURRENCE()"
+        "PRODUCT_DEFINITION_RELATIONSHIP('7','','',#" +
+        std::to_string(p.pump.definition) + ",#" + std::to_string(p.bolt.definition) +
+        ")PRODUCT_DEFINITION_USAGE()QUANTIFIED_ASSEMBLY_COMPONENT_USAGE(#" +
+        std::to_string(measure) + "))");
+    const StepAssembly assembly = p.file.Read();
+    EXPECT_EQ(assembly.models[1].components.size(), item.components) << item.quantity;
+    EXPECT_TRUE(HasNote(assembly, item.note)) << item.quantity;
+  }
+}
+
 TEST(StepProduct, AProductGivesOneModelForEachDefinitionInUse) {
   Pair p;
   p.file.Definition(p.bolt.product);  // a view that nobody uses

@@ -70,6 +70,7 @@ TEST_F(XlsxFile, WhatIsWrittenIsReadBack) {
                                "two\nlines\r and\ttab",
                                "_x000D_ as typed",
                                "材料\x01",
+                               "no character \xEF\xBF\xBF, _x00e9_ as typed",
                                "",
                                -1.25e-7,
                                12345678901234567890.0,
@@ -132,7 +133,7 @@ TEST_F(XlsxFile, AllWaysOfWritingACellAreRead) {
       "<x:row r='5'><x:c r='C5' t='inlineStr'><x:is><x:t>in &#x6750;&#26009;</x:t></x:is></x:c>"
       "<x:c><x:v>1.5E2</x:v></x:c><x:c t='b'><x:v>0</x:v></x:c>"
       "<x:c t='str'><x:f>A1&amp;B1</x:f><x:v>a_x000D_b</x:v></x:c>"
-      "<x:c t='e'><x:v>#N/A</x:v></x:c><x:c/></x:row>"
+      "<x:c t='e'><x:v>#N/A</x:v></x:c><x:c/><x:c><x:f>1+2</x:f><x:v></x:v></x:c></x:row>"
       "<x:row><x:c t='inlineStr'><x:is><x:t><![CDATA[<raw>]]></x:t></x:is></x:c></x:row>"
       "</x:sheetData></x:worksheet>";
   const Workbook book = ReadXlsx(Write(Archive(sheet)));
@@ -168,6 +169,8 @@ TEST_F(XlsxFile, WhatIsWrongIsToldWithItsPlace) {
       {Archive("<worksheet><sheetData>"), "the document ends inside an element"},
       {Archive(""), "the document ends inside an element"},
       {Archive("\xff\xfe<"), "not UTF-8"},
+      {sheet("<c t=\"str\"><v>\x01</v></c>"), "s.xml:2: a character that no document may hold"},
+      {Archive("<worksheet>\xEF\xBF\xBE"), "a character that no document may hold"},
       {Archive("<!DOCTYPE a []><worksheet/>"), "document types are not taken"},
       {Archive("<worksheet/>", "<sst><si><t>"), "book.xlsx!xl/t.xml:1"},
   };
@@ -176,6 +179,13 @@ TEST_F(XlsxFile, WhatIsWrongIsToldWithItsPlace) {
     EXPECT_NE(error.find(row.complaint), std::string::npos) << row.complaint << "\n" << error;
   }
   EXPECT_THROW(ReadXlsx(folder_ / "missing.xlsx"), XlsxError);
+}
+
+TEST_F(XlsxFile, AFileOfTheUsersBesideTheTargetStays) {
+  std::ofstream(folder_ / "book.xlsx.part") << "mine";
+  WriteXlsx(NewWorkbook(), folder_ / "book.xlsx");
+  EXPECT_EQ(fs::file_size(folder_ / "book.xlsx.part"), 4u);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()), 2);
 }
 
 // Under the sanitizers this finds reads beyond the file.
