@@ -5,6 +5,7 @@
 #include "export/excel_session.h"
 #include "export/new_file.h"
 #include "export/sheet_rules.h"
+#include "frame/message_area.h"
 #include "frame/message_box.h"
 
 namespace qm {
@@ -14,6 +15,9 @@ constexpr wchar_t kNoExcel[] = L"创建Excel失败";
 constexpr wchar_t kTooWide[] = L"bom表格列数不得大于26列";
 constexpr wchar_t kFailed[] = L"导出Excel失败，未生成文件。";
 const std::wstring kUnfinished = L"导出Excel失败，未完成的文件无法删除，请手动删除：";
+
+constexpr char kProgressNote[] = "Rows written to Excel: %0w";
+constexpr size_t kRowsANote = 100;
 
 constexpr size_t kTitleRow = 1;
 constexpr size_t kLabelRow = 2;
@@ -40,11 +44,18 @@ class SheetWriter {
     WriteTitle();
     for (size_t column = 0; column < table_.labels.size(); ++column) WriteLabel(column);
     for (size_t row = 0; row < table_.rows.size(); ++row) {
+      if (row > 0 && row % kRowsANote == 0) TellProgress(row);
       for (size_t column = 0; column < table_.labels.size(); ++column) WriteCell(row, column);
     }
     last_range_.clear();
     sheet_.Get(excel::kColumns).Call(excel::kAutoFit);
     sheet_.Get(excel::kRows).Call(excel::kAutoFit);
+  }
+
+  // A large table takes minutes.
+  void TellProgress(size_t rows) const {
+    const std::wstring text = std::to_wstring(rows) + L"/" + std::to_wstring(table_.rows.size());
+    DisplayNote(kProgressNote, text.c_str());
   }
 
   Dispatch Range(const std::wstring& first, const std::wstring& last) {

@@ -110,6 +110,17 @@ TEST_F(ExcelAccess, ATableComesBackAsItWasWritten) {
   EXPECT_EQ(Breaches(), Lines());
 }
 
+TEST_F(ExcelAccess, ALargeTableTellsItsProgress) {
+  WriteFile("text/chinese_cn/qmmsg_display.txt",
+            "Rows written to Excel: %0w\nRows written to Excel: %0w\n已写入Excel的行: %0w\n\n");
+  const auto write = Find<WriteRowsProbe>("WriteRows");
+  EXPECT_TRUE(write(file_.c_str(), 100));
+  EXPECT_EQ(host_.messages.notes, Lines());
+  EXPECT_TRUE(write(file_.c_str(), 250));
+  EXPECT_EQ(host_.messages.notes, (Lines{"已写入Excel的行: 100/250", "已写入Excel的行: 200/250"}));
+  EXPECT_EQ(Breaches(), Lines());
+}
+
 TEST_F(ExcelAccess, TheReaderTakesWholeNumbersAndPassesEmptyRows) {
   Workbook book = NewWorkbook();
   Worksheet& sheet = book.sheets.front();

@@ -14,6 +14,12 @@ extern "C" __declspec(dllexport) bool WriteTable(const wchar_t* path) {
   return qm::WriteWorkbook(table, path);
 }
 
+extern "C" __declspec(dllexport) bool WriteRows(const wchar_t* path, int rows) {
+  const qm::ComScope com;
+  const std::vector<qm::WorkbookCell> row = {{L"x"}};
+  return qm::WriteWorkbook({L"t", {L"l"}, {static_cast<size_t>(rows), row}}, path);
+}
+
 extern "C" __declspec(dllexport) bool ReadTable(const wchar_t* path, wchar_t* texts, int size) {
   const qm::ComScope com;
   const auto rows = qm::ReadWorkbook(path, 2);

@@ -4,6 +4,9 @@
 // Writes a table of two columns and two rows; false when nothing was written.
 using WriteProbe = bool (*)(const wchar_t* path);
 
+// The same with so many rows of one column.
+using WriteRowsProbe = bool (*)(const wchar_t* path, int rows);
+
 // Reads two columns. `texts` receives each cell followed by a "|" and each row by a line feed.
 // False when the workbook cannot be read.
 using ReadProbe = bool (*)(const wchar_t* path, wchar_t* texts, int size);
