@@ -60,9 +60,11 @@ std::string DrawDialogs(const CommandRecord& command) {
   return "<h3>Dialogs</h3><div class=\"shown\">" +
          DrawSome(command.dialogs, kMostShown, "dialog",
                   [&](std::size_t i) {
-                    return "<figure><figcaption>" + EscapeHtml(command.dialogs[i].name) +
-                           "</figcaption><div class=\"scroll\">" + command.dialogs[i].html +
-                           "</div></figure>";
+                    const ShownDialog& dialog = command.dialogs[i];
+                    const std::string before =
+                        dialog.before.empty() ? "" : ", before " + dialog.before;
+                    return "<figure><figcaption>" + EscapeHtml(dialog.name + before) +
+                           "</figcaption><div class=\"scroll\">" + dialog.html + "</div></figure>";
                   }) +
          "</div>";
 }

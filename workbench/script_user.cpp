@@ -157,12 +157,19 @@ void ScriptUser::WorkDialog(LiveDialog& dialog) {
   dialogs_.pop_back();
 }
 
+// The statement that is being carried out, with its line; empty outside of them.
+std::string ScriptUser::Deed() const {
+  if (levels_.empty() || levels_.back().next == 0) return {};
+  const Statement& statement = (*levels_.back().statements)[levels_.back().next - 1];
+  return "line " + std::to_string(statement.line) + ": " + statement.text;
+}
+
 // As it looked before each press; a dialog that looks as before is not drawn again.
 void ScriptUser::NoteDialog(const LiveDialog& dialog) {
   if (noting_ == nullptr) return;
   const std::string html = DrawDialog(dialog.state);
   if (!noting_->dialogs.empty() && noting_->dialogs.back().html == html) return;
-  noting_->dialogs.push_back({dialog.name, html});
+  noting_->dialogs.push_back({dialog.name, Deed(), html});
 }
 
 }  // namespace wb

@@ -57,6 +57,7 @@ class ScriptUser : public User {
   int PressedButton(const MessageBox& box);
 
   const Statement& Place() const;
+  std::string Deed() const;
   // The next statement when it is one of `forms`, taken; null otherwise.
   const Statement* Take(std::initializer_list<const char*> forms);
   void Perform(const Statement& opened_at, const std::vector<Statement>& statements,

@@ -45,7 +45,7 @@ struct Part {
 constexpr Part kParts[] = {
     {"Dialogs",
      [](CommandRecord& c) {
-       c.dialogs = {{"D", "<div class=\"dlg\"></div>"}};
+       c.dialogs = {{"D", "line 7: press Ok", "<div class=\"dlg\"></div>"}};
      }},
     {"Message boxes",
      [](CommandRecord& c) {
@@ -101,6 +101,7 @@ TEST(ReportTest, EveryTextIsEscaped) {
   record.failures = {{evil, 1, evil, 0}};
   CommandRecord command;
   command.name = command.label = command.file = command.status = evil;
+  command.dialogs = {{evil, evil, "<div></div>"}};
   command.boxes = {{{evil, evil, 0}, 0}};
   command.notes = {evil};
   command.questions = {{evil, evil, evil}};
@@ -114,6 +115,15 @@ TEST(ReportTest, EveryTextIsEscaped) {
   const std::string html = RenderReport(record);
   EXPECT_FALSE(Shows(html, "<x>"));
   EXPECT_TRUE(Shows(html, "&lt;x&gt;&quot;&amp;"));
+}
+
+TEST(ReportTest, APictureOfADialogSaysWhatFollows) {
+  RunRecord record;
+  record.commands.resize(1);
+  record.commands[0].dialogs = {{"D", "line 7: press Ok", ""}, {"E", "", ""}};
+  const std::string html = RenderReport(record);
+  EXPECT_TRUE(Shows(html, "<figcaption>D, before line 7: press Ok</figcaption>"));
+  EXPECT_TRUE(Shows(html, "<figcaption>E</figcaption>"));
 }
 
 TEST(ReportTest, TabsStayAndCanBeSeen) {
