@@ -18,7 +18,7 @@ std::string NameArgument(const Call& call, const char* name, const char* what) {
 
 Command& CommandAt(const Call& call, uiCmdCmdId id) {
   const HandleTable::Found found = call.host.handles.Look(id, HandleKind::kCommand);
-  if (found.object == nullptr) call.Fail(found.why);
+  if (found.object == nullptr) call.Fail(found);
   return *static_cast<Command*>(found.object);
 }
 

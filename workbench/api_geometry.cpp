@@ -61,7 +61,7 @@ ProError ProSurfaceDataGet(ProSurface surface, ProGeomitemdata** data) {
   return Crossing("ProSurfaceDataGet", static_cast<const void*>(surface), Out(data))
       .Run([&](Call& call) {
         const auto found = call.host.handles.Look(surface, HandleKind::kSurface);
-        if (found.object == nullptr) call.Fail(found.why);
+        if (found.object == nullptr) call.Fail(found);
         ProGeomitemdata*& place = call.Place(data, "data place");
         place = &NewSurfaceRecord(*static_cast<const Box*>(found.object))->item;
         call.Give(place, Resource::kGeometryData);

@@ -93,7 +93,7 @@ ProError ProSelect(const char* filter, int max_count, ProSelection* initial,
             FilterArgument(call, call.Narrow(filter, kNarrowLimit, "filter"));
         if (environment != nullptr) {
           const auto found = call.host.handles.Look(environment, HandleKind::kSelectionEnv);
-          if (found.object == nullptr) call.Fail(found.why);
+          if (found.object == nullptr) call.Fail(found);
         }
         ProSelection*& place = call.Place(selections, "selections place");
         int& number = call.Place(count, "count place");

@@ -249,8 +249,8 @@ Times are medians of several rounds; each round times the bare walks beside the 
 walk enters a repeated subassembly each time, so a figure below 1 is possible. Exponents are fitted
 to the fastest rounds; where the bare walk's own exponent is above 1, larger assemblies have left
 the processor's cache, or other programs have taken their share of the longer runs. Bounds on ratios
-are checked from 10,000 occurrences up: below, the fixed cost of fields, settings file and log
-decides. Measure on a machine that does nothing else.
+are checked from 10,000 occurrences up, or on all assemblies where none is so large: there the
+fixed cost of fields, settings file and log decides, and they are missed. Measure on a machine that does nothing else.
 )";
 }
 

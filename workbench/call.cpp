@@ -72,7 +72,8 @@ ProError CaughtInCrossing(Host& host, const char* function, bool user_acted) {
   try {
     throw;
   } catch (const Misuse& misuse) {
-    if (!user_acted) host.ReportBreach(function, misuse.why);
+    // Only what the user has just taken away is no fault of the plug-in's.
+    if (!user_acted || !misuse.stale) host.ReportBreach(function, misuse.why);
     return PRO_TK_BAD_INPUTS;
   } catch (const NotModelled& gap) {
     host.not_modelled.push_back("workbench: not modelled: " + std::string(function) + ": " +
@@ -89,7 +90,7 @@ ProError CaughtInCrossing(Host& host, const char* function, bool user_acted) {
 
 Model& Call::ModelAt(const void* handle) const {
   const HandleTable::Found found = host.handles.Look(handle, HandleKind::kModel);
-  if (found.object == nullptr) Fail(found.why);
+  if (found.object == nullptr) Fail(found);
   return *static_cast<Model*>(found.object);
 }
 
@@ -108,7 +109,7 @@ void Call::CheckStillThere(const void* handle) const {
 
 PickedItem& Call::SelectionAt(const void* handle) const {
   const HandleTable::Found found = host.handles.Look(handle, HandleKind::kSelection);
-  if (found.object == nullptr) Fail(found.why);
+  if (found.object == nullptr) Fail(found);
   return *static_cast<PickedItem*>(found.object);
 }
 

@@ -16,6 +16,7 @@ namespace wb {
 // Thrown by argument checks; the crossing turns it into a recorded breach.
 struct Misuse {
   std::string why;
+  bool stale = false;  // of a handle that was good once
 };
 // Thrown where the workbench does not know what the real host would do.
 struct NotModelled {
@@ -77,6 +78,9 @@ class Call {
       : host(host_of_call), function(name), call(number) {}
 
   [[noreturn]] void Fail(const std::string& why) const { throw Misuse{why}; }
+  [[noreturn]] void Fail(const HandleTable::Found& found) const {
+    throw Misuse{found.why, found.stale};
+  }
 
   template <typename T>
   T& Place(T* pointer, const char* what) const {

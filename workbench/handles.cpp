@@ -79,7 +79,7 @@ HandleTable::Found HandleTable::Look(const void* handle, HandleKind wanted) cons
                          word + " handle"};
   }
   const Slot* slot = SlotOf(bits);
-  if (slot == nullptr) return {nullptr, "stale " + word + " handle (its object is gone)"};
+  if (slot == nullptr) return {nullptr, "stale " + word + " handle (its object is gone)", true};
   return {slot->object, ""};
 }
 

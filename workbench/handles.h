@@ -20,6 +20,7 @@ class HandleTable {
   struct Found {
     void* object = nullptr;  // null: `why` says what is wrong with the handle
     std::string why;
+    bool stale = false;  // it was good once
   };
   Found Look(const void* handle, HandleKind wanted) const;
   // Kind of a live handle, kNone otherwise; for descriptions.

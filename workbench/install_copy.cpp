@@ -2,6 +2,7 @@
 #include "workbench/install_copy.h"
 
 #include <cstdlib>
+#include <vector>
 
 #include "workbench/model_file.h"
 #include "workbench/windows_headers.h"
@@ -41,6 +42,18 @@ bool IsInUse(const std::string& name, size_t prefix_length) {
   return runs;
 }
 
+// All but the files that are in use.
+void RemoveWhatCanBe(const fs::path& folder) {
+  std::error_code error;
+  std::vector<fs::path> items;
+  for (const auto& item : fs::recursive_directory_iterator(folder, error)) {
+    items.push_back(item.path());
+  }
+  // From the deepest: those of a folder come after it.
+  for (auto item = items.rbegin(); item != items.rend(); ++item) fs::remove(*item, error);
+  fs::remove(folder, error);
+}
+
 }  // namespace
 
 void InstallCopy::RemoveLeftovers() const {
@@ -48,7 +61,7 @@ void InstallCopy::RemoveLeftovers() const {
   for (const auto& entry : fs::directory_iterator(top_.parent_path(), error)) {
     const std::string name = PathToUtf8(entry.path().filename());
     if (!name.starts_with(prefix_) || IsInUse(name, prefix_.size())) continue;
-    fs::remove_all(entry.path(), error);
+    RemoveWhatCanBe(entry.path());
   }
 }
 

@@ -64,7 +64,7 @@ struct DrawingPicture {
 struct ShownDialog {
   std::string name;
   std::string before;  // the user's deed that follows, as the script writes it
-  std::string html;  // as DrawDialog gives it
+  std::string html;    // as DrawDialog gives it
 };
 
 struct ShownBox {

@@ -39,7 +39,7 @@ constexpr StatementForm kForms[] = {
     {"parameter_yes_no",  "parameter MODEL NAME yes_no FLAG:yes|no", kT | kD},
     {"parameter_missing", "parameter MODEL NAME missing", kT | kD},
     {"surface",           "surface MODEL X Y Z X2 Y2 Z2", kT},
-    {"bulk",              "bulk SHAPE:flat|tree|chain|single|half|repeated TIMES", kT},
+    {"bulk",              "bulk SHAPE:flat|tree|chain|single|half|repeated|pool TIMES", kT},
     {"import",            "import PATH", kT},
     {"retrieve",          "retrieve MODEL", kT},
     {"open",              "open MODEL", kT},

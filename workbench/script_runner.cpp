@@ -264,6 +264,10 @@ void ScriptRun::AppendTrace(const Statement& at) {
 
 Model* ScriptRun::FindModel(const std::string& name) {
   if (const auto full = ParseModelName(name)) return host.session.Find(*full);
+  if (host.session.Find({name, ModelKind::kPart}) != nullptr &&
+      host.session.Find({name, ModelKind::kAssembly}) != nullptr) {
+    throw ScriptError(name + " is " + name + ".prt and " + name + ".asm; say which");
+  }
   for (const ModelKind kind :
        {ModelKind::kPart, ModelKind::kAssembly, ModelKind::kManufacturing, ModelKind::kDrawing}) {
     if (Model* const model = host.session.Find({name, kind})) return model;

@@ -39,6 +39,22 @@ struct Usage {
   std::optional<StepPlacement> placement;
 };
 
+// The number of a measure; 0 where it has none that can be read, since quantities are also given in
+// words and are not worth a whole import.
+double NumberOfMeasure(const StepFile& file, const StepRecord* measure) {
+  if (measure == nullptr) return 0;
+  const StepType& type = file.TypeOf(*measure);
+  const bool is_item = type.names.front() == "MEASURE_REPRESENTATION_ITEM";
+  if (type.names.size() > 1 && !type.Has("MEASURE_WITH_UNIT")) return 0;
+  // A plain item carries its name in front.
+  const StepArguments values =
+      file.Arguments(*measure, "MEASURE_WITH_UNIT", is_item && type.names.size() == 1 ? 1 : 0);
+  if (values.size() == 0) return 0;
+  const StepValue* value = &values.At(0);
+  if (value->kind == StepValue::Kind::kTyped && value->items.size() == 1) value = &value->items[0];
+  return value->kind == StepValue::Kind::kNumber ? value->number : 0;
+}
+
 class ProductReader {
  public:
   explicit ProductReader(const StepFile& file)
@@ -132,14 +148,14 @@ std::size_t ProductReader::QuantityOf(const Usage& usage) {
   constexpr double kMost = 10000;
   if (!file_.TypeOf(*usage.record).Has(kQuantified)) return 1;
   const StepArguments values = file_.Arguments(*usage.record, kQuantified, kInherited);
-  const StepRecord& measure = values.Reference(0);
-  const double quantity = file_.Arguments(measure, "MEASURE_WITH_UNIT").Number(0);
+  const double quantity = NumberOfMeasure(file_, values.OptionalReference(0));
+  if (quantity == 1) return 1;
   const std::string where = usage.name + " in " + definitions_.all()[usage.parent].name;
-  if (quantity >= 1 && quantity <= kMost && quantity == std::floor(quantity)) {
+  if (quantity > 1 && quantity <= kMost && quantity == std::floor(quantity)) {
     Note(where + ": given with a quantity, imported " + NumberText(quantity) + " times");
     return static_cast<std::size_t>(quantity);
   }
-  Note(where + ": given with the quantity " + NumberText(quantity) + ", imported once");
+  Note(where + ": given with a quantity that is no number of pieces, imported once");
   return 1;
 }
 

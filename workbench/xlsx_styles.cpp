@@ -17,9 +17,10 @@ constexpr int kTextFormatNumber = 49;
 constexpr int kFirstOwnFormat = 164;  // smaller ones have a meaning of their own
 // Those that mean the same in every country.
 const std::map<int, std::string> kBuiltInFormats = {
-    {0, "General"},  {1, "0"},        {2, "0.00"},      {3, "#,##0"},
-    {4, "#,##0.00"}, {9, "0%"},       {10, "0.00%"},    {11, "0.00E+00"},
-    {12, "# ?/?"},   {13, "# \?\?/\?\?"}, {48, "##0.0E+0"}, {kTextFormatNumber, kTextFormat}};
+    {0, "General"},      {1, "0"},         {2, "0.00"},
+    {3, "#,##0"},        {4, "#,##0.00"},  {9, "0%"},
+    {10, "0.00%"},       {11, "0.00E+00"}, {12, "# ?/?"},
+    {13, "# \?\?/\?\?"}, {48, "##0.0E+0"}, {kTextFormatNumber, kTextFormat}};
 // Files number the 56 colours of the palette from 8 on.
 constexpr unsigned kPaletteOffset = 7;
 constexpr unsigned kPaletteSize = 56;

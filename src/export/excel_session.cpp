@@ -31,7 +31,9 @@ std::optional<ExcelSession> ExcelSession::Start() {
 
 ExcelSession::~ExcelSession() {
   if (!application_) return;
-  if (workbook_) Try([&] { workbook_.Put(excel::kSaved, Variant(true), ending_); });
+  if (workbook_) {
+    Try([&] { Do([&] { workbook_.Put(excel::kSaved, Variant(true), ending_); }); });
+  }
   Try([&] { application_.Call(excel::kQuit, {}, ending_); });
 }
 

@@ -14,7 +14,7 @@ namespace {
 constexpr wchar_t kNoExcel[] = L"创建Excel失败";
 constexpr wchar_t kTooWide[] = L"bom表格列数不得大于26列";
 constexpr wchar_t kFailed[] = L"导出Excel失败，未生成文件。";
-const std::wstring kUnfinished = L"导出Excel失败，未完成的文件无法删除，请手动删除：";
+constexpr wchar_t kUnfinished[] = L"导出Excel失败，未完成的文件无法删除，请手动删除：";
 
 constexpr char kProgressNote[] = "Rows written to Excel: %0w";
 constexpr size_t kRowsANote = 100;
@@ -47,6 +47,7 @@ class SheetWriter {
       if (row > 0 && row % kRowsANote == 0) TellProgress(row);
       for (size_t column = 0; column < table_.labels.size(); ++column) WriteCell(row, column);
     }
+    if (table_.rows.size() > kRowsANote) TellProgress(table_.rows.size());
     last_range_.clear();
     sheet_.Get(excel::kColumns).Call(excel::kAutoFit);
     sheet_.Get(excel::kRows).Call(excel::kAutoFit);
@@ -147,7 +148,7 @@ bool WriteWorkbook(const WorkbookTable& table, const std::wstring& path) {
     throw AutomationError(excel::kSaveCopyAs.name, HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND),
                           L"文件没有生成");
   } catch (const AutomationError& error) {
-    ShowExcelFailure(file.Discard() ? kFailed : kUnfinished + path, error);
+    ShowExcelFailure(file.Discard() ? std::wstring(kFailed) : kUnfinished + path, error);
     return false;
   }
 }

@@ -93,22 +93,22 @@ void ShowRowModel(DialogView dialog) {
   if (!Ok(status)) LogFailure(model, "ProMdlDisplay", status);
 }
 
-// What was shown before the dialog, by name: the user may erase it meanwhile.
+// What was shown before the dialog. By name, since the user may erase it meanwhile, unless the host
+// does not tell the name.
 class ShownModel {
  public:
-  explicit ShownModel(const std::optional<CurrentModel>& current) {
-    if (!current) return;
-    name_ = ModelName(current->model);
-    type_ = current->type;
+  explicit ShownModel(const std::optional<CurrentModel>& current) : current_(current) {
+    if (current_) name_ = ModelName(current_->model);
   }
   void ShowAgain() const {
-    const ProMdl model = name_ ? RetrieveModel(*name_, type_) : nullptr;
+    if (!current_) return;
+    const ProMdl model = name_ ? RetrieveModel(*name_, current_->type) : current_->model;
     if (model != nullptr) ProMdlDisplay(model);
   }
 
  private:
+  const std::optional<CurrentModel> current_;
   std::optional<std::wstring> name_;
-  ProMdlType type_ = PRO_MDL_UNUSED;
 };
 
 void Bind(const Dialog& dialog) {

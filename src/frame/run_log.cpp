@@ -73,7 +73,7 @@ std::string Stamped(std::string_view text) {
   return line;
 }
 
-std::string ModelName(ProMdl model) {
+std::string LoggedName(ProMdl model) {
   ProName name = {};
   if (model == nullptr || !Ok(ProMdlNameGet(model, name))) return "(model without name)";
   name[PRO_NAME_SIZE - 1] = L'\0';
@@ -104,7 +104,7 @@ void LogFailure(ProMdl model, const char* function, ProError status) noexcept {
   try {
     // A handle that the host has just refused may be stale: nothing more is asked with it.
     const ProMdl named = status == PRO_TK_BAD_INPUTS ? nullptr : model;
-    LogEvent(ModelName(named) + ": " + function + " answered " + StatusName(status));
+    LogEvent(LoggedName(named) + ": " + function + " answered " + StatusName(status));
   } catch (...) {
     // As above; the failure stays counted.
   }

@@ -175,14 +175,15 @@ class ImportedBill : public PluginHost {
     host_.session.ChangeDirectory(folder_);
     SetColumns(L"tableCols_sum", L"模型名称,模型数量");
     SetColumns(L"tableCols_level", L"层级1,层级2,模型名称,模型数量");
-    for (size_t i = 0; i < user_.files.size(); ++i) {
-      user_.files[i] = folder_ / (std::to_string(i) + ".xlsx");
+    for (size_t i = 0; i < exporter_.files.size(); ++i) {
+      exporter_.files[i] = folder_ / (std::to_string(i) + ".xlsx");
     }
-    host_.user = &user_;
+    host_.user = &exporter_;
     EXPECT_EQ(plugin_.Start(), 0);
   }
   // Other tests of this process use the same settings.
   ~ImportedBill() override {
+    host_.user = &user_;
     FlushProfile(settings_);
     std::ofstream(settings_, std::ios::binary | std::ios::trunc) << settings_before_;
     fs::remove_all(folder_);
@@ -228,7 +229,7 @@ class ImportedBill : public PluginHost {
   const fs::path settings_ = Installed().tree() / "QMconfig" / "QmBom.ini";
   const std::string settings_before_ = ReadFileBytes(settings_).value_or("");
   const fs::path folder_ = fs::temp_directory_path() / "workbench imported bill";
-  Exporter user_;
+  Exporter exporter_;
   Plugin plugin_{Installed().dll()};
 };
 
@@ -238,15 +239,15 @@ TEST_F(ImportedBill, AgreesWithACountOfItsOwn) {
     SCOPED_TRACE(seed);
     const Tree tree = RandomTree(seed);
     ASSERT_NO_FATAL_FAILURE(Open(tree));
-    user_.calls.clear();
+    exporter_.calls.clear();
     EXPECT_EQ(RunCommand("QmBom").status, 0);
     const std::vector<SheetRow> wanted[] = {Recount(tree).Summary(), Recount(tree).Levels(2),
                                             Recount(tree).Levels(99)};
-    ASSERT_EQ(user_.calls.size(), std::size(wanted));
+    ASSERT_EQ(exporter_.calls.size(), std::size(wanted));
     for (size_t i = 0; i < std::size(wanted); ++i) {
       const int columns = i == 0 ? 3 : 5;
-      EXPECT_EQ(RowsOf(user_.files[i], columns), wanted[i]) << i;
-      EXPECT_EQ(user_.calls[i], CallsFor(wanted[i], columns)) << i;
+      EXPECT_EQ(RowsOf(exporter_.files[i], columns), wanted[i]) << i;
+      EXPECT_EQ(exporter_.calls[i], CallsFor(wanted[i], columns)) << i;
       rows += wanted[i].size();
     }
     EraseAll();

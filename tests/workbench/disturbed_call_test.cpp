@@ -54,6 +54,12 @@ TEST_F(DisturbedCall, FailsWithoutBlameForWhatTheUserErasedButNoLaterOneDoes) {
             Lines{"plug-in misused ProMdlNameGet: stale model handle (its object is gone)"});
 }
 
+TEST_F(DisturbedCall, IsBlamedForWhatTheUserHasNothingToDoWith) {
+  EraseAt("ProMdlNameGet", lid_);
+  EXPECT_EQ(ProMdlNameGet(box_->handle, nullptr), PRO_TK_BAD_INPUTS);
+  EXPECT_EQ(Breaches().size(), 1u);
+}
+
 TEST_F(DisturbedCall, MeetsWhatTheUserDid) {
   ProFeature component{PRO_FEATURE, 7, static_cast<ProSolid>(box_->handle)};
   ProMdl model = nullptr;

@@ -322,17 +322,23 @@ TEST(StepProduct, CountsOnlyDirectUsagesAndNotesTheOthers) {
 
 TEST(StepProduct, AUsageWithAQuantityIsAsManyComponents) {
   const struct {
-    const char* quantity;
+    const char* measure;
     size_t components;
     const char* note;
-  } cases[] = {{"4.", 4, "7 in pump: given with a quantity, imported 4 times"},
-               {"2.5", 1, "7 in pump: given with the quantity 2.5, imported once"},
-               {"0.", 1, "given with the quantity 0, imported once"},
-               {"1.E9", 1, "imported once"}};
+  } cases[] = {
+      {"MEASURE_WITH_UNIT(COUNT_MEASURE(4.),$)", 4, "7 in pump: given with a quantity, imported 4"},
+      {"MEASURE_REPRESENTATION_ITEM('quantity',COUNT_MEASURE(3.),$)", 3, "imported 3 times"},
+      {"(MEASURE_REPRESENTATION_ITEM()MEASURE_WITH_UNIT(2,$)REPRESENTATION_ITEM(''))", 2,
+       "imported 2 times"},
+      {"MEASURE_WITH_UNIT(2.5,$)", 1, "given with a quantity that is no number of pieces"},
+      {"MEASURE_WITH_UNIT(0.,$)", 1, "imported once"},
+      {"MEASURE_WITH_UNIT(1.E9,$)", 1, "imported once"},
+      {"MEASURE_WITH_UNIT(DESCRIPTIVE_MEASURE('some'),$)", 1, "imported once"},
+      {"DESCRIPTIVE_REPRESENTATION_ITEM('q','as required')", 1, "imported once"},
+      {"(A()B())", 1, "imported once"}};
   for (const auto& item : cases) {
     Pair p;
-    const int measure =
-        p.file.Add("MEASURE_WITH_UNIT(COUNT_MEASURE(" + std::string(item.quantity) + "),$)");
+    const int measure = p.file.Add(item.measure);
     p.file.Add(
         "(ASSEMBLY_COMPONENT_USAGE($)NEXT_ASSEMBLY_USAGE_OCCURRENCE()"
         "PRODUCT_DEFINITION_RELATIONSHIP('7','','',#" +
@@ -340,8 +346,8 @@ TEST(StepProduct, AUsageWithAQuantityIsAsManyComponents) {
         ")PRODUCT_DEFINITION_USAGE()QUANTIFIED_ASSEMBLY_COMPONENT_USAGE(#" +
         std::to_string(measure) + "))");
     const StepAssembly assembly = p.file.Read();
-    EXPECT_EQ(assembly.models[1].components.size(), item.components) << item.quantity;
-    EXPECT_TRUE(HasNote(assembly, item.note)) << item.quantity;
+    EXPECT_EQ(assembly.models[1].components.size(), item.components) << item.measure;
+    EXPECT_TRUE(HasNote(assembly, item.note)) << item.measure;
   }
 }
 
