@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/absent_user.h"
 #include "tests/workbench/test_paths.h"
 #include "workbench/host.h"
 #include "workbench/install_copy.h"
@@ -18,16 +19,6 @@ inline const InstallCopy& Installed() {
   static const InstallCopy copy(TestBinaryFolder() / "quillmax-5.1-C3", "tests");
   return copy;
 }
-
-// Reads boxes away, closes nothing and chooses nothing.
-class AbsentUser : public User {
- public:
-  void WorkDialog(LiveDialog&) override {}
-  std::optional<std::vector<PickedItem>> Pick(const PickRequest&) override { return std::nullopt; }
-  std::optional<std::string> ChooseFile(const FileRequest&) override { return std::nullopt; }
-  std::optional<std::string> AnswerPrompt(const std::string&, int) override { return std::nullopt; }
-  int AnswerMessageBox(const MessageBox&) override { return 1; }
-};
 
 class PluginHost : public testing::Test {
  protected:

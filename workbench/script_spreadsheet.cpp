@@ -135,8 +135,7 @@ void ExpectFill(ScriptRun& run, const Statement& statement) {
   const CheckedCell cell = CellOf(run, statement);
   if (cell.format.fill && cell.format.fill->value == kThemeColor) {
     throw ScriptError("the fill of " + cell.what +
-                      " is a colour of the book's theme, which is not "
-                      "modelled");
+                      " is a colour of the book's theme, which is not modelled");
   }
   const std::string got = DescribeFill(cell.format.fill);
   run.Check(statement, got == wanted, "fill of " + cell.what, wanted, got);
@@ -169,10 +168,9 @@ void ExpectSheetRow(ScriptRun& run, const Statement& statement) {
   for (int column = 1; column <= columns; ++column) {
     // A number that looks like the text is no text.
     const CellValue value = sheet.ValueAt({row, column});
-    const bool is_text = std::holds_alternative<std::string>(value);
-    got.push_back(is_text                                         ? Quoted(CellText(value))
-                  : std::holds_alternative<std::monostate>(value) ? Quoted("")
-                                                                  : DescribeValue(value));
+    const bool reads_as_text =
+        std::holds_alternative<std::string>(value) || std::holds_alternative<std::monostate>(value);
+    got.push_back(reads_as_text ? Quoted(CellText(value)) : DescribeValue(value));
   }
   run.Check(statement, got == wanted, "row " + statement.Text("NTH"), Join(" ", wanted),
             Join(" ", got));

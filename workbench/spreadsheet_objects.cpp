@@ -1,6 +1,9 @@
 // One automation call from the plug-in: counted, traced, open to orders and faults, checked.
 #include "workbench/spreadsheet_objects.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "workbench/spreadsheet_members.h"
 #include "workbench/windows_crossing.h"
 
@@ -18,6 +21,8 @@ constexpr const char* kNoMember = "Excel.unknown";
 constexpr HRESULT kProgramFailure = static_cast<HRESULT>(0x800A03EC);
 // Its user is in the middle of something.
 constexpr HRESULT kUserIsTyping = static_cast<HRESULT>(0x800AC472);
+constexpr HRESULT kBusyResults[] = {RPC_E_CALL_REJECTED, RPC_E_SERVERCALL_RETRYLATER,
+                                    kUserIsTyping};
 
 std::string DescribeVariant(const VARIANT& value) {
   switch (value.vt) {
@@ -128,8 +133,7 @@ void CheckAlive(const AutomationObject& object) {
 // What the plug-in could not do for no fault of its own is not held against it later.
 void Excuse(const AutomationObject& object, const SpreadsheetMember* member, HRESULT result) {
   const std::string_view name = member == nullptr ? kNoMember : member->name;
-  const bool rejected = result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER ||
-                        result == kUserIsTyping;
+  const bool rejected = std::ranges::find(kBusyResults, result) != std::end(kBusyResults);
   if (name == "Excel.Application.Quit") {
     (rejected ? object.place.program->quit_rejected : object.place.program->quit_failed) = true;
   } else if (name == "Excel.Workbook.Saved=" || name == "Excel.Workbook.Close") {

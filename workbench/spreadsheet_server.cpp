@@ -48,8 +48,9 @@ SpreadsheetServer::Refusal SpreadsheetServer::Meet(const char* member,
     program.running = false;
   }
   if (program.died) return Refusal::kDead;
-  if (orders_.busy > 0 && calls_ > orders_.busy_after)
+  if (orders_.busy > 0 && calls_ > orders_.busy_after) {
     return kBusyRefusals[--orders_.busy % std::size(kBusyRefusals)];
+  }
   const std::string_view plain = std::string_view(member).substr(kSpreadsheetPrefix.size());
   if (!orders_.fail_member.empty() && orders_.fail_member != plain) return Refusal::kNone;
   if (++member_calls_ != orders_.fail_at) return Refusal::kNone;

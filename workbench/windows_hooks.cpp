@@ -200,26 +200,27 @@ void FillIn(const Call& call, OPENFILENAMEW& dialog, const std::string& choice) 
       dot == std::wstring::npos || dot < dialog.nFileOffset ? WORD{0} : static_cast<WORD>(dot + 1);
 }
 
+std::optional<std::string> Choice(const Call& call, const char* function,
+                                  const OPENFILENAMEW& dialog) {
+  if (dialog.lStructSize != sizeof(OPENFILENAMEW)) call.Fail("wrong structure size");
+  if (dialog.lpstrFile == nullptr) call.Fail("null file buffer");
+  const FileRequest request = RequestOf(function, dialog);
+  call.host.windows.file_requests.push_back(request);
+  return call.host.user == nullptr ? std::nullopt : call.host.user->ChooseFile(request);
+}
+
 // The dialogs themselves answer a failure and a cancelled choice alike.
 BOOL AskForFile(const char* function, OPENFILENAMEW* dialog) {
   TheHost().windows.dialog_error = CDERR_DIALOGFAILURE;
-  return WindowsCrossing(function,
-                         dialog == nullptr ? "null" : DescribeArgument(dialog->lpstrTitle),
-                         BOOL{FALSE}, [&](const Call& call) {
-                           OPENFILENAMEW& place = call.Place(dialog, "dialog structure");
-                           if (place.lStructSize != sizeof(OPENFILENAMEW))
-                             call.Fail("wrong structure size");
-                           if (place.lpstrFile == nullptr) call.Fail("null file buffer");
-                           const FileRequest request = RequestOf(function, place);
-                           call.host.windows.file_requests.push_back(request);
-                           std::optional<std::string> choice;
-                           if (call.host.user != nullptr)
-                             choice = call.host.user->ChooseFile(request);
-                           call.host.windows.dialog_error = 0;
-                           if (!choice) return BOOL{FALSE};
-                           FillIn(call, place, *choice);
-                           return BOOL{TRUE};
-                         });
+  const std::string arguments = dialog == nullptr ? "null" : DescribeArgument(dialog->lpstrTitle);
+  return WindowsCrossing(function, arguments, BOOL{FALSE}, [&](const Call& call) {
+    OPENFILENAMEW& place = call.Place(dialog, "dialog structure");
+    const std::optional<std::string> choice = Choice(call, function, place);
+    call.host.windows.dialog_error = 0;
+    if (!choice) return BOOL{FALSE};
+    FillIn(call, place, *choice);
+    return BOOL{TRUE};
+  });
 }
 
 BOOL WINAPI HookGetOpenFileNameW(LPOPENFILENAMEW dialog) {
@@ -263,8 +264,8 @@ FARPROC WINAPI HookGetProcAddress(HMODULE module, LPCSTR name) {
 }
 
 template <typename Function>
-Hook Row(const char* name, Function* replacement) {
-  return {name, reinterpret_cast<void*>(replacement)};
+Hook Row(const char* name, Function* replacement, bool is_crossing = true) {
+  return {name, reinterpret_cast<void*>(replacement), is_crossing};
 }
 
 }  // namespace
@@ -283,10 +284,10 @@ std::span<const Hook> Hooks() {
       Row("CoCreateInstance", &HookCoCreateInstance),
       Row("GetOpenFileNameW", &HookGetOpenFileNameW),
       Row("GetSaveFileNameW", &HookGetSaveFileNameW),
-      Row("CommDlgExtendedError", &HookCommDlgExtendedError),
-      Row("Sleep", &HookSleep),
-      Row("GetTickCount64", &HookGetTickCount64),
-      Row("GetProcAddress", &HookGetProcAddress),
+      Row("CommDlgExtendedError", &HookCommDlgExtendedError, false),
+      Row("Sleep", &HookSleep, false),
+      Row("GetTickCount64", &HookGetTickCount64, false),
+      Row("GetProcAddress", &HookGetProcAddress, false),
   };
   return kHooks;
 }
@@ -295,8 +296,9 @@ bool IsMetFunction(const char* name) {
   const std::string versioned = std::string(name) + QM_HOST_NAME_SUFFIX;
   if (::GetProcAddress(::GetModuleHandleW(nullptr), versioned.c_str()) != nullptr) return true;
   const std::span<const Hook> hooks = Hooks();
-  return std::any_of(hooks.begin(), hooks.end(),
-                     [&](const Hook& hook) { return std::strcmp(hook.name, name) == 0; });
+  return std::any_of(hooks.begin(), hooks.end(), [&](const Hook& hook) {
+    return hook.is_crossing && std::strcmp(hook.name, name) == 0;
+  });
 }
 
 }  // namespace wb

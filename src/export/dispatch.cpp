@@ -19,14 +19,16 @@ constexpr LCID kCallLocale = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_U
 // The program is in the middle of something of its user's, such as the typing of a cell.
 constexpr auto kInterrupted = static_cast<HRESULT>(0x800AC472);
 
+bool IsBusy(HRESULT result) {
+  return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER ||
+         result == kInterrupted;
+}
+
 struct KnownResult {
   HRESULT result;
   const wchar_t* text;
 };
 constexpr KnownResult kKnownResults[] = {
-    {RPC_E_CALL_REJECTED, L"程序正忙，没有应答"},
-    {RPC_E_SERVERCALL_RETRYLATER, L"程序正忙，没有应答"},
-    {kInterrupted, L"程序正忙，没有应答"},
     {RPC_E_SERVERFAULT, L"程序已意外退出"},
     {RPC_E_DISCONNECTED, L"程序已意外退出"},
     {static_cast<HRESULT>(0x800706BA), L"程序已意外退出"},  // RPC_S_SERVER_UNAVAILABLE
@@ -34,6 +36,7 @@ constexpr KnownResult kKnownResults[] = {
 
 // The system's own text, where it has any, is rarely of help to users.
 std::wstring ResultText(HRESULT result) {
+  if (IsBusy(result)) return L"程序正忙，没有应答";
   for (const KnownResult& known : kKnownResults) {
     if (known.result == result) return known.text;
   }
@@ -43,11 +46,6 @@ std::wstring ResultText(HRESULT result) {
                                   static_cast<DWORD>(std::size(text)), nullptr);
   while (length > 0 && text[length - 1] <= L' ') --length;
   return {text, length};
-}
-
-bool IsBusy(HRESULT result) {
-  return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER ||
-         result == kInterrupted;
 }
 
 // Waits between the attempts of one call, each time twice as long, until the patience is over.

@@ -4,7 +4,6 @@
 #include "toolkit/status.h"
 
 namespace qm {
-
 namespace {
 
 std::optional<CurrentModel> WithoutManufacturing(const std::optional<CurrentModel>& current) {

@@ -45,11 +45,6 @@ std::optional<std::vector<std::string>> DialogTable::RowNames() const {
   return Gathered<NameList>(ProUITableRownamesGet, dialog_.name(), component_);
 }
 
-bool DialogTable::DeleteAllRows() const {
-  auto rows = RowNames();
-  return rows && Ok(DeleteRows(std::move(*rows)));
-}
-
 std::optional<std::vector<std::wstring>> DialogTable::RowLabels() const {
   return Gathered<WideTextList>(ProUITableRowlabelsGet, dialog_.name(), component_);
 }
@@ -72,11 +67,12 @@ ProError DialogTable::InsertRow(const std::string& neighbour, std::string name) 
                                                              neighbour.c_str(), 1, names));
 }
 
-ProError DialogTable::DeleteRows(std::vector<std::string> names) const {
-  if (names.empty()) return PRO_TK_NO_ERROR;
-  return Logged("ProUITableRowsDelete",
-                ProUITableRowsDelete(dialog_.name(), component_.c_str(),
-                                     static_cast<int>(names.size()), PointersTo(names).data()));
+bool DialogTable::DeleteAllRows() const {
+  auto names = RowNames();
+  if (!names || names->empty()) return names.has_value();
+  return Ok(Logged("ProUITableRowsDelete", ProUITableRowsDelete(dialog_.name(), component_.c_str(),
+                                                                static_cast<int>(names->size()),
+                                                                PointersTo(*names).data())));
 }
 
 ProError DialogTable::InsertColumns(const std::string& neighbour,

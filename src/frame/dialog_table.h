@@ -26,7 +26,6 @@ class DialogTable {
 
   // After row `neighbour`; an empty one inserts at the start.
   ProError InsertRow(const std::string& neighbour, std::string name) const;
-  ProError DeleteRows(std::vector<std::string> names) const;
   // False when a row may be left.
   bool DeleteAllRows() const;
   ProError InsertColumns(const std::string& neighbour, std::vector<std::string> names) const;

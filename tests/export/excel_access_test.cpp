@@ -1,5 +1,6 @@
 // Writer and reader of workbooks against the spreadsheet program of the workbench, also where a
 // call fails. What a bill looks like in its workbook is checked by scripts.
+#include "tests/absent_user.h"
 #include "tests/export/excel_probe.h"
 #include "tests/workbench/host_fixture.h"
 #include "workbench/plugin.h"
@@ -73,12 +74,8 @@ class ExcelAccess : public HostFixture {
   }
 
   // Answers every file dialog with this path, or cancels.
-  struct Chooser : User {
-    void WorkDialog(LiveDialog&) override {}
-    std::optional<std::vector<PickedItem>> Pick(const PickRequest&) override { return {}; }
+  struct Chooser : AbsentUser {
     std::optional<std::string> ChooseFile(const FileRequest&) override { return file; }
-    std::optional<std::string> AnswerPrompt(const std::string&, int) override { return {}; }
-    int AnswerMessageBox(const MessageBox&) override { return IDOK; }
     std::optional<std::string> file;
   };
   std::string Choose() {

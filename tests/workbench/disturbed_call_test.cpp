@@ -1,7 +1,7 @@
 // A user who acts between a call of the plug-in and its being carried out.
 #include <functional>
 
-#include "tests/plugin_host.h"
+#include "tests/absent_user.h"
 #include "tests/workbench/host_fixture.h"
 #include "workbench/host_types.h"
 

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <set>
 
+#include "tests/workbench/temporary_folder.h"
 #include "workbench/model_file.h"
 
 namespace wb {
@@ -17,15 +18,12 @@ namespace fs = std::filesystem;
 class Import : public testing::Test {
  protected:
   Import() {
-    fs::remove_all(folder_);
-    fs::create_directories(folder_);
     std::ofstream(folder_ / "notes.txt") << "mine";
     Model bolt;
     bolt.id = {"bolt", ModelKind::kPart};
     bolt_.models.push_back(bolt);
     bolt_.tops.push_back(bolt.id);
   }
-  ~Import() override { fs::remove_all(folder_); }
 
   std::string ErrorOf(const fs::path& target) const {
     try {
@@ -45,7 +43,8 @@ class Import : public testing::Test {
     return names;
   }
 
-  const fs::path folder_ = fs::temp_directory_path() / "quillmax import test";
+  const TemporaryFolder temporary_{"quillmax import test"};
+  const fs::path& folder_ = temporary_.path;
   ImportedModels bolt_;
 };
 

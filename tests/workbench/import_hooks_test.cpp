@@ -1,4 +1,5 @@
 // The Windows calls of a loaded plug-in: recorded, answered, and open to faults.
+#include "tests/absent_user.h"
 #include "tests/workbench/host_fixture.h"
 #include "workbench/plugin.h"
 
@@ -6,12 +7,9 @@ namespace wb {
 namespace {
 
 // Answers every box and file request alike.
-class SteadyUser : public User {
+class SteadyUser : public AbsentUser {
  public:
-  void WorkDialog(LiveDialog&) override {}
-  std::optional<std::vector<PickedItem>> Pick(const PickRequest&) override { return {}; }
   std::optional<std::string> ChooseFile(const FileRequest&) override { return file; }
-  std::optional<std::string> AnswerPrompt(const std::string&, int) override { return {}; }
   int AnswerMessageBox(const MessageBox&) override { return box_answer; }
 
   std::optional<std::string> file;

@@ -96,6 +96,7 @@ TEST(ScriptRunner, WhatNobodyAnswersFailsWithWhatWasAsked) {
        "6: the fault ordered for it did not strike"},
       {"run ForTest\nfault any 1 empty", "6: no action followed the fault ordered"},
       {"expect calls ProMdlNameGte none", "5: neither the host nor the intercepted part"},
+      {"expect calls Sleep none", "5: neither the host nor the intercepted part"},
       {"fault Excel.Range.Mrege 1 empty",
        "5: the spreadsheet program has no member Excel.Range.Mr"},
       {"withhold ProMdlNameGte", "5: neither the host nor the intercepted part"},

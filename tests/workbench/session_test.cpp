@@ -5,6 +5,7 @@
 
 #include <fstream>
 
+#include "tests/workbench/temporary_folder.h"
 #include "workbench/model_file.h"
 
 namespace wb {
@@ -14,12 +15,7 @@ namespace fs = std::filesystem;
 
 class SessionFiles : public testing::Test {
  protected:
-  SessionFiles() {
-    fs::remove_all(folder_);
-    fs::create_directories(folder_);
-    session_.ChangeDirectory(folder_);
-  }
-  ~SessionFiles() override { fs::remove_all(folder_); }
+  SessionFiles() { session_.ChangeDirectory(folder_); }
 
   void Write(const std::string& name, const std::string& rest) const {
     std::ofstream(folder_ / (name + ".1"), std::ios::binary)
@@ -46,7 +42,8 @@ class SessionFiles : public testing::Test {
     return "retrieved";
   }
 
-  const fs::path folder_ = fs::temp_directory_path() / "quillmax session test";
+  const TemporaryFolder temporary_{"quillmax session test"};
+  const fs::path& folder_ = temporary_.path;
   Session session_;
 };
 

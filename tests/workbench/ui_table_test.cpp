@@ -2,6 +2,7 @@
 // when they call it back.
 #include <functional>
 
+#include "tests/absent_user.h"
 #include "tests/workbench/host_fixture.h"
 #include "workbench/call.h"
 #include "workbench/host_types.h"
@@ -23,13 +24,9 @@ constexpr const char* kResource = R"((Dialog Bill
 )";
 
 // Does one thing with the dialog while it is active.
-class OneDeed : public User {
+class OneDeed : public AbsentUser {
  public:
   void WorkDialog(LiveDialog& dialog) override { deed(dialog); }
-  std::optional<std::vector<PickedItem>> Pick(const PickRequest&) override { return {}; }
-  std::optional<std::string> ChooseFile(const FileRequest&) override { return {}; }
-  std::optional<std::string> AnswerPrompt(const std::string&, int) override { return {}; }
-  int AnswerMessageBox(const MessageBox&) override { return 0; }
 
   std::function<void(LiveDialog&)> deed = [](LiveDialog&) {};
 };

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "tests/workbench/temporary_folder.h"
 #include "workbench/utf8_text.h"
 #include "workbench/zip_archive.h"
 
@@ -16,9 +17,6 @@ namespace fs = std::filesystem;
 
 class XlsxFile : public testing::Test {
  protected:
-  XlsxFile() { fs::create_directories(folder_); }
-  ~XlsxFile() override { fs::remove_all(folder_); }
-
   fs::path Write(const std::string& bytes) const {
     const fs::path file = folder_ / "book.xlsx";
     std::ofstream(file, std::ios::binary) << bytes;
@@ -34,7 +32,8 @@ class XlsxFile : public testing::Test {
     }
   }
 
-  const fs::path folder_ = fs::temp_directory_path() / "workbench xlsx test";
+  const TemporaryFolder temporary_{"workbench xlsx test"};
+  const fs::path& folder_ = temporary_.path;
 };
 
 constexpr const char* kRoots =
