@@ -1,7 +1,7 @@
 // A user who is not there.
 #pragma once
 
-#include "workbench/user.h"
+#include "workbench/host/user.h"
 
 namespace wb {
 

@@ -8,10 +8,9 @@
 #include <regex>
 #include <set>
 
-#include "tests/frame/shield_probe.h"
+#include "tests/frame/guard/shield_probe.h"
 #include "tests/plugin_host.h"
-#include "workbench/message_file.h"
-#include "workbench/model_file.h"
+#include "workbench/base/message_file.h"
 
 namespace wb {
 namespace {
@@ -95,7 +94,7 @@ TEST_F(Boundary, EveryHostFunctionThatTakesAFunctionHasItsProbe) {
     if (file.path().extension() == ".h") headers += ReadText(file.path());
   }
   const std::string table =
-      ReadText(fs::path(QM_SOURCE_DIR) / "src" / "frame" / "shielded_entries.h");
+      ReadText(fs::path(QM_SOURCE_DIR) / "tests" / "frame" / "guard" / "shielded_entries.h");
   std::set<std::string> callbacks;
   for (const auto& type : Matches(headers, R"(\(\*(\w+)\)\([^()]*\) QM_CALLBACK;)")) {
     callbacks.insert(type[1]);

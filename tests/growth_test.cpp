@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "tests/plugin_host.h"
-#include "workbench/bench_measure.h"
-#include "workbench/bench_options.h"
-#include "workbench/bench_report.h"
-#include "workbench/command_line.h"
+#include "workbench/base/command_line.h"
+#include "workbench/bench/bench_measure.h"
+#include "workbench/bench/bench_options.h"
+#include "workbench/bench/bench_report.h"
 
 namespace wb {
 namespace {

@@ -5,8 +5,8 @@
 #include <functional>
 
 #include "tests/plugin_host.h"
-#include "workbench/bench_heap.h"
-#include "workbench/windows_hooks.h"
+#include "workbench/bench/bench_heap.h"
+#include "workbench/windows/windows_hooks.h"
 
 #include <psapi.h>
 

@@ -9,9 +9,9 @@
 
 #include "tests/absent_user.h"
 #include "tests/workbench/test_paths.h"
-#include "workbench/host.h"
-#include "workbench/install_copy.h"
-#include "workbench/plugin.h"
+#include "workbench/host/host.h"
+#include "workbench/plugin/install_copy.h"
+#include "workbench/plugin/plugin.h"
 
 namespace wb {
 

@@ -28,6 +28,18 @@ prepare_wine() {
   wineserver -w 2>/dev/null || true
 }
 
+# A second environment beside the first, so that two runs share neither temporary files nor the
+# clipboard. Windows itself, which nobody writes to, stays in the first one.
+prepare_second_wine() {
+  local other=$1
+  [ -e "$other/system.reg" ] && return
+  mkdir -p "$other/drive_c"
+  (cd "$WINEPREFIX" && cp -a dosdevices .update-timestamp user*.reg "$other/")
+  find "$WINEPREFIX/drive_c" -mindepth 1 -maxdepth 1 ! -name windows -exec cp -a {} "$other/drive_c/" \;
+  ln -s "$WINEPREFIX/drive_c/windows" "$other/drive_c/windows"
+  cp -a "$WINEPREFIX/system.reg" "$other/"
+}
+
 # A Windows program under Wine; its own closing line tells success.
 run_windows() {
   wine "$@"

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds everything and runs all tests: the pure parts natively under the sanitizers, and the
-# plug-in in the workbench under Wine, with both code pages. Ends with "N passed, N failed".
+# plug-in in the workbench under Wine, with both code pages; then the checks of sources, documents
+# and package. Ends with "N passed, N failed".
 set -uo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 . "$here/environment.sh"
@@ -58,17 +59,21 @@ fi
 prepare_locale
 prepare_wine
 
-# The library's own checks of freed memory would count Wine's and the framework's start-up blocks.
-"$native/native_tests" >"$build/native.log" 2>&1
+# The native tests, and the tests under Wine with the code page of users' machines (936) and with
+# another one, all at once.
+second=$build/wine-second
+prepare_second_wine "$second"
+"$native/native_tests" >"$build/native.log" 2>&1 &
+LC_ALL=zh_CN.UTF-8 run_windows "$cross/quillmax_tests.exe" >"$build/windows-936.log" 2>&1 &
+WINEPREFIX=$second LC_ALL=en_US.UTF-8 run_windows "$cross/quillmax_tests.exe" \
+  >"$build/windows-1252.log" 2>&1 &
+wait
 count "native" "$build/native.log"
+count "windows, code page 936" "$build/windows-936.log"
+count "windows, code page 1252" "$build/windows-1252.log"
 
-# Users' machines have code page 936; the other one must work as well.
-for locale in zh_CN.UTF-8 en_US.UTF-8; do
-  log=$build/windows-$locale.log
-  LC_ALL=$locale run_windows "$cross/quillmax_tests.exe" >"$log" 2>&1
-  count "windows, $locale" "$log"
-done
-
+check "rooms" python3 "$here/check_rooms.py"
+check "format" "$here/check_format.sh"
 check "documents are up to date" python3 "$here/generate_docs.py" --check
 check "the library's file" "$here/check_dll.sh" "$cross/quillmax5.1C3.dll"
 check "package" "$here/check_package.sh"

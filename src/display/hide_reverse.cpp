@@ -3,9 +3,9 @@
 #include "display/hide_reverse.h"
 
 #include "display/hide_state.h"
-#include "frame/current_assembly.h"
-#include "frame/message_box.h"
-#include "frame/run_log.h"
+#include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
+#include "frame/models/current_assembly.h"
 
 namespace qm {
 namespace {

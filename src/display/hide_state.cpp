@@ -1,7 +1,7 @@
 // Hide state of components.
 #include "display/hide_state.h"
 
-#include "frame/run_log.h"
+#include "frame/messages/run_log.h"
 #include "toolkit/window.h"
 
 namespace qm {

@@ -1,7 +1,7 @@
 // Showing and hiding of components, shared by the commands that do nothing else.
 #pragma once
 
-#include "frame/component_list.h"
+#include "frame/models/component_list.h"
 #include "toolkit/assembly.h"
 
 namespace qm {

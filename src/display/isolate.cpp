@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "display/hide_state.h"
-#include "frame/current_assembly.h"
-#include "frame/message_box.h"
-#include "frame/preselection.h"
-#include "frame/run_log.h"
+#include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
+#include "frame/models/current_assembly.h"
+#include "frame/models/preselection.h"
 #include "toolkit/window.h"
 
 namespace qm {

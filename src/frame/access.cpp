@@ -1,7 +1,7 @@
 // Access functions, one a rule.
 #include "frame/access.h"
 
-#include "frame/shield.h"
+#include "frame/guard/shield.h"
 #include "toolkit/status.h"
 #include "toolkit/window.h"
 

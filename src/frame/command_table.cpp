@@ -8,16 +8,16 @@
 
 #include "display/hide_reverse.h"
 #include "display/isolate.h"
-#include "display/show_all.h"
-#include "export/qm_bom.h"
-#include "frame/information_commands.h"
-#include "frame/mdl_name_copy.h"
+#include "display/show_all_comp.h"
+#include "export/bill/bom.h"
+#include "frame/commands/information_commands.h"
+#include "frame/commands/mdl_name_copy.h"
+#include "frame/commands/selection_commands.h"
+#include "frame/commands/settings_dialog.h"
+#include "frame/commands/small_commands.h"
+#include "frame/guard/shield.h"
 #include "frame/not_in_build.h"
-#include "frame/selection_commands.h"
-#include "frame/settings_dialog.h"
-#include "frame/shield.h"
-#include "frame/small_commands.h"
-#include "params/qm_params.h"
+#include "params/params.h"
 
 namespace qm {
 namespace {

@@ -1,13 +1,13 @@
 // The two entries that the host calls: start and stop of the plug-in.
 #include <windows.h>
 
-#include "frame/host_binding.h"
+#include "frame/guard/host_binding.h"
+#include "frame/guard/shield.h"
+#include "frame/messages/run_log.h"
 #include "frame/registration.h"
 #include "frame/restore_directory.h"
-#include "frame/run_log.h"
 #include "frame/save_directory.h"
-#include "frame/shield.h"
-#include "frame/version.h"
+#include "frame/text/version.h"
 
 extern "C" int user_initialize(int argc, char* argv[], char* version, char* build,
                                wchar_t errbuf[80]);

@@ -1,7 +1,7 @@
 // The answer of commands that are not built yet.
 #include "frame/not_in_build.h"
 
-#include "frame/message_box.h"
+#include "frame/messages/message_box.h"
 
 namespace qm {
 

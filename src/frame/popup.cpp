@@ -6,11 +6,11 @@
 
 #include "frame/access.h"
 #include "frame/command_table.h"
+#include "frame/commands/small_commands.h"
+#include "frame/guard/shield.h"
 #include "frame/popup_access.h"
 #include "frame/registration.h"
-#include "frame/shield.h"
-#include "frame/small_commands.h"
-#include "frame/text.h"
+#include "frame/text/text.h"
 #include "toolkit/message.h"
 #include "toolkit/status.h"
 

@@ -2,9 +2,9 @@
 #include "frame/popup_access.h"
 
 #include "frame/access.h"
+#include "frame/guard/shield.h"
+#include "frame/models/preselection.h"
 #include "frame/popup_rules.h"
-#include "frame/preselection.h"
-#include "frame/shield.h"
 #include "toolkit/owners.h"
 
 namespace qm {

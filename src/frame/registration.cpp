@@ -3,8 +3,8 @@
 
 #include "frame/access.h"
 #include "frame/command_table.h"
-#include "frame/config.h"
 #include "frame/popup.h"
+#include "frame/settings/config.h"
 #include "toolkit/status.h"
 
 namespace qm {

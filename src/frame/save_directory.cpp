@@ -9,9 +9,9 @@
 #include <optional>
 #include <string>
 
-#include "frame/config.h"
-#include "frame/run_log.h"
-#include "frame/text.h"
+#include "frame/messages/run_log.h"
+#include "frame/settings/config.h"
+#include "frame/text/text.h"
 #include "toolkit/status.h"
 #include "toolkit/window.h"
 

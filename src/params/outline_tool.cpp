@@ -1,10 +1,10 @@
 // Measures the target models and writes their outline parameter.
 #include "params/outline_tool.h"
 
-#include "frame/message_box.h"
-#include "frame/run_log.h"
-#include "frame/visit.h"
-#include "params/host_param.h"
+#include "frame/guard/visit.h"
+#include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
+#include "frame/models/host_param.h"
 #include "params/outline_rules.h"
 #include "params/param_batch.h"
 #include "params/param_settings.h"

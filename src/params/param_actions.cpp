@@ -2,11 +2,12 @@
 // value and another operation on each model.
 #include "params/param_actions.h"
 
-#include "frame/message_box.h"
-#include "frame/run_log.h"
-#include "params/host_param.h"
+#include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
+#include "frame/models/host_param.h"
 #include "params/param_batch.h"
 #include "params/param_settings.h"
+#include "params/param_value_rules.h"
 #include "toolkit/status.h"
 
 namespace qm {

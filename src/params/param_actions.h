@@ -2,7 +2,7 @@
 // chosen class. They leave the dialog open and report only what stops them.
 #pragma once
 
-#include "frame/dialog.h"
+#include "frame/dialogs/dialog.h"
 
 namespace qm {
 

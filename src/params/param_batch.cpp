@@ -1,11 +1,11 @@
 // Collects the targets of the parameter dialog's buttons and runs over them.
 #include "params/param_batch.h"
 
-#include "frame/component_list.h"
-#include "frame/keyword_filter.h"
-#include "frame/message_box.h"
-#include "frame/run_log.h"
-#include "frame/target_list.h"
+#include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
+#include "frame/models/component_list.h"
+#include "frame/models/target_list.h"
+#include "frame/text/keyword_filter.h"
 #include "params/param_value_rules.h"
 #include "toolkit/status.h"
 #include "toolkit/window.h"

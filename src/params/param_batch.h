@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
-#include "frame/current_assembly.h"
-#include "frame/dialog.h"
-#include "frame/parameter_lookup.h"
+#include "frame/dialogs/dialog.h"
+#include "frame/models/current_assembly.h"
+#include "frame/models/parameter_lookup.h"
 #include "toolkit/types.h"
 
 namespace qm {

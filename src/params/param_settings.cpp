@@ -1,7 +1,7 @@
 // Loading and saving of the parameter dialog's fields. Each is a section named after the field.
 #include "params/param_settings.h"
 
-#include "frame/config.h"
+#include "frame/settings/config.h"
 
 namespace qm {
 namespace {

@@ -1,7 +1,7 @@
 // The fields of the parameter dialog that survive between uses, in "QmParams.ini".
 #pragma once
 
-#include "frame/dialog.h"
+#include "frame/dialogs/dialog.h"
 
 namespace qm {
 

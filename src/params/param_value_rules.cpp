@@ -7,7 +7,7 @@
 #include <limits>
 #include <system_error>
 
-#include "frame/letter_case.h"
+#include "frame/text/letter_case.h"
 
 namespace qm {
 namespace {

@@ -2,18 +2,12 @@
 // says what to correct.
 #pragma once
 
-#include <string>
 #include <string_view>
 #include <variant>
 
+#include "frame/text/parameter_value.h"
+
 namespace qm {
-
-// An integer, a real number, a string or a yes/no parameter.
-using ParamValue = std::variant<int, double, std::wstring, bool>;
-
-// Longest texts, in 16-bit characters, that the host stores.
-inline constexpr size_t kMaxParamNameLength = 31;
-inline constexpr size_t kMaxParamTextLength = 80;
 
 // A message to show when the input cannot be used.
 struct Refusal {

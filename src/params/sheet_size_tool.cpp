@@ -1,8 +1,8 @@
 // Looks up the drawings of the target models and writes their sheet size parameter.
 #include "params/sheet_size_tool.h"
 
-#include "frame/run_log.h"
-#include "params/host_param.h"
+#include "frame/messages/run_log.h"
+#include "frame/models/host_param.h"
 #include "params/param_batch.h"
 #include "params/param_settings.h"
 #include "toolkit/drawing.h"

@@ -2,7 +2,7 @@
 // into a string parameter.
 #pragma once
 
-#include "frame/dialog.h"
+#include "frame/dialogs/dialog.h"
 
 namespace qm {
 

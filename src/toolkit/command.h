@@ -46,9 +46,9 @@ PRO_FUNCTION(ProError, ProMenubarmenuPushbuttonAdd, const char* menu, const char
 
 PRO_FUNCTION(ProError, ProPopupmenuIdGet, const char* menu, ProPopupMenuId* id);
 // `position` PRO_VALUE_UNUSED appends.
-PRO_FUNCTION(ProError, ProPopupmenuButtonAdd, ProPopupMenuId menu, int position,
-             const char* button, wchar_t* label, wchar_t* help, uiCmdCmdId command,
-             ProPopupAccessFn access, ProAppData data);
+PRO_FUNCTION(ProError, ProPopupmenuButtonAdd, ProPopupMenuId menu, int position, const char* button,
+             wchar_t* label, wchar_t* help, uiCmdCmdId command, ProPopupAccessFn access,
+             ProAppData data);
 
 // A null callback removes the notification.
 PRO_FUNCTION(ProError, ProNotificationSet, ProNotifyType type, ProFunction callback);

@@ -14,8 +14,8 @@ PRO_FUNCTION(ProError, ProUITableRowsInsert, const char* dialog, const char* com
              const char* neighbour, int count, char** names);
 PRO_FUNCTION(ProError, ProUITableRowsDelete, const char* dialog, const char* component, int count,
              char** names);
-PRO_FUNCTION(ProError, ProUITableRownamesGet, const char* dialog, const char* component,
-             int* count, char*** names);
+PRO_FUNCTION(ProError, ProUITableRownamesGet, const char* dialog, const char* component, int* count,
+             char*** names);
 PRO_FUNCTION(ProError, ProUITableColumnsInsert, const char* dialog, const char* component,
              const char* neighbour, int count, char** names);
 PRO_FUNCTION(ProError, ProUITableColumnsDelete, const char* dialog, const char* component,

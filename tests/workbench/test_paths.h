@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "workbench/windows_headers.h"
+#include "workbench/base/windows_headers.h"
 
 inline std::filesystem::path TestBinaryFolder() {
   wchar_t path[MAX_PATH] = {};

@@ -1,0 +1,161 @@
+// Columns and rows of the bill's table.
+#include "export/bill/bill_table.h"
+
+#include <algorithm>
+
+#include "export/bill/bill_source.h"
+#include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
+#include "frame/models/component_list.h"
+#include "frame/settings/config.h"
+#include "frame/text/value_rules.h"
+
+namespace qm {
+namespace {
+
+constexpr char kNumberColumn[] = "num";
+constexpr wchar_t kNumberLabel[] = L"序号";
+
+enum class ColumnSource { kParameter, kNumber, kName, kQuantity, kPosition, kLevel };
+
+struct FixedLabel {
+  const wchar_t* label;
+  ColumnSource source;
+  bool levels_only;
+};
+constexpr FixedLabel kFixedLabels[] = {
+    {kNameLabel, ColumnSource::kName, false},
+    {L"模型数量", ColumnSource::kQuantity, false},
+    {L"层级1", ColumnSource::kPosition, true},
+    {L"层级2", ColumnSource::kLevel, true},
+};
+
+struct BillColumn {
+  std::string name;
+  ColumnSource source;
+  size_t parameter;  // among the parameters
+};
+
+struct BillColumns {
+  std::vector<BillColumn> columns;
+  std::vector<std::wstring> parameters;
+};
+
+ColumnSource SourceOf(const std::string& name, const std::wstring& label, BillKind kind) {
+  if (name == kNumberColumn) return ColumnSource::kNumber;
+  for (const FixedLabel& fixed : kFixedLabels) {
+    if (label == fixed.label && (kind == BillKind::kLevels || !fixed.levels_only)) {
+      return fixed.source;
+    }
+  }
+  return ColumnSource::kParameter;
+}
+
+// The columns that the table has now: the settings file may have changed since they were made.
+std::optional<BillColumns> ReadColumns(const DialogTable& table, BillKind kind) {
+  const auto names = table.ColumnNames();
+  const auto labels = table.ColumnLabels();
+  if (!names || !labels || names->size() != labels->size()) return std::nullopt;
+  BillColumns columns;
+  for (size_t i = 0; i < names->size(); ++i) {
+    const ColumnSource source = SourceOf((*names)[i], (*labels)[i], kind);
+    columns.columns.push_back({(*names)[i], source, columns.parameters.size()});
+    if (source == ColumnSource::kParameter) columns.parameters.push_back((*labels)[i]);
+  }
+  return columns;
+}
+
+// Writes the rows of one bill, one after another.
+class RowWriter {
+ public:
+  RowWriter(const DialogTable& table, const BillColumns& columns, const BillStructure& structure)
+      : table_(table),
+        columns_(columns.columns),
+        structure_(structure),
+        models_(structure, columns.parameters) {}
+
+  void Write(const BillRow& row) {
+    const std::wstring& position = position_.Of(row);
+    if (!models_.IsListed(row.model)) return;
+    std::string name = std::to_string(count_ + 1);
+    if (!Ok(table_.InsertRow(last_row_, name))) return;
+    ++count_;
+    last_row_ = std::move(name);
+    const bool is_assembly = structure_.models[row.model].type == PRO_MDL_ASSEMBLY;
+    for (const BillColumn& column : columns_) {
+      std::wstring text = Text(row, column, position);
+      if (!text.empty()) table_.SetLabel(last_row_, column.name, std::move(text));
+      if (is_assembly) table_.SetColor(last_row_, column.name, kAssemblyColor);
+    }
+  }
+
+  long long count() const { return count_; }
+
+ private:
+  std::wstring Text(const BillRow& row, const BillColumn& column, const std::wstring& position) {
+    switch (column.source) {
+      case ColumnSource::kNumber:
+        return std::to_wstring(count_);
+      case ColumnSource::kName:
+        return structure_.models[row.model].name;
+      case ColumnSource::kQuantity:
+        return std::to_wstring(row.quantity);
+      case ColumnSource::kPosition:
+        return position;
+      case ColumnSource::kLevel:
+        return std::to_wstring(row.level);
+      case ColumnSource::kParameter:
+        break;
+    }
+    return models_.Texts(row.model)[column.parameter];
+  }
+
+  const DialogTable& table_;
+  const std::vector<BillColumn>& columns_;
+  const BillStructure& structure_;
+  BillModelTexts models_;
+  PositionNumber position_;
+  std::string last_row_;
+  long long count_ = 0;
+};
+
+}  // namespace
+
+void SetBillColumns(const DialogTable& table, BillKind kind) {
+  const wchar_t* const section = kind == BillKind::kSummary ? L"tableCols_sum" : L"tableCols_level";
+  std::vector<std::wstring> labels =
+      SplitNames(ReadSetting(section, kContentKey, ConfigPath(kBillFile)));
+  auto old_columns = table.ColumnNames();
+  if (!table.DeleteAllRows() || !old_columns) {
+    ShowMessage(kUnreadableField);
+    return;
+  }
+  std::erase(*old_columns, kNumberColumn);
+  table.DeleteColumns(std::move(*old_columns));
+  std::vector<std::string> names;
+  for (size_t i = 1; i <= labels.size(); ++i) names.push_back("param" + std::to_string(i));
+  table.InsertColumns(kNumberColumn, std::move(names));
+  labels.insert(labels.begin(), kNumberLabel);
+  table.SetColumnLabels(std::move(labels));
+}
+
+void FillBill(const DialogTable& table, ProMdl assembly, BillKind kind, int depth) {
+  const auto columns = ReadColumns(table, kind);
+  if (!columns || !table.DeleteAllRows()) {
+    ShowMessage(kUnreadableField);
+    return;
+  }
+  BillStructure structure;
+  if (!Ok(ReadBillStructure(assembly, &structure))) {
+    ShowShortMessage(kNoComponentArray);
+    return;
+  }
+  RowWriter writer(table, *columns, structure);
+  const auto rows =
+      kind == BillKind::kSummary ? SummaryBill(structure) : LevelBill(structure, depth);
+  for (const BillRow& row : rows) writer.Write(row);
+  LogCount("components", static_cast<long long>(structure.occurrences.size()));
+  LogCount("rows", writer.count());
+}
+
+}  // namespace qm

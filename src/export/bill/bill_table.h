@@ -1,0 +1,28 @@
+// The bill's table in the dialog: its columns as the settings file names them, and its rows.
+#pragma once
+
+#include "export/bill/bill_rules.h"
+#include "frame/dialogs/dialog_table.h"
+
+namespace qm {
+
+// Settings file with the columns.
+inline constexpr wchar_t kBillFile[] = L"QmBom.ini";
+
+inline constexpr char kBillTable[] = "bom_list";
+
+// Background of an assembly's cells; also how the model type of a row is told later.
+inline constexpr ProUIColorType kAssemblyColor = 17;
+
+enum class BillKind { kSummary, kLevels };
+
+// The column that shows the model's name.
+inline constexpr wchar_t kNameLabel[] = L"模型名称";
+
+// Empties the table and gives it the columns of one kind of bill.
+void SetBillColumns(const DialogTable& table, BillKind kind);
+
+// Replaces the rows of the table by the bill of `assembly`. `depth` counts for the level bill only.
+void FillBill(const DialogTable& table, ProMdl assembly, BillKind kind, int depth);
+
+}  // namespace qm

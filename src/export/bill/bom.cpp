@@ -1,0 +1,149 @@
+// QmBom: the dialog with the bill's table.
+#include "export/bill/bom.h"
+
+#include <algorithm>
+
+#include "export/bill/bill_export.h"
+#include "export/bill/bill_table.h"
+#include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
+#include "frame/models/current_assembly.h"
+#include "frame/models/model_name.h"
+#include "frame/models/retrieve.h"
+#include "frame/settings/notepad.h"
+#include "toolkit/status.h"
+
+namespace qm {
+namespace {
+
+constexpr wchar_t kAssembliesOnly[] = L"此功能仅组件/制造环境可用！";
+
+constexpr char kKindRadio[] = "BomRadio";
+constexpr char kDepthMenu[] = "LevelOption";
+constexpr char kSummaryButton[] = "SumBom";
+constexpr char kLevelsButton[] = "LevelBom";
+
+DialogTable TableOf(const DialogView& dialog) {
+  return DialogTable(dialog, kBillTable);
+}
+
+// Nothing when the host does not tell.
+std::optional<BillKind> ChosenKind(const DialogView& dialog) {
+  const auto button = dialog.TryRadioValue(kKindRadio);
+  if (button == kSummaryButton) return BillKind::kSummary;
+  if (button == kLevelsButton) return BillKind::kLevels;
+  return std::nullopt;
+}
+
+// Switches the columns to the chosen bill. The rows stay empty until the user loads them.
+void PrepareChosenBill(DialogView dialog) {
+  const auto kind = ChosenKind(dialog);
+  if (!kind) {
+    ShowMessage(kUnreadableField);
+    return;
+  }
+  dialog.EnableOption(kDepthMenu, *kind == BillKind::kLevels);
+  SetBillColumns(TableOf(dialog), *kind);
+}
+
+void LoadBill(DialogView dialog) {
+  CommandLog log("QmLoadBom");
+  const auto assembly = CurrentAssembly();
+  if (!assembly) {
+    // The user has opened a part from the bill, say. The dialog is of no use to it, and its end
+    // shows the assembly again.
+    TableOf(dialog).DeleteAllRows();
+    ShowShortMessage(kAssembliesOnly);
+    dialog.Exit();
+    return;
+  }
+  const auto kind = ChosenKind(dialog);
+  int depth = 0;
+  if (kind == BillKind::kLevels) depth = DepthOf(dialog.OptionValue(kDepthMenu));
+  if (!kind || (kind == BillKind::kLevels && depth == 0)) {
+    ShowMessage(kUnreadableField);
+    return;
+  }
+  FillBill(TableOf(dialog), *assembly, *kind, depth);
+}
+
+void OpenSettings(DialogView) {
+  OpenInNotepad(kBillFile);
+}
+
+// The picture area stays empty.
+void DrawNothing(DialogView) {}
+
+// Shows the model of the row that was double-clicked. Only its colour tells the model's type.
+void ShowRowModel(DialogView dialog) {
+  dialog.KeepAboveActiveWindow();
+  const DialogTable table = TableOf(dialog);
+  const auto names = table.ColumnNames();
+  const auto labels = table.ColumnLabels();
+  const auto rows = table.SelectedRows();
+  if (!names || !labels || !rows || rows->empty()) return;
+  const auto column = static_cast<size_t>(std::ranges::find(*labels, kNameLabel) - labels->begin());
+  if (column >= std::min(labels->size(), names->size())) return;
+  const std::wstring name = table.Label(rows->front(), (*names)[column]);
+  if (name.empty()) return;
+  const bool is_assembly = table.Color(rows->front(), (*names)[column]) == kAssemblyColor;
+  const ProMdl model = RetrieveModel(name, is_assembly ? PRO_MDL_ASSEMBLY : PRO_MDL_PART);
+  if (model == nullptr) return;
+  const ProError status = ProMdlDisplay(model);
+  if (!Ok(status)) LogFailure(model, "ProMdlDisplay", status);
+}
+
+// What was shown before the dialog. By name, since the user may erase it meanwhile, unless the host
+// does not tell the name.
+class ShownModel {
+ public:
+  explicit ShownModel(const std::optional<CurrentModel>& current) : current_(current) {
+    if (current_) name_ = ModelName(current_->model);
+  }
+  void ShowAgain() const {
+    if (!current_) return;
+    const ProMdl model = name_ ? RetrieveModel(*name_, current_->type) : current_->model;
+    if (model != nullptr) ProMdlDisplay(model);
+  }
+
+ private:
+  const std::optional<CurrentModel> current_;
+  std::optional<std::wstring> name_;
+};
+
+void Bind(const Dialog& dialog) {
+  dialog.BindButton<&OpenSettings>("QmOpenBomIni");
+  dialog.BindButton<&PrepareChosenBill>("QmUpdateBomIni");
+  dialog.BindButton<&LoadBill>("QmLoadBom");
+  dialog.BindButton<&ExportBill>("QmExportBom");
+  dialog.BindRadio<&PrepareChosenBill>(kKindRadio);
+  dialog.BindTable<&ShowRowModel>(kBillTable);
+  dialog.BindCloseButton();
+  dialog.BindClose();
+}
+
+}  // namespace
+
+ProError QmBom() {
+  const auto current = CurrentModelItself();
+  const ShownModel shown(current);
+  Dialog dialog("QmBom");
+  if (!dialog.Create()) return PRO_TK_GENERAL_ERROR;
+  Bind(dialog);
+  SetBillColumns(TableOf(dialog), BillKind::kSummary);
+  const auto assembly = AssemblyOf(current);
+  if (!assembly) {
+    ShowShortMessage(kAssembliesOnly);
+    return PRO_TK_BAD_CONTEXT;
+  }
+  FillBill(TableOf(dialog), *assembly, BillKind::kSummary, 0);
+  if (ChosenKind(dialog) == BillKind::kSummary) dialog.EnableOption(kDepthMenu, false);
+  dialog.BindDrawingArea<&DrawNothing>("DrawingArea");
+  const bool activated = dialog.Activate();
+  dialog.Destroy();
+  // The user may have looked at models of the bill meanwhile.
+  shown.ShowAgain();
+  return activated ? PRO_TK_NO_ERROR : PRO_TK_GENERAL_ERROR;
+}
+
+}  // namespace qm

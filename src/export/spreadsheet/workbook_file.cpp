@@ -1,0 +1,104 @@
+// Choice, check and opening of a workbook's file.
+#include "export/spreadsheet/workbook_file.h"
+
+#include <windows.h>
+
+#include <commdlg.h>
+#include <shellapi.h>
+#include <shlobj.h>
+#include <shlwapi.h>
+
+#include <array>
+#include <iterator>
+
+#include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
+
+namespace qm {
+namespace {
+
+constexpr wchar_t kHeldOpen[] = L"文件已在excel打开，请关闭后重试";
+constexpr wchar_t kWriteFilter[] = L"EXCEL文件(*.xlsx)\0*.xlsx\0 All Files (*.*) \0*.*\0";
+constexpr wchar_t kReadFilter[] = L"Microsoft Excel 2000(*.xls)\0*.xls\0所有文件(*.*)\0*.*\0";
+constexpr wchar_t kReadExtension[] = L"xls";
+constexpr wchar_t kReadTitle[] = L"请选择需要加载的批量重命名表格文件";
+// Without the point, which the dialog adds itself.
+constexpr wchar_t kWriteExtension[] = L"xlsx";
+constexpr size_t kLongestPath = 4096;
+
+// A file dialog makes the folder that the user looks at the process's working directory.
+class WorkingDirectory {
+ public:
+  WorkingDirectory() : path_(::GetCurrentDirectoryW(0, nullptr), L'\0') {
+    ::GetCurrentDirectoryW(static_cast<DWORD>(path_.size()), path_.data());
+  }
+  WorkingDirectory(const WorkingDirectory&) = delete;
+  WorkingDirectory& operator=(const WorkingDirectory&) = delete;
+  ~WorkingDirectory() { ::SetCurrentDirectoryW(path_.c_str()); }
+
+ private:
+  std::wstring path_;
+};
+
+// Both file dialogs: nothing when the user cancels.
+std::optional<std::wstring> Choose(BOOL(WINAPI* ask)(OPENFILENAMEW*), OPENFILENAMEW dialog) {
+  std::array<wchar_t, kLongestPath> path = {};
+  dialog.lStructSize = sizeof(dialog);
+  dialog.hwndOwner = ::GetActiveWindow();
+  dialog.nFilterIndex = 1;
+  dialog.lpstrFile = path.data();
+  dialog.nMaxFile = static_cast<DWORD>(path.size());
+  const WorkingDirectory restored_at_the_end;
+  if (!ask(&dialog)) {
+    const DWORD error = ::CommDlgExtendedError();
+    if (error != 0) LogEvent("the file dialog failed with error " + std::to_string(error));
+    return std::nullopt;
+  }
+  path.back() = L'\0';
+  if (path[0] == L'\0') return std::nullopt;
+  return path.data();
+}
+
+}  // namespace
+
+std::optional<std::wstring> ChooseWorkbookToWrite() {
+  wchar_t desktop[MAX_PATH] = {};
+  ::SHGetSpecialFolderPathW(nullptr, desktop, CSIDL_DESKTOPDIRECTORY, FALSE);
+  OPENFILENAMEW dialog = {};
+  dialog.lpstrFilter = kWriteFilter;
+  dialog.lpstrInitialDir = desktop;
+  dialog.lpstrDefExt = kWriteExtension;
+  dialog.Flags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT;
+  return Choose(&::GetSaveFileNameW, dialog);
+}
+
+std::optional<std::wstring> ChooseWorkbookToRead() {
+  OPENFILENAMEW dialog = {};
+  dialog.lpstrFilter = kReadFilter;
+  dialog.lpstrTitle = kReadTitle;
+  dialog.lpstrDefExt = kReadExtension;
+  dialog.Flags = OFN_HIDEREADONLY | OFN_FILEMUSTEXIST;
+  return Choose(&::GetOpenFileNameW, dialog);
+}
+
+bool IsFreeToWrite(const std::wstring& path, OldFile old_file) {
+  // That it cannot be deleted shows when it is opened.
+  if (old_file == OldFile::kDelete && ::PathFileExistsW(path.c_str())) ::DeleteFileW(path.c_str());
+  const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_ALL, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file != INVALID_HANDLE_VALUE) {
+    ::CloseHandle(file);
+    return true;
+  }
+  const DWORD error = ::GetLastError();
+  // Any other failure, normally that there is no such file, does not stand in the way.
+  if (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION) return true;
+  ShowMessage(path + kHeldOpen);
+  return false;
+}
+
+void OpenWorkbookFile(const std::wstring& path) {
+  ::ShellExecuteW(nullptr, L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+}
+
+}  // namespace qm

@@ -1,0 +1,141 @@
+// The settings dialog: filled from the file when it opens, written back when the user presses save.
+#include "frame/commands/settings_dialog.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+#include "frame/dialogs/dialog.h"
+#include "frame/settings/config.h"
+#include "frame/text/text.h"
+#include "toolkit/owners.h"
+#include "toolkit/window.h"
+
+namespace qm {
+namespace {
+
+constexpr char kDialog[] = "QmConfig";
+
+// Radio groups in the order they are filled. Their names are the settings' names, and a setting's
+// value is the name of the selected button.
+constexpr const char* kOptions[] = {
+    "SetLastDir",      "AsmAssembly",      "PrtAssembly",
+    "SmtAssembly",     "RmbDisable",       "TweViewsUseAutoMainView",
+    "CompCopyAutoNum", "QmRandomColorOpt", "QmExportDwgDIr",
+    "QmExportPdfDIr",  "QmExportStpDir",   "QmCountForInstance",
+};
+
+// The same in the order they are written, which is the order of a new file's sections.
+constexpr const char* kOptionsAsSaved[] = {
+    "SetLastDir",       "AsmAssembly",        "PrtAssembly",    "SmtAssembly",
+    "CompCopyAutoNum",  "QmExportDwgDIr",     "QmExportPdfDIr", "QmExportStpDir",
+    "QmRandomColorOpt", "QmCountForInstance", "RmbDisable",     "TweViewsUseAutoMainView",
+};
+static_assert(std::is_permutation(std::begin(kOptions), std::end(kOptions),
+                                  std::begin(kOptionsAsSaved), std::end(kOptionsAsSaved),
+                                  [](std::string_view a, std::string_view b) { return a == b; }));
+
+struct TemplateRow {
+  // Input panel, and name of the setting.
+  const char* panel;
+  const char* button;
+  const wchar_t* title;
+};
+
+// clang-format off
+constexpr TemplateRow kTemplates[] = {
+    {"A0Asmpath",  "SelA0Asm",  L"请选择A0组件模板"},
+    {"A0Prtpath",  "SelA0Prt",  L"请选择A0零件模板"},
+    {"A1Asmpath",  "SelA1Asm",  L"请选择A1组件模板"},
+    {"A1Prtpath",  "SelA1Prt",  L"请选择A1零件模板"},
+    {"A2Asmpath",  "SelA2Asm",  L"请选择A2组件模板"},
+    {"A2Prtpath",  "SelA2Prt",  L"请选择A2零件模板"},
+    {"A3Asmpath",  "SelA3Asm",  L"请选择A3组件模板"},
+    {"A3Prtpath",  "SelA3Prt",  L"请选择A3零件模板"},
+    {"A4Asmpath",  "SelA4Asm",  L"请选择A4组件模板"},
+    {"A4Prtpath",  "SelA4Prt",  L"请选择A4零件模板"},
+    {"A4HAsmpath", "SelA4HAsm", L"请选择A4横向组件模板"},
+    {"A4HPrtpath", "SelA4HPrt", L"请选择A4横向零件模板"},
+};
+// clang-format on
+
+std::wstring Section(const char* component) {
+  return FromAnsi(component);
+}
+
+// A group without a selection, or one that the host does not tell, keeps its stored value; a new
+// file gets its section all the same.
+void SaveOption(DialogView dialog, const char* option, const std::wstring& path) {
+  const std::wstring section = Section(option);
+  const auto button = dialog.TryRadioValue(option);
+  WriteSetting(section.c_str(), kValueKey,
+               button ? FromAnsi(*button) : ReadSetting(section.c_str(), kValueKey, path), path);
+}
+
+// Paths that the host does not tell keep their stored value.
+void Save(DialogView dialog) {
+  const std::wstring path = ConfigPath(kConfigFile);
+  for (const char* const option : kOptionsAsSaved) SaveOption(dialog, option, path);
+  for (const TemplateRow& row : kTemplates) {
+    if (const auto text = dialog.TryInputValue(row.panel)) {
+      WriteSetting(Section(row.panel).c_str(), kPathKey, *text, path);
+    }
+  }
+}
+
+// Folder of the drawing formats, where the user most likely keeps templates; empty when not set.
+std::wstring FormatFolder() {
+  ProName option = L"pro_format_dir";
+  HostArray<ProPath> folders;
+  if (!Ok(ProConfigoptArrayGet(option, folders.put())) || folders.size() < 1) return {};
+  return std::wstring(FixedText(folders[0]));
+}
+
+// `data` is the row of the pressed button.
+void PickTemplate(DialogView, ProAppData data) {
+  const TemplateRow& row = *static_cast<const TemplateRow*>(data);
+  std::wstring title = row.title;
+  std::wstring filter = L"*.drw";
+  std::wstring folder = FormatFolder();
+  ProPath chosen = {};
+  const ProError status = ProFileOpen(title.data(), filter.data(), nullptr, nullptr,
+                                      folder.empty() ? nullptr : folder.data(), nullptr, chosen);
+  if (!Ok(status) || chosen[0] == L'\0') return;
+  chosen[PRO_PATH_SIZE - 1] = L'\0';
+  DialogView(kDialog).SetInputValue(row.panel, chosen);
+}
+
+void Bind(const Dialog& dialog) {
+  dialog.BindButton<&Save>("save");
+  for (const TemplateRow& row : kTemplates) {
+    dialog.BindButton<&PickTemplate>(row.button, const_cast<TemplateRow*>(&row));
+  }
+  dialog.BindClose();
+}
+
+void Fill(const Dialog& dialog) {
+  const std::wstring path = ConfigPath(kConfigFile);
+  for (const char* const option : kOptions) {
+    // An empty value selects no button.
+    const std::wstring value = ReadSetting(Section(option).c_str(), kValueKey, path);
+    dialog.SetRadioValue(option, ToAnsi(value));
+  }
+  for (const TemplateRow& row : kTemplates) {
+    dialog.SetInputValue(row.panel, ReadSetting(Section(row.panel).c_str(), kPathKey, path));
+  }
+}
+
+}  // namespace
+
+ProError QmConfig() {
+  Dialog dialog(kDialog);
+  if (!dialog.Create()) return PRO_TK_GENERAL_ERROR;
+  Bind(dialog);
+  Fill(dialog);
+  const bool was_shown = dialog.Activate();
+  dialog.Destroy();
+  return was_shown ? PRO_TK_NO_ERROR : PRO_TK_GENERAL_ERROR;
+}
+
+}  // namespace qm

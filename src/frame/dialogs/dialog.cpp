@@ -1,0 +1,126 @@
+// The calls behind dialogs and their fields.
+#include "frame/dialogs/dialog.h"
+
+#include "frame/messages/message_box.h"
+#include "toolkit/owners.h"
+
+namespace qm {
+namespace {
+
+std::optional<std::wstring> Taken(ProError status, const WideText& text) {
+  if (!Ok(status) || !text) return std::nullopt;
+  return text.get();
+}
+
+void CloseDialog(DialogView dialog) {
+  dialog.Exit();
+}
+
+}  // namespace
+
+std::wstring DialogView::InputValue(const char* component) const {
+  return TryInputValue(component).value_or(std::wstring());
+}
+
+std::optional<std::wstring> DialogView::TryInputValue(const char* component) const {
+  WideText text;
+  const ProError status = ProUIInputpanelValueGet(name(), component, text.put());
+  return Taken(status, text);
+}
+
+void DialogView::SetInputValue(const char* component, std::wstring value) const {
+  ProUIInputpanelValueSet(name(), component, value.data());
+}
+
+std::string DialogView::RadioValue(const char* component) const {
+  return TryRadioValue(component).value_or(std::string());
+}
+
+std::optional<std::string> DialogView::TryRadioValue(const char* component) const {
+  NameList names;
+  const ProError status =
+      ProUIRadiogroupSelectednamesGet(name(), component, names.put_count(), names.put_texts());
+  if (!Ok(status)) return std::nullopt;
+  return names.size() > 0 ? std::string(names[0]) : std::string();
+}
+
+void DialogView::SetRadioValue(const char* component, std::string button) const {
+  char* names[] = {button.data()};
+  ProUIRadiogroupSelectednamesSet(name(), component, 1, names);
+}
+
+std::wstring DialogView::OptionValue(const char* component) const {
+  return TryOptionValue(component).value_or(std::wstring());
+}
+
+std::optional<std::wstring> DialogView::TryOptionValue(const char* component) const {
+  WideText text;
+  const ProError status = ProUIOptionmenuValueGet(name(), component, text.put());
+  return Taken(status, text);
+}
+
+void DialogView::SetOptionValue(const char* component, std::wstring value) const {
+  ProUIOptionmenuValueSet(name(), component, value.data());
+}
+
+void DialogView::EnableOption(const char* component, bool enabled) const {
+  if (enabled) {
+    ProUIOptionmenuEnable(name(), component);
+  } else {
+    ProUIOptionmenuDisable(name(), component);
+  }
+}
+
+std::optional<bool> DialogView::CheckState(const char* component) const {
+  // Neither set nor unset, should the host answer success without a state.
+  ProBoolean state = static_cast<ProBoolean>(-1);
+  if (!Ok(ProUICheckbuttonGetState(name(), component, &state))) return std::nullopt;
+  if (state != PRO_B_FALSE && state != PRO_B_TRUE) return std::nullopt;
+  return state == PRO_B_TRUE;
+}
+
+void DialogView::SetCheck(const char* component, bool checked) const {
+  if (checked) {
+    ProUICheckbuttonSet(name(), component);
+  } else {
+    ProUICheckbuttonUnset(name(), component);
+  }
+}
+
+void DialogView::KeepAboveActiveWindow() const {
+  ProUIDialogAboveactivewindowSet(name(), PRO_B_TRUE);
+}
+
+void DialogView::Exit(int exit_status) const {
+  ProUIDialogExit(name(), exit_status);
+}
+
+bool Dialog::Create() {
+  created_ = Ok(ProUIDialogCreate(name(), name()));
+  if (!created_) ShowShortMessage(L"UIDialog Create error!");
+  return created_;
+}
+
+void Dialog::BindClose() const {
+  ProUIDialogCloseActionSet(name(), &DialogAction<&CloseDialog>::Call, nullptr);
+}
+
+void Dialog::BindCloseButton(const char* component) const {
+  BindButton<&CloseDialog>(component);
+}
+
+bool Dialog::Activate(int* exit_status) {
+  int status = 0;
+  const bool activated = Ok(ProUIDialogActivate(name(), &status));
+  if (!activated) ShowShortMessage(L"UIDialog Activate error!");
+  if (exit_status != nullptr) *exit_status = status;
+  return activated;
+}
+
+void Dialog::Destroy() {
+  if (!created_) return;
+  created_ = false;
+  if (!Ok(ProUIDialogDestroy(name()))) ShowShortMessage(L"UIDialog Destroy error!");
+}
+
+}  // namespace qm

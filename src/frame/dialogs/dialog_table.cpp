@@ -1,0 +1,132 @@
+// The calls behind the tables of dialogs.
+#include "frame/dialogs/dialog_table.h"
+
+#include "frame/messages/run_log.h"
+#include "toolkit/owners.h"
+
+namespace qm {
+namespace {
+
+// No colour of the host; stays when a success fills nothing in.
+constexpr ProUIColorType kNoColor = -1;
+
+template <typename List>
+using TextOf = std::conditional_t<std::is_same_v<List, NameList>, std::string, std::wstring>;
+
+// What a list-giving function of the host answers. "Not found" counts as an empty table.
+template <typename List, typename Function>
+std::optional<std::vector<TextOf<List>>> Gathered(Function& function, const char* dialog,
+                                                  const std::string& component) {
+  List list;
+  const ProError status = function(dialog, component.c_str(), list.put_count(), list.put_texts());
+  if (!Ok(status) && status != PRO_TK_E_NOT_FOUND) return std::nullopt;
+  std::vector<TextOf<List>> texts;
+  for (int i = 0; i < list.size(); ++i) texts.emplace_back(list[i]);
+  return texts;
+}
+
+template <typename Text>
+auto PointersTo(std::vector<Text>& texts) {
+  std::vector<typename Text::value_type*> pointers;
+  pointers.reserve(texts.size());
+  for (Text& text : texts) pointers.push_back(text.data());
+  return pointers;
+}
+
+// Logged here, since a table's user goes on with the next cell.
+ProError Logged(const char* function, ProError status) {
+  if (!Ok(status)) LogFailure(nullptr, function, status);
+  return status;
+}
+
+}  // namespace
+
+std::optional<std::vector<std::string>> DialogTable::RowNames() const {
+  return Gathered<NameList>(ProUITableRownamesGet, dialog_.name(), component_);
+}
+
+std::optional<std::vector<std::wstring>> DialogTable::RowLabels() const {
+  return Gathered<WideTextList>(ProUITableRowlabelsGet, dialog_.name(), component_);
+}
+
+std::optional<std::vector<std::string>> DialogTable::ColumnNames() const {
+  return Gathered<NameList>(ProUITableColumnnamesGet, dialog_.name(), component_);
+}
+
+std::optional<std::vector<std::wstring>> DialogTable::ColumnLabels() const {
+  return Gathered<WideTextList>(ProUITableColumnlabelsGet, dialog_.name(), component_);
+}
+
+std::optional<std::vector<std::string>> DialogTable::SelectedRows() const {
+  return Gathered<NameList>(ProUITableSelectednamesGet, dialog_.name(), component_);
+}
+
+ProError DialogTable::InsertRow(const std::string& neighbour, std::string name) const {
+  char* names[] = {name.data()};
+  return Logged("ProUITableRowsInsert", ProUITableRowsInsert(dialog_.name(), component_.c_str(),
+                                                             neighbour.c_str(), 1, names));
+}
+
+bool DialogTable::DeleteAllRows() const {
+  auto names = RowNames();
+  if (!names || names->empty()) return names.has_value();
+  return Ok(Logged("ProUITableRowsDelete", ProUITableRowsDelete(dialog_.name(), component_.c_str(),
+                                                                static_cast<int>(names->size()),
+                                                                PointersTo(*names).data())));
+}
+
+ProError DialogTable::InsertColumns(const std::string& neighbour,
+                                    std::vector<std::string> names) const {
+  if (names.empty()) return PRO_TK_NO_ERROR;
+  return Logged("ProUITableColumnsInsert",
+                ProUITableColumnsInsert(dialog_.name(), component_.c_str(), neighbour.c_str(),
+                                        static_cast<int>(names.size()), PointersTo(names).data()));
+}
+
+ProError DialogTable::DeleteColumns(std::vector<std::string> names) const {
+  if (names.empty()) return PRO_TK_NO_ERROR;
+  return Logged("ProUITableColumnsDelete",
+                ProUITableColumnsDelete(dialog_.name(), component_.c_str(),
+                                        static_cast<int>(names.size()), PointersTo(names).data()));
+}
+
+ProError DialogTable::SetColumnLabels(std::vector<std::wstring> labels) const {
+  return Logged(
+      "ProUITableColumnlabelsSet",
+      ProUITableColumnlabelsSet(dialog_.name(), component_.c_str(), static_cast<int>(labels.size()),
+                                PointersTo(labels).data()));
+}
+
+std::wstring DialogTable::Label(const std::string& row, const std::string& column) const {
+  WideText label;
+  const ProError status = ProUITableCellLabelGet(dialog_.name(), component_.c_str(), row.c_str(),
+                                                 column.c_str(), label.put());
+  if (Ok(status) && label) return label.get();
+  if (status != PRO_TK_E_NOT_FOUND) Logged("ProUITableCellLabelGet", status);
+  return {};
+}
+
+ProError DialogTable::SetLabel(const std::string& row, const std::string& column,
+                               std::wstring label) const {
+  return Logged("ProUITableCellLabelSet",
+                ProUITableCellLabelSet(dialog_.name(), component_.c_str(), row.c_str(),
+                                       column.c_str(), label.data()));
+}
+
+std::optional<ProUIColorType> DialogTable::Color(const std::string& row,
+                                                 const std::string& column) const {
+  ProUIColorType color = kNoColor;
+  const ProError status = ProUITableCellBackgroundColorGet(dialog_.name(), component_.c_str(),
+                                                           row.c_str(), column.c_str(), &color);
+  if (!Ok(status) || color == kNoColor) return std::nullopt;
+  return color;
+}
+
+ProError DialogTable::SetColor(const std::string& row, const std::string& column,
+                               ProUIColorType color) const {
+  return Logged("ProUITableCellBackgroundColorSet",
+                ProUITableCellBackgroundColorSet(dialog_.name(), component_.c_str(), row.c_str(),
+                                                 column.c_str(), color));
+}
+
+}  // namespace qm

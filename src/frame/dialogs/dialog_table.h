@@ -1,0 +1,48 @@
+// The table of a dialog, as commands fill and read it: rows and columns by name, cells by label and
+// background colour.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "frame/dialogs/dialog.h"
+#include "toolkit/ui_table.h"
+
+namespace qm {
+
+// A table by its dialog and name. Owns nothing.
+class DialogTable {
+ public:
+  DialogTable(DialogView dialog, std::string component)
+      : dialog_(std::move(dialog)), component_(std::move(component)) {}
+
+  // Nothing when the host does not tell, which differs from an empty table.
+  std::optional<std::vector<std::string>> RowNames() const;
+  std::optional<std::vector<std::wstring>> RowLabels() const;
+  std::optional<std::vector<std::string>> ColumnNames() const;
+  std::optional<std::vector<std::wstring>> ColumnLabels() const;
+  std::optional<std::vector<std::string>> SelectedRows() const;
+
+  // After row `neighbour`; an empty one inserts at the start.
+  ProError InsertRow(const std::string& neighbour, std::string name) const;
+  // False when a row may be left.
+  bool DeleteAllRows() const;
+  ProError InsertColumns(const std::string& neighbour, std::vector<std::string> names) const;
+  ProError DeleteColumns(std::vector<std::string> names) const;
+  // One label for each column, in their order.
+  ProError SetColumnLabels(std::vector<std::wstring> labels) const;
+
+  // Empty when nothing was written to the cell, or when it cannot be read, which is logged.
+  std::wstring Label(const std::string& row, const std::string& column) const;
+  ProError SetLabel(const std::string& row, const std::string& column, std::wstring label) const;
+  // Nothing for a cell that was not coloured.
+  std::optional<ProUIColorType> Color(const std::string& row, const std::string& column) const;
+  ProError SetColor(const std::string& row, const std::string& column, ProUIColorType color) const;
+
+ private:
+  DialogView dialog_;
+  std::string component_;
+};
+
+}  // namespace qm

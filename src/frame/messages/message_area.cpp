@@ -1,0 +1,18 @@
+// Notes in the message area.
+#include "frame/messages/message_area.h"
+
+#include <string>
+
+namespace qm {
+
+void DisplayNote(const char* key, const wchar_t* argument, const wchar_t* file) {
+  // The host takes the file's name as changeable text.
+  std::wstring file_name = file;
+  if (argument != nullptr) {
+    ProMessageDisplay(file_name.data(), key, argument);
+  } else {
+    ProMessageDisplay(file_name.data(), key);
+  }
+}
+
+}  // namespace qm

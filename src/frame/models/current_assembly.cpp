@@ -1,0 +1,40 @@
+// Looks up the model that a command works on.
+#include "frame/models/current_assembly.h"
+
+#include "toolkit/status.h"
+
+namespace qm {
+namespace {
+
+std::optional<CurrentModel> WithoutManufacturing(const std::optional<CurrentModel>& current) {
+  if (!current || current->type != PRO_MDL_MFG) return current;
+  ProAssembly assembly = nullptr;
+  if (!Ok(ProMfgAssemGet(current->model, &assembly)) || assembly == nullptr) return std::nullopt;
+  return CurrentModel{assembly, PRO_MDL_ASSEMBLY};
+}
+
+}  // namespace
+
+std::optional<CurrentModel> CurrentModelItself() {
+  ProMdl model = nullptr;
+  ProMdlType type = PRO_MDL_UNUSED;
+  if (!Ok(ProMdlCurrentGet(&model)) || model == nullptr) return std::nullopt;
+  if (!Ok(ProMdlTypeGet(model, &type))) return std::nullopt;
+  return CurrentModel{model, type};
+}
+
+std::optional<CurrentModel> CurrentModelOrAssembly() {
+  return WithoutManufacturing(CurrentModelItself());
+}
+
+std::optional<ProMdl> AssemblyOf(const std::optional<CurrentModel>& current) {
+  const auto assembly = WithoutManufacturing(current);
+  if (!assembly || assembly->type != PRO_MDL_ASSEMBLY) return std::nullopt;
+  return assembly->model;
+}
+
+std::optional<ProMdl> CurrentAssembly() {
+  return AssemblyOf(CurrentModelItself());
+}
+
+}  // namespace qm

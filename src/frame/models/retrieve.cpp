@@ -1,0 +1,22 @@
+// Retrieval of models by name.
+#include "frame/models/retrieve.h"
+
+#include <string>
+
+#include "frame/messages/run_log.h"
+#include "frame/models/parameter_lookup.h"
+#include "frame/text/text.h"
+#include "toolkit/status.h"
+
+namespace qm {
+
+ProMdl RetrieveModel(std::wstring_view name, ProMdlType type) {
+  HostName host_name(name);
+  ProMdl model = nullptr;
+  const ProError status = ProMdlRetrieve(host_name.name, type, &model);
+  if (Ok(status) && model != nullptr) return model;
+  LogEvent("ProMdlRetrieve of " + ToUtf8(name) + " answered " + StatusName(status));
+  return nullptr;
+}
+
+}  // namespace qm

@@ -1,0 +1,39 @@
+// Settings files through Windows' private-profile functions.
+#include "frame/settings/config.h"
+
+#include <windows.h>
+
+#include "toolkit/status.h"
+#include "toolkit/window.h"
+
+namespace qm {
+
+std::wstring ConfigPath(const wchar_t* file) {
+  wchar_t path[MAX_PATH] = {};
+  const HMODULE module = ::GetModuleHandleW(kPluginFileName);
+  // Without a module Windows would answer with the host's own file.
+  const DWORD length = module != nullptr ? ::GetModuleFileNameW(module, path, MAX_PATH) : 0;
+  return ConfigPathBeside({path, length}, kPluginFileName, file);
+}
+
+std::wstring TextFolderConfigPath(const wchar_t* file) {
+  ProPath folder = {};
+  if (!Ok(ProToolkitApplTextPathGet(folder))) return ConfigPath(file);
+  folder[PRO_PATH_SIZE - 1] = L'\0';
+  if (folder[0] == L'\0') return ConfigPath(file);
+  return ConfigPathIn(folder, file);
+}
+
+std::wstring ReadSetting(const wchar_t* section, const wchar_t* key, const std::wstring& path) {
+  constexpr DWORD kBufferSize = 255;
+  wchar_t value[kBufferSize] = {};
+  ::GetPrivateProfileStringW(section, key, L"", value, kBufferSize, path.c_str());
+  return value;
+}
+
+void WriteSetting(const wchar_t* section, const wchar_t* key, const std::wstring& value,
+                  const std::wstring& path) {
+  ::WritePrivateProfileStringW(section, key, value.c_str(), path.c_str());
+}
+
+}  // namespace qm

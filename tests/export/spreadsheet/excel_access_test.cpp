@@ -1,0 +1,305 @@
+// Writer and reader of workbooks against the spreadsheet program of the workbench, also where a
+// call fails. What a bill looks like in its workbook is checked by scripts.
+#include "tests/absent_user.h"
+#include "tests/export/spreadsheet/excel_probe.h"
+#include "tests/workbench/host/host_fixture.h"
+#include "workbench/base/text.h"
+#include "workbench/plugin/plugin.h"
+#include "workbench/spreadsheet/spreadsheet_server.h"
+#include "workbench/workbook/xlsx_file.h"
+
+namespace wb {
+namespace {
+
+namespace fs = std::filesystem;
+
+// How a call fails: with a reason of the program's own, with a bare result, or since it is gone.
+struct FailureWay {
+  SpreadsheetOrders (*orders)(long nth);
+  const char* reason;
+};
+constexpr FailureWay kFailureWays[] = {
+    {[](long nth) { return SpreadsheetOrders{.fail_at = nth}; },
+     "the workbench was told to fail this call"},
+    {[](long nth) { return SpreadsheetOrders{.fail_at = nth, .fail_silently = true}; },
+     "(0x8007000E)"},
+    {[](long nth) { return SpreadsheetOrders{.die_at = nth}; }, "程序已意外退出"},
+};
+
+class ExcelAccess : public HostFixture {
+ protected:
+  ExcelAccess() : module_(::LoadLibraryW((TestBinaryFolder() / "excel_probe.dll").c_str())) {
+    if (module_ != nullptr) InterceptImports(module_);
+    host_.windows.local_app_folder = folder_;
+    host_.trace.keep_lines = true;
+  }
+  ~ExcelAccess() override { ::FreeLibrary(module_); }
+
+  SpreadsheetServer spreadsheet_{host_};
+
+  template <typename Function>
+  Function Find(const char* name) const {
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(module_, name)));
+  }
+  bool Write() const { return Find<WriteProbe>("WriteTable")(file_.c_str()); }
+  // The cells, or "unreadable".
+  std::string Read() const {
+    wchar_t texts[1024] = {};
+    if (!Find<ReadProbe>("ReadTable")(file_.c_str(), texts, 1024)) return "unreadable";
+    return FromWide(texts);
+  }
+
+  // Text of the only box since the last call; "" when there was none.
+  std::string TakeBox() {
+    const auto boxes = std::exchange(host_.windows.boxes, {});
+    EXPECT_LE(boxes.size(), 1u);
+    return boxes.empty() ? "" : boxes[0].text;
+  }
+  std::vector<std::string> ExcelCalls() const {
+    std::vector<std::string> names;
+    for (const Crossed& line : host_.trace.lines()) {
+      if (line.function.starts_with(kSpreadsheetPrefix)) names.push_back(line.function.substr(6));
+    }
+    return names;
+  }
+  // Gives `way` of failing to call 1, 2, 3 ... of `action` until it succeeds, with `check` after
+  // each failure.
+  template <typename Action, typename Check>
+  int FailEachCall(const FailureWay& way, Action action, Check check) {
+    for (int nth = 1; nth < 1000; ++nth) {
+      spreadsheet_.Order(way.orders(nth));
+      if (action()) return nth;
+      EXPECT_NE(TakeBox().find(way.reason), std::string::npos) << nth;
+      EXPECT_TRUE(spreadsheet_.Gone()) << nth;
+      check(nth);
+    }
+    return 0;
+  }
+
+  // Answers every file dialog with this path, or cancels.
+  struct Chooser : AbsentUser {
+    std::optional<std::string> ChooseFile(const FileRequest&) override { return file; }
+    std::optional<std::string> file;
+  };
+  std::string Choose() {
+    host_.user = &chooser_;
+    wchar_t path[MAX_PATH] = {};
+    const bool chosen = Find<ChooseProbe>("ChooseTable")(path, MAX_PATH);
+    host_.user = nullptr;
+    return chosen ? FromWide(path) : "none";
+  }
+  bool IsFree(const fs::path& file, bool deletes) const {
+    return Find<CheckProbe>("CheckFree")(file.c_str(), deletes);
+  }
+  std::string Log() const {
+    std::ifstream log(folder_ / "Quillmax" / "quillmax.log");
+    return {std::istreambuf_iterator<char>(log), {}};
+  }
+
+  Chooser chooser_;
+  const fs::path file_ = folder_ / "table.xlsx";
+
+ private:
+  HMODULE module_;
+};
+
+TEST_F(ExcelAccess, ATableComesBackAsItWasWritten) {
+  ASSERT_TRUE(Write());
+  EXPECT_EQ(Read(), "1/2||\n=A1|007|\n'a|=1+1|\n0012||\n");
+  EXPECT_EQ(TakeBox(), "");
+  EXPECT_EQ(Breaches(), Lines());
+}
+
+TEST_F(ExcelAccess, ALargeTableTellsItsProgress) {
+  WriteFile("text/chinese_cn/qmmsg_display.txt",
+            "Rows written to Excel: %0w\nRows written to Excel: %0w\n已写入Excel的行数：%0w\n\n");
+  const auto write = Find<WriteRowsProbe>("WriteRows");
+  EXPECT_TRUE(write(file_.c_str(), 100));
+  EXPECT_EQ(host_.messages.notes, Lines());
+  EXPECT_TRUE(write(file_.c_str(), 250));
+  EXPECT_EQ(host_.messages.notes, (Lines{"已写入Excel的行数：100/250", "已写入Excel的行数：200/250",
+                                         "已写入Excel的行数：250/250"}));
+  EXPECT_EQ(Breaches(), Lines());
+}
+
+TEST_F(ExcelAccess, TheReaderTakesWholeNumbersAndPassesEmptyRows) {
+  Workbook book = NewWorkbook();
+  Worksheet& sheet = book.sheets.front();
+  sheet.SetValue({1, 1}, 1001.0);
+  sheet.SetValue({1, 2}, 12.75);
+  sheet.SetValue({3, 1}, true);
+  sheet.SetValue({3, 2}, std::string("螺栓"));
+  WriteXlsx(book, file_);
+  EXPECT_EQ(Read(), "1001|12|\n||\nTRUE|螺栓|\n");
+}
+
+TEST_F(ExcelAccess, TheReaderAsksForTheSheetAndThenForEachCell) {
+  Workbook book = NewWorkbook();
+  book.sheets.front().SetValue({1, 2}, std::string("x"));
+  WriteXlsx(book, file_);
+  EXPECT_EQ(Read(), "|x|\n");
+  EXPECT_EQ(ExcelCalls(),
+            (Lines{"Application.Workbooks", "Workbooks.Open", "Workbook.Worksheets",
+                   "Workbook.ActiveSheet", "Worksheet.UsedRange", "Range.Rows", "Range.Count",
+                   "Worksheet.Cells", "Range.Item", "Range.Value2", "Worksheet.Cells", "Range.Item",
+                   "Range.Value2", "Workbook.Close", "Application.Quit"}));
+}
+
+TEST_F(ExcelAccess, AFailureAtAnyCallOfTheReaderLeavesNothingRunning) {
+  WriteXlsx(NewWorkbook(), file_);
+  for (const FailureWay& way : kFailureWays) {
+    EXPECT_EQ(FailEachCall(
+                  way, [&] { return Read() != "unreadable"; }, [](int) {}),
+              16)
+        << way.reason;
+  }
+  EXPECT_EQ(Breaches(), Lines());
+}
+
+TEST_F(ExcelAccess, AFailureAtAnyCallOfTheWriterLeavesNoFile) {
+  for (const FailureWay& way : kFailureWays) {
+    fs::remove(file_);
+    const auto check = [&](int nth) { EXPECT_FALSE(fs::exists(file_)) << nth; };
+    EXPECT_GT(FailEachCall(
+                  way, [&] { return Write(); }, check),
+              40)
+        << way.reason;
+    EXPECT_TRUE(fs::exists(file_));
+  }
+  EXPECT_EQ(Breaches(), Lines());
+}
+
+TEST_F(ExcelAccess, AFileThatWasNotTouchedYetSurvivesAFailure) {
+  WriteFile("table.xlsx", "old");
+  SpreadsheetOrders orders;
+  orders.fail_at = 1;
+  orders.fail_member = "Range.Merge";
+  spreadsheet_.Order(orders);
+  EXPECT_FALSE(Write());
+  EXPECT_EQ(fs::file_size(file_), 3u);
+}
+
+// Not to be asked again for 30 seconds at each step of the clearing up, too.
+TEST_F(ExcelAccess, AProgramThatIsBusyForGoodIsGivenUpAfterThirtySeconds) {
+  SpreadsheetOrders orders;
+  orders.busy = 1'000'000;
+  spreadsheet_.Order(orders);
+  EXPECT_FALSE(Write());
+  EXPECT_NE(TakeBox().find("步骤：Workbooks\t\n\t原因：程序正忙，没有应答"), std::string::npos);
+  EXPECT_GE(host_.windows.slept_ms, 30'000u);
+  EXPECT_LE(host_.windows.slept_ms, 34'000u);
+  EXPECT_EQ(spreadsheet_.Settle(0), Lines()) << "no object is kept";
+  EXPECT_FALSE(spreadsheet_.Gone()) << "it never ended";
+}
+
+TEST_F(ExcelAccess, AProgramThatIsBusyForSomeSecondsIsWaitedFor) {
+  spreadsheet_.Order({.busy = 9});
+  EXPECT_TRUE(Write());
+  EXPECT_EQ(host_.windows.slept_ms, 20u * 255 + 4000u);  // 20, 40, ... 2560, then 4000
+  // Also when it is to end after a failure.
+  spreadsheet_.Order({.busy = 9, .busy_after = 10, .fail_at = 10});
+  EXPECT_FALSE(Write());
+  EXPECT_EQ(host_.windows.slept_ms, 2 * (20u * 255 + 4000u));
+  EXPECT_TRUE(spreadsheet_.Gone());
+  // But not for the full time at each of its calls.
+  host_.windows.slept_ms = 0;
+  spreadsheet_.Order({.busy = 1'000'000, .busy_after = 10, .fail_at = 10});
+  EXPECT_FALSE(Write());
+  EXPECT_LE(host_.windows.slept_ms, 34'000u);
+}
+
+TEST_F(ExcelAccess, AnUnfinishedFileIsDeletedOnceItsHolderLetsGo) {
+  struct Holder {
+    const fs::path& file;
+    HANDLE handle = INVALID_HANDLE_VALUE;
+  } holder{file_};
+  const auto write_and_hold = [](void* data) {
+    auto& to = *static_cast<Holder*>(data);
+    std::ofstream(to.file) << "half";
+    to.handle = ::CreateFileW(to.file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                              OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  };
+  host_.windows.in_pause = [&] {
+    if (host_.windows.slept_ms == 300) ::CloseHandle(holder.handle);
+  };
+  Find<BeginProbe>("BeginFile")(file_.c_str(), write_and_hold, &holder);
+  EXPECT_EQ(host_.windows.slept_ms, 300u);
+  EXPECT_FALSE(fs::exists(file_));
+  EXPECT_EQ(Log(), "");
+  // Somebody who does not is left alone after two seconds.
+  host_.windows.slept_ms = 1000;
+  Find<BeginProbe>("BeginFile")(file_.c_str(), write_and_hold, &holder);
+  EXPECT_EQ(host_.windows.slept_ms, 3000u);
+  EXPECT_NE(Log().find("could not be deleted"), std::string::npos);
+  ::CloseHandle(holder.handle);
+}
+
+TEST_F(ExcelAccess, AnUnfinishedFileThatStaysIsTold) {
+  EXPECT_TRUE(Write());
+  fs::remove(file_);
+  // Somebody takes hold of the file between its saving and the call that fails.
+  const auto saving = static_cast<long>(ExcelCalls().size()) - 2;
+  spreadsheet_.Order(
+      {.busy = 1, .busy_after = saving, .fail_at = 1, .fail_member = "Workbook.Saved="});
+  HANDLE held = INVALID_HANDLE_VALUE;
+  host_.windows.in_pause = [&] {
+    if (held != INVALID_HANDLE_VALUE) return;
+    held = ::CreateFileW(file_.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                         FILE_ATTRIBUTE_NORMAL, nullptr);
+  };
+  EXPECT_FALSE(Write());
+  EXPECT_TRUE(TakeBox().starts_with("\t导出Excel失败，未完成的文件无法删除，请手动删除：" +
+                                    PathToUtf8(file_) + "\t\n\t步骤：Saved\t"));
+  ::CloseHandle(held);
+}
+
+TEST_F(ExcelAccess, TheTableToReadIsAskedForInAnOpenDialog) {
+  chooser_.file = "C:\\names\\table.xls";
+  EXPECT_EQ(Choose(), "C:\\names\\table.xls");
+  ASSERT_EQ(host_.windows.file_requests.size(), 1u);
+  const FileRequest& request = host_.windows.file_requests[0];
+  EXPECT_EQ(request.asked_by, "GetOpenFileNameW");
+  EXPECT_EQ(request.title, "请选择需要加载的批量重命名表格文件");
+  EXPECT_EQ(request.filter, "Microsoft Excel 2000(*.xls)|*.xls|所有文件(*.*)|*.*");
+  chooser_.file.reset();
+  EXPECT_EQ(Choose(), "none");
+  EXPECT_EQ(Log(), "");
+}
+
+TEST_F(ExcelAccess, AFileDialogThatFailsIsToldFromACancelInTheLog) {
+  chooser_.file = "C:\\a.xls";
+  host_.faults.Order({.function = "GetOpenFileNameW", .nth = 1});
+  EXPECT_EQ(Choose(), "none");
+  EXPECT_NE(Log().find("the file dialog failed with error 65535"), std::string::npos) << Log();
+}
+
+TEST_F(ExcelAccess, AFileHeldOpenIsReportedAndKept) {
+  WriteFile("table.xlsx", "old");
+  const HANDLE held = ::CreateFileW(file_.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  for (const bool deletes : {false, true}) {
+    EXPECT_FALSE(IsFree(file_, deletes));
+    EXPECT_EQ(TakeBox(), PathToUtf8(file_) + "文件已在excel打开，请关闭后重试");
+  }
+  ::CloseHandle(held);
+  EXPECT_TRUE(IsFree(file_, false));
+  EXPECT_EQ(fs::file_size(file_), 3u) << "the check alone deletes nothing";
+  EXPECT_TRUE(IsFree(file_, true));
+  EXPECT_FALSE(fs::exists(file_));
+  EXPECT_TRUE(IsFree(file_, true));
+  EXPECT_TRUE(IsFree(folder_ / "no folder" / "table.xlsx", false));
+  EXPECT_EQ(TakeBox(), "");
+}
+
+TEST_F(ExcelAccess, AProgramThatIsNotThereIsReported) {
+  SpreadsheetOrders orders;
+  orders.missing = true;
+  spreadsheet_.Order(orders);
+  EXPECT_EQ(Read(), "unreadable");
+  EXPECT_EQ(TakeBox(), "无法启动Excel服务器!");
+  EXPECT_FALSE(Write());
+  EXPECT_EQ(TakeBox(), "创建Excel失败");
+}
+
+}  // namespace
+}  // namespace wb

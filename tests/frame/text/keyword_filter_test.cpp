@@ -1,0 +1,54 @@
+// Exclusion keywords as users type them, against names as models have them.
+#include "frame/text/keyword_filter.h"
+
+#include <gtest/gtest.h>
+
+#include "frame/text/letter_case.h"
+
+namespace qm {
+namespace {
+
+struct Case {
+  const wchar_t* list;
+  const wchar_t* name;
+  bool excluded;
+};
+
+TEST(KeywordFilter, ExcludesNamesThatBeginWithAKeyword) {
+  const Case cases[] = {
+      {L"gb，iso", L"GB_BOLT", true},  // full-width comma
+      {L"gb，iso", L"ISO4762", true},
+      {L"gb，iso", L"BOLT_GB", false},  // inside the name
+      {L"GB", L"gb_bolt", true},
+      {L"gb,", L"PUMP", false},  // trailing empty piece
+      {L"", L"PUMP", false},
+      {L",", L"PUMP", false},
+      {L"gb,,iso", L"PUMP", false},  // an empty piece excludes nothing
+      {L",iso", L"ISO4762", true},
+      {L"gb,，iso", L"iso1", true},
+      {L"gb, iso", L"ISO4762", false},  // the blank belongs to the keyword
+      {L"gb, iso", L" iso4762", true},
+      {L"gb_bolt_long", L"GB", false},  // longer than the name
+      {L"标准件", L"标准件_螺栓", true},
+      {L"Ø", L"ø20_PIN", true},
+      {L"деталь", L"ДЕТАЛЬ-1", true},
+      {L"ＧＢ", L"ｇｂ70", true},  // full-width letters
+      {L"gb", L"ＧＢ70", false},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(KeywordFilter(c.list).Excludes(c.name), c.excluded)
+        << "case " << (&c - cases) << " of the table";
+  }
+}
+
+TEST(LowerCased, TurnsCapitalsOnlyAndKeepsTheLength) {
+  EXPECT_EQ(LowerCased(L"AZ[@`az09"), L"az[@`az09");
+  EXPECT_EQ(LowerCased(L"ÀÖ×ØÞß"), L"àö×øþß");
+  EXPECT_EQ(LowerCased(L"ĀāŸŹź"), L"āāÿźź");
+  EXPECT_EQ(LowerCased(L"ΆΈΌΏΑΡΣΫ"), L"άέόώαρσϋ");
+  EXPECT_EQ(LowerCased(L"ЀЏАЯѠҀ"), L"ѐџаяѡҁ");
+  EXPECT_EQ(LowerCased(L"ẞ零件Ⅳ"), L"ẞ零件ⅳ");
+}
+
+}  // namespace
+}  // namespace qm

@@ -1,0 +1,84 @@
+// What the drawing of a dialog shows, and what it must not let through.
+#include "workbench/dialog/dialog_html.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace wb {
+namespace {
+
+constexpr const char* kResource = R"((Dialog D
+    (Components (InputPanel Field) (RadioGroup Radio) (PushButton Ok) (Table Bill) (Tab Pages)
+        (SubLayout One) (SubLayout Two) (Label L1) (Label L2))
+    (Resources
+        (.Label "<Title> & \"more\"") (.DefaultButton "Ok")
+        (.Layout (Grid (Rows 1 1 1 1 1) (Cols 1) Field Radio Ok Bill Pages))
+        (Field.HelpText "\"><b>") (Radio.Names "a" "b") (Radio.Labels "Ay" "Bee")
+        (Ok.Label "OK") (Bill.ColumnNames "num") (Bill.ColumnLabels "No")
+        (Pages.Layout (Grid (Rows 1) (Cols 1 1) One Two)) (One.Label "First") (Two.Label "Second")
+        (One.Layout (Grid (Rows 1) (Cols 1) L1)) (Two.Layout (Grid (Rows 1) (Cols 1) L2))
+        (L1.Label "on page one") (L2.Label "on page two")
+    )))";
+
+class DialogHtmlTest : public testing::Test {
+ protected:
+  bool Shows(const std::string& part) const {
+    return DrawDialog(dialog_).find(part) != std::string::npos;
+  }
+  TableModel& Bill() {
+    TableModel* table = nullptr;
+    EXPECT_EQ(dialog_.Find(ComponentKind::kTable, "Bill", &table), UiStatus::kOk);
+    return *table;
+  }
+
+  Dialog dialog_{ParseDialogResource(kResource, "D.res")};
+};
+
+TEST_F(DialogHtmlTest, EveryTextIsEscaped) {
+  dialog_.UserSetField("Field", "<script>'x'</script>");
+  Bill().InsertRows("", {"1"});
+  Bill().SetLabel("1", "num", "a<b>&");
+  EXPECT_TRUE(Shows("&lt;Title&gt; &amp; &quot;more&quot;"));
+  EXPECT_TRUE(Shows("title=\"&quot;&gt;&lt;b&gt;\""));
+  EXPECT_TRUE(Shows("a&lt;b&gt;&amp;"));
+  EXPECT_FALSE(Shows("<script>"));
+}
+
+TEST_F(DialogHtmlTest, ShowsTheLiveState) {
+  EXPECT_TRUE(Shows("<div><i></i>Bee</div>"));
+  EXPECT_TRUE(Shows("dlg-button dlg-default\" data-name=\"Ok\""));
+  dialog_.UserSelect("Radio", {"b"});
+  dialog_.SetEnabled(ComponentKind::kPushButton, "Ok", false);
+  dialog_.SetVisible(ComponentKind::kInputPanel, "Field", false);
+  EXPECT_TRUE(Shows("<div class=\"dlg-on\"><i></i>Bee</div>"));
+  EXPECT_TRUE(Shows("dlg-button dlg-default dlg-off\" data-name=\"Ok\""));
+  EXPECT_FALSE(Shows("data-name=\"Field\""));
+}
+
+TEST_F(DialogHtmlTest, TabPagesFollowOneAnotherEachUnderItsTab) {
+  const std::string html = DrawDialog(dialog_);
+  const auto first = html.find("<span class=\"dlg-on\">First</span><span>Second</span>");
+  const auto second = html.find("<span>First</span><span class=\"dlg-on\">Second</span>");
+  ASSERT_NE(first, std::string::npos);
+  ASSERT_NE(second, std::string::npos);
+  EXPECT_LT(first, html.find("on page one"));
+  EXPECT_LT(html.find("on page one"), second);
+  EXPECT_LT(second, html.find("on page two"));
+}
+
+TEST_F(DialogHtmlTest, LongTablesAreCutAndColoursDrawn) {
+  std::vector<std::string> names;
+  for (int i = 1; i <= 203; ++i) names.push_back(std::to_string(i));
+  Bill().InsertRows("", names);
+  Bill().SetLabel("200", "num", "last drawn");
+  Bill().SetLabel("201", "num", "not drawn");
+  Bill().SetBackground("1", "num", 17);
+  EXPECT_TRUE(Shows("<td style=\"background:#e6f2b8;\">"));
+  EXPECT_TRUE(Shows("last drawn"));
+  EXPECT_FALSE(Shows("not drawn"));
+  EXPECT_TRUE(Shows("… 3 more rows"));
+}
+
+}  // namespace
+}  // namespace wb

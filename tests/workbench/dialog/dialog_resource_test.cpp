@@ -1,0 +1,185 @@
+// What a dialog resource file may say, and how each mistake in one is told.
+#include "workbench/dialog/dialog_resource.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "tests/workbench/temporary_folder.h"
+
+namespace wb {
+namespace {
+
+constexpr const char* kGoodResource = R"(! comment before the dialog
+(Dialog Sample
+    (Components
+        (SubLayout Target) (RadioGroup Kind) (InputPanel Field) (PushButton Ok) (CheckButton Deep)
+    )
+    (Resources
+        (.Label "say \"hi\"\\now\nthere")  ! comment to the end of the line
+        (.DefaultButton "Ok")
+        (.Layout (Grid (Rows 1 0) (Cols 1) Target (Grid (Rows 0) (Cols 0 2) (Pos 1 2) Ok)))
+        (Target.Layout (Grid (Rows 1 1) (Cols 0 1) Kind Field (Pos 2 2) Deep))
+        (Kind.Names "a" "b") (Kind.Labels "甲" "乙") (Kind.SelectedNames "b")
+        (Field.Columns 24) (Field.MaxLen 3) (Field.Value "千米") (Deep.Set True)
+    )
+)
+)";
+
+TEST(DialogResource, ReadsComponentsAttributesAndLayout) {
+  const DialogResource resource = ParseDialogResource(kGoodResource, "Sample.res");
+  EXPECT_EQ(resource.name, "Sample");
+  EXPECT_EQ(resource.dialog.Text("Label"), "say \"hi\"\\now\nthere");
+  ASSERT_EQ(resource.components.size(), 5u);
+  EXPECT_EQ(resource.components[3].name, "Ok");
+  EXPECT_EQ(resource.Find("Kind")->Texts("Labels"), (std::vector<std::string>{"甲", "乙"}));
+  EXPECT_EQ(resource.Find("Field")->Number("Columns", 0), 24);
+  EXPECT_TRUE(resource.Find("Deep")->Flag("Set", false));
+  EXPECT_EQ(resource.Find("Field")->parent, "Target");
+  EXPECT_EQ(resource.Find("Target")->parent, "");
+  const LayoutCell& deep = resource.Find("Target")->layout.cells[2];
+  EXPECT_EQ(deep.component, "Deep");
+  EXPECT_EQ(deep.row, 1);
+  EXPECT_EQ(deep.column, 1);
+  const LayoutGrid& nested = resource.dialog.layout.cells[1].nested.at(0);
+  EXPECT_EQ(nested.column_weights, (std::vector<int>{0, 2}));
+  EXPECT_EQ(nested.cells[0].column, 1);
+}
+
+// A resource of one line a row, so that every mistake below has a line of its own.
+std::string Resource(const std::string& components, const std::string& resources) {
+  return "(Dialog D\n(Components\n" + components + "\n)(Resources\n" + resources + "\n))";
+}
+
+struct BadResource {
+  const char* name;
+  std::string text;
+  int line;
+  const char* reason;  // a stretch of it
+};
+
+void PrintTo(const BadResource& bad, std::ostream* out) {
+  *out << bad.name;
+}
+
+const char* const kOneButton = "(PushButton B)";
+const char* const kOneRadio = "(RadioGroup R)";
+const char* const kPlaceB = "(.Layout (Grid (Rows 1) (Cols 1) B))\n";
+const char* const kPlaceR = "(.Layout (Grid (Rows 1) (Cols 1) R))\n";
+
+class DialogResourceErrors : public testing::TestWithParam<BadResource> {};
+
+TEST_P(DialogResourceErrors, NamesLineAndReason) {
+  try {
+    ParseDialogResource(GetParam().text, "bad.res");
+    FAIL() << "accepted";
+  } catch (const ResourceError& error) {
+    EXPECT_EQ(error.file, "bad.res");
+    EXPECT_EQ(error.line, GetParam().line) << error.what();
+    EXPECT_NE(error.reason.find(GetParam().reason), std::string::npos) << error.what();
+  }
+}
+
+const BadResource kBadSyntax[] = {
+    {"Empty", "! nothing\n", 2, "no (Dialog"},
+    {"OpenParen", "(Dialog D\n(Components", 2, "never closed"},
+    {"OpenString", "(Dialog D\n(Components)\n(Resources (.Label \"x\n)))", 3, "not closed on its"},
+    {"TextBehind", Resource("", "(.Layout (Grid (Rows 1) (Cols 1)))") + "\n)", 7, "unexpected"},
+    {"UnknownEscape", Resource("", "(.Label \"a\\t\")"), 5, "unknown escape \\t"},
+    {"NotUtf8", Resource("", "(.Label \"\xC3(\")"), 5, "not UTF-8"},
+    {"UnquotedChinese", Resource("", "(.Label 参数)"), 5, "outside quotes"},
+    {"NoResources", "(Dialog D (Components))", 1, "expected (Dialog NAME"},
+    {"BottomlessNesting", std::string(100000, '('), 1, "nested too deeply"},
+};
+
+const BadResource kBadAttributes[] = {
+    {"UnknownKind", Resource("(Pushbutton B)", ""), 3, "unknown component kind Pushbutton"},
+    {"DeclaredTwice", Resource("(PushButton B)\n(Label B)", ""), 4, "declared twice"},
+    {"UndeclaredComponent", Resource(kOneButton, "(C.Label \"x\")"), 5, "C is not declared"},
+    {"UnknownAttribute", Resource(kOneButton, "(B.Lable \"x\")"), 5, "no attribute Lable"},
+    {"AttributeOfOtherKind", Resource(kOneButton, "(B.MaxLen 3)"), 5, "PushButton has no"},
+    {"AttributeTwice", Resource(kOneButton, "(B.Label \"x\")\n(B.Label \"y\")"), 6, "given twice"},
+    {"NotAFlag", Resource(kOneButton, "(B.Visible Yes)"), 5, "True or False"},
+    {"NotANumber", Resource("(InputPanel I)", "(I.Columns 12x)"), 5, "number from 1 to 500"},
+    {"NumberTooSmall", Resource("(InputPanel I)", "(I.MaxLen 0)"), 5, "number from 1"},
+    {"BareText", Resource(kOneButton, "(B.Label x)"), 5, "in quotes"},
+    {"TwoValues", Resource(kOneButton, "(B.Label \"x\" \"y\")"), 5, "takes one value"},
+};
+
+const BadResource kBadLayouts[] = {
+    {"NoLayout", Resource(kOneButton, "(B.Label \"x\")"), 1, "no .Layout"},
+    {"NeverPlaced", Resource("(Label L)\n(PushButton B)", kPlaceB), 3, "L is placed in no layout"},
+    {"PlacedTwice", Resource(kOneButton, "(.Layout (Grid (Rows 1) (Cols 1 1)\nB\nB))"), 7,
+     "placed twice"},
+    {"UnknownName", Resource("", kPlaceB), 5, "unknown component B"},
+    {"TooManyCells",
+     Resource("(Label L)\n(PushButton B)", "(.Layout (Grid (Rows 1) (Cols 1) B\nL))"), 7,
+     "too many cells for a grid of 1 rows and 1 columns"},
+    {"CellTaken",
+     Resource("(Label L)\n(PushButton B)", "(.Layout (Grid (Rows 1) (Cols 1 1) B (Pos 1 1)\nL))"),
+     7, "already taken"},
+    {"PosOutside", Resource(kOneButton, "(.Layout (Grid (Rows 1) (Cols 1) (Pos 2 1) B))"), 5,
+     "from 1 to 1"},
+    {"NoColumns", Resource(kOneButton, "(.Layout (Grid (Rows 1) B))"), 5, "opens with (Rows"},
+    {"InOneAnother",
+     Resource("(SubLayout S)\n(SubLayout T)",
+              "(.Layout (Grid (Rows 1) (Cols 1)))\n"
+              "(S.Layout (Grid (Rows 1) (Cols 1) T))\n"
+              "(T.Layout (Grid (Rows 1) (Cols 1) S))"),
+     3, "S is placed in no layout of the dialog"},
+    {"GroupWithoutLayout", Resource("(SubLayout B)", kPlaceB), 3, "no layout"},
+    {"TabPageNoGroup",
+     Resource("(Tab T)\n(PushButton B)",
+              "(.Layout (Grid (Rows 1) (Cols 1) T))\n"
+              "(T.Layout (Grid (Rows 1) (Cols 1) B))"),
+     7, "must be SubLayouts"},
+};
+
+const BadResource kBadContents[] = {
+    {"NoButtons", Resource(kOneRadio, kPlaceR), 3, "has no buttons"},
+    {"NameTwice", Resource(kOneRadio, std::string(kPlaceR) + "(R.Names \"a\" \"a\")"), 6, "twice"},
+    {"LabelsMissing",
+     Resource(kOneRadio, std::string(kPlaceR) + "(R.Names \"a\" \"b\")\n(R.Labels \"x\")"), 7,
+     "2 Names but 1 Labels"},
+    {"SelectedUnknown",
+     Resource(kOneRadio, std::string(kPlaceR) + "(R.Names \"a\")\n(R.SelectedNames \"A\")"), 7,
+     "no item named A"},
+    {"TwoSelected",
+     Resource(kOneRadio, std::string(kPlaceR) + "(R.Names \"a\" \"b\")\n"
+                                                "(R.SelectedNames \"a\" \"b\")"),
+     7, "one selected item"},
+    {"WidthsMissing",
+     Resource("(Table R)", std::string(kPlaceR) + "(R.ColumnNames \"a\" \"b\")\n"
+                                                  "(R.ColumnWidths 5)"),
+     7, "2 ColumnNames but 1 ColumnWidths"},
+    {"ValueTooLong",
+     Resource("(InputPanel B)", std::string(kPlaceB) + "(B.MaxLen 2)\n(B.Value \"千米数\")"), 7,
+     "longer than its MaxLen"},
+    {"DefaultIsNoButton", Resource("(Label B)", std::string(kPlaceB) + "(.DefaultButton \"B\")"), 6,
+     "no push button"},
+};
+
+std::string NameOf(const testing::TestParamInfo<BadResource>& info) {
+  return info.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Syntax, DialogResourceErrors, testing::ValuesIn(kBadSyntax), NameOf);
+INSTANTIATE_TEST_SUITE_P(Attributes, DialogResourceErrors, testing::ValuesIn(kBadAttributes),
+                         NameOf);
+INSTANTIATE_TEST_SUITE_P(Layouts, DialogResourceErrors, testing::ValuesIn(kBadLayouts), NameOf);
+INSTANTIATE_TEST_SUITE_P(Contents, DialogResourceErrors, testing::ValuesIn(kBadContents), NameOf);
+
+TEST(DialogResource, FileMustBeNamedAsItsDialog) {
+  const TemporaryFolder temporary("dialog_resource_test");
+  const std::filesystem::path& folder = temporary.path;
+  for (const char* name : {"Sample.res", "Other.res"})
+    std::ofstream(folder / name) << kGoodResource;
+  EXPECT_EQ(LoadDialogResource(folder / "Sample.res").name, "Sample");
+  EXPECT_THROW(LoadDialogResource(folder / "Other.res"), ResourceError);
+  EXPECT_THROW(LoadDialogResource(folder / "Missing.res"), ResourceError);
+}
+
+}  // namespace
+}  // namespace wb

@@ -1,0 +1,236 @@
+// A dialog under the plug-in's calls and under the user's hands.
+#include "workbench/dialog/dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace wb {
+namespace {
+
+using Names = std::vector<std::string>;
+
+constexpr const char* kResource = R"((Dialog D
+    (Components (SubLayout Group) (RadioGroup Radio) (RadioGroup Blank) (InputPanel Field)
+        (TextArea Area) (OptionMenu Option) (CheckButton Check) (PushButton Ok) (Label Note)
+        (Table Bill) (List Items))
+    (Resources
+        (.Label "Title") (.Layout (Grid (Rows 1 1 1 1 1) (Cols 1 1) Group Blank Field Area Option
+            Check Ok Note Bill Items))
+        (Group.Layout (Grid (Rows 1) (Cols 1) Radio))
+        (Radio.Names "a" "b") (Radio.SelectedNames "a") (Blank.Names "0" "1")
+        (Field.MaxLen 4) (Field.Value "x") (Option.Names "整数" "实数") (Option.Labels "I" "R")
+        (Bill.ColumnNames "num" "name" "qty") (Bill.ColumnLabels "N" "Name" "Q")
+        (Items.Names "p" "q" "r") (Items.SelectionPolicy 3)
+    )))";
+
+class WorkbenchDialogTest : public testing::Test {
+ protected:
+  template <class State>
+  State& Get(ComponentKind kind, const char* name) {
+    State* state = nullptr;
+    EXPECT_EQ(dialog_.Find(kind, name, &state), UiStatus::kOk);
+    return *state;
+  }
+  TableModel& Bill() { return Get<TableModel>(ComponentKind::kTable, "Bill"); }
+  ChoiceState& Radio() { return Get<ChoiceState>(ComponentKind::kRadioGroup, "Radio"); }
+  TextState& Field() { return Get<TextState>(ComponentKind::kInputPanel, "Field"); }
+
+  std::string Label(const char* row, const char* column) {
+    std::string label = "?";
+    EXPECT_EQ(Bill().GetLabel(row, column, &label), UiStatus::kOk);
+    return label;
+  }
+
+  Dialog dialog_{ParseDialogResource(kResource, "D.res")};
+};
+
+TEST_F(WorkbenchDialogTest, MissingComponentAndWrongKindAreToldApart) {
+  Component* component = nullptr;
+  EXPECT_EQ(dialog_.Find(ComponentKind::kCheckButton, "PDFCheck]", &component),
+            UiStatus::kNoComponent);
+  EXPECT_EQ(dialog_.Find(ComponentKind::kTextArea, "Field", &component), UiStatus::kWrongKind);
+  EXPECT_EQ(dialog_.SetLabel(ComponentKind::kInputPanel, "Field", "x"), UiStatus::kWrongKind);
+  EXPECT_EQ(component, nullptr);
+}
+
+TEST_F(WorkbenchDialogTest, RadioGroupKeepsItsSelectionWhenTheNewOneCannotBe) {
+  EXPECT_EQ(Radio().Select({""}), UiStatus::kNotFound);
+  EXPECT_EQ(Radio().Select({"c"}), UiStatus::kNotFound);
+  EXPECT_EQ(Radio().Select({"a", "b"}), UiStatus::kBadArgument);
+  EXPECT_EQ(Radio().Select({}), UiStatus::kBadArgument);
+  EXPECT_EQ(Radio().Selected(), Names{"a"});
+  EXPECT_EQ(Radio().Select({"b"}), UiStatus::kOk);
+  EXPECT_EQ(Radio().Selected(), Names{"b"});
+}
+
+TEST_F(WorkbenchDialogTest, RadioGroupWithoutSelectionInTheResourceStartsWithNone) {
+  auto& blank = Get<ChoiceState>(ComponentKind::kRadioGroup, "Blank");
+  EXPECT_EQ(blank.Select({""}), UiStatus::kNotFound);
+  EXPECT_TRUE(blank.Selected().empty());
+}
+
+TEST_F(WorkbenchDialogTest, OptionMenuValueIsTheNameOfItsItem) {
+  std::string value;
+  EXPECT_EQ(dialog_.GetOptionValue("Option", &value), UiStatus::kOk);
+  EXPECT_EQ(value, "整数");
+  EXPECT_EQ(dialog_.SetOptionValue("Option", "R"), UiStatus::kNotFound);  // a label
+  EXPECT_EQ(dialog_.SetOptionValue("Option", "实数"), UiStatus::kOk);
+  dialog_.GetOptionValue("Option", &value);
+  EXPECT_EQ(value, "实数");
+  EXPECT_EQ(dialog_.GetOptionValue("Field", &value), UiStatus::kWrongKind);
+}
+
+TEST_F(WorkbenchDialogTest, NewItemsDropSelectionsAndLabelsThatNoLongerFit) {
+  auto& option = Get<ChoiceState>(ComponentKind::kOptionMenu, "Option");
+  EXPECT_EQ(option.SetNames({"1", "1"}), UiStatus::kBadArgument);
+  EXPECT_EQ(option.SetNames({"1", "2", "3"}), UiStatus::kOk);
+  EXPECT_TRUE(option.Selected().empty());
+  EXPECT_EQ(option.LabelOf("2"), "2");
+  EXPECT_EQ(option.SetLabels({"one"}), UiStatus::kBadArgument);
+}
+
+TEST_F(WorkbenchDialogTest, FieldCountsItsLimitInWideCharacters) {
+  EXPECT_EQ(Field().SetValue("千米数字"), UiStatus::kOk);
+  EXPECT_EQ(Field().SetValue("abc\U0001F529"), UiStatus::kBadArgument);  // counts 5
+  EXPECT_EQ(Field().SetValue("a\nb"), UiStatus::kBadArgument);
+  EXPECT_EQ(Field().Value(), "千米数字");
+  auto& area = Get<TextState>(ComponentKind::kTextArea, "Area");
+  EXPECT_EQ(area.SetValue("a\nb"), UiStatus::kOk);
+}
+
+TEST_F(WorkbenchDialogTest, RowsAndColumnsGoWhereTheyAreInserted) {
+  TableModel& bill = Bill();
+  EXPECT_EQ(bill.InsertColumns("num", {"param1", "param2"}), UiStatus::kOk);
+  EXPECT_EQ(bill.ColumnNames(), (Names{"num", "param1", "param2", "name", "qty"}));
+  EXPECT_EQ(bill.InsertRows("", {"2"}), UiStatus::kOk);
+  EXPECT_EQ(bill.InsertRows("2", {"3"}), UiStatus::kOk);
+  EXPECT_EQ(bill.InsertRows("", {"1"}), UiStatus::kOk);
+  EXPECT_EQ(bill.RowNames(), (Names{"1", "2", "3"}));
+  EXPECT_EQ(bill.InsertRows("9", {"4"}), UiStatus::kNotFound);
+  EXPECT_EQ(bill.InsertRows("3", {"4", "2"}), UiStatus::kBadArgument);
+  EXPECT_EQ(bill.InsertColumns("", {"x", "x"}), UiStatus::kBadArgument);
+  EXPECT_EQ(bill.InsertColumns("", {""}), UiStatus::kBadArgument);
+  EXPECT_EQ(bill.DeleteRows({"1", "9"}), UiStatus::kNotFound);
+  EXPECT_EQ(bill.RowNames(), (Names{"1", "2", "3"}));
+  EXPECT_EQ(bill.SetColumnLabels({"too", "few"}), UiStatus::kBadArgument);
+  EXPECT_EQ(bill.ColumnLabels(), (Names{"N", "", "", "Name", "Q"}));
+}
+
+TEST_F(WorkbenchDialogTest, DeletedColumnsTakeTheirCellsWithThem) {
+  TableModel& bill = Bill();
+  bill.InsertRows("", {"1"});
+  bill.SetLabel("1", "name", "PUMP");
+  bill.SetLabel("1", "qty", "2");
+  bill.SetBackground("1", "name", 17);
+  EXPECT_EQ(bill.DeleteColumns({"name"}), UiStatus::kOk);
+  EXPECT_EQ(bill.InsertColumns("qty", {"param1"}), UiStatus::kOk);
+  EXPECT_EQ(Label("1", "param1"), "");
+  EXPECT_EQ(Label("1", "qty"), "2");
+  int color = 0;
+  EXPECT_EQ(bill.GetBackground("1", "param1", &color), UiStatus::kOk);
+  EXPECT_EQ(color, kNoCellColor);
+  EXPECT_EQ(bill.SetLabel("1", "name", "x"), UiStatus::kNotFound);
+  EXPECT_EQ(bill.SetBackground("1", "qty", -3), UiStatus::kBadArgument);
+  bill.SetForeground("1", "qty", 4);
+  bill.GetForeground("1", "qty", &color);
+  EXPECT_EQ(color, 4);
+  bill.GetBackground("1", "qty", &color);
+  EXPECT_EQ(color, kNoCellColor);
+}
+
+TEST_F(WorkbenchDialogTest, SelectionFollowsPolicyAndDeletedRows) {
+  TableModel& bill = Bill();
+  bill.InsertRows("", {"1", "2", "3"});
+  EXPECT_EQ(bill.SelectRows({"1", "2"}), UiStatus::kBadArgument);  // single unless told otherwise
+  EXPECT_EQ(bill.SetPolicy(5), UiStatus::kBadArgument);
+  EXPECT_EQ(bill.SetPolicy(3), UiStatus::kOk);
+  EXPECT_EQ(bill.SelectRows({"3", "1"}), UiStatus::kOk);
+  EXPECT_EQ(bill.SelectRows({"4"}), UiStatus::kNotFound);
+  EXPECT_EQ(bill.SelectedRows(), (Names{"1", "3"}));
+  bill.SetFocus("3", "name");
+  bill.DeleteRows({"3"});
+  EXPECT_EQ(bill.SelectedRows(), Names{"1"});
+  std::string row, column;
+  EXPECT_EQ(bill.GetFocus(&row, &column), UiStatus::kNotFound);
+}
+
+// Finishes at once when each step costs the same; rows found by scanning would take minutes.
+TEST_F(WorkbenchDialogTest, LargeTableFillsReadsAndEmptiesRowByRow) {
+  constexpr int kRows = 100000;
+  TableModel& bill = Bill();
+  std::string last;
+  for (int i = 1; i <= kRows; ++i) {
+    const std::string name = std::to_string(i);
+    ASSERT_EQ(bill.InsertRows(last, {name}), UiStatus::kOk);
+    ASSERT_EQ(bill.SetLabel(name, "qty", name), UiStatus::kOk);
+    last = name;
+  }
+  EXPECT_EQ(Label("99999", "qty"), "99999");
+  EXPECT_EQ(bill.RowNames().size(), static_cast<std::size_t>(kRows));
+  for (int i = kRows; i > kRows / 2; --i) {
+    ASSERT_EQ(bill.DeleteRows({std::to_string(i)}), UiStatus::kOk);
+  }
+  EXPECT_EQ(bill.DeleteRows(bill.RowNames()), UiStatus::kOk);
+  EXPECT_TRUE(bill.Rows().empty());
+}
+
+TEST_F(WorkbenchDialogTest, UserDeedsChangeStateAndNameTheActionToFire) {
+  EXPECT_EQ(dialog_.UserSetField("Field", "new").event, UiEvent::kInput);
+  EXPECT_EQ(Field().Value(), "new");
+  EXPECT_EQ(dialog_.UserSelect("Radio", {"b"}).event, UiEvent::kSelect);
+  EXPECT_EQ(Radio().Selected(), Names{"b"});
+  EXPECT_EQ(dialog_.UserSelect("Items", {"p", "r"}).event, UiEvent::kSelect);
+  EXPECT_EQ(dialog_.UserToggle("Check").event, UiEvent::kActivate);
+  EXPECT_TRUE(Get<CheckState>(ComponentKind::kCheckButton, "Check").set);
+  EXPECT_EQ(dialog_.UserPress("Ok").event, UiEvent::kActivate);
+  Bill().InsertRows("", {"1", "2"});
+  EXPECT_EQ(dialog_.UserDoubleClick("Bill", "2").event, UiEvent::kActivate);
+  EXPECT_EQ(Bill().SelectedRows(), Names{"2"});
+  EXPECT_EQ(dialog_.UserFocusCell("Bill", "1", "name").event, UiEvent::kArm);
+  std::string row, column;
+  EXPECT_EQ(Bill().GetFocus(&row, &column), UiStatus::kOk);
+  EXPECT_EQ(row + "/" + column, "1/name");
+}
+
+TEST_F(WorkbenchDialogTest, UserCannotDoWhatADialogDoesNotOffer) {
+  dialog_.SetEnabled(ComponentKind::kPushButton, "Ok", false);
+  dialog_.SetVisible(ComponentKind::kSubLayout, "Group", false);
+  Get<TextState>(ComponentKind::kTextArea, "Area").SetEditable(false);
+  const struct {
+    UserOutcome outcome;
+    const char* refusal;
+  } cases[] = {
+      {dialog_.UserPress("Apply"), "dialog D has no component Apply"},
+      {dialog_.UserPress("Ok"), "PushButton Ok is greyed out"},
+      {dialog_.UserPress("Check"), "CheckButton Check is not a push button"},
+      {dialog_.UserSelect("Radio", {"b"}), "RadioGroup Radio is not visible"},
+      {dialog_.UserSelect("Blank", {"2"}), "RadioGroup Blank has no item 2; it has 0, 1"},
+      {dialog_.UserSelect("Note", {"2"}), "Label Note has nothing to select"},
+      {dialog_.UserSelect("Bill", {"7"}), "Table Bill has no row 7; it is empty"},
+      {dialog_.UserSetField("Field", "12345"), "InputPanel Field takes 4 characters at most"},
+      {dialog_.UserSetField("Area", "x"), "TextArea Area is read-only"},
+      {dialog_.UserDoubleClick("Option", "整数"), "OptionMenu Option has no rows to double-click"},
+  };
+  for (const auto& item : cases) {
+    EXPECT_EQ(item.outcome.refusal, item.refusal);
+    EXPECT_EQ(item.outcome.event, UiEvent::kNone);
+  }
+  EXPECT_EQ(Field().Value(), "x");
+  EXPECT_EQ(Radio().Selected(), Names{"a"});
+}
+
+TEST_F(WorkbenchDialogTest, DescriptionListsEveryComponentWithItsState) {
+  dialog_.SetEnabled(ComponentKind::kSubLayout, "Group", false);
+  Get<TextState>(ComponentKind::kTextArea, "Area").SetValue("a\nb");
+  const std::string text = dialog_.DescribeComponents();
+  for (const char* line : {"RadioGroup Radio: a of a, b (greyed)\n", "InputPanel Field: \"x\"\n",
+                           "TextArea Area: \"a\\nb\"\n", "CheckButton Check: unset\n",
+                           "Table Bill: 0 rows x 3 columns\n"}) {
+    EXPECT_NE(text.find(line), std::string::npos) << line << "in\n" << text;
+  }
+}
+
+}  // namespace
+}  // namespace wb

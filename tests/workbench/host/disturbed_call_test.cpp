@@ -1,0 +1,86 @@
+// A user who acts between a call of the plug-in and its being carried out.
+#include <functional>
+
+#include "tests/absent_user.h"
+#include "tests/workbench/host/host_fixture.h"
+#include "workbench/host/host_types.h"
+
+namespace wb {
+namespace {
+
+// Does one thing at the first call of one function.
+class ActsAtCall : public AbsentUser {
+ public:
+  bool CallBegins(const char* name) override {
+    if (function != name) return false;
+    function.clear();
+    deed();
+    return true;
+  }
+  std::string function;
+  std::function<void()> deed;
+};
+
+class DisturbedCall : public HostFixture {
+ protected:
+  DisturbedCall() {
+    Model lid;
+    lid.id = {"lid", ModelKind::kPart};
+    lid_ = &host_.session.Add(lid);
+    lid_handle_ = lid_->handle;
+    box_ = &ShowAssembly();
+    host_.user = &user_;
+  }
+  ~DisturbedCall() override { host_.user = nullptr; }
+
+  void EraseAt(const char* function, Model* model) {
+    user_.function = function;
+    user_.deed = [this, model] { host_.session.Erase(*model); };
+  }
+
+  Model* lid_ = nullptr;
+  Model* box_ = nullptr;
+  ProMdl lid_handle_ = nullptr;
+  ActsAtCall user_;
+};
+
+TEST_F(DisturbedCall, FailsWithoutBlameForWhatTheUserErasedButNoLaterOneDoes) {
+  ProName name{};
+  EraseAt("ProMdlNameGet", lid_);
+  EXPECT_EQ(ProMdlNameGet(lid_handle_, name), PRO_TK_BAD_INPUTS);
+  EXPECT_EQ(Breaches(), Lines{});
+  EXPECT_EQ(ProMdlNameGet(lid_handle_, name), PRO_TK_BAD_INPUTS);
+  EXPECT_EQ(Breaches(),
+            Lines{"plug-in misused ProMdlNameGet: stale model handle (its object is gone)"});
+}
+
+TEST_F(DisturbedCall, IsBlamedForWhatTheUserHasNothingToDoWith) {
+  EraseAt("ProMdlNameGet", lid_);
+  EXPECT_EQ(ProMdlNameGet(box_->handle, nullptr), PRO_TK_BAD_INPUTS);
+  EXPECT_EQ(Breaches().size(), 1u);
+}
+
+TEST_F(DisturbedCall, MeetsWhatTheUserDid) {
+  ProFeature component{PRO_FEATURE, 7, static_cast<ProSolid>(box_->handle)};
+  ProMdl model = nullptr;
+  EXPECT_EQ(ProAsmcompMdlGet(&component, &model), PRO_TK_NO_ERROR);
+  EXPECT_EQ(model, lid_handle_);
+  EraseAt("ProAsmcompMdlGet", lid_);
+  EXPECT_EQ(ProAsmcompMdlGet(&component, &model), PRO_TK_E_NOT_FOUND);
+}
+
+ProError AskType(ProFeature* feature, ProError, ProAppData) {
+  ProFeattype type = 0;
+  ProFeatureTypeGet(feature, &type);
+  return PRO_TK_NO_ERROR;
+}
+
+TEST_F(DisturbedCall, AVisitOfAModelThatIsErasedMeanwhileIsNotModelled) {
+  EraseAt("ProFeatureTypeGet", box_);
+  ProSolidFeatVisit(static_cast<ProSolid>(box_->handle), &AskType, nullptr, nullptr);
+  EXPECT_EQ(host_.not_modelled, Lines{"workbench: not modelled: ProSolidFeatVisit: a model that is "
+                                      "erased while it is visited"});
+}
+
+}  // namespace
+}  // namespace wb

@@ -1,0 +1,86 @@
+// What is kept of a session before and after a command, and the differences found.
+#include "workbench/report/session_picture.h"
+
+#include <gtest/gtest.h>
+
+namespace wb {
+namespace {
+
+Model Named(const std::string& name, ModelKind kind) {
+  Model model;
+  model.id = {name, kind};
+  return model;
+}
+
+// An assembly in session that holds `part` so many times, with component ids from 1.
+Model& AddAssembly(Session& session, const std::string& name, Model& part, int times) {
+  Model assembly = Named(name, ModelKind::kAssembly);
+  for (int id = 1; id <= times; ++id) {
+    Feature& component = assembly.features.emplace_back();
+    component.id = id;
+    component.component = part.id;
+    component.model = &part;
+  }
+  return session.Add(std::move(assembly));
+}
+
+Model& AddNested(Session& session, int levels, int times_each) {
+  Model* below = &session.Add(Named("part", ModelKind::kPart));
+  for (int i = 0; i < levels; ++i) {
+    below = &AddAssembly(session, "level" + std::to_string(i), *below, times_each);
+  }
+  return *below;
+}
+
+TEST(SessionPictureTest, TakesDeepTrees) {
+  Session session;
+  const ModelTree tree = TakeTree(AddNested(session, 10'000, 1));
+  ASSERT_EQ(tree.rows.size(), 10'001u);
+  EXPECT_EQ(tree.rows.back().depth, 10'000);
+  EXPECT_EQ(tree.rows.back().name, "part.prt");
+  EXPECT_EQ(tree.left_out, 0u);
+}
+
+TEST(SessionPictureTest, CountsOccurrencesBeyondTheLimitWithoutVisitingThem) {
+  Session session;
+  const ModelTree tree = TakeTree(AddNested(session, 40, 2), 100);
+  EXPECT_EQ(tree.rows.size(), 100u);
+  EXPECT_EQ(tree.left_out, (std::uint64_t{1} << 41) - 1 - 100);
+}
+
+TEST(SessionPictureTest, AModelInsideItselfEnds) {
+  Session session;
+  Model& top = AddNested(session, 2, 1);
+  top.features[0].model->features[0].model = &top;
+  EXPECT_EQ(TakeTree(top).rows.size(), 3u);
+}
+
+TEST(SessionPictureTest, NotesWhatACommandChanged) {
+  Session session;
+  Model& bolt = session.Add(Named("bolt", ModelKind::kPart));
+  Model& top = AddAssembly(session, "top", bolt, 2);
+  for (const char* name : {"OLD", "KEPT", "SET"}) bolt.SetParameter(name, 3);
+  const SessionPicture before = TakePicture(session);
+  bolt.DeleteParameter("OLD");
+  bolt.SetParameter("SET", 4);
+  bolt.SetParameter("NEW", std::string("x"));
+  top.features[1].hidden = true;
+  session.Add(Named("late", ModelKind::kPart)).SetParameter("P", 1);
+
+  CommandRecord command;
+  NoteChanges(before, TakePicture(session), command);
+  std::vector<std::string> parameters;
+  for (const ParameterChange& change : command.parameters) {
+    parameters.push_back(change.model + " " + change.parameter + ": " +
+                         change.before.value_or("none") + " to " + change.after.value_or("none"));
+  }
+  EXPECT_EQ(parameters, (std::vector<std::string>{"bolt.prt OLD: 3 to none", "bolt.prt SET: 3 to 4",
+                                                  "bolt.prt NEW: none to x"}));
+  ASSERT_EQ(command.states.size(), 1u);
+  EXPECT_EQ(command.states[0].item, "bolt.prt (2)");
+  EXPECT_EQ(command.states[0].before, "shown");
+  EXPECT_EQ(command.states[0].after, "hidden");
+}
+
+}  // namespace
+}  // namespace wb

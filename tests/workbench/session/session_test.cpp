@@ -1,0 +1,89 @@
+// Models that files bring into session, and files that must not.
+#include "workbench/session/session.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "tests/workbench/temporary_folder.h"
+#include "workbench/session/model_file.h"
+
+namespace wb {
+namespace {
+
+namespace fs = std::filesystem;
+
+class SessionFiles : public testing::Test {
+ protected:
+  SessionFiles() { session_.ChangeDirectory(folder_); }
+
+  void Write(const std::string& name, const std::string& rest) const {
+    std::ofstream(folder_ / (name + ".1"), std::ios::binary)
+        << "{\n  \"format\": 1,\n  \"model\": \"" << name << "\",\n  " << rest << "\n}\n";
+  }
+  // A component a line; the first stands in line 5.
+  void WriteAssembly(const std::string& name, const std::vector<std::string>& components) const {
+    std::string rest = "\"features\": [";
+    int id = 0;
+    for (const std::string& component : components) {
+      rest += std::string(id == 0 ? "" : ",") + "\n    {\"id\": " + std::to_string(id) +
+              ", \"model\": \"" + component + "\"}";
+      ++id;
+    }
+    Write(name, rest + "\n  ]");
+  }
+
+  std::string ErrorOf(const ModelName& name) {
+    try {
+      session_.Retrieve(name);
+    } catch (const ModelFileError& error) {
+      return error.what();
+    }
+    return "retrieved";
+  }
+
+  const TemporaryFolder temporary_{"quillmax session test"};
+  const fs::path& folder_ = temporary_.path;
+  Session session_;
+};
+
+constexpr const char* kWayOut = "; mend the file, or delete it and import or save the model again";
+
+TEST_F(SessionFiles, AnAssemblyThatWouldHoldItselfIsRefusedWithFileLineAndWay) {
+  Write("bolt.prt", "\"note\": \"\"");
+  Write("pump.drw", "\"drawing_of\": \"pump.asm\"");
+  WriteAssembly("pump.asm", {"bolt.prt", "rotor.asm", "bolt.prt"});
+  WriteAssembly("rotor.asm", {"bolt.prt", "bolt.prt", "bolt.prt", "Pump.asm"});
+  const std::string expected = PathToUtf8(folder_ / "rotor.asm.1") +
+                               ": line 8: pump.asm would hold itself: pump.asm > rotor.asm > "
+                               "pump.asm" +
+                               kWayOut;
+  for (const ModelKind kind : {ModelKind::kAssembly, ModelKind::kDrawing}) {
+    EXPECT_EQ(ErrorOf({"pump", kind}), expected);
+    EXPECT_TRUE(session_.models().empty());
+  }
+}
+
+TEST_F(SessionFiles, SoIsOneThatHoldsItselfDirectlyOrAsItsManufacturingModel) {
+  WriteAssembly("ring.asm", {"ring.asm"});
+  EXPECT_EQ(ErrorOf({"ring", ModelKind::kAssembly}),
+            PathToUtf8(folder_ / "ring.asm.1") +
+                ": line 5: ring.asm would hold itself: ring.asm > ring.asm" + kWayOut);
+  WriteAssembly("pump.asm", {"mill.mfg"});
+  Write("mill.mfg", "\"assembly\": \"pump.asm\"");
+  EXPECT_EQ(ErrorOf({"pump", ModelKind::kAssembly}),
+            PathToUtf8(folder_ / "mill.mfg.1") +
+                ": line 4: pump.asm would hold itself: pump.asm > mill.mfg > pump.asm" + kWayOut);
+}
+
+TEST_F(SessionFiles, AModelPlacedInSeveralAssembliesIsNoCycle) {
+  WriteAssembly("top.asm", {"left.asm", "right.asm", "left.asm", "lost.asm"});
+  WriteAssembly("left.asm", {"pair.asm"});
+  WriteAssembly("right.asm", {"pair.asm", "left.asm"});
+  WriteAssembly("pair.asm", {});
+  EXPECT_EQ(ErrorOf({"top", ModelKind::kAssembly}), "retrieved");
+  EXPECT_EQ(session_.models().size(), 4u);
+}
+
+}  // namespace
+}  // namespace wb

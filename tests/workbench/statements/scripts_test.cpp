@@ -1,0 +1,247 @@
+// Runs every script of tests/scripts and the demo's as a test of its own. Further: what the runner
+// itself must catch, and the examples of the manual. Each script has a process of its own, since a
+// plug-in stays loaded from where it was loaded first, and takes its settings from there.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <set>
+
+#include "tests/workbench/test_paths.h"
+#include "workbench/base/command_line.h"
+#include "workbench/base/text.h"
+#include "workbench/script/script_faults.h"
+#include "workbench/script/script_runner.h"
+#include "workbench/script/script_windows.h"
+
+namespace wb {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kSource = QM_SOURCE_DIR;
+
+std::vector<fs::path> Scripts() {
+  std::vector<fs::path> scripts;
+  for (const fs::path& folder : {kSource / "tests" / "scripts", kSource / "demo"}) {
+    for (const auto& item : fs::recursive_directory_iterator(folder)) {
+      if (item.path().extension() == ".qms") scripts.push_back(item.path());
+    }
+  }
+  return scripts;
+}
+
+class Script : public testing::TestWithParam<fs::path> {};
+
+TEST_P(Script, Passes) {
+  const std::string text =
+      OutputOf(TestBinaryFolder() / "workbench.exe", {"run", PathToUtf8(GetParam())})
+          .value_or("workbench.exe cannot be started");
+  if (text.find(": skipped, since ") != std::string::npos) GTEST_SKIP() << text;
+  EXPECT_NE(text.find(" passed, 0 failed"), std::string::npos) << text;
+  EXPECT_EQ(text.find("\n0 passed"), std::string::npos) << text;
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, Script, testing::ValuesIn(Scripts()),
+                         [](const auto& script) { return PathToUtf8(script.param.stem()); });
+
+// Every "what" taken out of "text".
+std::string Without(const std::string& what, std::string text) {
+  for (size_t at = text.find(what); at != std::string::npos; at = text.find(what, at)) {
+    text.erase(at, what.size());
+  }
+  return text;
+}
+
+// Runs a script text and gives its failures, "scripts_test.qms:LINE: REASON" a line.
+std::string FailuresOf(const std::string& text, const std::vector<std::string>& options = {}) {
+  const fs::path file = fs::temp_directory_path() / "scripts_test.qms";
+  std::ofstream(file, std::ios::binary | std::ios::trunc) << text;
+  std::vector<std::string> arguments = {"run", PathToUtf8(file)};
+  arguments.insert(arguments.end(), options.begin(), options.end());
+  const std::string output =
+      OutputOf(TestBinaryFolder() / "workbench.exe", arguments).value_or("it cannot be started");
+  fs::remove(file);
+  const std::string lines = Without(PathToUtf8(file.parent_path() / ""), Without("\r", output));
+  // The count closes it.
+  return lines.substr(0, lines.rfind("scripts_test.qms: "));
+}
+
+constexpr const char* kPump = "part bolt\nassembly pump\ncomponent pump <- bolt\nopen pump\n";
+
+TEST(ScriptRunner, WhatNobodyAnswersFailsWithWhatWasAsked) {
+  const struct {
+    const char* statements;
+    const char* failure;
+  } cases[] = {
+      {"run QmQQGroup", "5: dialog QmQQGroup opened and nobody answers it; it has\n"},
+      {"run QmIsolate",
+       "5: message box that the script does not name: caption "
+       "\"\\t请先选择需要独立显示的模型\\t\"\n"},
+      {"run BoxSel", "5: a pick of part (at most -1) was asked for and nobody answers\n"},
+      {"run QmConfig with\ndialog QmConfig\npress SelA0Asm\nclose\nend\nend",
+       "8: a file was asked for by ProFileOpen"},
+      {"run QmQQGroup with\ndialog QmQQGroup\nend\nend",
+       "6: dialog QmQQGroup is still open after the last answer; it has\n"},
+      {"run ForTest with\n  pick rotor/bolt#2  # the second\nend",
+       "6: not used, since the command had ended before: pick rotor/bolt#2\n"},
+      {"run QmQQGroup with\ndialog QmQQGroup\nclose\npress Close\nend\nend",
+       "8: not used, since the dialog had ended before: press Close\n"},
+      {"run QmQQGroup with\ndialog QmQQGroup\npick cancel\nclose\nend\nend",
+       "7: nothing asked for this answer"},
+      {"run QmIsolate with\nmessage plain other\nend",
+       "6: message box, expected plain \"other\", got caption \"\\t请先选择"},
+      {"run QmParams with\ndialog QmParams\npress Nothing\nset Add x\nclose\nend\nend",
+       "7: dialog QmParams has no component Nothing\nscripts_test.qms:8: PushButton Add"},
+      {"fault ProMdlNameGet 1 status general_error\nrun ForTest",
+       "6: the fault ordered for it did not strike"},
+      {"run ForTest\nfault any 1 empty", "6: no action followed the fault ordered"},
+      {"expect calls ProMdlNameGte none", "5: neither the host nor the intercepted part"},
+      {"expect calls Sleep none", "5: neither the host nor the intercepted part"},
+      {"fault Excel.Range.Mrege 1 empty",
+       "5: the spreadsheet program has no member Excel.Range.Mr"},
+      {"withhold ProMdlNameGte", "5: neither the host nor the intercepted part"},
+      {"", " checks nothing"},
+      {"run ForTest with\nat call 3 of ProMdlCurrentGet\nerase bolt\nend\nend",
+       "6: never came: at call 3 of ProMdlCurrentGet (1 of them)\n"},
+      {"run QmQQGroup with\ndialog QmQQGroup\nat call 1 of any\nclose\nend\nend\nend",
+       "7: never came: at call 1 of any (no call)\nscripts_test.qms:6: dialog QmQQGroup is still"},
+      {"run ForTest with\nat call 1 of ProMdlCurrentGte\nerase bolt\nend\nend",
+       "6: neither the host nor the intercepted part"},
+      {"run ForTest with\nat call 1 of ProMdlCurrentGet\nerase bolt\nclose\nend\nend",
+       "8: no dialog is open\n"},
+      {"run ForTest with\nat call 1 of any\nparameter bolt P missing\nend\nend",
+       "7: bolt.prt has no parameter P\n"},
+      {"mode part\nrun QmIsolate", "6: QmIsolate is not available here"},
+      {"run Nothing", "5: the plug-in has registered no command Nothing"},
+      {"erase bolt.drw\nrun ForTest",
+       "5: there is no model \"bolt.drw\" in session; the script ends here"},
+      {"select pump/bolt", "5: pump.asm has no component \"pump\"; the script ends here"},
+      {"expect hidden bolt", "5: bolt, expected hidden, got shown"},
+      {"component pump <- pump", "5: pump.asm would hold itself: pump.asm > pump.asm; the script"},
+      {"assembly rotor\ncomponent pump <- rotor times 2\ncomponent rotor <- bolt\n"
+       "component rotor <- pump",
+       "8: rotor.asm would hold itself: rotor.asm > pump.asm > rotor.asm; the script ends here"},
+      {"manufacturing mill of pump\ncomponent pump <- mill",
+       "6: pump.asm would hold itself: pump.asm > mill.mfg > pump.asm; the script ends here"},
+      {"open nothing", "5: there is no model \"nothing\" in session or in "},
+  };
+  for (const auto& item : cases) {
+    const std::string failures = FailuresOf(std::string(kPump) + item.statements + "\n");
+    EXPECT_EQ(failures.find("scripts_test.qms:" + std::string(item.failure)), 0u)
+        << item.statements << "\n"
+        << failures;
+  }
+}
+
+// The usage error of an option, or "" when it is taken.
+std::string RefusalOf(const std::string& fault) {
+  try {
+    FaultOption(fault);
+  } catch (const UsageError& error) {
+    return error.what();
+  }
+  return "";
+}
+
+TEST(FaultOptions, AreReadAndRefusedAsTheStatementIs) {
+  const struct {
+    const char* option;
+    const char* why;
+  } cases[] = {
+      {"ProMdlNameGte:2:general_error", "neither the host nor the intercepted part of Windows has"},
+      {"Excel.Range.Value:2:empty", "the spreadsheet program has no member Excel.Range.Value; a"},
+      {"ProMdlNameGet:0:general_error",
+       "\"0\" is not a count from 1; it wants FUNCTION:NTH:STATUS"},
+      {"ProMdlNameGet:2x:empty", "\"2x\" is not a count from 1; it wants FUNCTION:NTH:STATUS"},
+      {"ProMdlNameGet:2:general", "\"general\" is not a status such as general_error; it wants"},
+      {"ProMdlNameGet:2", "STATUS is missing at its end; it wants"},
+      {"ProMdlNameGet", "NTH is missing at its end; it wants"},
+      {"any:1:empty:for_ever", "\"for_ever\" is one word too many; it wants"},
+      {":1:empty", "neither the host nor the intercepted part of Windows has"},
+  };
+  for (const auto& item : cases) {
+    const std::string refusal = RefusalOf(item.option);
+    EXPECT_EQ(refusal.find("--fault " + std::string(item.option) + ": " + item.why), 0u) << refusal;
+  }
+  const FaultPlan plan = FaultOption("Excel.Range.Value2=:3:out_of_memory:from_then_on");
+  EXPECT_EQ(plan.function, "Excel.Range.Value2=");
+  EXPECT_EQ(plan.nth, 3);
+  EXPECT_EQ(plan.status, -10);
+  EXPECT_TRUE(plan.from_then_on);
+  EXPECT_EQ(FaultOption("any:5:empty").function, "");
+  EXPECT_EQ(FaultOption("any:5:empty").kind, FaultKind::kEmptySuccess);
+}
+
+TEST(FaultOptions, ThatStrikeInNoActionFailTheScript) {
+  const std::string script = std::string(kPump) + "run ForTest\nselect bolt\nrun QmMdlNameCopy\n";
+  const std::string struck = FailuresOf(script + "expect faults 1\nexpect note x\n",
+                                        {"--fault", "ProMdlNameGet:1:general_error"});
+  EXPECT_EQ(struck.find("scripts_test.qms:9: "), 0u) << struck;
+  EXPECT_EQ(
+      FailuresOf(script, {"--fault", "ProMdlNameGet:9:general_error"}),
+      "scripts_test.qms:7: the fault that the command line orders struck in no action of this "
+      "script\n");
+}
+
+TEST(ScriptRunner, NothingRunsOfAScriptWithErrors) {
+  EXPECT_EQ(FailuresOf("run QmIsolate\nopne bolt\n"),
+            "scripts_test.qms:2: unknown statement \"opne\"; did you mean \"open\"?\n");
+}
+
+TEST(ScriptRunner, EveryStatementCanBeCarriedOut) {
+  const std::set<std::string> answers = {
+      "dialog",      "message", "message_while", "pick",   "pick_item",
+      "pick_cancel", "file",    "file_cancel",   "prompt", "prompt_cancel"};
+  for (const StatementForm& form : StatementForms()) {
+    EXPECT_NE(FindScriptAction(form) != nullptr, answers.contains(form.id)) << form.id;
+  }
+}
+
+// The examples of the manual between lines of ```qms and ```.
+std::vector<std::string> Examples() {
+  std::vector<std::string> examples;
+  std::ifstream manual(kSource / "docs" / "workbench.md", std::ios::binary);
+  bool inside = false;
+  for (std::string line; std::getline(manual, line);) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (line == "```qms") {
+      examples.emplace_back();
+      inside = true;
+    } else if (line == "```") {
+      inside = false;
+    } else if (inside) {
+      examples.back() += line + "\n";
+    }
+  }
+  return examples;
+}
+
+void CollectForms(const std::vector<Statement>& statements, std::set<std::string>* forms) {
+  for (const Statement& statement : statements) {
+    forms->insert(statement.form->id);
+    CollectForms(statement.block, forms);
+  }
+}
+
+// A program that a test starts may leave another one running, which holds its output.
+TEST(OutputOfPrograms, IsTheirOwnThoughAnEarlierOneIsStillHeld) {
+  const fs::path shell = "C:\\windows\\system32\\cmd.exe";
+  OutputOf(shell, {"/c", "start", "/b", "ping", "-n", "3", "127.0.0.1"});
+  EXPECT_NE(OutputOf(shell, {"/c", "echo", "second"}).value_or("").find("second"),
+            std::string::npos);
+}
+
+TEST(ScriptManual, ShowsEveryStatementInAnExampleThatReads) {
+  std::set<std::string> shown;
+  for (const std::string& example : Examples()) {
+    const ParsedScript script = ParseScript(example, "workbench.md");
+    for (const LineError& error : script.errors) ADD_FAILURE() << error.what() << "\n" << example;
+    CollectForms(script.statements, &shown);
+  }
+  for (const StatementForm& form : StatementForms()) {
+    EXPECT_TRUE(shown.contains(form.id)) << "no example of: " << form.pattern;
+  }
+}
+
+}  // namespace
+}  // namespace wb

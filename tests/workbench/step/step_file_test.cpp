@@ -1,0 +1,175 @@
+// What the exchange-structure reader accepts, what it refuses, and with which line.
+#include "workbench/step/file/step_file.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "workbench/step/file/step_text.h"
+
+namespace wb {
+namespace {
+
+// Puts instances from line 5 on into an otherwise complete file.
+std::string InFile(const std::string& instances) {
+  return "ISO-10303-21;\nHEADER;\nFILE_SCHEMA(('CONFIG_CONTROL_DESIGN'));ENDSEC;\nDATA;\n" +
+         instances + "\nENDSEC;\nEND-ISO-10303-21;\n";
+}
+
+StepFile Parsed(const std::string& instances) {
+  return StepFile::Parse(InFile(instances), "bolt.stp");
+}
+
+TEST(StepFile, GivesEveryKindOfValueAndLooksThroughCommentsAndLineBreaks) {
+  const StepFile file = Parsed(
+      "#7 /* a; comment ' */ = THING('it''s', $, *, -1.5E1, .T., \"0F\", #9,\n"
+      " (1, (2., +3)), LENGTH_MEASURE(.5), ());\n#9=thing();");
+  EXPECT_EQ(file.schema(), "CONFIG_CONTROL_DESIGN");
+  const StepArguments values = file.Arguments(*file.Find(7));
+  ASSERT_EQ(values.size(), 10u);
+  EXPECT_EQ(values.OptionalText(0), "it's");
+  EXPECT_EQ(values.At(1).kind, StepValue::Kind::kOmitted);
+  EXPECT_EQ(values.At(2).kind, StepValue::Kind::kDerived);
+  EXPECT_EQ(values.Number(3), -15);
+  EXPECT_TRUE(values.Boolean(4));
+  EXPECT_EQ(values.At(5).kind, StepValue::Kind::kBinary);
+  EXPECT_EQ(&values.Reference(6), file.Find(9));
+  EXPECT_EQ(values.At(7).items[1].items[1].number, 3);
+  EXPECT_EQ(values.Number(8), 0.5);
+  EXPECT_TRUE(values.At(9).items.empty());
+  EXPECT_EQ(file.TypeName(*file.Find(9)), "THING");
+}
+
+TEST(StepFile, ReadsSplitAndPlainInstancesByTheSamePositions) {
+  const StepFile file = Parsed(
+      "#1=( B_SPLINE_CURVE(2,(#2,#2)) REPRESENTATION_ITEM('n') );\n"
+      "#2=B_SPLINE_CURVE('n',3,(#1,#1));");
+  EXPECT_TRUE(file.TypeOf(*file.Find(1)).Has("REPRESENTATION_ITEM"));
+  EXPECT_EQ(file.Arguments(*file.Find(1), "B_SPLINE_CURVE", 1).Number(0), 2);
+  EXPECT_EQ(file.Arguments(*file.Find(2), "B_SPLINE_CURVE", 1).Number(0), 3);
+}
+
+TEST(StepFile, FindsInstancesOfSeveralSectionsInAnyOrder) {
+  const StepFile file = StepFile::Parse(
+      "\xEF\xBB\xBFISO-10303-21;\nHEADER;\nENDSEC;\nANCHOR;\n<a>=#1;\nENDSEC;\n"
+      "REFERENCE;\n#50=<nut.stp#3>;\nENDSEC;\nDATA('a',('S'));\n#900=A();\n#3=B();\nENDSEC;\n"
+      "DATA('b',('S'));\n#18446744073709551615=C();\nENDSEC;\nEND-ISO-10303-21;\n",
+      "many.stp");
+  for (const std::uint64_t id : {900ull, 3ull, 18446744073709551615ull}) {
+    ASSERT_NE(file.Find(id), nullptr) << id;
+    EXPECT_EQ(file.Find(id)->id, id);
+  }
+  for (const std::uint64_t id : {0ull, 4ull, 901ull}) EXPECT_EQ(file.Find(id), nullptr) << id;
+  EXPECT_EQ(file.ExternalUri(50), "nut.stp#3");
+  EXPECT_EQ(file.LineOf(*file.Find(3)), 12u);
+}
+
+struct BadFile {
+  const char* name;
+  std::string text;
+  std::size_t line;
+  const char* reason;  // a part of it
+};
+
+TEST(StepFile, NamesLineAndReasonOfWhatItRefuses) {
+  const std::string whole = InFile("#1=A();\n#2=B(1,'x');");
+  const BadFile cases[] = {
+      {"empty", "", 1, "empty"},
+      {"other kind", "solid cube\nfacet\n", 1, "no STEP file"},
+      {"binary", std::string("\0\1\2", 3), 1, "no STEP file"},
+      {"archive", "PK\x03\x04 more", 1, "compressed"},
+      {"xml", "<?xml version='1.0'?>", 1, "XML"},
+      {"cut in an instance", whole.substr(0, whole.find("'x'")), 6, "cut short"},
+      {"cut in a text", whole.substr(0, whole.find("x'")), 6, "never closed"},
+      {"cut before ENDSEC", whole.substr(0, whole.find("\nENDSEC;\nEND")), 6, "cut short"},
+      {"cut before the end", whole.substr(0, whole.find("END-ISO")), 8, "cut short"},
+      {"no data", "ISO-10303-21;\nHEADER;\nENDSEC;\nEND-ISO-10303-21;", 1, "no DATA"},
+      {"unknown section", "ISO-10303-21;\nDATTA;\nENDSEC;", 2, "no section"},
+      {"number twice", InFile("#1=A();\n#2=A();\n#1=B();"), 7, "given twice, first in line 5"},
+      {"missing comma", InFile("#1=A();\n#2=B(1 2);"), 6, "',' or ')' is expected"},
+      {"missing value", InFile("#1=B(1,,2);"), 5, "a value is expected"},
+      {"missing bracket", InFile("#1=B(1;\n#2=A();"), 5, "here stands ';'"},
+      {"missing semicolon", InFile("#1=A()\n#2=A();"), 6, "';' behind an instance"},
+      {"missing equals", InFile("#1 A();"), 5, "'=' is expected"},
+      {"no name", InFile("#1=5;"), 5, "an entity name"},
+      {"stray byte", InFile("#1=A(\x80);"), 5, "unexpected '\\x80'"},
+      {"stray hash", InFile("#1=A(#);"), 5, "must follow '#'"},
+      {"huge number", InFile("#99999999999999999999=A();"), 5, "too large"},
+      {"open comment", InFile("#1=A();\n/* never"), 6, "comment is never closed"},
+      {"deep nest", InFile("#1=A(" + std::string(5000, '(') + ");"), 5, "nested too deeply"},
+  };
+  for (const BadFile& bad : cases) {
+    try {
+      StepFile::Parse(bad.text, "bolt.stp");
+      ADD_FAILURE() << bad.name << ": accepted";
+    } catch (const StepError& error) {
+      EXPECT_EQ(error.line, bad.line) << bad.name << ": " << error.what();
+      EXPECT_NE(error.reason.find(bad.reason), std::string::npos)
+          << bad.name << ": " << error.what();
+      const std::string place = "bolt.stp:" + std::to_string(bad.line) + ": ";
+      EXPECT_EQ(std::string(error.what()).rfind(place, 0), 0u) << error.what();
+    }
+  }
+}
+
+TEST(StepFile, NamesTheLineOfAValueThatIsNotWhatItShouldBe) {
+  const StepFile file = Parsed("#1=A();\r\n#2=A('x',1..5,#77,(#1,'y'));");
+  const StepRecord& record = *file.Find(2);
+  EXPECT_THROW(file.Arguments(record), StepError);  // 1..5 is no number
+  const StepFile sound = Parsed("#1=A();\r#2=A('x',#77);");
+  const StepArguments values = sound.Arguments(*sound.Find(2));
+  const std::function<void()> wrong_uses[] = {
+      [&] { values.Number(0); },    [&] { values.Numbers(0); }, [&] { values.Reference(0); },
+      [&] { values.Reference(1); }, [&] { values.At(2); },
+  };
+  for (const auto& wrong_use : wrong_uses) {
+    try {
+      wrong_use();
+      ADD_FAILURE() << "accepted";
+    } catch (const StepError& error) {
+      EXPECT_EQ(error.line, 6u) << error.what();
+    }
+  }
+}
+
+TEST(StepFile, AMissingFileIsNamed) {
+  try {
+    StepFile::Read("no/such/bolt.stp");
+    FAIL();
+  } catch (const StepError& error) {
+    EXPECT_EQ(error.line, 0u);
+    EXPECT_NE(std::string(error.what()).find("bolt.stp: the file cannot be read"),
+              std::string::npos);
+  }
+}
+
+TEST(StepText, BecomesUtf8WhateverTheWriterUsed) {
+  const struct {
+    const char* raw;
+    const char* text;
+  } cases[] = {
+      {"O''Neil", "O'Neil"},
+      {"C:\\\\parts", "C:\\parts"},
+      {"\\X2\\87BA6813\\X0\\ M6", "螺栓 M6"},
+      {"\\X4\\0001F529\\X0\\", "\U0001F529"},
+      {"\\X2\\D83DDD29\\X0\\", "\U0001F529"},
+      {"\\X2\\87BA", "螺"},
+      {"\\X\\E9t\\X\\E9", "été"},
+      {"\\S\\i", "é"},
+      {"\\PE\\\\S\\0\\S\\1", "АБ"},
+      {"\\PB\\\\S\\1", "ą"},
+      {"螺栓", "螺栓"},
+      {"a\xC2\xDD\xCB\xA8", "a\uFFFD\uFFFD\u02E8"},  // GBK: what is UTF-8 by chance stays
+      {"\xED\xA0\x80", "\uFFFD\uFFFD\uFFFD"},
+      {"\\X2\\D800\\X0\\", "\uFFFD"},
+      {"\\X\\00", "\uFFFD"},
+      {"C:\\Xdir\\S", "C:\\Xdir\\S"},
+      {"wrap\r\nped", "wrapped"},
+      {"\\X2\\87BA\n6813\\X0\\", "螺栓"},
+      {"ends \\", "ends \\"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(DecodeStepText(c.raw), c.text) << c.raw;
+}
+
+}  // namespace
+}  // namespace wb

@@ -1,0 +1,157 @@
+// The Windows calls of a loaded plug-in: recorded, answered, and open to faults.
+#include "tests/absent_user.h"
+#include "tests/workbench/host/host_fixture.h"
+#include "workbench/plugin/plugin.h"
+#include "workbench/plugin/timers.h"
+
+namespace wb {
+namespace {
+
+// Answers every box and file request alike.
+class SteadyUser : public AbsentUser {
+ public:
+  std::optional<std::string> ChooseFile(const FileRequest&) override { return file; }
+  int AnswerMessageBox(const MessageBox&) override { return box_answer; }
+
+  std::optional<std::string> file;
+  int box_answer = IDNO;
+};
+
+class ImportHooks : public HostFixture {
+ protected:
+  ImportHooks() {
+    plugin_.Start();
+    host_.user = &user_;
+  }
+  int Run(const std::string& command) { return RunCommand(command).status; }
+  // What the command showed in the message area.
+  Lines NotesOf(const std::string& command) {
+    host_.messages.notes.clear();
+    Run(command);
+    return host_.messages.notes;
+  }
+
+  SteadyUser user_;
+  Plugin plugin_{TestBinaryFolder() / "windows_caller.dll"};
+};
+
+TEST_F(ImportHooks, AMessageBoxIsRecordedAndAnsweredByTheUser) {
+  EXPECT_EQ(Run("Box"), IDNO);
+  ASSERT_EQ(host_.windows.boxes.size(), 1u);
+  EXPECT_EQ(host_.windows.boxes[0].caption, "Caption");
+  EXPECT_EQ(host_.windows.boxes[0].text, "Delete all?");
+  host_.user = nullptr;
+  EXPECT_EQ(Run("Box"), IDOK);
+}
+
+TEST_F(ImportHooks, ABoxOnAnotherThreadIsABreachButAnswered) {
+  EXPECT_EQ(Run("ThreadBox"), IDOK);
+  EXPECT_EQ(Breaches(), (Lines{"plug-in misused MessageBoxW: called from a thread that is not the "
+                               "user-interface thread"}));
+}
+
+TEST_F(ImportHooks, ProgramsAreRecordedInsteadOfStarted) {
+  EXPECT_GT(Run("Explorer"), 32);
+  EXPECT_GT(Run("Notepad"), 31);
+  ASSERT_EQ(host_.windows.shell.size(), 2u);
+  EXPECT_EQ(host_.windows.shell[0].program, "explorer");
+  EXPECT_EQ(host_.windows.shell[0].parameters, "C:\\");
+  EXPECT_EQ(host_.windows.shell[1].program, "notepad.exe list.ini");
+  EXPECT_EQ(host_.windows.shell[1].show, SW_SHOW);
+}
+
+TEST_F(ImportHooks, ATimerWaitsUntilFiredAndIsGoneOnceStopped) {
+  Run("Timer");
+  ASSERT_EQ(host_.windows.timers.size(), 1u);
+  EXPECT_EQ(host_.windows.timers[0].milliseconds, 2000u);
+  FireTimers();
+  FireTimers();
+  EXPECT_EQ(host_.messages.notes, (Lines{"中文标签"}));
+}
+
+TEST_F(ImportHooks, ATimerThatCouldNotBeStoppedFiresAgainAndIsNotHeldAgainstThePlugin) {
+  Run("Timer");
+  host_.faults.Order({.function = "KillTimer", .nth = 1});
+  FireTimers();
+  host_.faults.Clear();
+  EXPECT_EQ(host_.windows.timers.size(), 1u);
+  plugin_.Stop();
+  EXPECT_EQ(Breaches(), Lines{});
+}
+
+TEST_F(ImportHooks, KnownFoldersLieWhereTheRunWantsThem) {
+  host_.windows.desktop_folder = "C:\\run\\desk";
+  host_.windows.local_app_folder = "C:\\run\\local";
+  EXPECT_EQ(NotesOf("Desktop"), (Lines{"From here to C:\\run\\desk, 1 of 2.500000"}));
+  EXPECT_EQ(NotesOf("LocalFolder"), (Lines{"From here to C:\\run\\local, 1 of 2.500000"}));
+}
+
+TEST_F(ImportHooks, FileDialogsAreAnsweredByTheUser) {
+  user_.file = "C:\\bills\\pump";
+  EXPECT_EQ(NotesOf("SaveFile"), (Lines{"From here to pump.xlsx, 1 of 2.500000"}));
+  ASSERT_EQ(host_.windows.file_requests.size(), 1u);
+  EXPECT_EQ(host_.windows.file_requests[0].asked_by, "GetSaveFileNameW");
+  EXPECT_EQ(host_.windows.file_requests[0].title, "Save the bill");
+  EXPECT_EQ(host_.windows.file_requests[0].filter, "Bills|*.xlsx|All|*.*");
+  user_.file.reset();
+  EXPECT_EQ(Run("OpenFile"), FALSE);
+}
+
+struct AnyProgram : AutomationProgram {
+  long ClassOf(const std::string&, void*) override { return S_OK; }
+  long Start(const void*, const void*, void**) override { return S_OK; }
+  Lines Settle(long) override { return {}; }
+};
+
+TEST_F(ImportHooks, AnObjectOfAnotherProgramIsRefusedUnlessAStandInMakesIt) {
+  EXPECT_EQ(Run("Object"), REGDB_E_CLASSNOTREG);
+  AnyProgram program;
+  host_.automation = &program;
+  EXPECT_EQ(Run("Object"), S_OK);
+  host_.automation = nullptr;
+  EXPECT_EQ(host_.windows.classes, Lines(2, "{00021401-0000-0000-C000-000000000046}"));
+}
+
+struct NaturalFailure {
+  const char* command;
+  const char* function;
+  int failure;
+};
+
+TEST_F(ImportHooks, AFaultMakesEachCallFailInItsOwnWay) {
+  const NaturalFailure kFailures[] = {
+      {"Box", "MessageBoxW", 0},
+      {"Explorer", "ShellExecuteW", 2},
+      {"Notepad", "WinExec", 2},
+      {"Timer", "SetTimer", TRUE},
+      {"Desktop", "SHGetSpecialFolderPathW", FALSE},
+      {"LocalFolder", "SHGetFolderPathW", FALSE},
+      {"OpenFile", "GetOpenFileNameW", FALSE},
+      {"SaveFile", "GetSaveFileNameW", FALSE},
+  };
+  user_.file = "C:\\a";
+  for (const NaturalFailure& row : kFailures) {
+    SCOPED_TRACE(row.function);
+    host_.faults.Order({.function = row.function, .nth = 1});
+    EXPECT_EQ(Run(row.command), row.failure);
+    EXPECT_EQ(host_.faults.struck(), 1);
+    EXPECT_EQ(host_.trace.Count(row.function), 1);
+  }
+}
+
+TEST_F(ImportHooks, FaultsOfAnyFunctionSpareWindowsUnlessThePlanSaysSo) {
+  host_.faults.Order({.function = "", .nth = 1});
+  EXPECT_EQ(Run("Box"), IDNO);
+  host_.faults.Order({.function = "", .windows_too = true, .nth = 1});
+  EXPECT_EQ(Run("Box"), 0);
+}
+
+TEST_F(ImportHooks, AWithheldHostFunctionIsMissingForThePlugin) {
+  host_.windows.withheld = {"ProMessageDisplay"};
+  host_.windows.desktop_folder = "C:\\desk";
+  EXPECT_EQ(NotesOf("Desktop"), Lines{});
+  EXPECT_EQ(host_.not_modelled, Lines{});
+}
+
+}  // namespace
+}  // namespace wb

@@ -1,0 +1,119 @@
+// A plug-in that makes each of the Windows calls the workbench intercepts, a command a call.
+#include <windows.h>
+
+#include <commdlg.h>
+#include <objbase.h>
+#include <shellapi.h>
+#include <shlobj.h>
+
+#include "tests/workbench/plugin/small_plugin.h"
+
+namespace {
+
+int Box() {
+  return ::MessageBoxW(nullptr, L"Delete all?", L"Caption", MB_YESNO);
+}
+
+DWORD WINAPI BoxOnThread(void* answer) {
+  *static_cast<int*>(answer) = Box();
+  return 0;
+}
+
+int ThreadBox() {
+  int answer = 0;
+  const HANDLE thread = ::CreateThread(nullptr, 0, &BoxOnThread, &answer, 0, nullptr);
+  ::WaitForSingleObject(thread, INFINITE);
+  ::CloseHandle(thread);
+  return answer;
+}
+
+int Explorer() {
+  const HINSTANCE result =
+      ::ShellExecuteW(nullptr, nullptr, L"explorer", L"C:\\", nullptr, SW_SHOW);
+  return static_cast<int>(reinterpret_cast<INT_PTR>(result));
+}
+
+int Notepad() {
+  return static_cast<int>(::WinExec("notepad.exe list.ini", SW_SHOW));
+}
+
+void CALLBACK OnTimer(HWND, UINT, UINT_PTR timer, DWORD) {
+  ::KillTimer(nullptr, timer);
+  wchar_t file[] = L"menu.txt";
+  ProMessageDisplay(file, "Label");
+}
+
+int Timer() {
+  return ::SetTimer(nullptr, 1, 2000, &OnTimer) == 0;
+}
+
+// Answers by the message area, since a status is a number only.
+int ShowPath(bool found, wchar_t* path) {
+  wchar_t file[] = L"menu.txt";
+  if (found) ProMessageDisplay(file, "Moved %0w", path, "here", 1, 2.5);
+  return found;
+}
+
+int Desktop() {
+  wchar_t path[MAX_PATH] = {};
+  return ShowPath(::SHGetSpecialFolderPathW(nullptr, path, CSIDL_DESKTOP, FALSE), path);
+}
+
+int LocalFolder() {
+  wchar_t path[MAX_PATH] = {};
+  return ShowPath(SUCCEEDED(::SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA | CSIDL_FLAG_CREATE,
+                                               nullptr, 0, path)),
+                  path);
+}
+
+template <decltype(::GetSaveFileNameW)* Ask>
+int AskForFile() {
+  wchar_t path[MAX_PATH] = {};
+  OPENFILENAMEW dialog = {};
+  dialog.lStructSize = sizeof(dialog);
+  dialog.lpstrFile = path;
+  dialog.nMaxFile = MAX_PATH;
+  dialog.lpstrFilter = L"Bills\0*.xlsx\0All\0*.*\0";
+  dialog.lpstrTitle = L"Save the bill";
+  dialog.lpstrDefExt = L"xlsx";
+  const bool chosen = Ask(&dialog);
+  return ShowPath(chosen, path + dialog.nFileOffset);
+}
+
+int Object() {
+  void* object = nullptr;
+  return ::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC, IID_IUnknown, &object);
+}
+
+// Starts the spreadsheet program and lets go of it without ending it.
+int Spreadsheet() {
+  CLSID class_id;
+  HRESULT result = ::CLSIDFromProgID(L"Excel.Application", &class_id);
+  if (FAILED(result)) return result;
+  void* object = nullptr;
+  result = ::CoCreateInstance(class_id, nullptr, CLSCTX_LOCAL_SERVER, IID_IDispatch, &object);
+  if (SUCCEEDED(result)) static_cast<IUnknown*>(object)->Release();
+  return result;
+}
+
+int Mouse() {
+  ::mouse_event(MOUSEEVENTF_LEFTDOWN, 3, 4, 0, 0);
+  return 0;
+}
+
+}  // namespace
+
+void RegisterCommands() {
+  Register<&Box>("Box");
+  Register<&ThreadBox>("ThreadBox");
+  Register<&Explorer>("Explorer");
+  Register<&Notepad>("Notepad");
+  Register<&Timer>("Timer");
+  Register<&Desktop>("Desktop");
+  Register<&LocalFolder>("LocalFolder");
+  Register<&AskForFile<&::GetOpenFileNameW>>("OpenFile");
+  Register<&AskForFile<&::GetSaveFileNameW>>("SaveFile");
+  Register<&Object>("Object");
+  Register<&Spreadsheet>("Spreadsheet");
+  Register<&Mouse>("Mouse");
+}

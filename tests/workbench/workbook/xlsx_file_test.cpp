@@ -1,0 +1,217 @@
+// Workbook files: written and read back, read from other programs, damaged.
+#include "workbench/workbook/xlsx_file.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "tests/workbench/temporary_folder.h"
+#include "workbench/base/utf8_text.h"
+#include "workbench/base/zip_archive.h"
+
+namespace wb {
+namespace {
+
+namespace fs = std::filesystem;
+
+class XlsxFile : public testing::Test {
+ protected:
+  fs::path Write(const std::string& bytes) const {
+    const fs::path file = folder_ / "book.xlsx";
+    std::ofstream(file, std::ios::binary) << bytes;
+    return file;
+  }
+  // What reading `bytes` complains of; empty when it does not.
+  std::string ErrorOf(const std::string& bytes) const {
+    try {
+      ReadXlsx(Write(bytes));
+      return "";
+    } catch (const XlsxError& error) {
+      return error.what();
+    }
+  }
+
+  const TemporaryFolder temporary_{"workbench xlsx test"};
+  const fs::path& folder_ = temporary_.path;
+};
+
+constexpr const char* kRoots =
+    "<Relationships><Relationship Id=\"r\" Type=\"a/officeDocument\" Target=\"xl/b.xml\"/>"
+    "</Relationships>";
+constexpr const char* kBook =
+    "<x:workbook><x:sheets><x:sheet name=\"S\" r:id=\"r1\"/></x:sheets></x:workbook>";
+constexpr const char* kBookRelations =
+    "<Relationships><Relationship Id=\"r1\" Type=\"a/worksheet\" Target=\"/xl/s.xml\"/>"
+    "<Relationship Id=\"r2\" Type=\"a/sharedStrings\" Target=\"../xl/t.xml\"/></Relationships>";
+constexpr const char* kTexts =
+    "<sst><si><t>plain</t></si><si><r><t>rich </t></r><r><rPr><b/></rPr><t>text</t></r>"
+    "<rPh><t>hidden</t></rPh></si></sst>";
+
+std::string Archive(const std::string& sheet, const std::string& texts = kTexts) {
+  ZipWriter zip;
+  zip.Add("_rels/.rels", kRoots);
+  zip.Add("xl/b.xml", kBook);
+  zip.Add("xl/_rels/b.xml.rels", kBookRelations);
+  zip.Add("xl/s.xml", sheet);
+  zip.Add("xl/t.xml", texts);
+  return zip.Finish();
+}
+
+TEST_F(XlsxFile, WhatIsWrittenIsReadBack) {
+  Workbook book = NewWorkbook();
+  book.sheets.emplace_back().name = "第二 & 3";
+  book.active_sheet = 1;
+  Worksheet& sheet = book.sheets[0];
+  const CellValue kValues[] = {"plain",
+                               "a & <b> \"c\" 'd'",
+                               " blanks ",
+                               "two\nlines\r and\ttab",
+                               "_x000D_ as typed",
+                               "材料\x01",
+                               "no character \xEF\xBF\xBF, _x00e9_ as typed",
+                               "",
+                               -1.25e-7,
+                               12345678901234567890.0,
+                               true};
+  int row = 1;
+  for (const CellValue& value : kValues) sheet.SetValue({row++, 2}, value);
+  CellFormat format;
+  format.number_format = "@";
+  format.bold = true;
+  format.size = 16;
+  format.fill = CellFill{false, 0xFFFF00};
+  format.alignment = CellAlignment::kCenter;
+  sheet.SetFormat({1, 2}, format);
+  format.fill = CellFill{true, 35};
+  format.number_format = "0.000 \"kg\"";
+  format.wrap = true;
+  sheet.SetFormat({2, 2}, format);
+  sheet.Merge({{20, 1}, {20, 3}});
+  sheet.ColumnAt(2).width = 17.5;
+  WriteXlsx(book, folder_ / "book.xlsx");
+
+  const Workbook read = ReadXlsx(folder_ / "book.xlsx");
+  ASSERT_EQ(read.sheets.size(), 2u);
+  EXPECT_EQ(read.sheets[1].name, "第二 & 3");
+  EXPECT_EQ(read.active_sheet, 1u);
+  row = 1;
+  for (const CellValue& value : kValues) EXPECT_EQ(read.sheets[0].ValueAt({row++, 2}), value);
+  EXPECT_EQ(read.sheets[0].FormatAt({1, 2}), sheet.FormatAt({1, 2}));
+  EXPECT_EQ(read.sheets[0].FormatAt({2, 2}), sheet.FormatAt({2, 2}));
+  EXPECT_TRUE(read.sheets[0].IsMerged({{20, 1}, {20, 3}}));
+  EXPECT_EQ(read.sheets[0].WidthOf(2), 17.5);
+}
+
+TEST_F(XlsxFile, TheSameWorkbookGivesTheSameBytes) {
+  EXPECT_EQ(XlsxBytes(NewWorkbook()), XlsxBytes(NewWorkbook()));
+}
+
+TEST_F(XlsxFile, AFileSavedByAnotherProgramIsRead) {
+  const Workbook book = ReadXlsx(fs::path(QM_SOURCE_DIR) / "tests" / "workbench" / "workbook" /
+                                 "data" / "saved_by_another_program.xlsx");
+  const Worksheet& sheet = book.sheets.at(0);
+  EXPECT_EQ(sheet.ValueAt({1, 1}), CellValue("泵 BOM"));
+  EXPECT_EQ(sheet.ValueAt({4, 2}), CellValue("0007"));
+  EXPECT_EQ(sheet.ValueAt({4, 4}), CellValue("12345678901234567890"));
+  EXPECT_EQ(sheet.ValueAt({5, 2}), CellValue("@x\nline2"));
+  EXPECT_EQ(sheet.ValueAt({7, 2}), CellValue(7.0));
+  EXPECT_EQ(sheet.ValueAt({7, 3}), CellValue(true));
+  EXPECT_TRUE(sheet.IsMerged({{1, 1}, {1, 4}}));
+  const CellFormat title = sheet.FormatAt({1, 1});
+  EXPECT_TRUE(title.bold && title.size == 16 && title.fill == CellFill({false, 0xFFFF00}));
+  EXPECT_EQ(sheet.FormatAt({3, 1}).fill, (CellFill{false, 0xCCFFCC}));
+  EXPECT_EQ(sheet.FormatAt({3, 1}).number_format, "@");
+  EXPECT_EQ(sheet.FormatAt({2, 1}).alignment, CellAlignment::kCenter);
+}
+
+TEST_F(XlsxFile, AllWaysOfWritingACellAreRead) {
+  const std::string sheet =
+      "<?xml version=\"1.0\"?><!-- a note --><x:worksheet xmlns:x='m'><x:sheetData>"
+      "<x:row><x:c t='s'><x:v>0</x:v></x:c><x:c t='s'><x:v>1</x:v></x:c></x:row>"
+      "<x:row r='5'><x:c r='C5' t='inlineStr'><x:is><x:t>in &#x6750;&#26009;</x:t></x:is></x:c>"
+      "<x:c><x:v>1.5E2</x:v></x:c><x:c t='b'><x:v>0</x:v></x:c>"
+      "<x:c t='str'><x:f>A1&amp;B1</x:f><x:v>a_x000D_b</x:v></x:c>"
+      "<x:c t='e'><x:v>#N/A</x:v></x:c><x:c/><x:c><x:f>1+2</x:f><x:v></x:v></x:c></x:row>"
+      "<x:row><x:c t='inlineStr'><x:is><x:t><![CDATA[<raw>]]></x:t></x:is></x:c></x:row>"
+      "</x:sheetData></x:worksheet>";
+  const Workbook book = ReadXlsx(Write(Archive(sheet)));
+  const Worksheet& read = book.sheets.at(0);
+  const struct {
+    const char* cell;
+    CellValue value;
+  } kCells[] = {{"A1", "plain"}, {"B1", "rich text"}, {"C5", "in 材料"}, {"D5", 150.0},
+                {"E5", false},   {"F5", "a\rb"},      {"G5", "#N/A"},    {"A6", "<raw>"}};
+  for (const auto& row : kCells) {
+    EXPECT_EQ(read.ValueAt(*ParseCellAddress(row.cell)), row.value) << row.cell;
+  }
+  EXPECT_EQ(read.UsedArea(), *ParseAreaAddress("A1:G6"));
+}
+
+TEST_F(XlsxFile, WhatIsWrongIsToldWithItsPlace) {
+  const auto sheet = [](const std::string& cell) {
+    return Archive("<worksheet>\n<sheetData><row r=\"1\">" + cell +
+                   "</row></sheetData></worksheet>");
+  };
+  const struct {
+    std::string bytes;
+    const char* complaint;
+  } kCases[] = {
+      {"no archive", "book.xlsx: not a ZIP archive"},
+      {sheet("<c r=\"B2\"/>"), "book.xlsx!xl/s.xml:2: \"B2\" is no cell"},
+      {sheet("<c t=\"s\"><v>2</v></c>"), "book.xlsx!xl/s.xml:2: there is no shared text 2"},
+      {sheet("<c><v>x</v></c>"), "\"x\" is no number"},
+      {sheet("<c s=\"3\"/>"), "there is no cell format 3"},
+      {sheet("<c></d>"), "\"d\" ends where another element is open"},
+      {sheet("<c><v>&no;</v></c>"), "unknown reference \"&no;\""},
+      {sheet("<c a=1/>"), "the value of \"a\" is not quoted"},
+      {Archive("<worksheet><sheetData>"), "the document ends inside an element"},
+      {Archive(""), "the document ends inside an element"},
+      {Archive("\xff\xfe<"), "not UTF-8"},
+      {sheet("<c t=\"str\"><v>\x01</v></c>"), "s.xml:2: a character that no document may hold"},
+      {Archive("<worksheet>\xEF\xBF\xBE"), "a character that no document may hold"},
+      {Archive("<!DOCTYPE a []><worksheet/>"), "document types are not taken"},
+      {Archive("<worksheet/>", "<sst><si><t>"), "book.xlsx!xl/t.xml:1"},
+  };
+  for (const auto& row : kCases) {
+    const std::string error = ErrorOf(row.bytes);
+    EXPECT_NE(error.find(row.complaint), std::string::npos) << row.complaint << "\n" << error;
+  }
+  EXPECT_THROW(ReadXlsx(folder_ / "missing.xlsx"), XlsxError);
+}
+
+TEST_F(XlsxFile, AFileOfTheUsersBesideTheTargetStays) {
+  std::ofstream(folder_ / "book.xlsx.part") << "mine";
+  WriteXlsx(NewWorkbook(), folder_ / "book.xlsx");
+  EXPECT_EQ(fs::file_size(folder_ / "book.xlsx.part"), 4u);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()), 2);
+}
+
+// Under the sanitizers this finds reads beyond the file.
+TEST_F(XlsxFile, ADamagedFileIsRefusedOrReadButNeverRunsWild) {
+  const std::string whole =
+      Archive("<worksheet><sheetData><row><c><v>1</v></c></row></sheetData></worksheet>");
+  for (size_t length = 0; length < whole.size(); length += 7) {
+    EXPECT_NE(ErrorOf(whole.substr(0, length)), "") << length;
+  }
+  int refused = 0;
+  for (size_t at = 0; at < whole.size(); at += 2) {
+    std::string damaged = whole;
+    damaged[at] = static_cast<char>(~damaged[at]);
+    refused += !ErrorOf(damaged).empty();
+  }
+  EXPECT_GT(refused, static_cast<int>(whole.size() / 4));
+}
+
+TEST_F(XlsxFile, AFileThatCannotBeWrittenLeavesNothing) {
+  const fs::path file = folder_ / "missing" / "book.xlsx";
+  EXPECT_THROW(WriteXlsx(NewWorkbook(), file), XlsxError);
+  EXPECT_FALSE(fs::exists(file.parent_path()));
+  // A folder of the target's name is in the way.
+  fs::create_directories(folder_ / "taken.xlsx" / "inside");
+  EXPECT_THROW(WriteXlsx(NewWorkbook(), folder_ / "taken.xlsx"), XlsxError);
+  EXPECT_FALSE(fs::exists(folder_ / "taken.xlsx.part"));
+}
+
+}  // namespace
+}  // namespace wb

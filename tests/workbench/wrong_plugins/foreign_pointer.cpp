@@ -1,8 +1,0 @@
-// Gives the address of a variable of its own as a model.
-#include "tests/workbench/wrong_plugins/wrong_plugin.h"
-
-int Wrong() {
-  int variable = 0;
-  ProMdlType type;
-  return ProMdlTypeGet(&variable, &type);
-}

@@ -1,7 +1,0 @@
-// Allocates an array and forgets it.
-#include "tests/workbench/wrong_plugins/wrong_plugin.h"
-
-int Wrong() {
-  ProArray array = nullptr;
-  return ProArrayAlloc(0, 16, 1, &array);
-}

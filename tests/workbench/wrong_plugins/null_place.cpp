@@ -1,6 +1,0 @@
-// Gives no place for the answer.
-#include "tests/workbench/wrong_plugins/wrong_plugin.h"
-
-int Wrong() {
-  return ProModeCurrentGet(nullptr);
-}

@@ -1,9 +1,0 @@
-// Shows a dialog that nobody works.
-#include "tests/workbench/wrong_plugins/wrong_plugin.h"
-
-int Wrong() {
-  int answer = 0;
-  ProUIDialogCreate("Small", "Small");
-  ProUIDialogActivate("Small", &answer);
-  return ProUIDialogDestroy("Small");
-}

@@ -1,8 +1,0 @@
-// Stops a timer that was never set.
-#include <windows.h>
-
-#include "tests/workbench/wrong_plugins/wrong_plugin.h"
-
-int Wrong() {
-  return ::KillTimer(nullptr, 4711);
-}

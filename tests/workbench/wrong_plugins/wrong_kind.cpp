@@ -1,9 +1,0 @@
-// Gives a model where a selection is wanted.
-#include "tests/workbench/wrong_plugins/wrong_plugin.h"
-
-int Wrong() {
-  ProMdl model = nullptr;
-  ProMdlCurrentGet(&model);
-  ProModelitem item;
-  return ProSelectionModelitemGet(static_cast<ProSelection>(model), &item);
-}

@@ -1,0 +1,140 @@
+// Host functions of the parameter family.
+#include "workbench/host/loans.h"
+
+namespace wb {
+namespace {
+
+// Characters of the host's relation language, which no parameter name may hold.
+constexpr std::string_view kForbiddenInNames = " \t+-*/^=<>!&|~()[]{},;:?@#$%'\"\\.";
+
+bool IsParameterName(const std::string& name) {
+  return !name.empty() && name.find_first_of(kForbiddenInNames) == std::string::npos;
+}
+
+ParameterValue ValueArgument(const Call& call, const ProParamvalue& value) {
+  switch (value.type) {
+    case PRO_PARAM_DOUBLE:
+      return value.value.d_val;
+    case PRO_PARAM_STRING:
+      return call.Text(value.value.s_val, PRO_LINE_SIZE, "parameter text");
+    case PRO_PARAM_INTEGER:
+      return value.value.i_val;
+    case PRO_PARAM_BOOLEAN:
+      if (value.value.l_val != 0 && value.value.l_val != 1) call.Fail("yes/no value not 0 or 1");
+      return value.value.l_val == 1;
+    default:
+      call.Fail("value type " + std::to_string(static_cast<int>(value.type)));
+  }
+}
+
+void FillValue(const Call& call, const ParameterValue& held, ProParamvalue& value) {
+  value = {};
+  if (const auto* real = std::get_if<double>(&held)) {
+    value.type = PRO_PARAM_DOUBLE;
+    value.value.d_val = *real;
+  } else if (const auto* text = std::get_if<std::string>(&held)) {
+    value.type = PRO_PARAM_STRING;
+    call.CopyText(value.value.s_val, PRO_LINE_SIZE, *text);
+  } else if (const auto* whole = std::get_if<int>(&held)) {
+    value.type = PRO_PARAM_INTEGER;
+    value.value.i_val = *whole;
+  } else {
+    value.type = PRO_PARAM_BOOLEAN;
+    value.value.l_val = std::get<bool>(held) ? 1 : 0;
+  }
+}
+
+// Parameters are modelled on models, not on features or other items.
+Model& OwnerAt(const Call& call, const ProModelitem* owner) {
+  if (owner == nullptr) call.Fail("null owner");
+  Model& model = call.ModelAt(owner->owner);
+  if (static_cast<int>(owner->type) != static_cast<int>(model.id.kind)) {
+    throw NotModelled{"parameters of items inside a model"};
+  }
+  return model;
+}
+
+struct Held {
+  Model* model;
+  Parameter* parameter;  // null: gone since the record was made
+};
+Held ParameterAt(const Call& call, const ProParameter* record) {
+  if (record == nullptr) call.Fail("null parameter");
+  Model& model = OwnerAt(call, &record->owner.who.item);
+  return {&model, model.FindParameter(call.Text(record->id, PRO_NAME_SIZE, "parameter name"))};
+}
+
+void FillRecord(const Call& call, const ProModelitem& owner, const std::string& name,
+                ProParameter* record) {
+  ProParameter& place = call.Place(record, "parameter place");
+  place = {};
+  place.type = PRO_TYPE_UNUSED;
+  call.CopyText(place.id, PRO_NAME_SIZE, name);
+  place.owner.type = PRO_PARAM_OWNER_ITEM;
+  place.owner.who.item = owner;
+}
+
+}  // namespace
+}  // namespace wb
+
+using namespace wb;
+
+ProError ProParameterCreate(ProModelitem* owner, ProName name, ProParamvalue* value,
+                            ProParameter* parameter) {
+  return Crossing("ProParameterCreate", owner, name, static_cast<const void*>(value),
+                  Out(parameter))
+      .Run([&](Call& call) {
+        Model& model = OwnerAt(call, owner);
+        const std::string text = call.Text(name, PRO_NAME_SIZE, "parameter name");
+        const ParameterValue held = ValueArgument(call, call.Place(value, "value"));
+        if (!IsParameterName(text)) return PRO_TK_INVALID_NAME;
+        if (model.FindParameter(text) != nullptr) return PRO_TK_E_FOUND;
+        FillRecord(call, *owner, text, parameter);
+        model.SetParameter(text, held);
+        return PRO_TK_NO_ERROR;
+      });
+}
+
+ProError ProParameterInit(ProModelitem* owner, ProName name, ProParameter* parameter) {
+  return Crossing("ProParameterInit", owner, name, Out(parameter)).Run([&](Call& call) {
+    Model& model = OwnerAt(call, owner);
+    const std::string text = call.Text(name, PRO_NAME_SIZE, "parameter name");
+    const Parameter* const held = model.FindParameter(text);
+    if (held == nullptr) return PRO_TK_E_NOT_FOUND;
+    FillRecord(call, *owner, held->name, parameter);
+    return PRO_TK_NO_ERROR;
+  });
+}
+
+ProError ProParameterValueGet(ProParameter* parameter, ProParamvalue* value) {
+  return Crossing("ProParameterValueGet", static_cast<const void*>(parameter), Out(value))
+      .Run([&](Call& call) {
+        const Held held = ParameterAt(call, parameter);
+        ProParamvalue& place = call.Place(value, "value place");
+        if (held.parameter == nullptr) return PRO_TK_E_NOT_FOUND;
+        FillValue(call, held.parameter->value, place);
+        return PRO_TK_NO_ERROR;
+      });
+}
+
+ProError ProParameterValueSet(ProParameter* parameter, ProParamvalue* value) {
+  return Crossing("ProParameterValueSet", static_cast<const void*>(parameter),
+                  static_cast<const void*>(value))
+      .Run([&](Call& call) {
+        const Held held = ParameterAt(call, parameter);
+        ParameterValue wanted = ValueArgument(call, call.Place(value, "value"));
+        if (held.parameter == nullptr) return PRO_TK_E_NOT_FOUND;
+        if (held.parameter->value.index() != wanted.index()) return PRO_TK_INVALID_TYPE;
+        held.model->SetParameter(held.parameter->name, std::move(wanted));
+        return PRO_TK_NO_ERROR;
+      });
+}
+
+ProError ProParameterDelete(ProParameter* parameter) {
+  return Crossing("ProParameterDelete", static_cast<const void*>(parameter)).Run([&](Call& call) {
+    const Held held = ParameterAt(call, parameter);
+    if (held.parameter == nullptr) return PRO_TK_E_NOT_FOUND;
+    held.model->DeleteParameter(std::string(held.parameter->name));
+    return PRO_TK_NO_ERROR;
+  });
+}

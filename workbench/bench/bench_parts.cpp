@@ -1,0 +1,31 @@
+// The table of parts.
+#include "workbench/bench/bench_parts.h"
+
+namespace wb {
+namespace {
+
+constexpr BenchPartRow kParts[] = {
+    {BenchPart::kCollection, "collection", "QmShowAllComp", BenchWork::kCollect, false},
+    {BenchPart::kShowAll, "QmShowAllComp", "QmShowAllComp", BenchWork::kShow, false},
+    {BenchPart::kHideReverse, "QmHideReverse", "QmHideReverse", BenchWork::kReverse, false},
+    {BenchPart::kAddParameter, "QmParams Add", "QmParams", BenchWork::kParameter, true},
+    {BenchPart::kSummaryBill, "QmBom summary", "QmBom", BenchWork::kCollect, true},
+    {BenchPart::kReadTable, "QmBom to Excel", "QmBom", BenchWork::kCollect, true},
+    {BenchPart::kLevelBill, "QmBom levels", "QmBom", BenchWork::kCollect, true},
+};
+
+}  // namespace
+
+std::span<const BenchPartRow> BenchParts() {
+  return kParts;
+}
+
+const char* BenchPartName(BenchPart part) {
+  return kParts[static_cast<size_t>(part)].name;
+}
+
+bool IsBill(BenchPart part) {
+  return part == BenchPart::kSummaryBill || part == BenchPart::kLevelBill;
+}
+
+}  // namespace wb

@@ -1,0 +1,118 @@
+// Works the dialogs the way a user does.
+#include "workbench/bench/bench_user.h"
+
+#include <chrono>
+#include <stdexcept>
+
+#include "workbench/base/text.h"
+#include "workbench/bench/bench_heap.h"
+#include "workbench/bench/bench_walk.h"
+#include "workbench/host/host.h"
+
+namespace wb {
+namespace {
+
+constexpr char kBillTable[] = "bom_list";
+// The spreadsheet program is kept away, so that an export ends when its table has been read.
+constexpr char kNoSpreadsheet[] = "创建Excel失败";
+
+void Require(const UserOutcome& outcome) {
+  if (!outcome.Done()) throw std::runtime_error(outcome.refusal);
+}
+
+void Fire(LiveDialog& dialog, const char* component, const char* event) {
+  if (!dialog.Fire(component, event)) {
+    throw std::runtime_error(std::string("nothing is bound to ") + component);
+  }
+}
+
+void Press(LiveDialog& dialog, const char* button) {
+  Require(dialog.state.UserPress(button));
+  Fire(dialog, button, kActivateEvent);
+}
+
+void FillIn(Dialog& dialog) {
+  Require(dialog.UserSelect("TypeRadio", {"AsmAndPart"}));
+  Require(dialog.UserSetField("ParaName", kBenchParameter));
+  Require(dialog.UserSetField("ParaValue", "1"));
+  Require(dialog.UserSelect("PtypeOption", {"整数"}));
+  Require(dialog.UserSetField("InputKeyWords", ""));
+}
+
+void RequireRows(LiveDialog& dialog) {
+  TableModel* table = nullptr;
+  const UiStatus status = dialog.state.Find(ComponentKind::kTable, kBillTable, &table);
+  if (status != UiStatus::kOk || table->Rows().empty()) {
+    throw std::runtime_error("the bill has no rows");
+  }
+}
+
+long ParametersLookedUp() {
+  const auto counts = TheHost().trace.Counts();
+  const auto found = counts.find("ProParameterInit");
+  return found == counts.end() ? 0 : found->second;
+}
+
+[[noreturn]] void Unexpected(const std::string& question) {
+  throw std::runtime_error("unexpected question: " + question);
+}
+
+}  // namespace
+
+void BenchUser::Take(BenchPart part, const std::function<void()>& press) {
+  std::optional<HeapWatch> watch;
+  if (watched_ != nullptr) watch.emplace(watched_);
+  const Trace& trace = TheHost().trace;
+  const long calls_before = trace.calls();
+  const long parameters_before = ParametersLookedUp();
+  const auto start = std::chrono::steady_clock::now();
+  press();
+  const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+  presses_[part] = {trace.calls() - calls_before, ParametersLookedUp() - parameters_before,
+                    seconds.count(), watch ? watch->peak() : 0};
+}
+
+void BenchUser::AddParameter(LiveDialog& dialog) {
+  FillIn(dialog.state);
+  Take(BenchPart::kAddParameter, [&] { Press(dialog, "Add"); });
+}
+
+void BenchUser::WorkBills(LiveDialog& dialog) {
+  Take(BenchPart::kSummaryBill, [&] { Press(dialog, "QmLoadBom"); });
+  RequireRows(dialog);
+  Take(BenchPart::kReadTable, [&] { Press(dialog, "QmExportBom"); });
+  Require(dialog.state.UserSelect("BomRadio", {"LevelBom"}));
+  Fire(dialog, "BomRadio", kSelectEvent);
+  Require(dialog.state.UserSelect("LevelOption", {"99"}));
+  Take(BenchPart::kLevelBill, [&] { Press(dialog, "QmLoadBom"); });
+  RequireRows(dialog);
+}
+
+void BenchUser::WorkDialog(LiveDialog& dialog) {
+  if (dialog.name == "QmBom") {
+    WorkBills(dialog);
+  } else {
+    AddParameter(dialog);
+  }
+  Press(dialog, "Close");
+}
+
+std::optional<std::vector<PickedItem>> BenchUser::Pick(const PickRequest& request) {
+  Unexpected("pick of " + request.filter);
+}
+
+std::optional<std::string> BenchUser::ChooseFile(const FileRequest& request) {
+  if (request.asked_by != "GetSaveFileNameW") Unexpected("file for " + request.asked_by);
+  return PathToUtf8(TheHost().session.working_directory() / "bench.xlsx");
+}
+
+std::optional<std::string> BenchUser::AnswerPrompt(const std::string& prompt, int) {
+  Unexpected("prompt \"" + prompt + "\"");
+}
+
+int BenchUser::AnswerMessageBox(const MessageBox& box) {
+  if (box.text != kNoSpreadsheet) Unexpected("box \"" + box.text + "\"");
+  return 1;  // OK
+}
+
+}  // namespace wb

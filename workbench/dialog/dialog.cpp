@@ -1,0 +1,210 @@
+// Live state of one created dialog.
+#include "workbench/dialog/dialog.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "workbench/base/text.h"
+
+namespace wb {
+namespace {
+
+UserOutcome Refuse(const Component& component, const std::string& why) {
+  return {UiEvent::kNone, std::string(KindName(component.kind)) + " " + component.name + " " + why};
+}
+
+UserOutcome Fires(UiEvent event) {
+  return {event, {}};
+}
+
+std::string SelectionRefusal(UiStatus status, const std::vector<std::string>& names,
+                             const std::vector<std::string>& known, const char* item) {
+  if (status == UiStatus::kBadArgument) {
+    return "cannot have " + std::to_string(names.size()) + " " + item + "s selected at once";
+  }
+  constexpr std::size_t kMostNamed = 20;
+  std::vector<std::string> shown(
+      known.begin(),
+      known.begin() + static_cast<std::ptrdiff_t>(std::min(known.size(), kMostNamed)));
+  if (known.size() > kMostNamed) shown.push_back("...");
+  return std::string("has no ") + item + " " + Join(" or no ", names) +
+         (shown.empty() ? "; it is empty" : "; it has " + Join(", ", shown));
+}
+
+}  // namespace
+
+Dialog::Dialog(DialogResource resource)
+    : resource_(std::move(resource)), title_(resource_.dialog.Text("Label")) {
+  components_.reserve(resource_.components.size());
+  for (const ComponentResource& component : resource_.components) {
+    index_.emplace(component.name, components_.size());
+    components_.emplace_back(component);
+  }
+}
+
+const Component* Dialog::Lookup(std::string_view name) const {
+  const auto found = index_.find(std::string(name));
+  return found == index_.end() ? nullptr : &components_[found->second];
+}
+
+Component* Dialog::Lookup(std::string_view name) {
+  return const_cast<Component*>(std::as_const(*this).Lookup(name));
+}
+
+UiStatus Dialog::Find(ComponentKind kind, std::string_view name, Component** component) {
+  Component* found = Lookup(name);
+  if (!found) return UiStatus::kNoComponent;
+  if (found->kind != kind) return UiStatus::kWrongKind;
+  *component = found;
+  return UiStatus::kOk;
+}
+
+UiStatus Dialog::SetEnabled(ComponentKind kind, std::string_view name, bool enabled) {
+  Component* component = nullptr;
+  const UiStatus status = Find(kind, name, &component);
+  if (status == UiStatus::kOk) component->enabled = enabled;
+  return status;
+}
+
+UiStatus Dialog::SetVisible(ComponentKind kind, std::string_view name, bool visible) {
+  Component* component = nullptr;
+  const UiStatus status = Find(kind, name, &component);
+  if (status == UiStatus::kOk) component->visible = visible;
+  return status;
+}
+
+UiStatus Dialog::SetLabel(ComponentKind kind, std::string_view name, std::string_view label) {
+  Component* component = nullptr;
+  const UiStatus status = Find(kind, name, &component);
+  if (status != UiStatus::kOk) return status;
+  if (!FindAttributeRule(kind, "Label")) return UiStatus::kWrongKind;
+  component->label = label;
+  return UiStatus::kOk;
+}
+
+UiStatus Dialog::GetOptionValue(std::string_view name, std::string* item) const {
+  const Component* component = Lookup(name);
+  if (!component) return UiStatus::kNoComponent;
+  if (component->kind != ComponentKind::kOptionMenu) return UiStatus::kWrongKind;
+  const std::vector<std::string>& selected = std::get<ChoiceState>(component->state).Selected();
+  *item = selected.empty() ? std::string() : selected.front();
+  return UiStatus::kOk;
+}
+
+UiStatus Dialog::SetOptionValue(std::string_view name, const std::string& item) {
+  ChoiceState* choice = nullptr;
+  const UiStatus status = Find(ComponentKind::kOptionMenu, name, &choice);
+  return status == UiStatus::kOk ? choice->Select({item}) : status;
+}
+
+bool Dialog::IsShown(const Component& component) const {
+  const Component* at = &component;
+  while (at && at->visible) at = at->parent.empty() ? nullptr : Lookup(at->parent);
+  return at == nullptr;
+}
+
+bool Dialog::IsUsable(const Component& component) const {
+  const Component* at = &component;
+  while (at && at->enabled) at = at->parent.empty() ? nullptr : Lookup(at->parent);
+  return at == nullptr;
+}
+
+UserOutcome Dialog::Reach(std::string_view name) const {
+  const Component* component = Lookup(name);
+  if (!component) {
+    return {UiEvent::kNone, "dialog " + resource_.name + " has no component " + std::string(name)};
+  }
+  if (!IsShown(*component)) return Refuse(*component, "is not visible");
+  if (!IsUsable(*component)) return Refuse(*component, "is greyed out");
+  return {};
+}
+
+UserOutcome Dialog::UserSetField(std::string_view component, std::string_view text) {
+  UserOutcome outcome = Reach(component);
+  if (!outcome.Done()) return outcome;
+  Component& field = *Lookup(component);
+  auto* state = std::get_if<TextState>(&field.state);
+  if (!state) return Refuse(field, "is not a field to type into");
+  if (!state->IsEditable()) return Refuse(field, "is read-only");
+  if (state->SetValue(text) == UiStatus::kOk) return Fires(UiEvent::kInput);
+  const bool broken = field.kind == ComponentKind::kInputPanel && text.find('\n') != text.npos;
+  return Refuse(field, broken
+                           ? "takes one line only"
+                           : "takes " + std::to_string(state->MaxLength()) + " characters at most");
+}
+
+UserOutcome Dialog::UserSelect(std::string_view component, const std::vector<std::string>& names) {
+  UserOutcome outcome = Reach(component);
+  if (!outcome.Done()) return outcome;
+  Component& target = *Lookup(component);
+  if (auto* choice = std::get_if<ChoiceState>(&target.state)) {
+    const UiStatus status = choice->Select(names);
+    if (status == UiStatus::kOk) return Fires(UiEvent::kSelect);
+    return Refuse(target, SelectionRefusal(status, names, choice->Names(), "item"));
+  }
+  if (auto* table = std::get_if<TableModel>(&target.state)) {
+    const UiStatus status = table->SelectRows(names);
+    if (status == UiStatus::kOk) return Fires(UiEvent::kSelect);
+    return Refuse(target, SelectionRefusal(status, names, table->RowNames(), "row"));
+  }
+  return Refuse(target, "has nothing to select");
+}
+
+UserOutcome Dialog::UserToggle(std::string_view check_button) {
+  UserOutcome outcome = Reach(check_button);
+  if (!outcome.Done()) return outcome;
+  Component& target = *Lookup(check_button);
+  auto* check = std::get_if<CheckState>(&target.state);
+  if (!check) return Refuse(target, "is not a check button");
+  check->set = !check->set;
+  return Fires(UiEvent::kActivate);
+}
+
+UserOutcome Dialog::UserPress(std::string_view push_button) {
+  UserOutcome outcome = Reach(push_button);
+  if (!outcome.Done()) return outcome;
+  const Component& target = *Lookup(push_button);
+  if (target.kind != ComponentKind::kPushButton) return Refuse(target, "is not a push button");
+  return Fires(UiEvent::kActivate);
+}
+
+UserOutcome Dialog::UserDoubleClick(std::string_view component, const std::string& name) {
+  UserOutcome outcome = Reach(component);
+  if (!outcome.Done()) return outcome;
+  const Component& target = *Lookup(component);
+  if (target.kind != ComponentKind::kTable && target.kind != ComponentKind::kList) {
+    return Refuse(target, "has no rows to double-click");
+  }
+  outcome = UserSelect(component, {name});
+  if (outcome.Done()) outcome.event = UiEvent::kActivate;
+  return outcome;
+}
+
+UserOutcome Dialog::UserFocusCell(std::string_view table, const std::string& row,
+                                  std::string_view column) {
+  UserOutcome outcome = Reach(table);
+  if (!outcome.Done()) return outcome;
+  Component& target = *Lookup(table);
+  auto* model = std::get_if<TableModel>(&target.state);
+  if (!model) return Refuse(target, "is not a table");
+  if (model->SetFocus(row, column) != UiStatus::kOk) {
+    return Refuse(target, "has no cell in row " + row + ", column " + std::string(column));
+  }
+  model->SelectRows({row});
+  return Fires(UiEvent::kArm);
+}
+
+std::string Dialog::DescribeComponents() const {
+  std::string text;
+  for (const Component& component : components_) {
+    text += std::string(KindName(component.kind)) + " " + component.name;
+    const std::string value = ValueText(component);
+    if (!value.empty()) text += ": " + value;
+    if (!IsShown(component)) text += " (hidden)";
+    if (!IsUsable(component)) text += " (greyed)";
+    text += "\n";
+  }
+  return text;
+}
+
+}  // namespace wb

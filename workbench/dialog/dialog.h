@@ -1,0 +1,91 @@
+// One created dialog: the live state of its components, as the plug-in's calls and the user's hands
+// change it. Which actions are bound to it and when they run is the caller's business.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <variant>
+#include <vector>
+
+#include "workbench/dialog/dialog_resource.h"
+#include "workbench/dialog/field_state.h"
+#include "workbench/dialog/ui_status.h"
+
+namespace wb {
+
+// The action of a component that a user's deed is to fire.
+enum class UiEvent { kNone, kActivate, kSelect, kInput, kArm };
+
+// What came of something the user tried: the action to fire, or why it cannot be done. A refused
+// deed changes nothing.
+struct UserOutcome {
+  bool Done() const { return refusal.empty(); }
+
+  UiEvent event = UiEvent::kNone;
+  std::string refusal;  // a sentence that names the component
+};
+
+class Dialog {
+ public:
+  explicit Dialog(DialogResource resource);
+
+  const DialogResource& Resource() const { return resource_; }
+  const std::string& Title() const { return title_; }
+  void SetTitle(std::string_view title) { title_ = title; }
+  const std::vector<Component>& Components() const { return components_; }
+
+  // --- The plug-in's side. The out-pointers are set only on kOk and stay valid as long as the
+  // dialog; a component of another kind is kWrongKind.
+  UiStatus Find(ComponentKind kind, std::string_view name, Component** component);
+  // The typed state of a component: ChoiceState, TextState, CheckState or TableModel.
+  template <class State>
+  UiStatus Find(ComponentKind kind, std::string_view name, State** state) {
+    Component* component = nullptr;
+    const UiStatus status = Find(kind, name, &component);
+    if (status != UiStatus::kOk) return status;
+    *state = std::get_if<State>(&component->state);
+    return *state ? UiStatus::kOk : UiStatus::kWrongKind;
+  }
+  UiStatus SetEnabled(ComponentKind kind, std::string_view name, bool enabled);
+  UiStatus SetVisible(ComponentKind kind, std::string_view name, bool visible);
+  // Labels of buttons, label texts and group captions.
+  UiStatus SetLabel(ComponentKind kind, std::string_view name, std::string_view label);
+  // The name of the item that an option menu shows; "" while it has no items.
+  UiStatus GetOptionValue(std::string_view name, std::string* item) const;
+  UiStatus SetOptionValue(std::string_view name, const std::string& item);
+
+  // --- The user's side. A component that is missing, hidden or greyed, itself or through the group
+  // it lies in, cannot be used.
+  // Types `text` into an input panel or text area in place of what is there.
+  UserOutcome UserSetField(std::string_view component, std::string_view text);
+  // Chooses items of a radio group, option menu or list, or rows of a table, by name.
+  UserOutcome UserSelect(std::string_view component, const std::vector<std::string>& names);
+  UserOutcome UserToggle(std::string_view check_button);
+  UserOutcome UserPress(std::string_view push_button);
+  // Double-clicks a list item or table row, which also selects it.
+  UserOutcome UserDoubleClick(std::string_view component, const std::string& name);
+  // Clicks a table cell: it takes the focus and its row becomes the selected one.
+  UserOutcome UserFocusCell(std::string_view table, const std::string& row,
+                            std::string_view column);
+
+  // True when the component and every group around it is visible (or enabled).
+  bool IsShown(const Component& component) const;
+  bool IsUsable(const Component& component) const;
+
+  // A line a component: kind, name, state, and whether it is greyed or hidden.
+  std::string DescribeComponents() const;
+
+ private:
+  const Component* Lookup(std::string_view name) const;
+  Component* Lookup(std::string_view name);
+  // Whether a user can reach `name` at all; the refusal says why not.
+  UserOutcome Reach(std::string_view name) const;
+
+  DialogResource resource_;
+  std::string title_;
+  std::vector<Component> components_;
+  std::unordered_map<std::string, std::size_t> index_;
+};
+
+}  // namespace wb

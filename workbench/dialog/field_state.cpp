@@ -1,0 +1,152 @@
+// Live state of the components of a dialog.
+#include "workbench/dialog/field_state.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+#include "workbench/base/text.h"
+#include "workbench/base/utf8_text.h"
+
+namespace wb {
+namespace {
+
+bool Contains(const std::vector<std::string>& names, std::string_view name) {
+  return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+std::string OnOneLine(const std::string& text) {
+  std::string line;
+  for (const char c : text) line += c == '\n' ? std::string("\\n") : std::string(1, c);
+  return line;
+}
+
+TableModel InitialTable(const ComponentResource& resource) {
+  TableModel table;
+  table.InsertColumns("", resource.Texts("ColumnNames"));
+  if (resource.Has("ColumnLabels")) table.SetColumnLabels(resource.Texts("ColumnLabels"));
+  if (resource.Has("ColumnWidths")) table.SetColumnWidths(resource.Numbers("ColumnWidths"));
+  table.InsertRows("", resource.Texts("RowNames"));
+  if (resource.Has("RowLabels")) table.SetRowLabels(resource.Texts("RowLabels"));
+  table.SetPolicy(resource.Number("SelectionPolicy", static_cast<int>(SelectionPolicy::kSingle)));
+  return table;
+}
+
+ComponentState InitialState(const ComponentResource& resource) {
+  switch (resource.kind) {
+    case ComponentKind::kRadioGroup:
+    case ComponentKind::kOptionMenu:
+    case ComponentKind::kList:
+      return ChoiceState(resource);
+    case ComponentKind::kInputPanel:
+    case ComponentKind::kTextArea:
+      return TextState(resource);
+    case ComponentKind::kCheckButton:
+      return CheckState{resource.Flag("Set", false)};
+    case ComponentKind::kTable:
+      return InitialTable(resource);
+    default:
+      return std::monostate();
+  }
+}
+
+}  // namespace
+
+ChoiceState::ChoiceState(const ComponentResource& resource)
+    : names_(resource.Texts("Names")),
+      labels_(resource.Texts("Labels")),
+      selected_(resource.Texts("SelectedNames")) {
+  if (resource.Has("Value")) selected_ = {resource.Text("Value")};
+  if (resource.kind == ComponentKind::kList) {
+    policy_ = static_cast<SelectionPolicy>(
+        resource.Number("SelectionPolicy", static_cast<int>(SelectionPolicy::kSingle)));
+  }
+  // An option menu always shows one of its items; a radio group may start with none pressed.
+  if (resource.kind == ComponentKind::kOptionMenu && selected_.empty() && !names_.empty()) {
+    selected_ = {names_.front()};
+  }
+}
+
+std::string ChoiceState::LabelOf(std::string_view name) const {
+  const auto found = std::find(names_.begin(), names_.end(), name);
+  if (found == names_.end()) return {};
+  if (labels_.empty()) return *found;
+  return labels_[static_cast<std::size_t>(found - names_.begin())];
+}
+
+bool ChoiceState::IsSelected(std::string_view name) const {
+  return Contains(selected_, name);
+}
+
+UiStatus ChoiceState::SetNames(const std::vector<std::string>& names) {
+  const std::set<std::string> distinct(names.begin(), names.end());
+  if (distinct.size() != names.size() || distinct.count("") != 0) return UiStatus::kBadArgument;
+  names_ = names;
+  if (labels_.size() != names_.size()) labels_.clear();
+  std::erase_if(selected_, [&](const std::string& name) { return distinct.count(name) == 0; });
+  return UiStatus::kOk;
+}
+
+UiStatus ChoiceState::SetLabels(const std::vector<std::string>& labels) {
+  if (labels.size() != names_.size()) return UiStatus::kBadArgument;
+  labels_ = labels;
+  return UiStatus::kOk;
+}
+
+UiStatus ChoiceState::Select(const std::vector<std::string>& names) {
+  const bool known = std::all_of(names.begin(), names.end(),
+                                 [&](const std::string& name) { return Contains(names_, name); });
+  if (!known) return UiStatus::kNotFound;
+  if (!PolicyAllows(policy_, names.size())) return UiStatus::kBadArgument;
+  selected_ = names;
+  return UiStatus::kOk;
+}
+
+UiStatus ChoiceState::SetPolicy(int policy) {
+  if (!IsPolicy(policy)) return UiStatus::kBadArgument;
+  policy_ = static_cast<SelectionPolicy>(policy);
+  return UiStatus::kOk;
+}
+
+TextState::TextState(const ComponentResource& resource)
+    : value_(resource.Text("Value")),
+      max_length_(static_cast<std::size_t>(resource.Number("MaxLen", 0))),
+      editable_(resource.Flag("Editable", true)),
+      many_lines_(resource.kind == ComponentKind::kTextArea) {}
+
+UiStatus TextState::SetValue(std::string_view value) {
+  if (max_length_ != 0 && WideLength(value) > max_length_) return UiStatus::kBadArgument;
+  if (!many_lines_ && value.find('\n') != std::string_view::npos) return UiStatus::kBadArgument;
+  value_ = value;
+  return UiStatus::kOk;
+}
+
+Component::Component(const ComponentResource& resource)
+    : kind(resource.kind),
+      name(resource.name),
+      parent(resource.parent),
+      help_text(resource.Text("HelpText")),
+      enabled(resource.Flag("Sensitive", true)),
+      visible(resource.Flag("Visible", true)),
+      state(InitialState(resource)) {
+  if (FindAttributeRule(kind, "Label") != nullptr) label = resource.Text("Label");
+}
+
+std::string ValueText(const Component& component) {
+  if (const auto* choice = std::get_if<ChoiceState>(&component.state)) {
+    return Join(", ", choice->Selected()) + " of " + Join(", ", choice->Names());
+  }
+  if (const auto* text = std::get_if<TextState>(&component.state)) {
+    return "\"" + OnOneLine(text->Value()) + "\"";
+  }
+  if (const auto* check = std::get_if<CheckState>(&component.state)) {
+    return check->set ? "set" : "unset";
+  }
+  if (const auto* table = std::get_if<TableModel>(&component.state)) {
+    return std::to_string(table->Rows().size()) + " rows x " +
+           std::to_string(table->Columns().size()) + " columns";
+  }
+  return component.label.empty() ? std::string() : "\"" + component.label + "\"";
+}
+
+}  // namespace wb

@@ -1,0 +1,76 @@
+// The one host of a process.
+#include "workbench/host/host.h"
+
+#include <stdexcept>
+
+#include <windows.h>
+
+#include "workbench/host/host_types.h"
+
+namespace wb {
+namespace {
+
+Host* current_host = nullptr;
+
+}  // namespace
+
+Host::Host() : ui_thread(::GetCurrentThreadId()) {
+  if (current_host != nullptr) throw std::logic_error("a process has one host at a time");
+  current_host = this;
+  session.on_enter = [this](Model& model) {
+    model.handle = handles.Give(HandleKind::kModel, &model);
+  };
+  session.on_leave = [this](Model& model) { Forget(model); };
+}
+
+Host::~Host() {
+  current_host = nullptr;
+}
+
+void Host::Forget(Model& model) {
+  handles.End(model.handle);
+  for (const Box& surface : model.surfaces) {
+    const auto found = surface_handles.find(&surface);
+    if (found == surface_handles.end()) continue;
+    handles.End(found->second);
+    surface_handles.erase(found);
+  }
+  for (PickedItem* item : picked) {
+    if (item->owner == &model) item->owner = nullptr;
+    if (item->root == &model) item->root = nullptr;
+  }
+}
+
+void Host::ReportBreach(const std::string& function, const std::string& why) {
+  breaches.push_back({function, why});
+}
+
+bool Host::OnUiThread() const {
+  return ::GetCurrentThreadId() == ui_thread;
+}
+
+bool Host::LetUserIn(const char* function) {
+  return user != nullptr && user->CallBegins(function);
+}
+
+std::string Host::DescribeHandle(const void* handle) const {
+  if (handle == nullptr) return "null";
+  void* object = nullptr;
+  const HandleKind kind = handles.KindOf(handle, &object);
+  if (kind == HandleKind::kModel) {
+    const auto& model = *static_cast<const Model*>(object);
+    return std::string(KindWord(model.id.kind)) + " " + model.id.name;
+  }
+  return kind == HandleKind::kNone ? "pointer" : HandleKindWord(kind);
+}
+
+Host& TheHost() {
+  if (current_host == nullptr) throw std::logic_error("no host");
+  return *current_host;
+}
+
+bool HasHost() {
+  return current_host != nullptr;
+}
+
+}  // namespace wb

@@ -1,0 +1,41 @@
+// The message area: notes and prompts that the plug-in shows through its message files.
+#pragma once
+
+#include <cstdarg>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "workbench/base/message_file.h"
+
+namespace wb {
+
+struct Host;
+
+class MessageArea {
+ public:
+  // Texts shown, in order, with their arguments filled in.
+  std::vector<std::string> notes;
+  // Message files and keys that were asked for and are not there, one line each.
+  std::vector<std::string> missing;
+
+  // Null when the file or the key is missing, which is noted in `missing`. Throws MessageFileError
+  // for a file that is there but broken.
+  const MessageRecord* Find(const std::filesystem::path& file, const std::string& key);
+  // Reads every file anew from now on.
+  void Forget() { files_.clear(); }
+
+ private:
+  std::map<std::filesystem::path, MessageFile> files_;
+};
+
+// Where the host looks for the plug-in's message file: the text folder of the language.
+std::filesystem::path MessagePath(const Host& host, const std::string& file);
+
+// The text with its arguments, which are fetched in order by the codes the record uses. No value:
+// an argument that must be a text is null.
+std::optional<std::string> FilledIn(const MessageRecord& record, va_list arguments);
+
+}  // namespace wb

@@ -1,0 +1,63 @@
+// The Windows calls of the plug-in that reach the user or other programs: replaced in the loaded
+// DLL's import table, recorded, and answered by the user of the workbench. The rest of Windows
+// stays real.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "workbench/host/user.h"
+
+namespace wb {
+
+struct ShellCall {
+  std::string function;  // "ShellExecuteW", "WinExec"
+  std::string verb;
+  std::string program;  // for WinExec the whole command line
+  std::string parameters;
+  int show = 0;
+};
+
+struct Timer {
+  unsigned long long id = 0;
+  unsigned milliseconds = 0;
+  void* procedure = nullptr;  // TIMERPROC
+  bool kill_failed = false;   // by a fault: that it is pending is not held against the plug-in
+};
+
+struct MouseEvent {
+  unsigned flags = 0;
+  unsigned dx = 0;
+  unsigned dy = 0;
+  unsigned data = 0;
+};
+
+struct WindowsCalls {
+  std::vector<MessageBox> boxes;
+  std::vector<ShellCall> shell;
+  std::vector<Timer> timers;               // pending
+  std::vector<FileRequest> file_requests;  // of the open and save dialogs
+  unsigned long dialog_error = 0;          // how the latest of them failed; 0: it did not
+  unsigned long long slept_ms = 0;         // the plug-in's pauses, which take no time here
+  std::function<void()> in_pause;          // what goes on elsewhere in each of them
+  std::vector<MouseEvent> mouse;
+  std::vector<std::string> classes;        // class ids of objects asked for, "{...}"
+  std::filesystem::path desktop_folder;    // what the desktop folder look-up answers
+  std::filesystem::path local_app_folder;  // what the local application data look-up answers
+  std::set<std::string> withheld;          // host functions that this host does not offer
+  unsigned long long next_timer = 0x5000;
+};
+
+struct Interception {
+  std::vector<std::string> replaced;
+  // Imports by number instead of by name, which cannot be intercepted: "USER32.dll#12".
+  std::vector<std::string> by_ordinal;
+};
+
+// Replaces the intercepted imports of a loaded module (HMODULE). Doing it again changes nothing.
+Interception InterceptImports(void* module);
+
+}  // namespace wb

@@ -1,0 +1,77 @@
+// workbench.exe: tries the plug-in without a CAD seat.
+#include <cstdio>
+#include <exception>
+
+#include "workbench/base/text.h"
+#include "workbench/base/windows_headers.h"
+#include "workbench/bench/bench.h"
+#include "workbench/main/subcommands.h"
+
+namespace wb {
+namespace {
+
+struct Subcommand {
+  const char* name;
+  const char* usage;
+  int (*run)(const CommandArguments& arguments);
+};
+
+int Help(const CommandArguments&);
+
+// clang-format off
+constexpr Subcommand kSubcommands[] = {
+    {"import",   "import FILE.stp DIR [--force]\n"
+                 "    reads a STEP file and writes its models into DIR; with --force as next versions\n"
+                 "    beside models of the same names", &ImportCommand},
+    {"run",      "run SCRIPT... [--out DIR] [--report FILE.html] [--trace FILE] [--plugin DLL]\n"
+                 "    [--install DIR] [--fault FUNCTION:NTH:STATUS[:from_then_on]]\n"
+                 "    runs scripts on copies of the install tree and closes with \"N passed, N failed\"",
+                 &RunScriptsCommand},
+    {"commands", "commands [--english] [--plugin DLL] [--install DIR]\n"
+                 "    lists the plug-in's menu and where each command is available", &ListCommandsCommand},
+    {"bench",    "bench [options]\n"
+                 "    measures how the commands grow with the assembly; see bench --help", &BenchCommand},
+    {"help",     "help\n"
+                 "    this text", &Help},
+};
+// clang-format on
+
+int Help(const CommandArguments&) {
+  std::printf("workbench: tries the plug-in without a CAD seat\n\n");
+  for (const Subcommand& subcommand : kSubcommands) {
+    std::printf("  workbench %s\n\n", subcommand.usage);
+  }
+  return 0;
+}
+
+int Run(const CommandArguments& arguments) {
+  if (arguments.empty()) return Help({});
+  for (const Subcommand& subcommand : kSubcommands) {
+    if (arguments[0] == subcommand.name) {
+      return subcommand.run({arguments.begin() + 1, arguments.end()});
+    }
+  }
+  throw UsageError("unknown command \"" + arguments[0] + "\"");
+}
+
+int RunGuarded(const CommandArguments& arguments) {
+  try {
+    return Run(arguments);
+  } catch (const UsageError& error) {
+    std::fprintf(stderr, "workbench: %s; \"workbench help\" lists the commands\n", error.what());
+    return 2;
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "workbench: %s\n", error.what());
+    return 1;
+  }
+}
+
+}  // namespace
+}  // namespace wb
+
+int wmain(int argc, wchar_t** argv) {
+  ::SetConsoleOutputCP(CP_UTF8);
+  wb::CommandArguments arguments;
+  for (int i = 1; i < argc; ++i) arguments.push_back(wb::FromWide(argv[i]));
+  return wb::RunGuarded(arguments);
+}

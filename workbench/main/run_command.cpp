@@ -1,0 +1,123 @@
+// `workbench run`: runs scripts, says what failed, and closes with "N passed, N failed".
+#include <algorithm>
+#include <cstdio>
+#include <sstream>
+
+#include "workbench/base/text.h"
+#include "workbench/base/utf8_text.h"
+#include "workbench/main/subcommands.h"
+#include "workbench/plugin/install_tree.h"
+#include "workbench/report/report.h"
+#include "workbench/script/script_faults.h"
+#include "workbench/script/script_runner.h"
+#include "workbench/script/script_watch.h"
+#include "workbench/script/script_windows.h"
+
+namespace wb {
+namespace {
+
+// A batch command on a large assembly may be at work for minutes between two statements.
+constexpr unsigned kHangSeconds = 600;
+
+void PrintFailures(const RunRecord& record, size_t from) {
+  for (size_t i = from; i < record.failures.size(); ++i) {
+    const RunFailure& failure = record.failures[i];
+    std::string place = failure.file;
+    if (failure.line != 0) place += ":" + std::to_string(failure.line);
+    std::printf("%s: %s\n", place.c_str(), failure.text.c_str());
+  }
+}
+
+void RunOne(const std::string& script, const ScriptOptions& options, RunRecord& record,
+            bool* readable) {
+  const size_t failures = record.failures.size();
+  const ScriptOutcome outcome = RunScriptFile(PathFromUtf8(script), options, record);
+  PrintFailures(record, failures);
+  *readable = *readable && outcome.readable;
+  if (outcome.skipped.empty()) {
+    std::printf("%s: %d checks passed, %d failed\n", script.c_str(), outcome.passed,
+                outcome.failed);
+  } else {
+    std::printf("%s: skipped, since %s\n", script.c_str(), outcome.skipped.c_str());
+    record.facts.emplace_back("Skipped", script + ": " + outcome.skipped);
+  }
+  std::fflush(stdout);
+}
+
+// A script that puts the plug-in elsewhere cannot share a process with others.
+bool NeedsOwnProcess(const std::string& script) {
+  const ParsedScript parsed = ParseScript(ReadFileBytes(PathFromUtf8(script)).value_or(""), script);
+  return std::any_of(parsed.statements.begin(), parsed.statements.end(),
+                     [](const Statement& s) { return s.Is("install_as") || s.Is("plugin_as"); });
+}
+
+// Counts what a process of its own closes with, and passes on the lines before.
+void TakeOver(const std::string& script, const std::string& output, RunRecord& record) {
+  std::vector<std::string> lines;
+  std::istringstream text(output);
+  for (std::string line; std::getline(text, line);) lines.push_back(Trimmed(line));
+  int passed = 0;
+  int failed = 0;
+  if (!lines.empty() &&
+      std::sscanf(lines.back().c_str(), "%d passed, %d failed", &passed, &failed) == 2) {
+    lines.pop_back();
+  } else {
+    failed = 1;
+    lines.push_back(script + ": it ended without its closing line");
+  }
+  record.passed += passed;
+  record.failed += failed;
+  for (const std::string& line : lines) {
+    std::printf("%s\n", line.c_str());
+    if (failed > 0) record.failures.push_back({script, 0, line, -1});
+  }
+}
+
+void RunApart(const std::string& script, const CommandLine& line, RunRecord& record) {
+  CommandArguments arguments = {"run", script};
+  for (const char* option : {"--out", "--plugin", "--install", "--fault"}) {
+    if (line.Has(option)) arguments.insert(arguments.end(), {option, line.Value(option)});
+  }
+  TakeOver(script, OutputOf(ProgramFile(), arguments).value_or(""), record);
+}
+
+}  // namespace
+
+int RunScriptsCommand(const CommandArguments& arguments) {
+  const CommandLine line(arguments, {},
+                         {"--out", "--report", "--trace", "--plugin", "--install", "--fault"});
+  if (line.words().empty()) throw UsageError("run wants one script or more");
+  ScriptOptions options;
+  options.install = InstallTree(line);
+  options.plugin = line.Path("--plugin");
+  options.out = line.Path("--out");
+  options.trace = line.Path("--trace");
+  options.record = line.Has("--report");
+  options.fault = FaultOption(line.Value("--fault"));
+  if (!options.trace.empty()) std::filesystem::remove(options.trace);
+
+  RunRecord record;
+  record.script = Join(", ", line.words());
+  record.facts.emplace_back("Plug-in",
+                            PathToUtf8(options.plugin.empty() ? options.install : options.plugin));
+  record.facts.emplace_back("Code page", std::to_string(AnsiCodePage()));
+  WatchForHangs(kHangSeconds);
+  bool readable = true;
+  const bool alone = line.words().size() == 1;
+  for (const std::string& script : line.words()) {
+    if (!alone && NeedsOwnProcess(script)) {
+      RunApart(script, line, record);
+    } else {
+      RunOne(script, options, record, &readable);
+    }
+  }
+  if (options.record) {
+    WriteReport(line.Path("--report"), record);
+    std::printf("report: %s\n", PathToUtf8(line.Path("--report")).c_str());
+  }
+  std::printf("%d passed, %d failed\n", record.passed, record.failed);
+  if (!readable) return 2;
+  return record.failed == 0 ? 0 : 1;
+}
+
+}  // namespace wb

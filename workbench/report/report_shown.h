@@ -1,0 +1,17 @@
+// What the user saw besides dialogs, drawn for the report: message boxes and drawing sheets.
+#pragma once
+
+#include <string>
+
+#include "workbench/report/run_record.h"
+
+namespace wb {
+
+// A little box with caption bar, icon by style, text and buttons; `pressed` is the id of the button
+// that the user pressed, 0 when unknown.
+std::string DrawMessageBox(const MessageBox& box, int pressed);
+
+// The sheets of a drawing as inline SVG, large sheets larger than small ones.
+std::string DrawSheets(const DrawingPicture& drawing);
+
+}  // namespace wb

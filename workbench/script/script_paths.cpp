@@ -1,0 +1,96 @@
+// Ways through an assembly by names.
+#include "workbench/script/script_paths.h"
+
+#include "workbench/base/text.h"
+#include "workbench/language/script_words.h"
+#include "workbench/script/script_runner.h"
+
+namespace wb {
+namespace {
+
+bool IsNamed(const Feature& feature, const std::string& name) {
+  return feature.IsComponent() &&
+         (EqualFolded(feature.component.name, name) || EqualFolded(feature.component.Text(), name));
+}
+
+Feature& ComponentOf(Model& parent, const std::string& step) {
+  const size_t mark = step.find_last_of("#@");
+  const std::string name = step.substr(0, mark);
+  const int number = mark == std::string::npos ? 1 : WholeNumber(step.substr(mark + 1)).value_or(0);
+  const bool by_id = mark != std::string::npos && step[mark] == '@';
+  int seen = 0;
+  for (Feature& feature : parent.features) {
+    if (by_id ? feature.IsComponent() && feature.id == number
+              : IsNamed(feature, name) && ++seen == number) {
+      return feature;
+    }
+  }
+  throw ScriptError(parent.id.Text() + " has no component \"" + step + "\"");
+}
+
+PickedItem PickOf(Model& root, const std::string& path) {
+  if (path == ".") return {static_cast<int>(root.id.kind), 0, &root, &root, {}};
+  const ComponentSpot spot = FindComponentSpot(root, path);
+  Model* const model = spot.feature->model;
+  if (model == nullptr) {
+    throw ScriptError("the model of component \"" + path + "\" is not in session");
+  }
+  return {static_cast<int>(model->id.kind), 0, model, &root, spot.ids};
+}
+
+}  // namespace
+
+ComponentSpot FindComponentSpot(Model& root, const std::string& path) {
+  ComponentSpot spot;
+  Model* parent = &root;
+  for (size_t at = 0; at <= path.size();) {
+    const size_t slash = std::min(path.find('/', at), path.size());
+    if (parent == nullptr) {
+      throw ScriptError("\"" + path.substr(0, at - 1) + "\" is not in session");
+    }
+    spot.owner = parent;
+    spot.feature = &ComponentOf(*parent, path.substr(at, slash - at));
+    spot.ids.push_back(spot.feature->id);
+    parent = spot.feature->model;
+    at = slash + 1;
+  }
+  return spot;
+}
+
+std::vector<PickedItem> PicksOf(ScriptRun& run, const Statement& statement) {
+  std::vector<PickedItem> picks;
+  Model& root = run.Root();
+  if (statement.Has("ITEM")) {
+    PickedItem pick{NumberOf(ItemWords(), statement.Text("ITEM")).value_or(0),
+                    statement.Number("ID"),
+                    &run.ModelNamed(statement.Text("MODEL")),
+                    &root,
+                    {}};
+    if (statement.Has("at")) pick.path = PickOf(root, statement.Text("PATH")).path;
+    picks.push_back(pick);
+    return picks;
+  }
+  for (const std::string& path : statement.Texts("PATH")) picks.push_back(PickOf(root, path));
+  return picks;
+}
+
+std::string DescribePick(const PickedItem& pick) {
+  if (pick.owner == nullptr) return "something that is gone";
+  const bool is_model = pick.type == static_cast<int>(pick.owner->id.kind);
+  if (!is_model) {
+    return "item " + WordOf(ItemWords(), pick.type) + " " + std::to_string(pick.id) + " of " +
+           pick.owner->id.name;
+  }
+  if (pick.path.empty()) return ".";
+  std::string text;
+  Model* at = pick.root;
+  for (const int id : pick.path) {
+    Feature* const feature = at == nullptr ? nullptr : at->FindFeature(id);
+    text += (text.empty() ? "" : "/");
+    text += feature == nullptr ? "@" + std::to_string(id) : feature->component.name;
+    at = feature == nullptr ? nullptr : feature->model;
+  }
+  return text;
+}
+
+}  // namespace wb

@@ -1,0 +1,153 @@
+// Keeps and puts back sessions and folders.
+#include "workbench/script/script_snapshot.h"
+
+#include <fstream>
+#include <set>
+
+#include "workbench/base/text.h"
+#include "workbench/base/utf8_text.h"
+#include "workbench/script/script_windows.h"
+
+namespace wb {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<fs::path> FilesBelow(const fs::path& folder) {
+  std::vector<fs::path> files;
+  std::error_code error;
+  for (const auto& item : fs::recursive_directory_iterator(folder, error)) {
+    if (item.is_regular_file()) files.push_back(item.path());
+  }
+  return files;
+}
+
+// Only settings files are kept in memory by Windows.
+void FlushIfProfile(const fs::path& file) {
+  if (file.extension() == ".ini") FlushProfile(file);
+}
+
+std::string Content(const fs::path& file) {
+  FlushIfProfile(file);
+  return ReadFileBytes(file).value_or("");
+}
+
+void WriteBack(const fs::path& file, const std::string& content) {
+  FlushIfProfile(file);
+  fs::create_directories(file.parent_path());
+  std::ofstream(file, std::ios::binary | std::ios::trunc) << content;
+}
+
+// Facts that a command may change; surfaces stay, since handles point at them.
+void CopyChangeable(const Model& from, Model* to) {
+  to->features = from.features;
+  to->parameters = from.parameters;
+  to->sheets = from.sheets;
+  to->modified = from.modified;
+  to->version = from.version;
+  to->folder = from.folder;
+  to->Reindex();
+}
+
+}  // namespace
+
+FolderSnapshot::FolderSnapshot(fs::path folder) : folder_(std::move(folder)) {
+  for (const fs::path& file : FilesBelow(folder_)) files_[file] = Content(file);
+}
+
+std::vector<std::pair<std::string, std::string>> FolderSnapshot::Differences() const {
+  std::vector<std::pair<std::string, std::string>> differences;
+  std::set<fs::path> present;
+  for (const fs::path& file : FilesBelow(folder_)) {
+    present.insert(file);
+    const auto held = files_.find(file);
+    if (held == files_.end()) {
+      differences.emplace_back(PathToUtf8(file), "new");
+    } else if (Content(file) != held->second) {
+      differences.emplace_back(PathToUtf8(file), "changed");
+    }
+  }
+  for (const auto& [file, content] : files_) {
+    if (!present.contains(file)) differences.emplace_back(PathToUtf8(file), "deleted");
+  }
+  return differences;
+}
+
+void FolderSnapshot::Restore() const {
+  for (const auto& [name, what] : Differences()) {
+    const fs::path file = PathFromUtf8(name);
+    if (what == "new") {
+      fs::remove(file);
+    } else {
+      WriteBack(file, files_.at(file));
+    }
+  }
+}
+
+SessionSnapshot::SessionSnapshot(const Host& host, const std::vector<fs::path>& folders)
+    : current_window_(host.session.current_window()),
+      working_directory_(host.session.working_directory()),
+      options_(host.options) {
+  for (const auto& model : host.session.models()) {
+    HeldModel& held = models_.emplace_back(HeldModel{*model, {}});
+    for (const Feature& feature : model->features) {
+      held.resolved.push_back(feature.model != nullptr);
+    }
+  }
+  for (const PickedItem& pick : host.session.selection_buffer) {
+    buffer_.push_back({pick, pick.owner->id, pick.root->id});
+  }
+  for (const Window& window : host.session.windows()) {
+    windows_.push_back({window.id, window.model != nullptr ? window.model->id : ModelName(),
+                        window.model != nullptr});
+  }
+  for (const fs::path& folder : folders) folders_.emplace_back(folder);
+}
+
+void SessionSnapshot::RestoreModels(Session& session) const {
+  std::vector<Model*> newcomers;
+  for (const auto& model : session.models()) {
+    const auto is_held = [&](const HeldModel& held) {
+      return held.model.id.Text() == model->id.Text();
+    };
+    if (std::none_of(models_.begin(), models_.end(), is_held)) newcomers.push_back(model.get());
+  }
+  for (Model* const model : newcomers) session.Erase(*model);
+  for (const HeldModel& held : models_) {
+    if (session.Find(held.model.id) == nullptr) session.Add(Model(held.model));
+  }
+  for (const HeldModel& held : models_) {
+    Model& model = *session.Find(held.model.id);
+    CopyChangeable(held.model, &model);
+    for (size_t i = 0; i < model.features.size(); ++i) {
+      Feature& feature = model.features[i];
+      feature.model = held.resolved[i] ? session.Find(feature.component) : nullptr;
+    }
+    if (held.model.mfg_assembly) model.mfg_assembly_model = session.Find(*held.model.mfg_assembly);
+  }
+}
+
+void SessionSnapshot::RestoreWindows(Session& session) const {
+  for (const Window& window : session.windows()) session.FindWindow(window.id)->model = nullptr;
+  for (const HeldWindow& held : windows_) {
+    session.FindWindow(held.id)->model = held.shows_model ? session.Find(held.model) : nullptr;
+  }
+  session.ActivateWindow(current_window_);
+}
+
+void SessionSnapshot::Restore(Host& host) const {
+  RestoreModels(host.session);
+  RestoreWindows(host.session);
+  host.session.selection_buffer.clear();
+  for (const HeldPick& held : buffer_) {
+    PickedItem pick = held.pick;
+    pick.owner = host.session.Find(held.owner);
+    pick.root = host.session.Find(held.root);
+    host.session.selection_buffer.push_back(pick);
+  }
+  host.session.ChangeDirectory(working_directory_);
+  host.options = options_;
+  for (const FolderSnapshot& folder : folders_) folder.Restore();
+}
+
+}  // namespace wb

@@ -1,0 +1,90 @@
+// The user of a script: answers the plug-in with the statements of the running command's block, in
+// their order. What is asked without an answer, and answers that nobody asks for, are failures.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "workbench/host/live_dialog.h"
+#include "workbench/host/user.h"
+#include "workbench/language/script_moments.h"
+#include "workbench/language/script_parser.h"
+#include "workbench/report/run_record.h"
+
+namespace wb {
+
+class ScriptRun;
+
+class ScriptUser : public User {
+ public:
+  explicit ScriptUser(ScriptRun& run) : run_(run) {}
+
+  // Answers from `answers` while `action` runs, which belongs to the statement `asked_at`.
+  void Answering(const Statement& asked_at, const std::vector<Statement>& answers,
+                 const std::function<void()>& action);
+
+  void WorkDialog(LiveDialog& dialog) override;
+  std::optional<std::vector<PickedItem>> Pick(const PickRequest& request) override;
+  std::optional<std::string> ChooseFile(const FileRequest& request) override;
+  std::optional<std::string> AnswerPrompt(const std::string& prompt, int max_length) override;
+  int AnswerMessageBox(const MessageBox& box) override;
+  bool CallBegins(const char* function) override;
+
+  // Carries out the block of an "at call" when its call comes.
+  void Await(const Statement& statement) { moments_.Await(statement, levels_.size()); }
+
+  // The innermost open dialog. Throws ScriptError when none is open.
+  LiveDialog& dialog() const;
+  // Fires what a deed of the user's sets off, after the picture for the report.
+  void Fire(LiveDialog& dialog, const std::string& component, const std::string& event);
+
+  // Writes down in `record` what is shown and asked; null: no longer.
+  void StartNoting(CommandRecord* record) { noting_ = record; }
+
+ private:
+  struct Level {
+    const Statement* opened_at;
+    const std::vector<Statement>* statements;
+    bool of_answers = false;  // taken when asked for; otherwise deeds, done one after another
+    size_t next = 0;
+  };
+
+  std::optional<std::vector<PickedItem>> AnswerPick(const PickRequest& request);
+  std::optional<std::string> AnswerFile(const FileRequest& request);
+  std::optional<std::string> AnswerText(const std::string& prompt, int max_length);
+  int PressedButton(const MessageBox& box);
+
+  const Statement& Place() const;
+  std::string Deed() const;
+  // The next statement when it is one of `forms`, taken; null otherwise.
+  const Statement* Take(std::initializer_list<const char*> forms);
+  void Perform(const Statement& opened_at, const std::vector<Statement>& statements,
+               const LiveDialog* dialog);
+  void ExecuteGuarded(const Statement& statement);
+  // Ends the innermost level, with what it left over.
+  void EndLevel();
+  void ReportUnused(const Level& level);
+  void ReportMissed(const ScriptMoments::Missed& missed);
+  void AwaitNext();
+  void Unanswered(const std::string& what);
+  void CloseForUser(LiveDialog& dialog);
+  void CheckFileRequest(const Statement& answer, const FileRequest& request);
+
+  void NoteDialog(const LiveDialog& dialog);
+  void NoteQuestion(const char* kind, const std::string& asked,
+                    const std::optional<std::string>& answer);
+
+  ScriptRun& run_;
+  CommandRecord* noting_ = nullptr;
+  std::vector<Level> levels_;
+  ScriptMoments moments_;
+  std::vector<LiveDialog*> dialogs_;
+};
+
+// A message box by kind and text; the kinds are "caption", "plain" and "other".
+std::string DescribeBox(const MessageBox& box);
+bool BoxIs(const MessageBox& box, const std::string& kind, const std::string& text);
+
+}  // namespace wb

@@ -1,0 +1,225 @@
+// Session of models over a folder of versioned model files.
+#include "workbench/session/session.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "workbench/base/text.h"
+#include "workbench/session/model_cycle.h"
+#include "workbench/session/model_file.h"
+
+namespace wb {
+namespace {
+
+std::string Key(const ModelName& name) {
+  return FoldCase(name.Text());
+}
+
+constexpr int kAssemblyType = 1;
+constexpr int kPartType = 2;
+
+// "bolt#2" -> "bolt" and 2.
+std::pair<std::string, int> SplitOccurrence(const std::string& step) {
+  const size_t mark = step.rfind('#');
+  if (mark == std::string::npos) return {step, 1};
+  return {step.substr(0, mark), std::atoi(step.c_str() + mark + 1)};
+}
+
+bool Names(const Feature& feature, const std::string& name) {
+  return EqualFolded(feature.component.name, name) || EqualFolded(feature.component.Text(), name);
+}
+
+const Feature& FindComponent(const Model& parent, const std::string& step) {
+  const auto [name, wanted] = SplitOccurrence(step);
+  int seen = 0;
+  for (const Feature& feature : parent.features) {
+    if (feature.IsComponent() && Names(feature, name) && ++seen == wanted) return feature;
+  }
+  throw std::runtime_error("\"" + parent.id.Text() + "\" has no component \"" + step + "\"");
+}
+
+}  // namespace
+
+FolderIndex::FolderIndex(const std::filesystem::path& folder) {
+  std::error_code error;
+  for (const auto& item : std::filesystem::directory_iterator(folder, error)) {
+    const auto name = ParseFileName(PathToUtf8(item.path().filename()));
+    if (!name) continue;
+    auto [at, fresh] =
+        entries_.try_emplace(Key(name->model), Entry{name->model, name->version, item.path()});
+    if (!fresh && at->second.version < name->version) {
+      at->second = {name->model, name->version, item.path()};
+    }
+  }
+}
+
+std::filesystem::path FolderIndex::Newest(const ModelName& name) const {
+  const auto found = entries_.find(Key(name));
+  return found == entries_.end() ? std::filesystem::path() : found->second.file;
+}
+
+int FolderIndex::NewestVersion(const ModelName& name) const {
+  const auto found = entries_.find(Key(name));
+  return found == entries_.end() ? 0 : found->second.version;
+}
+
+std::vector<ModelName> FolderIndex::Models() const {
+  std::vector<ModelName> names;
+  for (const auto& [key, entry] : entries_) names.push_back(entry.name);
+  std::sort(names.begin(), names.end(),
+            [](const ModelName& a, const ModelName& b) { return Key(a) < Key(b); });
+  return names;
+}
+
+bool Session::ChangeDirectory(const std::filesystem::path& folder) {
+  std::error_code error;
+  if (!std::filesystem::is_directory(folder, error)) return false;
+  working_directory_ = folder;
+  return true;
+}
+
+Model* Session::Find(const ModelName& name) {
+  const auto found = by_name_.find(Key(name));
+  return found == by_name_.end() ? nullptr : found->second;
+}
+
+Model* Session::Retrieve(const ModelName& name) {
+  if (Model* present = Find(name)) return present;
+  return RetrieveTree(name, FolderIndex(working_directory_));
+}
+
+Model* Session::RetrieveTree(const ModelName& name, const FolderIndex& folder) {
+  Model* const top = Load(name, folder);
+  std::vector<Model*> loaded;
+  std::vector<Model*> pending;
+  if (top != nullptr) pending.push_back(top);
+  while (!pending.empty()) {
+    Model* const model = pending.back();
+    pending.pop_back();
+    loaded.push_back(model);
+    const auto want = [&](const ModelName& wanted) {
+      if (Find(wanted) != nullptr) return;
+      if (Model* const found = Load(wanted, folder)) pending.push_back(found);
+    };
+    for (const Feature& feature : model->features) {
+      if (feature.IsComponent()) want(feature.component);
+    }
+    if (model->mfg_assembly) want(*model->mfg_assembly);
+    if (model->drawing_of) want(*model->drawing_of);
+    Resolve(*model);
+  }
+  RefuseCycle(loaded, folder);
+  return top;
+}
+
+// Models that were in session before hold none of the `loaded` ones, so a new cycle is all of
+// these.
+void Session::RefuseCycle(const std::vector<Model*>& loaded, const FolderIndex& folder) {
+  const std::vector<const Model*> cycle = FindCycle({loaded.begin(), loaded.end()});
+  if (cycle.empty() || std::ranges::find(loaded, cycle.back()) == loaded.end()) return;
+  const std::filesystem::path file = folder.Newest(cycle[cycle.size() - 2]->id);
+  const ModelName under = cycle.back()->id;
+  const std::string why = under.Text() + " would hold itself: " + CycleText(cycle);
+  for (Model* const model : loaded) Erase(*model);
+  RefuseModelUnder(file, under, why);
+}
+
+Model* Session::Load(const ModelName& name, const FolderIndex& folder) {
+  const std::filesystem::path file = folder.Newest(name);
+  if (file.empty()) return nullptr;
+  return &Add(ReadModelFile(file));
+}
+
+Model& Session::Add(Model model) {
+  models_.push_back(std::make_unique<Model>(std::move(model)));
+  Model& added = *models_.back();
+  added.Reindex();
+  by_name_[Key(added.id)] = &added;
+  if (on_enter) on_enter(added);
+  Resolve(added);
+  return added;
+}
+
+void Session::Resolve(Model& model) {
+  for (Feature& feature : model.features) {
+    if (feature.IsComponent() && feature.model == nullptr) feature.model = Find(feature.component);
+  }
+  if (model.mfg_assembly) model.mfg_assembly_model = Find(*model.mfg_assembly);
+}
+
+void Session::Erase(Model& model) {
+  for (const auto& other : models_) {
+    for (Feature& feature : other->features) {
+      if (feature.model == &model) feature.model = nullptr;
+    }
+    if (other->mfg_assembly_model == &model) other->mfg_assembly_model = nullptr;
+  }
+  for (Window& window : windows_) {
+    if (window.model == &model) window.model = nullptr;
+  }
+  std::erase_if(selection_buffer, [&](const PickedItem& item) {
+    return item.owner == &model || item.root == &model;
+  });
+  if (on_leave) on_leave(model);
+  by_name_.erase(Key(model.id));
+  std::erase_if(models_, [&](const auto& held) { return held.get() == &model; });
+}
+
+std::filesystem::path Session::Save(Model& model) {
+  if (model.folder.empty()) model.folder = working_directory_;
+  model.version = FolderIndex(model.folder).NewestVersion(model.id) + 1;
+  const std::filesystem::path file =
+      model.folder / PathFromUtf8(model.id.Text() + "." + std::to_string(model.version));
+  WriteModelFile(model, file);
+  model.modified = false;
+  return file;
+}
+
+Model* Session::Current() const {
+  for (const Window& window : windows_) {
+    if (window.id == current_window_) return window.model;
+  }
+  return nullptr;
+}
+
+Window& Session::ShowInWindow(Model& model) {
+  if (Window* shown = FindWindowOf(model)) return *shown;
+  windows_.push_back({next_window_++, &model});
+  return windows_.back();
+}
+
+Window* Session::FindWindow(int id) {
+  for (Window& window : windows_) {
+    if (window.id == id) return &window;
+  }
+  return nullptr;
+}
+
+Window* Session::FindWindowOf(const Model& model) {
+  for (Window& window : windows_) {
+    if (window.model == &model) return &window;
+  }
+  return nullptr;
+}
+
+PickedItem PickComponent(Model& root, const std::string& path) {
+  PickedItem item{
+      root.id.kind == ModelKind::kAssembly ? kAssemblyType : kPartType, 0, &root, &root, {}};
+  Model* parent = &root;
+  for (size_t at = 0; at < path.size();) {
+    const size_t slash = std::min(path.find('/', at), path.size());
+    const Feature& step = FindComponent(*parent, path.substr(at, slash - at));
+    item.path.push_back(step.id);
+    parent = step.model;
+    at = slash + 1;
+    if (parent == nullptr) {
+      throw std::runtime_error("the model of component \"" + step.component.Text() +
+                               "\" is not in session");
+    }
+  }
+  item.owner = parent;
+  item.type = static_cast<int>(parent->id.kind);
+  return item;
+}
+
+}  // namespace wb

@@ -1,0 +1,103 @@
+// The models in session, their folder on disk, windows, and the selection buffer: what a CAD
+// session knows, apart from the host functions that show it.
+#pragma once
+
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "workbench/session/model.h"
+
+namespace wb {
+
+// The newest version of each model file in one folder, read once.
+class FolderIndex {
+ public:
+  explicit FolderIndex(const std::filesystem::path& folder);
+  // Empty path: no such model here.
+  std::filesystem::path Newest(const ModelName& name) const;
+  int NewestVersion(const ModelName& name) const;
+  std::vector<ModelName> Models() const;
+
+ private:
+  struct Entry {
+    ModelName name;
+    int version;
+    std::filesystem::path file;
+  };
+  std::unordered_map<std::string, Entry> entries_;
+};
+
+struct Window {
+  int id = 0;
+  Model* model = nullptr;
+};
+
+// What the user has picked: an item, reached from an assembly by component ids.
+struct PickedItem {
+  int type = 0;  // host's item type
+  int id = 0;
+  Model* owner = nullptr;
+  Model* root = nullptr;
+  std::vector<int> path;
+};
+
+class Session {
+ public:
+  // Called for each model that enters or leaves, so that handles can be given out and ended.
+  std::function<void(Model&)> on_enter;
+  std::function<void(Model&)> on_leave;
+
+  const std::filesystem::path& working_directory() const { return working_directory_; }
+  // False when the folder does not exist.
+  bool ChangeDirectory(const std::filesystem::path& folder);
+
+  Model* Find(const ModelName& name);
+  // Takes the model from session or from the working directory (newest version), with all models
+  // under it; a component whose file is missing stays unresolved. Null: not found.
+  // Throws ModelFileError for a file that cannot be read, and for files by which an assembly would
+  // hold itself; none of these models is in session then.
+  Model* Retrieve(const ModelName& name);
+  // Takes over a model made in memory; resolves its components from session only.
+  Model& Add(Model model);
+  // Links components to models in session, wherever that has become possible.
+  void Resolve(Model& model);
+  void Erase(Model& model);
+  // Writes a new version into the model's folder (the working directory for a new model).
+  std::filesystem::path Save(Model& model);
+  const std::deque<std::unique_ptr<Model>>& models() const { return models_; }
+
+  // The model of the current window; null when no window shows one.
+  Model* Current() const;
+  Window& ShowInWindow(Model& model);
+  Window* FindWindow(int id);
+  Window* FindWindowOf(const Model& model);
+  void ActivateWindow(int id) { current_window_ = id; }
+  int current_window() const { return current_window_; }
+  const std::vector<Window>& windows() const { return windows_; }
+
+  std::vector<PickedItem> selection_buffer;
+
+ private:
+  Model* RetrieveTree(const ModelName& name, const FolderIndex& folder);
+  void RefuseCycle(const std::vector<Model*>& loaded, const FolderIndex& folder);
+  Model* Load(const ModelName& name, const FolderIndex& folder);
+
+  std::filesystem::path working_directory_;
+  std::deque<std::unique_ptr<Model>> models_;
+  std::unordered_map<std::string, Model*> by_name_;
+  std::vector<Window> windows_;
+  int current_window_ = 0;
+  int next_window_ = 1;
+};
+
+// Component names such as "pump/rotor/bolt#2": resolves a slash path below `root` to component
+// ids; "#n" takes the n-th component of that name. Throws std::runtime_error with the step at
+// fault.
+PickedItem PickComponent(Model& root, const std::string& path);
+
+}  // namespace wb

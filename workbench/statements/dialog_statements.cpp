@@ -1,0 +1,224 @@
+// What a script's user does in a dialog, and what a dialog shows.
+#include <algorithm>
+
+#include "workbench/base/text.h"
+#include "workbench/script/script_runner.h"
+
+namespace wb {
+namespace {
+
+const char* EventName(UiEvent event) {
+  switch (event) {
+    case UiEvent::kActivate:
+      return kActivateEvent;
+    case UiEvent::kSelect:
+      return kSelectEvent;
+    case UiEvent::kInput:
+      return "input";
+    case UiEvent::kArm:
+      return "arm";
+    default:
+      return "";
+  }
+}
+
+// Fires what the deed sets off; a refused one is the script's failure.
+void Deed(ScriptRun& run, const Statement& statement, const UserOutcome& outcome) {
+  if (!outcome.Done()) {
+    if (!run.lenient) run.Fail(statement, outcome.refusal);
+    return;
+  }
+  run.user.Fire(run.user.dialog(), statement.Text("COMPONENT"), EventName(outcome.event));
+}
+
+Dialog& State(ScriptRun& run) {
+  return run.user.dialog().state;
+}
+
+void Set(ScriptRun& run, const Statement& statement) {
+  Deed(run, statement,
+       State(run).UserSetField(statement.Text("COMPONENT"), statement.Text("TEXT")));
+}
+
+void Choose(ScriptRun& run, const Statement& statement) {
+  Deed(run, statement,
+       State(run).UserSelect(statement.Text("COMPONENT"), statement.Texts("ITEM_NAME")));
+}
+
+void Rows(ScriptRun& run, const Statement& statement) {
+  Deed(run, statement, State(run).UserSelect(statement.Text("COMPONENT"), statement.Texts("ROW")));
+}
+
+const Component& ComponentAt(ScriptRun& run, const Statement& statement) {
+  const std::string& name = statement.Text("COMPONENT");
+  for (const Component& component : State(run).Components()) {
+    if (component.name == name) return component;
+  }
+  throw ScriptError("dialog " + run.user.dialog().name + " has no component " + name +
+                    "; it has\n" + State(run).DescribeComponents());
+}
+
+template <typename T>
+const T& StateOf(ScriptRun& run, const Statement& statement) {
+  const Component& component = ComponentAt(run, statement);
+  const T* const state = std::get_if<T>(&component.state);
+  if (state != nullptr) return *state;
+  throw ScriptError(std::string(KindName(component.kind)) + " " + component.name +
+                    " has nothing of this kind");
+}
+
+// A check button that already is as wanted is left alone.
+void SetCheck(ScriptRun& run, const Statement& statement) {
+  const bool wanted = statement.Has("check");
+  if (StateOf<CheckState>(run, statement).set == wanted) return;
+  Deed(run, statement, State(run).UserToggle(statement.Text("COMPONENT")));
+}
+
+void DoubleClick(ScriptRun& run, const Statement& statement) {
+  Deed(run, statement,
+       State(run).UserDoubleClick(statement.Text("COMPONENT"), statement.Text("ROW")));
+}
+
+void Focus(ScriptRun& run, const Statement& statement) {
+  Deed(run, statement,
+       State(run).UserFocusCell(statement.Text("COMPONENT"), statement.Text("ROW"),
+                                statement.Text("COLUMN")));
+}
+
+void Press(ScriptRun& run, const Statement& statement) {
+  Deed(run, statement, State(run).UserPress(statement.Text("COMPONENT")));
+}
+
+void Close(ScriptRun& run, const Statement&) {
+  run.user.Fire(run.user.dialog(), "", kCloseEvent);
+}
+
+void ExpectTitle(ScriptRun& run, const Statement& statement) {
+  run.CheckText(statement, "title", statement.Text("TEXT"), State(run).Title());
+}
+
+void ExpectField(ScriptRun& run, const Statement& statement) {
+  run.CheckText(statement, "field " + statement.Text("COMPONENT"), statement.Text("TEXT"),
+                StateOf<TextState>(run, statement).Value());
+}
+
+void CheckNames(ScriptRun& run, const Statement& statement, const std::string& what,
+                const std::vector<std::string>& expected, const std::vector<std::string>& got) {
+  const auto shown = [](const std::vector<std::string>& names) {
+    return names.empty() ? "none" : Join(" ", names);
+  };
+  run.Check(statement, expected == got, what + " " + statement.Text("COMPONENT"), shown(expected),
+            shown(got));
+}
+
+void ExpectChoice(ScriptRun& run, const Statement& statement) {
+  CheckNames(run, statement, "choice", statement.Texts("ITEM_NAME"),
+             StateOf<ChoiceState>(run, statement).Selected());
+}
+
+void ExpectItems(ScriptRun& run, const Statement& statement) {
+  CheckNames(run, statement, "items", statement.Texts("ITEM_NAME"),
+             StateOf<ChoiceState>(run, statement).Names());
+}
+
+void ExpectRows(ScriptRun& run, const Statement& statement) {
+  CheckNames(run, statement, "rows", statement.Texts("ROW"),
+             StateOf<TableModel>(run, statement).RowNames());
+}
+
+void CheckEither(ScriptRun& run, const Statement& statement, const char* yes, const char* no,
+                 bool holds) {
+  const std::string got = holds ? yes : no;
+  run.Check(statement, statement.Text("STATE") == got, statement.Text("COMPONENT"),
+            statement.Text("STATE"), got);
+}
+
+void ExpectCheck(ScriptRun& run, const Statement& statement) {
+  CheckEither(run, statement, "checked", "unchecked", StateOf<CheckState>(run, statement).set);
+}
+
+void ExpectEnabled(ScriptRun& run, const Statement& statement) {
+  CheckEither(run, statement, "enabled", "disabled",
+              State(run).IsUsable(ComponentAt(run, statement)));
+}
+
+void ExpectVisible(ScriptRun& run, const Statement& statement) {
+  CheckEither(run, statement, "visible", "invisible",
+              State(run).IsShown(ComponentAt(run, statement)));
+}
+
+void ExpectLabel(ScriptRun& run, const Statement& statement) {
+  run.CheckText(statement, "label of " + statement.Text("COMPONENT"), statement.Text("TEXT"),
+                ComponentAt(run, statement).label);
+}
+
+void NoSuchCell(ScriptRun& run, const Statement& statement) {
+  run.Fail(statement, "there is no cell in row " + statement.Text("ROW") + ", column " +
+                          statement.Text("COLUMN"));
+}
+
+void ExpectCell(ScriptRun& run, const Statement& statement) {
+  const std::string& row = statement.Text("ROW");
+  const std::string& column = statement.Text("COLUMN");
+  std::string label;
+  if (StateOf<TableModel>(run, statement).GetLabel(row, column, &label) != UiStatus::kOk) {
+    NoSuchCell(run, statement);
+    return;
+  }
+  run.CheckText(statement, "cell " + row + " " + column, statement.Text("TEXT"), label);
+}
+
+void ExpectColumns(ScriptRun& run, const Statement& statement) {
+  CheckNames(run, statement, "columns", statement.Texts("COLUMN"),
+             StateOf<TableModel>(run, statement).ColumnNames());
+}
+
+void ExpectLabels(ScriptRun& run, const Statement& statement) {
+  CheckNames(run, statement, "column labels", statement.Texts("TEXT"),
+             StateOf<TableModel>(run, statement).ColumnLabels());
+}
+
+void ExpectColour(ScriptRun& run, const Statement& statement) {
+  const std::string& row = statement.Text("ROW");
+  const std::string& column = statement.Text("COLUMN");
+  const int wanted = statement.Has("none") ? kNoCellColor : statement.Number("N");
+  int colour = kNoCellColor;
+  if (StateOf<TableModel>(run, statement).GetBackground(row, column, &colour) != UiStatus::kOk) {
+    NoSuchCell(run, statement);
+    return;
+  }
+  const auto shown = [](int number) {
+    return number == kNoCellColor ? std::string("none") : std::to_string(number);
+  };
+  run.Check(statement, colour == wanted, "colour of cell " + row + " " + column, shown(wanted),
+            shown(colour));
+}
+
+constexpr ScriptHandler kDeeds[] = {
+    {"set", &Set},          {"choose", &Choose}, {"check", &SetCheck},
+    {"uncheck", &SetCheck}, {"rows", &Rows},     {"double_click", &DoubleClick},
+    {"focus", &Focus},      {"press", &Press},   {"close", &Close},
+};
+
+constexpr ScriptHandler kExpectations[] = {
+    {"expect_title", &ExpectTitle},        {"expect_field", &ExpectField},
+    {"expect_choice_none", &ExpectChoice}, {"expect_choice", &ExpectChoice},
+    {"expect_items", &ExpectItems},        {"expect_check", &ExpectCheck},
+    {"expect_enabled", &ExpectEnabled},    {"expect_visible", &ExpectVisible},
+    {"expect_label", &ExpectLabel},        {"expect_cell", &ExpectCell},
+    {"expect_rows_none", &ExpectRows},     {"expect_rows", &ExpectRows},
+    {"expect_columns", &ExpectColumns},    {"expect_labels", &ExpectLabels},
+    {"expect_colour_none", &ExpectColour}, {"expect_colour", &ExpectColour},
+};
+
+}  // namespace
+
+ScriptHandlers DialogStatements() {
+  return kDeeds;
+}
+
+ScriptHandlers DialogExpectations() {
+  return kExpectations;
+}
+
+}  // namespace wb

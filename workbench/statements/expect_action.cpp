@@ -1,0 +1,125 @@
+// Expectations on what the last action showed and asked of Windows.
+#include <algorithm>
+
+#include "workbench/base/text.h"
+#include "workbench/script/script_runner.h"
+#include "workbench/script/script_windows.h"
+
+namespace wb {
+namespace {
+
+// What the last action added to a list.
+template <typename T>
+std::vector<T> Since(const std::vector<T>& list, size_t mark) {
+  return {list.begin() + static_cast<std::ptrdiff_t>(std::min(mark, list.size())), list.end()};
+}
+
+std::string Shown(const std::vector<std::string>& texts) {
+  std::vector<std::string> quoted;
+  for (const std::string& text : texts) quoted.push_back(Quoted(text));
+  return quoted.empty() ? "none" : Join(" ", quoted);
+}
+
+bool Contains(const std::vector<std::string>& texts, const std::string& text) {
+  return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+std::vector<std::string> Notes(const ScriptRun& run) {
+  return Since(run.host.messages.notes, run.marks.notes);
+}
+
+void ExpectNote(ScriptRun& run, const Statement& statement) {
+  const std::vector<std::string> notes = Notes(run);
+  const std::string& text = statement.Text("TEXT");
+  run.Check(statement, Contains(notes, text), "note", Quoted(text), Shown(notes));
+}
+
+void ExpectNotes(ScriptRun& run, const Statement& statement) {
+  run.Check(statement, Notes(run) == statement.Texts("TEXT"), "notes",
+            Shown(statement.Texts("TEXT")), Shown(Notes(run)));
+}
+
+void ExpectMessage(ScriptRun& run, const Statement& statement) {
+  const std::vector<MessageBox> boxes = Since(run.host.windows.boxes, run.marks.boxes);
+  const bool shown = std::any_of(boxes.begin(), boxes.end(), [&](const MessageBox& box) {
+    return BoxIs(box, statement.Text("KIND"), statement.Text("TEXT"));
+  });
+  std::vector<std::string> got;
+  for (const MessageBox& box : boxes) got.push_back(DescribeBox(box));
+  run.Check(statement, shown, "message box",
+            statement.Text("KIND") + " " + Quoted(statement.Text("TEXT")),
+            got.empty() ? "none" : Join(", ", got));
+}
+
+void ExpectNoMessage(ScriptRun& run, const Statement& statement) {
+  const std::vector<MessageBox> boxes = Since(run.host.windows.boxes, run.marks.boxes);
+  run.Check(statement, boxes.empty(), "message box", "none",
+            boxes.empty() ? "" : DescribeBox(boxes.front()));
+}
+
+std::vector<std::string> ShellCalls(const ScriptRun& run, const std::string& function) {
+  std::vector<std::string> calls;
+  for (const ShellCall& call : Since(run.host.windows.shell, run.marks.shell)) {
+    if (call.function != function) continue;
+    calls.push_back(function == "WinExec" ? call.program : call.program + " " + call.parameters);
+  }
+  return calls;
+}
+
+void ExpectShell(ScriptRun& run, const Statement& statement) {
+  const std::string wanted = statement.Text("PROGRAM") + " " + statement.Text("PARAMETERS");
+  const std::vector<std::string> calls = ShellCalls(run, "ShellExecuteW");
+  run.Check(statement, Contains(calls, wanted), "shell call", Quoted(wanted), Shown(calls));
+}
+
+void ExpectWinExec(ScriptRun& run, const Statement& statement) {
+  const std::vector<std::string> calls = ShellCalls(run, "WinExec");
+  run.Check(statement, Contains(calls, statement.Text("TEXT")), "program started",
+            Quoted(statement.Text("TEXT")), Shown(calls));
+}
+
+void ExpectNoShell(ScriptRun& run, const Statement& statement) {
+  const size_t calls = run.host.windows.shell.size() - run.marks.shell;
+  run.Check(statement, calls == 0, "programs started", "none", std::to_string(calls));
+}
+
+void ExpectClipboard(ScriptRun& run, const Statement& statement) {
+  run.CheckText(statement, "clipboard", statement.Text("TEXT"),
+                ClipboardText().value_or("(no text)"));
+}
+
+void ExpectTimer(ScriptRun& run, const Statement& statement) {
+  std::vector<std::string> pending;
+  for (const Timer& timer : run.host.windows.timers) {
+    pending.push_back(std::to_string(timer.milliseconds));
+  }
+  if (statement.Has("no")) {
+    run.Check(statement, pending.empty(), "pending timers", "none", Shown(pending));
+  } else {
+    const std::string wanted = std::to_string(statement.Number("N"));
+    run.Check(statement, pending == std::vector<std::string>{wanted}, "pending timers", wanted,
+              Shown(pending));
+  }
+}
+
+constexpr ScriptHandler kHandlers[] = {
+    {"expect_note", &ExpectNote},
+    {"expect_notes", &ExpectNotes},
+    {"expect_no_note", &ExpectNotes},
+    {"expect_message", &ExpectMessage},
+    {"expect_no_message", &ExpectNoMessage},
+    {"expect_shell", &ExpectShell},
+    {"expect_no_shell", &ExpectNoShell},
+    {"expect_winexec", &ExpectWinExec},
+    {"expect_clipboard", &ExpectClipboard},
+    {"expect_timer", &ExpectTimer},
+    {"expect_no_timer", &ExpectTimer},
+};
+
+}  // namespace
+
+ScriptHandlers ActionExpectations() {
+  return kHandlers;
+}
+
+}  // namespace wb

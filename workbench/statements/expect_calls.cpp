@@ -1,0 +1,126 @@
+// Expectations on the calls that the last action made.
+#include <algorithm>
+
+#include "workbench/base/text.h"
+#include "workbench/language/script_words.h"
+#include "workbench/script/script_runner.h"
+#include "workbench/spreadsheet/spreadsheet_members.h"
+#include "workbench/windows/windows_hooks.h"
+
+namespace wb {
+namespace {
+
+long CountOf(const ScriptRun& run, const std::string& function) {
+  return function == "any" ? run.host.trace.calls() : run.host.trace.Count(function);
+}
+
+void ExpectCalls(ScriptRun& run, const Statement& statement) {
+  CheckFunctions(statement);
+  const long got = CountOf(run, statement.Text("FUNCTION"));
+  const long wanted = statement.Has("none") ? 0 : statement.Number("N");
+  const bool at_most = statement.Has("at");
+  run.Check(statement, at_most ? got <= wanted : got == wanted,
+            "calls of " + statement.Text("FUNCTION"),
+            (at_most ? "at most " : "") + std::to_string(wanted), std::to_string(got));
+}
+
+void ExpectCall(ScriptRun& run, const Statement& statement) {
+  CheckFunctions(statement);
+  std::vector<std::string> arguments;
+  for (const Crossed& line : LinesInOrder(run)) {
+    if (line.function == statement.Text("FUNCTION")) arguments.push_back(line.arguments);
+  }
+  const bool found = std::any_of(arguments.begin(), arguments.end(), [&](const std::string& text) {
+    return text.find(statement.Text("TEXT")) != std::string::npos;
+  });
+  run.Check(statement, found, "call of " + statement.Text("FUNCTION"),
+            "one with " + Quoted(statement.Text("TEXT")),
+            arguments.empty() ? "no call" : Join(" | ", arguments));
+}
+
+void ExpectOrder(ScriptRun& run, const Statement& statement) {
+  CheckFunctions(statement);
+  const std::vector<std::string>& wanted = statement.Texts("FUNCTION");
+  size_t met = 0;
+  for (const Crossed& line : LinesInOrder(run)) {
+    if (met < wanted.size() && line.function == wanted[met]) ++met;
+  }
+  run.Check(statement, met == wanted.size(), "order of calls", Join(" ", wanted),
+            met == wanted.size()
+                ? "it"
+                : "no " + wanted[met] + " after the first " + std::to_string(met) + " of them");
+}
+
+const char* SelectionOptionWord(int option) {
+  switch (option) {
+    case 50:
+      return "done_required";
+    case 51:
+      return "by_menu";
+    case 52:
+      return "by_box";
+    default:
+      return "unknown";
+  }
+}
+
+void ExpectEnvironment(ScriptRun& run, const Statement& statement) {
+  std::vector<std::string> got;
+  const auto& all = run.host.selection_environments;
+  for (size_t i = run.marks.environments; i < all.size(); ++i) {
+    std::vector<std::string> options;
+    for (const auto& [option, value] : all[i]) {
+      options.push_back(std::string(SelectionOptionWord(option)) + "=" + std::to_string(value));
+    }
+    got.push_back(Join(" ", options));
+  }
+  run.CheckText(statement, "selection environment", statement.Text("TEXT"), Join(" | ", got));
+}
+
+void ExpectStatus(ScriptRun& run, const Statement& statement) {
+  const int wanted = *NumberOf(StatusWords(), statement.Text("STATUS"));
+  run.Check(statement, run.status == wanted, "status", statement.Text("STATUS"),
+            WordOf(StatusWords(), run.status));
+}
+
+void ExpectFaults(ScriptRun& run, const Statement& statement) {
+  run.Check(statement, run.faults_struck == statement.Number("N"), "faults that struck",
+            statement.Text("N"), std::to_string(run.faults_struck));
+}
+
+constexpr ScriptHandler kHandlers[] = {
+    {"expect_calls_none", &ExpectCalls}, {"expect_calls_at_most", &ExpectCalls},
+    {"expect_calls", &ExpectCalls},      {"expect_call", &ExpectCall},
+    {"expect_order", &ExpectOrder},      {"expect_environment", &ExpectEnvironment},
+    {"expect_status", &ExpectStatus},    {"expect_faults", &ExpectFaults},
+};
+
+}  // namespace
+
+void CheckFunctions(const Statement& statement) {
+  for (const std::string& function : statement.Texts("FUNCTION")) {
+    if (function == "any" || IsSpreadsheetMember(function)) continue;
+    if (function.starts_with(kSpreadsheetPrefix)) {
+      throw ScriptError("the spreadsheet program has no member " + function +
+                        "; a property that is put ends with \"=\"");
+    }
+    if (!IsMetFunction(function.c_str())) {
+      throw ScriptError("neither the host nor the intercepted part of Windows has a function " +
+                        function);
+    }
+  }
+}
+
+std::vector<Crossed> LinesInOrder(const ScriptRun& run) {
+  if (!run.host.trace.keep_lines) throw ScriptError("the trace is off");
+  std::vector<Crossed> lines = run.host.trace.lines();
+  std::sort(lines.begin(), lines.end(),
+            [](const Crossed& a, const Crossed& b) { return a.call < b.call; });
+  return lines;
+}
+
+ScriptHandlers CallExpectations() {
+  return kHandlers;
+}
+
+}  // namespace wb

@@ -1,0 +1,74 @@
+// Expectations on files, settings and the run log.
+#include "workbench/base/text.h"
+#include "workbench/base/utf8_text.h"
+#include "workbench/script/script_runner.h"
+#include "workbench/script/script_windows.h"
+
+namespace wb {
+namespace {
+
+// Long contents would drown the place where they differ.
+constexpr size_t kMostShown = 2000;
+
+std::string Cut(const std::string& text) {
+  if (text.size() <= kMostShown) return Quoted(text);
+  return Quoted(text.substr(0, kMostShown)) + "... (" + std::to_string(text.size()) + " bytes)";
+}
+
+void ExpectFile(ScriptRun& run, const Statement& statement) {
+  const std::filesystem::path file = run.WorkPath(statement.Text("PATH"));
+  FlushProfile(file);
+  const bool wanted = !statement.Has("no");
+  const bool exists = std::filesystem::exists(file);
+  if (!exists || !wanted) {
+    run.Check(statement, exists == wanted, PathToUtf8(file), wanted ? "a file" : "no file",
+              exists ? "a file" : "no file");
+    return;
+  }
+  const std::string content = ReadFileBytes(file).value_or("");
+  const std::string& text = statement.Text("TEXT");
+  if (statement.Has("is")) {
+    run.Check(statement, content == (statement.Has("ansi") ? ToAnsi(text) : text), PathToUtf8(file),
+              Cut(text), Cut(content));
+  } else {
+    run.Check(statement, content.find(text) != std::string::npos, PathToUtf8(file),
+              "something with " + Cut(text), Cut(content));
+  }
+}
+
+void ExpectSetting(ScriptRun& run, const Statement& statement) {
+  const auto got = ReadProfile(run.ConfigFile(statement.Text("FILE")), statement.Text("SECTION"),
+                               statement.Text("KEY"));
+  const std::string name = "setting " + statement.Text("SECTION") + " " + statement.Text("KEY");
+  const std::string shown = got ? Quoted(*got) : "none";
+  const std::string wanted = statement.Has("missing") ? "none" : Quoted(statement.Text("TEXT"));
+  run.Check(statement, shown == wanted, name, wanted, shown);
+}
+
+void ExpectLog(ScriptRun& run, const Statement& statement) {
+  const std::string log =
+      ReadFileBytes(run.folders.local / "Quillmax" / "quillmax.log").value_or("");
+  const bool found = log.find(statement.Text("TEXT")) != std::string::npos;
+  run.Check(statement, found == (statement.Text("STATE") == "contains"), "run log",
+            statement.Text("STATE") + " " + Quoted(statement.Text("TEXT")),
+            log.empty() ? "no log"
+                        : Cut(log.size() > kMostShown ? log.substr(log.size() - kMostShown) : log));
+}
+
+constexpr ScriptHandler kHandlers[] = {
+    {"expect_no_file", &ExpectFile},
+    {"expect_file_is", &ExpectFile},
+    {"expect_file_contains", &ExpectFile},
+    {"expect_file", &ExpectFile},
+    {"expect_setting_missing", &ExpectSetting},
+    {"expect_setting", &ExpectSetting},
+    {"expect_log", &ExpectLog},
+};
+
+}  // namespace
+
+ScriptHandlers FileExpectations() {
+  return kHandlers;
+}
+
+}  // namespace wb

@@ -1,0 +1,155 @@
+// Expectations on models, windows and selection.
+#include <algorithm>
+
+#include "workbench/base/text.h"
+#include "workbench/script/script_arguments.h"
+#include "workbench/script/script_paths.h"
+#include "workbench/script/script_runner.h"
+
+namespace wb {
+namespace {
+
+std::string DescribeValue(const ParameterValue& value) {
+  return std::string(ParameterTypeWord(value)) + " " + Quoted(ParameterText(value));
+}
+
+void ExpectParameter(ScriptRun& run, const Statement& statement) {
+  Model& model = run.ModelNamed(statement.Text("MODEL"));
+  const Parameter* const held = model.FindParameter(statement.Text("NAME"));
+  const std::string got = held == nullptr ? "none" : DescribeValue(held->value);
+  const std::string wanted =
+      statement.Has("missing") ? "none" : DescribeValue(ParameterArgument(statement));
+  run.Check(statement, got == wanted,
+            "parameter " + statement.Text("NAME") + " of " + model.id.Text(), wanted, got);
+}
+
+void ExpectParameters(ScriptRun& run, const Statement& statement) {
+  const Model& model = run.ModelNamed(statement.Text("MODEL"));
+  const int got = static_cast<int>(model.parameters.size());
+  run.Check(statement, got == statement.Number("N"), "parameters of " + model.id.Text(),
+            statement.Text("N"), std::to_string(got));
+}
+
+void CheckHidden(ScriptRun& run, const Statement& statement, const std::string& what,
+                 const Feature& feature) {
+  const std::string got = feature.hidden ? "hidden" : "shown";
+  run.Check(statement, got == statement.Text("STATE"), what, statement.Text("STATE"), got);
+}
+
+void ExpectHidden(ScriptRun& run, const Statement& statement) {
+  for (const std::string& path : statement.Texts("PATH")) {
+    CheckHidden(run, statement, path, *FindComponentSpot(run.Root(), path).feature);
+  }
+}
+
+void ExpectFeature(ScriptRun& run, const Statement& statement) {
+  Model& model = run.ModelNamed(statement.Text("MODEL"));
+  const Feature* const feature = model.FindFeature(statement.Number("ID"));
+  const std::string name = "feature " + statement.Text("ID") + " of " + model.id.Text();
+  if (feature == nullptr) throw ScriptError("there is no " + name);
+  CheckHidden(run, statement, name, *feature);
+}
+
+void ExpectModified(ScriptRun& run, const Statement& statement) {
+  for (const std::string& name : statement.Texts("MODEL")) {
+    const std::string got = run.ModelNamed(name).modified ? "modified" : "unmodified";
+    run.Check(statement, got == statement.Text("STATE"), name, statement.Text("STATE"), got);
+  }
+}
+
+void ExpectSession(ScriptRun& run, const Statement& statement) {
+  for (const std::string& name : statement.Texts("MODEL")) {
+    const std::string got = run.FindModel(name) != nullptr ? "in_session" : "not_in_session";
+    run.Check(statement, got == statement.Text("STATE"), name, statement.Text("STATE"), got);
+  }
+}
+
+void ExpectDirectory(ScriptRun& run, const Statement& statement) {
+  const std::filesystem::path wanted = run.WorkPath(statement.Text("PATH"));
+  const std::filesystem::path& got = run.host.session.working_directory();
+  std::error_code error;
+  run.Check(statement, std::filesystem::equivalent(wanted, got, error), "working directory",
+            PathToUtf8(wanted), PathToUtf8(got));
+}
+
+void ExpectWindow(ScriptRun& run, const Statement& statement) {
+  const Model* const current = run.host.session.Current();
+  const Model* const wanted =
+      statement.Has("none") ? nullptr : &run.ModelNamed(statement.Text("MODEL"));
+  run.Check(statement, current == wanted, "current window",
+            wanted == nullptr ? "none" : wanted->id.Text(),
+            current == nullptr ? "none" : current->id.Text());
+}
+
+// Items other than models are told by their owner alone, however it was reached.
+bool IsSamePick(const PickedItem& a, const PickedItem& b) {
+  const bool is_model = a.owner != nullptr && a.type == static_cast<int>(a.owner->id.kind);
+  return a.type == b.type && a.id == b.id && a.owner == b.owner && (!is_model || a.path == b.path);
+}
+
+void ExpectSelection(ScriptRun& run, const Statement& statement) {
+  const std::vector<PickedItem>& got = run.host.session.selection_buffer;
+  std::vector<PickedItem> wanted;
+  if (!statement.Has("none")) wanted = PicksOf(run, statement);
+  const auto described = [](const std::vector<PickedItem>& picks) {
+    std::vector<std::string> names;
+    for (const PickedItem& pick : picks) names.push_back(DescribePick(pick));
+    return names.empty() ? "none" : Join(", ", names);
+  };
+  run.Check(statement, std::equal(wanted.begin(), wanted.end(), got.begin(), got.end(), IsSamePick),
+            "selection", described(wanted), described(got));
+}
+
+std::vector<std::string> Repaints(const ScriptRun& run) {
+  const std::vector<std::string>& all = run.host.repaints;
+  return {all.begin() + static_cast<std::ptrdiff_t>(run.marks.repaints), all.end()};
+}
+
+void ExpectRepaint(ScriptRun& run, const Statement& statement) {
+  const std::vector<std::string> repaints = Repaints(run);
+  const auto count = std::count_if(repaints.begin(), repaints.end(), [](const std::string& line) {
+    return line.starts_with("repaint");
+  });
+  if (statement.Has("no")) {
+    run.Check(statement, repaints.empty(), "repaints and refreshes", "none", Join(", ", repaints));
+  } else {
+    run.Check(statement, count > 0, "repaint", "one", "none");
+  }
+}
+
+void ExpectRefresh(ScriptRun& run, const Statement& statement) {
+  const std::string wanted = "tree " + run.ModelNamed(statement.Text("MODEL")).id.Text();
+  const std::vector<std::string> repaints = Repaints(run);
+  run.Check(statement, std::find(repaints.begin(), repaints.end(), wanted) != repaints.end(),
+            "refresh of the model tree", wanted, repaints.empty() ? "none" : Join(", ", repaints));
+}
+
+constexpr ScriptHandler kHandlers[] = {
+    {"expect_parameter_missing", &ExpectParameter},
+    {"expect_parameter_real", &ExpectParameter},
+    {"expect_parameter_integer", &ExpectParameter},
+    {"expect_parameter_string", &ExpectParameter},
+    {"expect_parameter_yes_no", &ExpectParameter},
+    {"expect_parameters", &ExpectParameters},
+    {"expect_hidden", &ExpectHidden},
+    {"expect_feature", &ExpectFeature},
+    {"expect_modified", &ExpectModified},
+    {"expect_session", &ExpectSession},
+    {"expect_directory", &ExpectDirectory},
+    {"expect_window_none", &ExpectWindow},
+    {"expect_window", &ExpectWindow},
+    {"expect_selection_none", &ExpectSelection},
+    {"expect_selection_item", &ExpectSelection},
+    {"expect_selection", &ExpectSelection},
+    {"expect_repaint", &ExpectRepaint},
+    {"expect_no_repaint", &ExpectRepaint},
+    {"expect_refresh", &ExpectRefresh},
+};
+
+}  // namespace
+
+ScriptHandlers ModelExpectations() {
+  return kHandlers;
+}
+
+}  // namespace wb

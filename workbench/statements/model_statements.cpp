@@ -1,0 +1,256 @@
+// Statements that make models, bring them into session and show them.
+#include <functional>
+
+#include "workbench/base/text.h"
+#include "workbench/base/utf8_text.h"
+#include "workbench/language/script_words.h"
+#include "workbench/script/script_arguments.h"
+#include "workbench/script/script_runner.h"
+#include "workbench/session/bench_shapes.h"
+#include "workbench/session/model_cycle.h"
+#include "workbench/step/import.h"
+
+namespace wb {
+namespace {
+
+Model NewModel(const ScriptRun& run, const std::string& name, ModelKind kind) {
+  if (name.empty() || WideLength(name) > kMaxNameLength) {
+    throw ScriptError("\"" + name + "\" is no model name: 1 to 31 characters are allowed");
+  }
+  Model model;
+  model.id = {name, kind};
+  model.folder = run.folders.work;
+  return model;
+}
+
+Model& AddNew(ScriptRun& run, Model model) {
+  if (run.host.session.Find(model.id) != nullptr) {
+    throw ScriptError("there is a model " + model.id.Text() + " already");
+  }
+  return run.host.session.Add(std::move(model));
+}
+
+void Part(ScriptRun& run, const Statement& statement) {
+  Model part = NewModel(run, statement.Text("NAME"), ModelKind::kPart);
+  part.sheet_metal = statement.Has("sheet_metal");
+  part.skeleton = statement.Has("skeleton");
+  AddNew(run, std::move(part));
+}
+
+void Assembly(ScriptRun& run, const Statement& statement) {
+  AddNew(run, NewModel(run, statement.Text("NAME"), ModelKind::kAssembly));
+}
+
+void Manufacturing(ScriptRun& run, const Statement& statement) {
+  Model model = NewModel(run, statement.Text("NAME"), ModelKind::kManufacturing);
+  if (statement.Has("of")) model.mfg_assembly = run.ModelNamed(statement.Text("MODEL")).id;
+  AddNew(run, std::move(model));
+}
+
+void Drawing(ScriptRun& run, const Statement& statement) {
+  Model drawing = NewModel(run, statement.Text("NAME"), ModelKind::kDrawing);
+  if (statement.Has("of")) drawing.drawing_of = run.ModelNamed(statement.Text("MODEL")).id;
+  for (const std::string& size : statement.Texts("SIZE")) drawing.sheets.push_back({size, 1.0});
+  AddNew(run, std::move(drawing));
+}
+
+// What components and other features have in common.
+Feature NewFeature(const Model& owner, const Statement& statement) {
+  Feature feature;
+  feature.id = statement.Has("id") ? statement.Number("ID") : owner.NextFeatureId();
+  if (statement.Has("STATE")) {
+    feature.status = *FeatureStatusFromWord(statement.Text("STATE"));
+  }
+  feature.visible = !statement.Has("invisible");
+  feature.hidden = statement.Has("hidden");
+  feature.status_flags = statement.Number("FLAGS");
+  return feature;
+}
+
+// Adds the feature `times` times, with ids that follow each other.
+void AddFeatures(Model& owner, Feature feature, int times) {
+  for (int i = 0; i < times; ++i, ++feature.id) {
+    if (owner.FindFeature(feature.id) != nullptr) {
+      throw ScriptError(owner.id.Text() + " has a feature " + std::to_string(feature.id) +
+                        " already");
+    }
+    owner.features.push_back(feature);
+  }
+  owner.Reindex();
+}
+
+ModelName ComponentName(ScriptRun& run, const Statement& statement, Model** model) {
+  const std::string& name = statement.Text("COMPONENT");
+  if (statement.Has("missing")) {
+    return ParseModelName(name).value_or(ModelName{name, ModelKind::kPart});
+  }
+  *model = &run.ModelNamed(name);
+  return (*model)->id;
+}
+
+void Component(ScriptRun& run, const Statement& statement) {
+  Model& owner = run.ModelNamed(statement.Text("MODEL"));
+  if (owner.id.kind != ModelKind::kAssembly) {
+    throw ScriptError(owner.id.Text() + " is no assembly, so it cannot hold components");
+  }
+  Feature feature = NewFeature(owner, statement);
+  feature.component = ComponentName(run, statement, &feature.model);
+  if (statement.Has("at")) {
+    feature.placement[3] = {statement.Decimal("X"), statement.Decimal("Y"), statement.Decimal("Z"),
+                            1};
+  }
+  AddFeatures(owner, std::move(feature), statement.Has("times") ? statement.Number("TIMES") : 1);
+  const std::vector<const Model*> cycle = FindCycle({&owner});
+  if (!cycle.empty()) {
+    throw ScriptError(owner.id.Text() + " would hold itself: " + CycleText(cycle));
+  }
+}
+
+void OtherFeature(ScriptRun& run, const Statement& statement) {
+  Model& owner = run.ModelNamed(statement.Text("MODEL"));
+  Feature feature = NewFeature(owner, statement);
+  feature.type = statement.Number("FEATURE_TYPE");
+  if (feature.IsComponent()) throw ScriptError("use \"component\" for features of this type");
+  AddFeatures(owner, std::move(feature), 1);
+}
+
+// In 16-bit characters.
+constexpr size_t kLongestParameterText = 80;
+
+// What a script says before a command runs is how the models are; later the user changes them.
+bool ChangedByUser(const ScriptRun& run) {
+  return !run.host.running_command.empty();
+}
+
+void SetParameter(ScriptRun& run, const Statement& statement) {
+  Model& model = run.ModelNamed(statement.Text("MODEL"));
+  model.SetParameter(statement.Text("NAME"), ParameterArgument(statement));
+  model.modified = ChangedByUser(run);
+}
+
+void DeleteParameter(ScriptRun& run, const Statement& statement) {
+  Model& model = run.ModelNamed(statement.Text("MODEL"));
+  if (!model.DeleteParameter(statement.Text("NAME"))) {
+    throw ScriptError(model.id.Text() + " has no parameter " + statement.Text("NAME"));
+  }
+  model.modified = ChangedByUser(run);
+}
+
+void Surface(ScriptRun& run, const Statement& statement) {
+  Model& model = run.ModelNamed(statement.Text("MODEL"));
+  const auto at = [&](const char* name) { return statement.Decimal(name); };
+  model.surfaces.push_back({{at("X"), at("Y"), at("Z")}, {at("X2"), at("Y2"), at("Z2")}});
+}
+
+void Bulk(ScriptRun& run, const Statement& statement) {
+  FindBenchShape(statement.Text("SHAPE"))->build(run.host.session, statement.Number("TIMES"));
+}
+
+void Import(ScriptRun& run, const Statement& statement) {
+  const ImportedModels imported = ReadStepModels(run.ScriptPath(statement.Text("PATH")));
+  WriteModels(imported, run.host.session.working_directory());
+}
+
+void Show(ScriptRun& run, Model& model) {
+  run.host.session.ActivateWindow(run.host.session.ShowInWindow(model).id);
+}
+
+Model& Retrieved(ScriptRun& run, const std::string& name) {
+  Session& session = run.host.session;
+  if (Model* const present = run.FindModel(name)) return *present;
+  std::vector<ModelName> names;
+  if (const auto full = ParseModelName(name)) {
+    names = {*full};
+  } else {
+    for (const ModelKindRow& kind : kKindNames) names.push_back({name, kind.kind});
+  }
+  for (const ModelName& wanted : names) {
+    if (Model* const model = session.Retrieve(wanted)) return *model;
+  }
+  throw ScriptError("there is no model \"" + name + "\" in session or in " +
+                    PathToUtf8(session.working_directory()));
+}
+
+void Retrieve(ScriptRun& run, const Statement& statement) {
+  Retrieved(run, statement.Text("MODEL"));
+}
+
+void Open(ScriptRun& run, const Statement& statement) {
+  Show(run, Retrieved(run, statement.Text("MODEL")));
+}
+
+void Activate(ScriptRun& run, const Statement& statement) {
+  Model& model = run.ModelNamed(statement.Text("MODEL"));
+  Window* const window = run.host.session.FindWindowOf(model);
+  if (window == nullptr) throw ScriptError(model.id.Text() + " is shown in no window");
+  run.host.session.ActivateWindow(window->id);
+}
+
+void CloseWindow(ScriptRun& run, const Statement&) {
+  Session& session = run.host.session;
+  Window* const window = session.FindWindow(session.current_window());
+  if (window == nullptr) throw ScriptError("no window is open");
+  window->model = nullptr;
+  session.ActivateWindow(0);
+}
+
+void Erase(ScriptRun& run, const Statement& statement) {
+  run.host.session.Erase(run.ModelNamed(statement.Text("MODEL")));
+}
+
+void SaveAll(ScriptRun& run, const Statement&) {
+  for (const auto& model : run.host.session.models()) run.host.session.Save(*model);
+}
+
+void Save(ScriptRun& run, const Statement& statement) {
+  Model& model = run.ModelNamed(statement.Text("MODEL"));
+  if (statement.Has("in")) {
+    model.folder = run.WorkPath(statement.Text("PATH"));
+    std::filesystem::create_directories(model.folder);
+  }
+  run.host.session.Save(model);
+}
+
+constexpr ScriptHandler kHandlers[] = {
+    {"part", &Part},
+    {"assembly", &Assembly},
+    {"manufacturing", &Manufacturing},
+    {"drawing", &Drawing},
+    {"component", &Component},
+    {"feature", &OtherFeature},
+    {"parameter_real", &SetParameter},
+    {"parameter_integer", &SetParameter},
+    {"parameter_string", &SetParameter},
+    {"parameter_yes_no", &SetParameter},
+    {"parameter_missing", &DeleteParameter},
+    {"surface", &Surface},
+    {"bulk", &Bulk},
+    {"import", &Import},
+    {"retrieve", &Retrieve},
+    {"open", &Open},
+    {"activate", &Activate},
+    {"close_window", &CloseWindow},
+    {"erase", &Erase},
+    {"save_all", &SaveAll},
+    {"save", &Save},
+};
+
+}  // namespace
+
+ParameterValue ParameterArgument(const Statement& statement) {
+  if (statement.Has("real")) return statement.Decimal("NUMBER");
+  if (statement.Has("integer")) return statement.Number("INTEGER");
+  if (statement.Has("yes_no")) return statement.Text("FLAG") == "yes";
+  const std::string& text = statement.Text("TEXT");
+  if (WideLength(text) > kLongestParameterText) {
+    throw ScriptError("a text of " + std::to_string(WideLength(text)) +
+                      " characters; parameters hold " + std::to_string(kLongestParameterText));
+  }
+  return text;
+}
+
+ScriptHandlers ModelStatements() {
+  return kHandlers;
+}
+
+}  // namespace wb

@@ -1,0 +1,42 @@
+// Reads a script, tells its errors, runs it.
+#include "workbench/base/text.h"
+#include "workbench/base/utf8_text.h"
+#include "workbench/script/script_runner.h"
+
+namespace wb {
+namespace {
+
+void FailWhole(const std::string& file, int line, const std::string& why, RunRecord& record) {
+  ++record.failed;
+  record.failures.push_back({file, line, why, -1});
+}
+
+}  // namespace
+
+ScriptOutcome RunScriptFile(const std::filesystem::path& file, const ScriptOptions& options,
+                            RunRecord& record) {
+  const int passed_before = record.passed;
+  const int failed_before = record.failed;
+  const std::string name = PathToUtf8(file);
+  ScriptOutcome outcome;
+  ParsedScript script;
+  const auto text = ReadFileBytes(file);
+  if (text) {
+    script = ParseScript(*text, name);
+    for (const LineError& error : script.errors) FailWhole(name, error.line, error.reason, record);
+  } else {
+    FailWhole(name, 0, "cannot be read", record);
+  }
+  outcome.readable = record.failed == failed_before;
+  if (outcome.readable) {
+    outcome.skipped = ScriptRun(name, options, record).RunAll(script.statements);
+  }
+  if (outcome.skipped.empty() && record.passed == passed_before && record.failed == failed_before) {
+    FailWhole(name, 0, "checks nothing; it needs a \"run\" or an \"expect\" at least", record);
+  }
+  outcome.passed = record.passed - passed_before;
+  outcome.failed = record.failed - failed_before;
+  return outcome;
+}
+
+}  // namespace wb

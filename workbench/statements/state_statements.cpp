@@ -1,0 +1,90 @@
+// Statements on what the user has chosen and set: selection, options, settings, mode, clipboard.
+#include "workbench/base/text.h"
+#include "workbench/language/script_words.h"
+#include "workbench/script/script_paths.h"
+#include "workbench/script/script_runner.h"
+#include "workbench/script/script_windows.h"
+
+namespace wb {
+namespace {
+
+void SelectNone(ScriptRun& run, const Statement&) {
+  run.host.session.selection_buffer.clear();
+}
+
+void Select(ScriptRun& run, const Statement& statement) {
+  std::vector<PickedItem> picks = PicksOf(run, statement);
+  std::vector<PickedItem>& buffer = run.host.session.selection_buffer;
+  if (!statement.Has("also")) buffer.clear();
+  buffer.insert(buffer.end(), picks.begin(), picks.end());
+}
+
+void OptionNone(ScriptRun& run, const Statement& statement) {
+  run.host.options.erase(FoldCase(statement.Text("NAME")));
+}
+
+void Option(ScriptRun& run, const Statement& statement) {
+  run.host.options[FoldCase(statement.Text("NAME"))] = statement.Texts("TEXT");
+}
+
+void Setting(ScriptRun& run, const Statement& statement) {
+  const bool written = WriteProfile(
+      run.ConfigFile(statement.Text("FILE")), statement.Text("SECTION"), statement.Text("KEY"),
+      statement.Has("missing") ? std::nullopt : std::optional(statement.Text("TEXT")));
+  if (!written) throw ScriptError("the setting cannot be written");
+}
+
+void ConfigFileMissing(ScriptRun& run, const Statement& statement) {
+  const std::filesystem::path file = run.ConfigFile(statement.Text("FILE"));
+  FlushProfile(file);
+  std::filesystem::remove(file);
+}
+
+void ConfigFolderMissing(ScriptRun& run, const Statement&) {
+  std::filesystem::remove_all(run.Installed() / "QMconfig");
+}
+
+void Mode(ScriptRun& run, const Statement& statement) {
+  run.host.forced_mode = *NumberOf(ModeWords(), statement.Text("MODE"));
+}
+
+void Language(ScriptRun& run, const Statement& statement) {
+  run.host.language = statement.Text("LANGUAGE") == "english" ? "usascii" : "chinese_cn";
+  run.host.messages.Forget();
+}
+
+void Clipboard(ScriptRun&, const Statement& statement) {
+  if (!SetClipboardText(statement.Text("TEXT")))
+    throw ScriptError("the clipboard is not to be had");
+}
+
+void ClipboardBusy(ScriptRun& run, const Statement& statement) {
+  run.clipboard_holder.reset();
+  if (statement.Text("STATE") == "busy") {
+    run.clipboard_holder = std::make_unique<ClipboardHolder>();
+  }
+}
+
+constexpr ScriptHandler kHandlers[] = {
+    {"select_none", &SelectNone},
+    {"select_item", &Select},
+    {"select", &Select},
+    {"option_none", &OptionNone},
+    {"option", &Option},
+    {"setting_missing", &Setting},
+    {"setting", &Setting},
+    {"config_folder", &ConfigFolderMissing},
+    {"config_file", &ConfigFileMissing},
+    {"mode", &Mode},
+    {"language", &Language},
+    {"clipboard", &Clipboard},
+    {"clipboard_busy", &ClipboardBusy},
+};
+
+}  // namespace
+
+ScriptHandlers StateStatements() {
+  return kHandlers;
+}
+
+}  // namespace wb

@@ -1,0 +1,216 @@
+// Models from STEP products, and their way into a folder.
+#include "workbench/step/import.h"
+
+#include <algorithm>
+#include <map>
+#include <stdexcept>
+
+#include "workbench/base/utf8_text.h"
+#include "workbench/session/model_file.h"
+#include "workbench/session/session.h"
+#include "workbench/step/step_names.h"
+#include "workbench/step/step_product.h"
+
+namespace wb {
+namespace {
+
+namespace fs = std::filesystem;
+
+Point PointOf(const StepPoint& point) {
+  return {point[0], point[1], point[2]};
+}
+
+// The six sides of a box, each as the flat box it fills.
+std::vector<Box> SidesOf(const StepBox& box) {
+  const Box whole{PointOf(box.min), PointOf(box.max)};
+  std::vector<Box> sides;
+  for (size_t axis = 0; axis < 3; ++axis) {
+    sides.insert(sides.end(), 2, whole);
+    sides[sides.size() - 2].max[axis] = whole.min[axis];
+    sides[sides.size() - 1].min[axis] = whole.max[axis];
+  }
+  return sides;
+}
+
+std::vector<Box> SurfacesOf(const StepModel& step) {
+  std::vector<Box> surfaces;
+  for (const StepBox& face : step.faces) surfaces.push_back({PointOf(face.min), PointOf(face.max)});
+  if (surfaces.empty() && step.extents) surfaces = SidesOf(*step.extents);
+  return surfaces;
+}
+
+Feature ComponentOf(const StepOccurrence& occurrence, const ModelName& model, int id) {
+  Feature feature;
+  feature.id = id;
+  feature.component = model;
+  for (size_t row = 0; row < 4; ++row) {
+    for (size_t column = 0; column < 4; ++column) {
+      feature.placement[row][column] = occurrence.placement.m[row][column];
+    }
+  }
+  return feature;
+}
+
+// A note a product whose model could not bear its name alone, up to this many.
+constexpr size_t kMostRenamed = 20;
+
+std::vector<ModelName> NamesOf(const StepAssembly& step, std::vector<std::string>& notes) {
+  std::vector<ProductName> products;
+  for (const StepModel& model : step.models) products.push_back({model.name, model.assembly});
+  const std::vector<HostName> names = MakeHostNames(products);
+  std::vector<ModelName> full;
+  size_t renamed = 0;
+  for (size_t i = 0; i < names.size(); ++i) {
+    full.push_back({names[i].name, products[i].assembly ? ModelKind::kAssembly : ModelKind::kPart});
+    if (!names[i].numbered || ++renamed > kMostRenamed) continue;
+    notes.push_back("another product named \"" + products[i].name + "\" is the model " +
+                    full.back().Text());
+  }
+  if (renamed > kMostRenamed) {
+    notes.push_back("and " + std::to_string(renamed - kMostRenamed) + " more of such products");
+  }
+  return full;
+}
+
+// The folder that takes the files until all are written.
+class Neighbour {
+ public:
+  explicit Neighbour(const fs::path& target) : folder_(target) {
+    // What lies there already is somebody's.
+    do {
+      folder_ += ".import";
+    } while (fs::exists(folder_));
+    fs::create_directories(folder_);
+  }
+  ~Neighbour() {
+    std::error_code error;
+    fs::remove_all(folder_, error);
+  }
+  Neighbour(const Neighbour&) = delete;
+  Neighbour& operator=(const Neighbour&) = delete;
+
+  void MoveTo(const fs::path& target) const {
+    fs::create_directories(target);
+    for (const auto& item : fs::directory_iterator(folder_)) {
+      fs::rename(item.path(), target / item.path().filename());
+    }
+  }
+  const fs::path& folder() const { return folder_; }
+
+ private:
+  fs::path folder_;
+};
+
+// A file in the way of `folder`, or of a folder above it.
+void RefuseFileInTheWay(const fs::path& folder) {
+  fs::path at = fs::absolute(folder);
+  while (!fs::exists(at) && at.has_relative_path()) at = at.parent_path();
+  if (!fs::exists(at) || fs::is_directory(at)) return;
+  throw std::runtime_error(PathToUtf8(at) +
+                           " is a file, and models need a folder; name another folder, which is "
+                           "made when it is missing, or move the file away");
+}
+
+// Models in an order in which each comes before those under it.
+std::vector<const Model*> FromTheTop(const ImportedModels& imported) {
+  std::map<std::string, const Model*> by_name;
+  std::map<std::string, int> above;  // placements not yet passed
+  for (const Model& model : imported.models) {
+    by_name[model.id.Text()] = &model;
+    for (const Feature& feature : model.features) ++above[feature.component.Text()];
+  }
+  std::vector<const Model*> order;
+  for (const ModelName& top : imported.tops) order.push_back(by_name.at(top.Text()));
+  for (size_t i = 0; i < order.size(); ++i) {
+    for (const Feature& feature : order[i]->features) {
+      const std::string name = feature.component.Text();
+      if (--above[name] == 0) order.push_back(by_name.at(name));
+    }
+  }
+  return order;
+}
+
+// How often each model occurs under the tops, those themselves once.
+std::map<std::string, long> OccurrencesBelow(const ImportedModels& imported) {
+  std::map<std::string, long> totals;
+  for (const Model& model : imported.models) totals[model.id.Text()] = 0;
+  for (const ModelName& top : imported.tops) totals[top.Text()] = 1;
+  for (const Model* const model : FromTheTop(imported)) {
+    for (const Feature& feature : model->features) {
+      totals[feature.component.Text()] += totals[model->id.Text()];
+    }
+  }
+  return totals;
+}
+
+std::string Padded(std::string text, size_t width) {
+  const size_t length = WideLength(text);
+  if (length < width) text.append(width - length, ' ');
+  return text;
+}
+
+}  // namespace
+
+ImportedModels ReadStepModels(const fs::path& file) {
+  const StepAssembly step = ReadStepAssembly(file);
+  ImportedModels imported{{}, {}, step.notes};
+  const std::vector<ModelName> names = NamesOf(step, imported.notes);
+  for (size_t i = 0; i < step.models.size(); ++i) {
+    Model model;
+    model.id = names[i];
+    model.surfaces = SurfacesOf(step.models[i]);
+    int id = 0;
+    for (const StepOccurrence& occurrence : step.models[i].components) {
+      model.features.push_back(
+          ComponentOf(occurrence, names[static_cast<size_t>(occurrence.child)], ++id));
+    }
+    imported.models.push_back(std::move(model));
+  }
+  for (const int top : step.tops) imported.tops.push_back(names[static_cast<size_t>(top)]);
+  return imported;
+}
+
+void WriteModels(const ImportedModels& imported, const fs::path& folder, bool force) {
+  RefuseFileInTheWay(folder);
+  const FolderIndex present(folder);
+  for (const Model& model : imported.models) {
+    if (force || present.NewestVersion(model.id) == 0) continue;
+    throw std::runtime_error(PathToUtf8(folder) + " holds a model " + model.id.Text() +
+                             " already; import into another folder, or add --force to write "
+                             "next versions");
+  }
+  const Neighbour neighbour(folder);
+  for (const Model& model : imported.models) {
+    const int version = present.NewestVersion(model.id) + 1;
+    const fs::path file =
+        neighbour.folder() / PathFromUtf8(model.id.Text() + "." + std::to_string(version));
+    // The file system may take more names for one than we do.
+    if (fs::exists(file)) {
+      throw std::runtime_error("two models would share the file " + PathToUtf8(file.filename()) +
+                               "; rename one of the products");
+    }
+    WriteModelFile(model, file);
+  }
+  neighbour.MoveTo(folder);
+}
+
+std::string ModelTable(const ImportedModels& imported) {
+  const std::map<std::string, long> totals = OccurrencesBelow(imported);
+  std::map<std::string, int> placed;
+  size_t width = 5;
+  for (const Model& model : imported.models) {
+    width = std::max(width, WideLength(model.id.Text()));
+    for (const Feature& feature : model.features) ++placed[feature.component.Text()];
+  }
+  std::string table = Padded("model", width) + "  components  surfaces  placed  in all\n";
+  for (const Model& model : imported.models) {
+    const std::string name = model.id.Text();
+    table += Padded(name, width) + "  " + Padded(std::to_string(model.features.size()), 10) + "  " +
+             Padded(std::to_string(model.surfaces.size()), 8) + "  " +
+             Padded(std::to_string(placed[name]), 6) + "  " + std::to_string(totals.at(name)) +
+             "\n";
+  }
+  return table;
+}
+
+}  // namespace wb

@@ -1,0 +1,50 @@
+// One intercepted Windows call: counted, traced and open to faults like a crossing into the host.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <type_traits>
+
+#include "workbench/host/call.h"
+
+namespace wb {
+
+template <typename Result>
+int ResultForTrace(Result result) {
+  if constexpr (std::is_pointer_v<Result>) {
+    return static_cast<int>(reinterpret_cast<intptr_t>(result));
+  } else {
+    return static_cast<int>(result);
+  }
+}
+
+// Runs `body(call)` and gives its result. When a fault strikes or the body finds a misuse the
+// result is `failure`, which is what the function itself gives when it fails. A call from another
+// thread is a breach, but is answered.
+template <typename Result, typename Body>
+Result WindowsCrossing(const char* function, const std::string& arguments, Result failure,
+                       Body&& body) {
+  Host& host = TheHost();
+  const bool on_ui_thread = host.OnUiThread();
+  if (!on_ui_thread) {
+    host.ReportBreach(function, "called from a thread that is not the user-interface thread");
+  }
+  const Call call(host, function, on_ui_thread ? host.trace.Enter(function) : 0);
+  Result result = failure;
+  const bool struck = on_ui_thread && host.faults.StrikeWindows(function) != nullptr;
+  const bool user_acted = on_ui_thread && host.LetUserIn(function);
+  try {
+    if (!struck) result = body(call);
+  } catch (...) {
+    CaughtInCrossing(host, function, user_acted);
+  }
+  if (!on_ui_thread) return result;
+  if (host.trace.keep_lines) {
+    host.trace.Leave(call.call, function, arguments, ResultForTrace(result));
+  } else {
+    host.trace.LeaveQuietly();
+  }
+  return result;
+}
+
+}  // namespace wb
