@@ -44,23 +44,22 @@ TEST_F(Boundary, AnExceptionInAnyKindOfFunctionGivenAwayBecomesAnAnswer) {
   ASSERT_NE(run, nullptr);
   ShieldProbe probe{};
   int count = 0;
-  for (; host_.windows.boxes.clear(), run(count, &probe); ++count) {
+  for (; host_.events.Forget<MessageBox>(), run(count, &probe); ++count) {
     const std::string kind = std::string(probe.kind) + " of " + probe.given_to;
     EXPECT_EQ(probe.answered, probe.wanted) << kind;
-    ASSERT_EQ(host_.windows.boxes.size(), probe.is_shown ? 1u : 0u) << kind;
+    const auto boxes = host_.events.All<MessageBox>();
+    ASSERT_EQ(boxes.size(), probe.is_shown ? 1u : 0u) << kind;
     if (!probe.is_shown) continue;
-    EXPECT_EQ(host_.windows.boxes[0].text, "\t命令执行中发生内部错误，操作已停止。\t") << kind;
-    EXPECT_EQ(host_.windows.boxes[0].style, 0x40000u) << kind;
+    EXPECT_EQ(boxes[0].text, "\t命令执行中发生内部错误，操作已停止。\t") << kind;
+    EXPECT_EQ(boxes[0].style, 0x40000u) << kind;
   }
   EXPECT_GE(count, 8);
   EXPECT_EQ(TakeBreaches(), Lines());
 }
 
 TEST_F(Boundary, AnExceptionInAVisitComesOutBehindTheVisit) {
-  Model assembly;
-  assembly.id = {"box", ModelKind::kAssembly};
-  assembly.features.resize(3);
-  for (int i = 0; i < 3; ++i) assembly.features[static_cast<size_t>(i)].id = i + 1;
+  Model assembly({"box", ModelKind::kAssembly});
+  for (int i = 1; i <= 3; ++i) assembly.solid().features.Add({.id = i});
   const Model& added = host_.session.Add(std::move(assembly));
   const ProbeLibrary library;
   const auto run = library.Find<RunThrowingVisit>("RunVisit");

@@ -48,7 +48,7 @@ TEST_F(LifeCycle, AThousandStartsAndStopsLeaveNothingBehind) {
   EXPECT_EQ(HandleCount(), handles_before);
   EXPECT_TRUE(host_.windows.timers.empty());
   EXPECT_TRUE(host_.commands.commands.empty());
-  EXPECT_TRUE(host_.windows.boxes.empty());
+  EXPECT_TRUE(host_.events.All<MessageBox>().empty());
 }
 
 // A library that was never started goes with its unloading, and takes everything along.

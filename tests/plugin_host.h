@@ -31,9 +31,8 @@ class PluginHost : public testing::Test {
 
   // What the plug-in did wrong since the last call.
   std::vector<std::string> TakeBreaches() {
-    std::vector<std::string> lines;
-    for (const Breach& breach : host_.breaches) lines.push_back(breach.Text());
-    host_.breaches.clear();
+    const std::vector<std::string> lines = host_.events.AllTexts<Breach>();
+    host_.events.Forget<Breach>();
     return lines;
   }
 

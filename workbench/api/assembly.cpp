@@ -1,66 +1,61 @@
 // Host functions for component paths and for the hide state of components.
-#include "workbench/host/loans.h"
-
-using namespace wb;
+#include "workbench/host/arguments.h"
 
 namespace wb {
 namespace {
 
-Feature& HideableAt(const Call& call, const ProModelitem* item, Model** owner) {
-  if (item != nullptr && item->type != PRO_FEATURE) {
-    throw NotModelled{"hide state of an item of type " +
-                      std::to_string(static_cast<int>(item->type))};
+// What can be hidden; the host hides more than features.
+struct HideableIn : FeatureIn {
+  FeaturePlace Look(const Call& call) const {
+    if (item != nullptr && item->type != PRO_FEATURE) {
+      throw NotModelled{"hide state of an item of type " +
+                        std::to_string(static_cast<int>(item->type))};
+    }
+    return FeatureIn::Look(call);
   }
-  return call.FeatureAt(item, owner);
+};
+
+void SetHidden(const FeaturePlace& at, bool hidden) {
+  if (at.feature.hidden != hidden) at.owner.modified = true;
+  at.feature.hidden = hidden;
 }
 
-ProError SetHidden(const Call& call, const ProModelitem* item, bool hidden) {
-  Model* owner = nullptr;
-  Feature& feature = HideableAt(call, item, &owner);
-  if (feature.hidden != hidden) owner->modified = true;
-  feature.hidden = hidden;
-  return PRO_TK_NO_ERROR;
-}
-
-// The feature that a path's next step names.
-Feature& StepAt(const Call& call, Model& parent, int id) {
-  Feature* const feature = parent.FindFeature(id);
+// The model of the component that a path's next step names; null: not in session.
+Model* Below(const Call& call, Model& parent, int id) {
+  const Feature* const feature = parent.FindFeature(id);
   if (feature == nullptr || !feature->IsComponent()) {
     call.Fail("\"" + parent.id.Text() + "\" has no component " + std::to_string(id));
   }
-  return *feature;
+  return feature->ComponentModel();
 }
 
 }  // namespace
 }  // namespace wb
 
+using namespace wb;
+
 ProError ProAsmcomppathInit(ProSolid root, ProIdTable ids, int table_size, ProAsmcomppath* path) {
-  return Crossing("ProAsmcomppathInit", root, static_cast<const void*>(ids), table_size, Out(path))
-      .Run([&](Call& call) {
-        call.SolidAt(root);
-        if (table_size < 0 || table_size > PRO_MAX_ASSEM_LEVEL) {
-          call.Fail("path of " + std::to_string(table_size) + " levels");
+  return Crossing(__func__, SolidIn{root}, DataIn{ids}, table_size, Out(path, "path place"))
+      .Run([&](const Call& call, const Model&, void*, int size, ProAsmcomppath& place) {
+        if (size < 0 || size > PRO_MAX_ASSEM_LEVEL) {
+          call.Fail("path of " + std::to_string(size) + " levels");
         }
-        ProAsmcomppath& place = call.Place(path, "path place");
         place = {};
         place.owner = root;
-        place.table_num = table_size;
-        if (table_size > 0) call.Place(ids, "id table");
-        std::copy(ids, ids + table_size, place.comp_id_table);
-        return PRO_TK_NO_ERROR;
+        place.table_num = size;
+        if (size > 0) call.Place(ids, "id table");
+        std::copy(ids, ids + size, place.comp_id_table);
       });
 }
 
 ProError ProAsmcomppathMdlGet(ProAsmcomppath* path, ProMdl* model) {
-  return Crossing("ProAsmcomppathMdlGet", static_cast<const void*>(path), Out(model))
-      .Run([&](Call& call) {
-        const ProAsmcomppath& way = call.Place(path, "path");
+  return Crossing(__func__, RecordIn(path, "path"), Out(model, "model place"))
+      .Run([](const Call& call, const ProAsmcomppath& way, ProMdl& place) {
         if (way.table_num < 0 || way.table_num > PRO_MAX_ASSEM_LEVEL) call.Fail("path length");
         Model* at = &call.SolidAt(way.owner);
         for (int i = 0; i < way.table_num && at != nullptr; ++i) {
-          at = StepAt(call, *at, way.comp_id_table[i]).model;
+          at = Below(call, *at, way.comp_id_table[i]);
         }
-        ProMdl& place = call.Place(model, "model place");
         if (at == nullptr) return PRO_TK_E_NOT_FOUND;
         place = at->handle;
         return PRO_TK_NO_ERROR;
@@ -68,22 +63,20 @@ ProError ProAsmcomppathMdlGet(ProAsmcomppath* path, ProMdl* model) {
 }
 
 ProError ProModelitemIsHidden(ProModelitem* item, ProBoolean* is_hidden) {
-  return Crossing("ProModelitemIsHidden", item, Out(is_hidden)).Run([&](Call& call) {
-    Model* owner = nullptr;
-    const bool hidden = HideableAt(call, item, &owner).hidden;
-    call.Place(is_hidden, "answer place") = hidden ? PRO_B_TRUE : PRO_B_FALSE;
-    return PRO_TK_NO_ERROR;
-  });
+  return Crossing(__func__, HideableIn{{item}}, Out(is_hidden, "answer place"))
+      .Run([](const Feature& feature, ProBoolean& place) {
+        place = feature.hidden ? PRO_B_TRUE : PRO_B_FALSE;
+      });
 }
 
 ProError ProModelitemHide(ProModelitem* item) {
-  return Crossing("ProModelitemHide", item).Run([&](Call& call) {
-    return SetHidden(call, item, true);
+  return Crossing(__func__, HideableIn{{item}}).Run([](const FeaturePlace& at) {
+    SetHidden(at, true);
   });
 }
 
 ProError ProModelitemUnhide(ProModelitem* item) {
-  return Crossing("ProModelitemUnhide", item).Run([&](Call& call) {
-    return SetHidden(call, item, false);
+  return Crossing(__func__, HideableIn{{item}}).Run([](const FeaturePlace& at) {
+    SetHidden(at, false);
   });
 }

@@ -3,16 +3,16 @@
 
 namespace wb {
 
-std::string MessageFileArgument(const Call& call, const wchar_t* file) {
+std::string MessageFileIn::Look(const Call& call) const {
   const std::string name = call.Text(file, PRO_FILE_NAME_SIZE, "message file name");
   if (name.empty()) call.Fail("empty message file name");
   return name;
 }
 
-const MessageRecord* MessageArgument(const Call& call, const std::string& file, const char* key) {
-  const std::string text = call.Narrow(key, kNarrowLimit, "message key");
+const MessageRecord* FindMessage(const Call& call, const std::string& file,
+                                 const std::string& key) {
   try {
-    return call.host.messages.Find(MessagePath(call.host, file), text);
+    return call.host.messages.Find(MessagePath(call.host, file), key);
   } catch (const MessageFileError& error) {
     call.host.ReportBreach(call.function, std::string("broken message file ") + error.what());
     return nullptr;
@@ -21,15 +21,14 @@ const MessageRecord* MessageArgument(const Call& call, const std::string& file, 
 
 namespace {
 
-// Gives the filled-in text to `use`.
-template <typename Use>
-ProError WithText(const Call& call, const wchar_t* file, const char* key, va_list arguments,
-                  Use&& use) {
-  const MessageRecord* const record = MessageArgument(call, MessageFileArgument(call, file), key);
-  if (record == nullptr) return PRO_TK_MSG_NOT_FOUND;
-  const std::optional<std::string> text = FilledIn(*record, arguments);
+// The filled-in text; none when the file or the key is missing.
+std::optional<std::string> FilledText(const Call& call, const std::string& file,
+                                      const std::string& key, va_list arguments) {
+  const MessageRecord* const record = FindMessage(call, file, key);
+  if (record == nullptr) return std::nullopt;
+  std::optional<std::string> text = FilledIn(*record, arguments);
   if (!text) call.Fail("null text as an argument of \"" + record->key + "\"");
-  return use(*text);
+  return text;
 }
 
 }  // namespace
@@ -40,12 +39,14 @@ using namespace wb;
 ProError ProMessageDisplay(wchar_t* file, const char* key, ...) {
   va_list arguments;
   va_start(arguments, key);
-  const ProError status = Crossing("ProMessageDisplay", file, key).Run([&](Call& call) {
-    return WithText(call, file, key, arguments, [&](const std::string& text) {
-      call.host.messages.notes.push_back(text);
-      return PRO_TK_NO_ERROR;
-    });
-  });
+  const ProError status =
+      Crossing(__func__, MessageFileIn{file}, MessageKeyIn(key))
+          .Run([&](const Call& call, const std::string& name, const std::string& message) {
+            const auto text = FilledText(call, name, message, arguments);
+            if (!text) return PRO_TK_MSG_NOT_FOUND;
+            call.host.events.Add(Note{*text});
+            return PRO_TK_NO_ERROR;
+          });
   va_end(arguments);
   return status;
 }
@@ -54,14 +55,15 @@ ProError ProMessageToBuffer(wchar_t* line, wchar_t* file, const char* key, ...) 
   va_list arguments;
   va_start(arguments, key);
   const ProError status =
-      Crossing("ProMessageToBuffer", OutText(line, PRO_LINE_SIZE), file, key).Run([&](Call& call) {
-        call.Place(line, "line");
-        return WithText(call, file, key, arguments, [&](const std::string& text) {
-          if (ToWide(text).size() >= PRO_LINE_SIZE) return PRO_TK_MSG_TOO_LONG;
-          call.CopyText(line, PRO_LINE_SIZE, text);
-          return PRO_TK_NO_ERROR;
-        });
-      });
+      Crossing(__func__, OutText{line, PRO_LINE_SIZE}, MessageFileIn{file}, MessageKeyIn(key))
+          .Run([&](const Call& call, TextPlace place, const std::string& name,
+                   const std::string& message) {
+            const auto text = FilledText(call, name, message, arguments);
+            if (!text) return PRO_TK_MSG_NOT_FOUND;
+            if (ToWide(*text).size() >= PRO_LINE_SIZE) return PRO_TK_MSG_TOO_LONG;
+            place = *text;
+            return PRO_TK_NO_ERROR;
+          });
   va_end(arguments);
   return status;
 }

@@ -1,5 +1,5 @@
 // Host functions of the parameter family.
-#include "workbench/host/loans.h"
+#include "workbench/host/arguments.h"
 
 namespace wb {
 namespace {
@@ -54,24 +54,46 @@ Model& OwnerAt(const Call& call, const ProModelitem* owner) {
   return model;
 }
 
-struct Held {
-  Model* model;
+struct OwnerIn {
+  const ProModelitem* owner;
+  std::string Describe() const { return DescribeArgument(owner); }
+  Model& Look(const Call& call) const { return OwnerAt(call, owner); }
+};
+
+struct ParameterNameIn : TextIn {
+  explicit ParameterNameIn(const wchar_t* name) : TextIn{name, PRO_NAME_SIZE, "parameter name"} {}
+};
+
+struct ValueIn {
+  const ProParamvalue* value;
+  std::string Describe() const { return DescribeArgument(static_cast<const void*>(value)); }
+  ParameterValue Look(const Call& call) const {
+    return ValueArgument(call, call.Place(value, "value"));
+  }
+};
+
+struct HeldParameter {
+  Model& model;
   Parameter* parameter;  // null: gone since the record was made
 };
-Held ParameterAt(const Call& call, const ProParameter* record) {
-  if (record == nullptr) call.Fail("null parameter");
-  Model& model = OwnerAt(call, &record->owner.who.item);
-  return {&model, model.FindParameter(call.Text(record->id, PRO_NAME_SIZE, "parameter name"))};
-}
 
-void FillRecord(const Call& call, const ProModelitem& owner, const std::string& name,
-                ProParameter* record) {
-  ProParameter& place = call.Place(record, "parameter place");
-  place = {};
-  place.type = PRO_TYPE_UNUSED;
-  call.CopyText(place.id, PRO_NAME_SIZE, name);
-  place.owner.type = PRO_PARAM_OWNER_ITEM;
-  place.owner.who.item = owner;
+struct ParameterIn {
+  const ProParameter* record;
+  std::string Describe() const { return DescribeArgument(static_cast<const void*>(record)); }
+  HeldParameter Look(const Call& call) const {
+    if (record == nullptr) call.Fail("null parameter");
+    Model& model = OwnerAt(call, &record->owner.who.item);
+    return {model, model.FindParameter(call.Text(record->id, PRO_NAME_SIZE, "parameter name"))};
+  }
+};
+
+ProParameter RecordOf(const Call& call, const ProModelitem& owner, const std::string& name) {
+  ProParameter record = {};
+  record.type = PRO_TYPE_UNUSED;
+  call.CopyText(record.id, PRO_NAME_SIZE, name);
+  record.owner.type = PRO_PARAM_OWNER_ITEM;
+  record.owner.who.item = owner;
+  return record;
 }
 
 }  // namespace
@@ -81,36 +103,32 @@ using namespace wb;
 
 ProError ProParameterCreate(ProModelitem* owner, ProName name, ProParamvalue* value,
                             ProParameter* parameter) {
-  return Crossing("ProParameterCreate", owner, name, static_cast<const void*>(value),
-                  Out(parameter))
-      .Run([&](Call& call) {
-        Model& model = OwnerAt(call, owner);
-        const std::string text = call.Text(name, PRO_NAME_SIZE, "parameter name");
-        const ParameterValue held = ValueArgument(call, call.Place(value, "value"));
+  return Crossing(__func__, OwnerIn{owner}, ParameterNameIn(name), ValueIn{value},
+                  Out(parameter, "parameter place"))
+      .Run([&](const Call& call, Model& model, const std::string& text, const ParameterValue& held,
+               ProParameter& place) {
         if (!IsParameterName(text)) return PRO_TK_INVALID_NAME;
         if (model.FindParameter(text) != nullptr) return PRO_TK_E_FOUND;
-        FillRecord(call, *owner, text, parameter);
+        place = RecordOf(call, *owner, text);
         model.SetParameter(text, held);
         return PRO_TK_NO_ERROR;
       });
 }
 
 ProError ProParameterInit(ProModelitem* owner, ProName name, ProParameter* parameter) {
-  return Crossing("ProParameterInit", owner, name, Out(parameter)).Run([&](Call& call) {
-    Model& model = OwnerAt(call, owner);
-    const std::string text = call.Text(name, PRO_NAME_SIZE, "parameter name");
-    const Parameter* const held = model.FindParameter(text);
-    if (held == nullptr) return PRO_TK_E_NOT_FOUND;
-    FillRecord(call, *owner, held->name, parameter);
-    return PRO_TK_NO_ERROR;
-  });
+  return Crossing(__func__, OwnerIn{owner}, ParameterNameIn(name),
+                  Out(parameter, "parameter place"))
+      .Run([&](const Call& call, Model& model, const std::string& text, ProParameter& place) {
+        const Parameter* const held = model.FindParameter(text);
+        if (held == nullptr) return PRO_TK_E_NOT_FOUND;
+        place = RecordOf(call, *owner, held->name);
+        return PRO_TK_NO_ERROR;
+      });
 }
 
 ProError ProParameterValueGet(ProParameter* parameter, ProParamvalue* value) {
-  return Crossing("ProParameterValueGet", static_cast<const void*>(parameter), Out(value))
-      .Run([&](Call& call) {
-        const Held held = ParameterAt(call, parameter);
-        ProParamvalue& place = call.Place(value, "value place");
+  return Crossing(__func__, ParameterIn{parameter}, Out(value, "value place"))
+      .Run([](const Call& call, const HeldParameter& held, ProParamvalue& place) {
         if (held.parameter == nullptr) return PRO_TK_E_NOT_FOUND;
         FillValue(call, held.parameter->value, place);
         return PRO_TK_NO_ERROR;
@@ -118,23 +136,19 @@ ProError ProParameterValueGet(ProParameter* parameter, ProParamvalue* value) {
 }
 
 ProError ProParameterValueSet(ProParameter* parameter, ProParamvalue* value) {
-  return Crossing("ProParameterValueSet", static_cast<const void*>(parameter),
-                  static_cast<const void*>(value))
-      .Run([&](Call& call) {
-        const Held held = ParameterAt(call, parameter);
-        ParameterValue wanted = ValueArgument(call, call.Place(value, "value"));
+  return Crossing(__func__, ParameterIn{parameter}, ValueIn{value})
+      .Run([](const HeldParameter& held, const ParameterValue& wanted) {
         if (held.parameter == nullptr) return PRO_TK_E_NOT_FOUND;
         if (held.parameter->value.index() != wanted.index()) return PRO_TK_INVALID_TYPE;
-        held.model->SetParameter(held.parameter->name, std::move(wanted));
+        held.model.SetParameter(held.parameter->name, wanted);
         return PRO_TK_NO_ERROR;
       });
 }
 
 ProError ProParameterDelete(ProParameter* parameter) {
-  return Crossing("ProParameterDelete", static_cast<const void*>(parameter)).Run([&](Call& call) {
-    const Held held = ParameterAt(call, parameter);
+  return Crossing(__func__, ParameterIn{parameter}).Run([](const HeldParameter& held) {
     if (held.parameter == nullptr) return PRO_TK_E_NOT_FOUND;
-    held.model->DeleteParameter(std::string(held.parameter->name));
+    held.model.DeleteParameter(std::string(held.parameter->name));
     return PRO_TK_NO_ERROR;
   });
 }

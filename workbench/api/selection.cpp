@@ -1,5 +1,5 @@
 // Host functions of the selection family: picking, the selection buffer, what was picked.
-#include "workbench/host/loans.h"
+#include "workbench/host/arguments.h"
 
 namespace wb {
 namespace {
@@ -21,12 +21,39 @@ const std::vector<FilterTypes>& KnownFilters() {
   return filters;
 }
 
-const FilterTypes& FilterArgument(const Call& call, const std::string& word) {
-  for (const FilterTypes& filter : KnownFilters()) {
-    if (word == filter.word) return filter;
+struct FilterIn : NarrowIn {
+  explicit FilterIn(const char* filter) : NarrowIn{filter, "filter"} {}
+  const FilterTypes& Look(const Call& call) const {
+    const std::string word = NarrowIn::Look(call);
+    for (const FilterTypes& filter : KnownFilters()) {
+      if (word == filter.word) return filter;
+    }
+    throw NotModelled{"selection filter \"" + word + "\" in " + call.function};
   }
-  throw NotModelled{"selection filter \"" + word + "\" in " + call.function};
-}
+};
+
+using PickOptionList = std::vector<std::pair<int, int>>;
+
+// May be left out.
+struct EnvironmentIn {
+  ProSelectionEnv handle;
+  std::string Describe() const { return DescribeArgument(static_cast<const void*>(handle)); }
+  const PickOptionList* Look(const Call& call) const {
+    if (handle == nullptr) return nullptr;
+    return static_cast<PickOptionList*>(call.Look(handle, HandleKind::kSelectionEnv).object);
+  }
+};
+
+// A fault that keeps it from being given back does so with the selections in it.
+struct SelectionsGivenBack : GivenBack<ProSelection> {
+  using GivenBack::GivenBack;
+  void Forgive(Host& host) const {
+    if (!host.accounts.Check(lent, Resource::kArray).empty()) return;
+    const int count = ArraySize(Call(host, "ProSelectionarrayFree", 0), lent);
+    for (int i = 0; i < count; ++i) host.accounts.Forgive(lent[i]);
+    GivenBack::Forgive(host);
+  }
+};
 
 void CheckPicks(const FilterTypes& filter, const std::vector<PickedItem>& picks, int max_count) {
   if (max_count >= 0 && picks.size() > static_cast<size_t>(max_count)) {
@@ -56,22 +83,15 @@ using namespace wb;
 ProError ProSelect(const char* filter, int max_count, ProSelection* initial,
                    ProSelFunctions* functions, ProSelectionEnv environment,
                    ProSelAppAction app_action, ProSelection** selections, int* count) {
-  return Crossing("ProSelect", filter, max_count, static_cast<const void*>(initial),
-                  static_cast<const void*>(functions), static_cast<const void*>(environment),
-                  static_cast<const void*>(app_action), Out(selections), Out(count))
-      .Run([&](Call& call) {
-        const FilterTypes& known =
-            FilterArgument(call, call.Narrow(filter, kNarrowLimit, "filter"));
-        if (environment != nullptr) {
-          const auto found = call.host.handles.Look(environment, HandleKind::kSelectionEnv);
-          if (found.object == nullptr) call.Fail(found);
-        }
-        ProSelection*& place = call.Place(selections, "selections place");
-        int& number = call.Place(count, "count place");
+  return Crossing(__func__, FilterIn(filter), max_count, DataIn{initial}, DataIn{functions},
+                  EnvironmentIn{environment}, DataIn{app_action},
+                  Out(selections, "selections place"), Out(count, "count place"))
+      .Run([](const Call& call, const FilterTypes& known, int most, void*, void*,
+              const PickOptionList*, void*, ProSelection*& place, int& number) {
         if (call.host.user == nullptr) return PRO_TK_USER_ABORT;
-        const auto picks = call.host.user->Pick({known.word, max_count});
+        const auto picks = call.host.user->Pick({known.word, most});
         if (!picks) return PRO_TK_USER_ABORT;
-        CheckPicks(known, *picks, max_count);
+        CheckPicks(known, *picks, most);
         ReplaceLastPicks(call.host, *picks);
         place = reinterpret_cast<ProSelection*>(call.host.last_picks.data());
         number = static_cast<int>(picks->size());
@@ -80,89 +100,72 @@ ProError ProSelect(const char* filter, int max_count, ProSelection* initial,
 }
 
 ProError ProSelectionEnvAlloc(ProSelectionEnvOption* options, ProSelectionEnv* environment) {
-  return Crossing("ProSelectionEnvAlloc", static_cast<const void*>(options), Out(environment))
-      .Run([&](Call& call) {
-        const int count = ArraySize(call, options);
-        if (ArrayObjectSize(options) != static_cast<int>(sizeof(ProSelectionEnvOption))) {
-          call.Fail("array of another element size given as options");
+  return Crossing(__func__, ArrayIn(options, "options"), Out(environment, "environment place"))
+      .Run([](const Call& call, std::span<ProSelectionEnvOption> given, ProSelectionEnv& place) {
+        auto* const held = new PickOptionList;
+        for (const ProSelectionEnvOption& option : given) {
+          held->emplace_back(option.attribute, option.attribute_value);
         }
-        auto* const held = new std::vector<std::pair<int, int>>;
-        for (int i = 0; i < count; ++i) {
-          held->emplace_back(options[i].attribute, options[i].attribute_value);
-        }
-        ProSelectionEnv& place = call.Place(environment, "environment place");
         place =
             static_cast<ProSelectionEnv>(call.host.handles.Give(HandleKind::kSelectionEnv, held));
-        call.host.selection_environments.push_back(*held);
+        call.host.events.Add(PickOptions{*held});
         call.Give(place, Resource::kSelectionEnv);
-        return PRO_TK_NO_ERROR;
       });
 }
 
 ProError ProSelectionEnvFree(ProSelectionEnv environment) {
-  return Crossing("ProSelectionEnvFree", static_cast<const void*>(environment))
-      .Run([&](Call& call) {
-        call.TakeBack(environment, Resource::kSelectionEnv);
-        const auto found = call.host.handles.Look(environment, HandleKind::kSelectionEnv);
-        delete static_cast<std::vector<std::pair<int, int>>*>(found.object);
-        call.host.handles.End(environment);
+  return Crossing(__func__, GivenBack(environment)).Run([](const Call& call, ProSelectionEnv lent) {
+    call.TakeBack(lent, Resource::kSelectionEnv);
+    delete static_cast<PickOptionList*>(call.Look(lent, HandleKind::kSelectionEnv).object);
+    call.host.handles.End(lent);
+  });
+}
+
+ProError ProSelbufferSelectionsGet(ProSelection** selections) {
+  return Crossing(__func__, Out(selections, "selections place"))
+      .Run([](const Call& call, ProSelection*& place) {
+        const std::vector<PickedItem>& buffer = call.host.session.selection_buffer;
+        if (buffer.empty()) return PRO_TK_E_NOT_FOUND;
+        place = static_cast<ProSelection*>(
+            NewArray(call, static_cast<int>(buffer.size()), sizeof(ProSelection)));
+        for (size_t i = 0; i < buffer.size(); ++i) place[i] = NewSelection(call, buffer[i]);
         return PRO_TK_NO_ERROR;
       });
 }
 
-ProError ProSelbufferSelectionsGet(ProSelection** selections) {
-  return Crossing("ProSelbufferSelectionsGet", Out(selections)).Run([&](Call& call) {
-    const std::vector<PickedItem>& buffer = call.host.session.selection_buffer;
-    ProSelection*& place = call.Place(selections, "selections place");
-    if (buffer.empty()) return PRO_TK_E_NOT_FOUND;
-    place = static_cast<ProSelection*>(
-        NewArray(call, static_cast<int>(buffer.size()), sizeof(ProSelection)));
-    for (size_t i = 0; i < buffer.size(); ++i) place[i] = NewSelection(call, buffer[i]);
-    return PRO_TK_NO_ERROR;
-  });
-}
-
 ProError ProSelectionarrayFree(ProSelection* selections) {
-  return Crossing("ProSelectionarrayFree", static_cast<const void*>(selections))
-      .Run([&](Call& call) {
-        const int count = ArraySize(call, selections);
-        for (int i = 0; i < count; ++i) FreeSelection(call, selections[i]);
-        FreeArray(call, selections);
-        return PRO_TK_NO_ERROR;
+  return Crossing(__func__, SelectionsGivenBack(selections))
+      .Run([](const Call& call, ProSelection* lent) {
+        const int count = ArraySize(call, lent);
+        for (int i = 0; i < count; ++i) FreeSelection(call, lent[i]);
+        FreeArray(call, lent);
       });
 }
 
 ProError ProSelbufferClear() {
-  return Crossing("ProSelbufferClear").Run([&](Call& call) {
-    call.host.session.selection_buffer.clear();
-    return PRO_TK_NO_ERROR;
-  });
+  return Crossing(__func__).Run(
+      [](const Call& call) { call.host.session.selection_buffer.clear(); });
 }
 
 ProError ProSelbufferSelectionAdd(ProSelection selection) {
-  return Crossing("ProSelbufferSelectionAdd", static_cast<const void*>(selection))
-      .Run([&](Call& call) {
-        call.host.session.selection_buffer.push_back(call.SelectionAt(selection));
-        return PRO_TK_NO_ERROR;
+  return Crossing(__func__, SelectionIn{selection})
+      .Run([](const Call& call, const PickedItem& picked) {
+        call.host.session.selection_buffer.push_back(picked);
       });
 }
 
 ProError ProSelectionModelitemGet(ProSelection selection, ProModelitem* item) {
-  return Crossing("ProSelectionModelitemGet", static_cast<const void*>(selection), Out(item))
-      .Run([&](Call& call) {
-        const PickedItem& picked = call.SelectionAt(selection);
+  return Crossing(__func__, SelectionIn{selection}, Out(item, "item place"))
+      .Run([](const PickedItem& picked, ProModelitem& place) {
         if (picked.owner == nullptr) return PRO_TK_INVALID_ITEM;
-        call.Place(item, "item place") = {static_cast<ProType>(picked.type), picked.id,
-                                          picked.owner->handle};
+        place = {static_cast<ProType>(picked.type), picked.id, picked.owner->handle};
         return PRO_TK_NO_ERROR;
       });
 }
 
 ProError ProSelectionAsmcomppathGet(ProSelection selection, ProAsmcomppath* path) {
-  return Crossing("ProSelectionAsmcomppathGet", static_cast<const void*>(selection), Out(path))
-      .Run([&](Call& call) {
-        const PickedItem& picked = call.SelectionAt(selection);
-        ProAsmcomppath& place = call.Place(path, "path place");
+  return Crossing(__func__, SelectionIn{selection}, Out(path, "path place"))
+      .Run([](const PickedItem& picked, ProAsmcomppath& place) {
         if (picked.root == nullptr) return PRO_TK_INVALID_ITEM;
         if (picked.path.size() > PRO_MAX_ASSEM_LEVEL) {
           throw NotModelled{"a component path deeper than the host's limit"};

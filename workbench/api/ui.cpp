@@ -16,7 +16,7 @@ ProError CreateDialog(const Call& call, const std::string& name, const std::stri
     host.dialogs.open[name] = std::move(dialog);
     return PRO_TK_NO_ERROR;
   } catch (const std::exception& error) {
-    host.file_problems.push_back(error.what());
+    host.events.Add(FileProblem{error.what()});
     return PRO_TK_INVALID_FILE;
   }
 }
@@ -43,9 +43,28 @@ ProError ActivateDialog(const Call& call, LiveDialog& dialog, int* exit_status) 
   return dialog.ended ? PRO_TK_NO_ERROR : PRO_TK_GENERAL_ERROR;
 }
 
-ProError SetCheck(const Call& call, const char* dialog, const char* component, bool set) {
-  StateAt<CheckState>(call, dialog, component, ComponentKind::kCheckButton).set = set;
-  return PRO_TK_NO_ERROR;
+// A fault that keeps the dialog from being destroyed is not held against the plug-in.
+struct DialogGivenBack : DialogIn {
+  void Forgive(Host& host) const {
+    const LiveDialog* const dialog = name == nullptr ? nullptr : host.dialogs.Find(name);
+    if (dialog != nullptr) host.accounts.Forgive(dialog);
+  }
+};
+
+FieldIn<ChoiceState> RadioIn(const char* dialog, const char* group) {
+  return {dialog, group, FieldKind::kRadioGroup};
+}
+FieldIn<TextState> InputIn(const char* dialog, const char* panel) {
+  return {dialog, panel, FieldKind::kInputPanel};
+}
+FieldIn<CheckState> CheckIn(const char* dialog, const char* button) {
+  return {dialog, button, FieldKind::kCheckButton};
+}
+TextIn FieldValueIn(const wchar_t* value) {
+  return {value, kFieldLimit, "value"};
+}
+NarrowIn FieldNameIn(const char* field) {
+  return {field, "component name"};
 }
 
 }  // namespace
@@ -54,139 +73,104 @@ ProError SetCheck(const Call& call, const char* dialog, const char* component, b
 using namespace wb;
 
 ProError ProUIDialogCreate(const char* dialog, const char* resource) {
-  return Crossing("ProUIDialogCreate", dialog, resource).Run([&](Call& call) {
-    const std::string name = call.Narrow(dialog, kNarrowLimit, "dialog name");
-    return CreateDialog(call, name, call.Narrow(resource, kNarrowLimit, "resource name"));
-  });
+  return Crossing(__func__, NarrowIn{dialog, "dialog name"}, NarrowIn{resource, "resource name"})
+      .Run(&CreateDialog);
 }
 
 ProError ProUIDialogActivate(const char* dialog, int* exit_status) {
-  return Crossing("ProUIDialogActivate", dialog, Out(exit_status)).Run([&](Call& call) {
-    return ActivateDialog(call, DialogAt(call, dialog), exit_status);
-  });
+  return Crossing(__func__, DialogIn{dialog}, OptionalOut(exit_status)).Run(&ActivateDialog);
 }
 
 ProError ProUIDialogDestroy(const char* dialog) {
-  return Crossing("ProUIDialogDestroy", dialog).Run([&](Call& call) {
-    LiveDialog& live = DialogAt(call, dialog);
+  return Crossing(__func__, DialogGivenBack{{dialog}}).Run([](const Call& call, LiveDialog& live) {
     if (live.active) call.Fail("the dialog is still active");
     call.TakeBack(&live, Resource::kDialog);
     call.host.dialogs.open.erase(std::string(live.name));
-    return PRO_TK_NO_ERROR;
   });
 }
 
 ProError ProUIDialogExit(const char* dialog, int exit_status) {
-  return Crossing("ProUIDialogExit", dialog, exit_status).Run([&](Call& call) {
-    LiveDialog& live = DialogAt(call, dialog);
-    if (!live.active) call.Fail("the dialog is not active");
-    live.ended = true;
-    live.exit_status = exit_status;
-    return PRO_TK_NO_ERROR;
-  });
+  return Crossing(__func__, DialogIn{dialog}, exit_status)
+      .Run([](const Call& call, LiveDialog& live, int status) {
+        if (!live.active) call.Fail("the dialog is not active");
+        live.ended = true;
+        live.exit_status = status;
+      });
 }
 
 ProError ProUIDialogCloseActionSet(const char* dialog, ProUIAction action, ProAppData data) {
-  return Crossing("ProUIDialogCloseActionSet", dialog, action, static_cast<const void*>(data))
-      .Run([&](Call& call) {
-        Bind(call, dialog, "", kCloseEvent, action, data);
-        return PRO_TK_NO_ERROR;
-      });
+  return BindDialogAction(__func__, dialog, kCloseEvent, action, data);
 }
 
 ProError ProUIPushbuttonActivateActionSet(const char* dialog, const char* component,
                                           ProUIAction action, ProAppData data) {
-  return Crossing("ProUIPushbuttonActivateActionSet", dialog, component, action,
-                  static_cast<const void*>(data))
-      .Run([&](Call& call) {
-        BindComponent(call, dialog, component, ComponentKind::kPushButton, kActivateEvent, action,
-                      data);
-        return PRO_TK_NO_ERROR;
-      });
+  return BindFieldAction(__func__, dialog, component, {FieldKind::kPushButton, kActivateEvent},
+                         action, data);
 }
 
 ProError ProUIRadiogroupSelectednamesSet(const char* dialog, const char* component, int count,
                                          char** names) {
-  return Crossing("ProUIRadiogroupSelectednamesSet", dialog, component, count,
-                  static_cast<const void*>(names))
-      .Run([&](Call& call) {
-        auto& group = StateAt<ChoiceState>(call, dialog, component, ComponentKind::kRadioGroup);
-        if (count != 1) call.Fail("a radio group takes one name");
-        call.Place(names, "names");
-        return Answer(call, group.Select({call.Narrow(names[0], kNarrowLimit, "button name")}),
-                      component);
+  return Crossing(__func__, RadioIn(dialog, component), NamesIn{count, names})
+      .Run([](const Call& call, ChoiceState& group, const std::vector<std::string>& wanted) {
+        if (wanted.size() != 1) call.Fail("a radio group takes one name");
+        return Answer(call, group.Select(wanted));
       });
 }
 
 ProError ProUIRadiogroupSelectednamesGet(const char* dialog, const char* component, int* count,
                                          char*** names) {
-  return Crossing("ProUIRadiogroupSelectednamesGet", dialog, component, Out(count), Out(names))
-      .Run([&](Call& call) {
-        const auto& group =
-            StateAt<ChoiceState>(call, dialog, component, ComponentKind::kRadioGroup);
-        int& number = call.Place(count, "count place");
-        char**& place = call.Place(names, "names place");
-        if (group.Selected().empty()) {
-          number = 0;
-          place = nullptr;
-          return PRO_TK_E_NOT_FOUND;
-        }
-        number = static_cast<int>(group.Selected().size());
-        place = GiveNames(call, group.Selected());
-        return PRO_TK_NO_ERROR;
+  return Crossing(__func__, RadioIn(dialog, component), OutList(count, names))
+      .Run([](const ChoiceState& group, ListPlace<char> place) {
+        place = group.Selected();
+        return group.Selected().empty() ? PRO_TK_E_NOT_FOUND : PRO_TK_NO_ERROR;
       });
 }
 
 ProError ProUIInputpanelValueSet(const char* dialog, const char* component, wchar_t* value) {
-  return Crossing("ProUIInputpanelValueSet", dialog, component, value).Run([&](Call& call) {
-    auto& panel = StateAt<TextState>(call, dialog, component, ComponentKind::kInputPanel);
-    return Answer(call, panel.SetValue(call.Text(value, kFieldLimit, "value")), component);
-  });
+  return Crossing(__func__, InputIn(dialog, component), FieldValueIn(value))
+      .Run([](const Call& call, TextState& panel, const std::string& text) {
+        return Answer(call, panel.SetValue(text));
+      });
 }
 
 ProError ProUIInputpanelValueGet(const char* dialog, const char* component, wchar_t** value) {
-  return Crossing("ProUIInputpanelValueGet", dialog, component, Out(value)).Run([&](Call& call) {
-    const auto& panel = StateAt<TextState>(call, dialog, component, ComponentKind::kInputPanel);
-    call.Place(value, "value place") = GiveWide(call, panel.Value());
-    return PRO_TK_NO_ERROR;
-  });
+  return Crossing(__func__, InputIn(dialog, component), OutWide(value, "value place"))
+      .Run([](const TextState& panel, WidePlace place) { place = panel.Value(); });
 }
 
 ProError ProUIOptionmenuValueSet(const char* dialog, const char* component, wchar_t* value) {
-  return Crossing("ProUIOptionmenuValueSet", dialog, component, value).Run([&](Call& call) {
-    const std::string name = call.Narrow(component, kNarrowLimit, "component name");
-    const std::string item = call.Text(value, kFieldLimit, "value");
-    return Answer(call, DialogAt(call, dialog).state.SetOptionValue(name, item), name);
-  });
+  return Crossing(__func__, DialogIn{dialog}, FieldNameIn(component), FieldValueIn(value))
+      .Run(
+          [](const Call& call, LiveDialog& live, const std::string& name, const std::string& item) {
+            return Answer(call, live.state.SetOptionValue(name, item), name);
+          });
 }
 
 ProError ProUIOptionmenuValueGet(const char* dialog, const char* component, wchar_t** value) {
-  return Crossing("ProUIOptionmenuValueGet", dialog, component, Out(value)).Run([&](Call& call) {
-    const std::string name = call.Narrow(component, kNarrowLimit, "component name");
-    std::string item;
-    const ProError status =
-        Answer(call, DialogAt(call, dialog).state.GetOptionValue(name, &item), name);
-    if (status == PRO_TK_NO_ERROR) call.Place(value, "value place") = GiveWide(call, item);
-    return status;
-  });
+  return Crossing(__func__, DialogIn{dialog}, FieldNameIn(component), OutWide(value, "value place"))
+      .Run([](const Call& call, const LiveDialog& live, const std::string& name, WidePlace place) {
+        std::string item;
+        const ProError status = Answer(call, live.state.GetOptionValue(name, &item), name);
+        if (status == PRO_TK_NO_ERROR) place = item;
+        return status;
+      });
 }
 
 ProError ProUICheckbuttonGetState(const char* dialog, const char* component, ProBoolean* state) {
-  return Crossing("ProUICheckbuttonGetState", dialog, component, Out(state)).Run([&](Call& call) {
-    const auto& check = StateAt<CheckState>(call, dialog, component, ComponentKind::kCheckButton);
-    call.Place(state, "state place") = check.set ? PRO_B_TRUE : PRO_B_FALSE;
-    return PRO_TK_NO_ERROR;
-  });
+  return Crossing(__func__, CheckIn(dialog, component), Out(state, "state place"))
+      .Run([](const CheckState& check, ProBoolean& place) {
+        place = check.set ? PRO_B_TRUE : PRO_B_FALSE;
+      });
 }
 
 ProError ProUICheckbuttonSet(const char* dialog, const char* component) {
-  return Crossing("ProUICheckbuttonSet", dialog, component).Run([&](Call& call) {
-    return SetCheck(call, dialog, component, true);
+  return Crossing(__func__, CheckIn(dialog, component)).Run([](CheckState& check) {
+    check.set = true;
   });
 }
 
 ProError ProUICheckbuttonUnset(const char* dialog, const char* component) {
-  return Crossing("ProUICheckbuttonUnset", dialog, component).Run([&](Call& call) {
-    return SetCheck(call, dialog, component, false);
+  return Crossing(__func__, CheckIn(dialog, component)).Run([](CheckState& check) {
+    check.set = false;
   });
 }

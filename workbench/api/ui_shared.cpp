@@ -1,4 +1,4 @@
-// Look-ups in dialogs, bound actions, and the texts that dialog functions take and hand out.
+// Look-ups in dialogs, bound actions, and the lists that dialog functions take.
 #include "workbench/api/ui_shared.h"
 
 namespace wb {
@@ -14,23 +14,35 @@ std::vector<std::string> TextsAt(const Call& call, Item* items, int count, Read 
   return texts;
 }
 
+// A dialog and the name of one of its fields that is of the wanted kind.
+struct FieldPlace {
+  LiveDialog& dialog;
+  std::string field;
+};
+struct FieldPlaceIn : FieldIn<Field> {
+  FieldPlace Look(const Call& call) const {
+    const Field& found = FieldIn::Look(call);
+    return {DialogIn{dialog}.Look(call), found.name};
+  }
+};
+
 }  // namespace
 
-LiveDialog& DialogAt(const Call& call, const char* name) {
+LiveDialog& DialogIn::Look(const Call& call) const {
   const std::string text = call.Narrow(name, kNarrowLimit, "dialog name");
   LiveDialog* const dialog = call.host.dialogs.Find(text);
   if (dialog == nullptr) call.Fail("there is no dialog \"" + text + "\"");
   return *dialog;
 }
 
-ProError Answer(const Call& call, UiStatus status, const std::string& component) {
+ProError Answer(const Call& call, UiStatus status, const std::string& field) {
   switch (status) {
     case UiStatus::kOk:
       return PRO_TK_NO_ERROR;
-    case UiStatus::kNoComponent:
-      call.Fail("the dialog has no component \"" + component + "\"");
+    case UiStatus::kNoField:
+      call.Fail("the dialog has no component \"" + field + "\"");
     case UiStatus::kWrongKind:
-      call.Fail("component \"" + component + "\" is of another kind");
+      call.Fail("component \"" + field + "\" is of another kind");
     case UiStatus::kNotFound:
       return PRO_TK_E_NOT_FOUND;
     default:
@@ -38,24 +50,29 @@ ProError Answer(const Call& call, UiStatus status, const std::string& component)
   }
 }
 
-void Bind(const Call& call, const char* dialog, const std::string& component, const char* event,
-          ProUIAction action, ProAppData data) {
-  if (action == nullptr) call.Fail("null action");
-  DialogAt(call, dialog).actions[{component, event}] = {reinterpret_cast<void*>(action), data};
+ProError BindFieldAction(const char* function, const char* dialog, const char* field,
+                         const EventOf& event, ProUIAction action, ProAppData data) {
+  return Crossing(function, FieldPlaceIn{{dialog, field, event.kind}}, CallbackIn(action, "action"),
+                  DataIn{data})
+      .Run([&](const FieldPlace& at, ProUIAction bound, void* own) {
+        at.dialog.actions[{at.field, event.event}] = {reinterpret_cast<void*>(bound), own};
+      });
 }
 
-void BindComponent(const Call& call, const char* dialog, const char* component, ComponentKind kind,
-                   const char* event, ProUIAction action, ProAppData data) {
-  const auto& found = StateAt<Component>(call, dialog, component, kind);
-  Bind(call, dialog, found.name, event, action, data);
+ProError BindDialogAction(const char* function, const char* dialog, const char* event,
+                          ProUIAction action, ProAppData data) {
+  return Crossing(function, DialogIn{dialog}, CallbackIn(action, "action"), DataIn{data})
+      .Run([&](LiveDialog& at, ProUIAction bound, void* own) {
+        at.actions[{"", event}] = {reinterpret_cast<void*>(bound), own};
+      });
 }
 
-std::vector<std::string> NamesAt(const Call& call, char** names, int count) {
+std::vector<std::string> NamesIn::Look(const Call& call) const {
   return TextsAt(call, names, count,
                  [&](const char* name) { return call.Narrow(name, kNarrowLimit, "name"); });
 }
 
-std::vector<std::string> WideTextsAt(const Call& call, wchar_t** texts, int count) {
+std::vector<std::string> WideTextsIn::Look(const Call& call) const {
   return TextsAt(call, texts, count,
                  [&](const wchar_t* text) { return call.Text(text, kFieldLimit, "text"); });
 }

@@ -166,9 +166,9 @@ class Bench {
       throw std::runtime_error(std::string(part.command) + " on " + job_.shape->name + ": " + why);
     };
     if (!run.known || !run.available) fail("the command is not there or not available");
-    if (!host_.breaches.empty()) fail(host_.breaches.front().Text());
-    if (!host_.not_modelled.empty()) fail(host_.not_modelled.front());
-    if (!host_.file_problems.empty()) fail(host_.file_problems.front());
+    for (const std::string& text : host_.events.AllTexts<Breach>()) fail(text);
+    for (const std::string& text : host_.events.AllTexts<Gap>()) fail(text);
+    for (const std::string& text : host_.events.AllTexts<FileProblem>()) fail(text);
     if (!run.left_out.empty()) fail("left out " + run.left_out.front());
     if (run.status != 0) fail("ended with status " + std::to_string(run.status));
     if (part.part == BenchPart::kAddParameter && top_->FindParameter(kBenchParameter) == nullptr) {

@@ -41,7 +41,7 @@ void FillIn(Dialog& dialog) {
 
 void RequireRows(LiveDialog& dialog) {
   TableModel* table = nullptr;
-  const UiStatus status = dialog.state.Find(ComponentKind::kTable, kBillTable, &table);
+  const UiStatus status = dialog.state.Find(FieldKind::kTable, kBillTable, &table);
   if (status != UiStatus::kOk || table->Rows().empty()) {
     throw std::runtime_error("the bill has no rows");
   }

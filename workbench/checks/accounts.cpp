@@ -5,11 +5,30 @@
 
 namespace wb {
 
+namespace {
+
+struct ResourceRow {
+  Resource resource;
+  const char* word;
+};
+constexpr ResourceRow kResources[] = {
+    {Resource::kArray, "array"},
+    {Resource::kSelection, "selection"},
+    {Resource::kSelectionEnv, "selection environment"},
+    {Resource::kStringArray, "string array"},
+    {Resource::kWideText, "wide text"},
+    {Resource::kWideTextArray, "wide text array"},
+    {Resource::kGeometryData, "geometry data"},
+    {Resource::kDialog, "dialog"},
+};
+
+}  // namespace
+
 const char* ResourceWord(Resource resource) {
-  constexpr const char* kWords[] = {"array",         "selection", "selection environment",
-                                    "string array",  "wide text", "wide text array",
-                                    "geometry data", "dialog"};
-  return kWords[static_cast<size_t>(resource)];
+  for (const ResourceRow& row : kResources) {
+    if (row.resource == resource) return row.word;
+  }
+  return "unknown thing";
 }
 
 void Accounts::Give(const void* what, Resource resource, const char* function, long call) {

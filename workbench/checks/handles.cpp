@@ -26,13 +26,27 @@ bool IsOurs(uint64_t bits) {
   return bits >> 46 == 1;
 }
 
+struct KindRow {
+  HandleKind kind;
+  const char* word;
+};
+constexpr KindRow kKinds[] = {
+    {HandleKind::kNone, "nothing"},        {HandleKind::kModel, "model"},
+    {HandleKind::kSelection, "selection"}, {HandleKind::kSelectionEnv, "selection environment"},
+    {HandleKind::kCommand, "command"},     {HandleKind::kSurface, "surface"},
+};
+
+uint64_t KeyInside(HandleKind kind, int id) {
+  return uint64_t{static_cast<uint8_t>(kind)} << 32 | static_cast<uint32_t>(id);
+}
+
 }  // namespace
 
 const char* HandleKindWord(HandleKind kind) {
-  constexpr const char* kWords[] = {"nothing", "model",  "selection", "selection environment",
-                                    "surface", "command"};
-  const auto index = static_cast<size_t>(kind);
-  return index < std::size(kWords) ? kWords[index] : "unknown thing";
+  for (const KindRow& row : kKinds) {
+    if (row.kind == kind) return row.word;
+  }
+  return "unknown thing";
 }
 
 void* HandleTable::Give(HandleKind kind, void* object) {
@@ -46,17 +60,44 @@ void* HandleTable::Give(HandleKind kind, void* object) {
   }
   Slot& entry = slots_[slot];
   entry.object = object;
+  entry.id = 0;
   entry.kind = kind;
   entry.generation = static_cast<uint16_t>((entry.generation + 1) & kGenerationMask);
   return reinterpret_cast<void*>(Encode(slot, kind, entry.generation));
 }
 
-void HandleTable::End(void* handle) {
+void* HandleTable::GiveInside(HandleKind kind, void* object, int id) {
+  auto [at, fresh] = inside_[object].try_emplace(KeyInside(kind, id), nullptr);
+  if (fresh) {
+    at->second = Give(kind, object);
+    const auto bits = reinterpret_cast<uint64_t>(at->second);
+    slots_[kSlotMask - static_cast<uint32_t>(bits & kSlotMask)].id = id;
+  }
+  return at->second;
+}
+
+void HandleTable::End(const void* handle) {
   const auto bits = reinterpret_cast<uint64_t>(handle);
   if (SlotOf(bits) == nullptr) return;
   const uint32_t slot = kSlotMask - static_cast<uint32_t>(bits & kSlotMask);
   slots_[slot].object = nullptr;
   free_.push_back(slot);
+}
+
+void HandleTable::EndInside(HandleKind kind, const void* object, int id) {
+  const auto things = inside_.find(object);
+  if (things == inside_.end()) return;
+  const auto handle = things->second.find(KeyInside(kind, id));
+  if (handle == things->second.end()) return;
+  End(handle->second);
+  things->second.erase(handle);
+}
+
+void HandleTable::EndAllInside(const void* object) {
+  const auto things = inside_.find(object);
+  if (things == inside_.end()) return;
+  for (const auto& [key, handle] : things->second) End(handle);
+  inside_.erase(things);
 }
 
 const HandleTable::Slot* HandleTable::SlotOf(uint64_t bits) const {
@@ -71,16 +112,17 @@ const HandleTable::Slot* HandleTable::SlotOf(uint64_t bits) const {
 
 HandleTable::Found HandleTable::Look(const void* handle, HandleKind wanted) const {
   const std::string word = HandleKindWord(wanted);
-  if (handle == nullptr) return {nullptr, "null " + word + " handle"};
+  if (handle == nullptr) return {nullptr, 0, "null " + word + " handle"};
   const auto bits = reinterpret_cast<uint64_t>(handle);
-  if (!IsOurs(bits)) return {nullptr, "foreign pointer given as a " + word + " handle"};
+  if (!IsOurs(bits)) return {nullptr, 0, "foreign pointer given as a " + word + " handle"};
   if (KindBits(bits) != wanted) {
-    return {nullptr, "a " + std::string(HandleKindWord(KindBits(bits))) + " handle given as a " +
-                         word + " handle"};
+    return {nullptr, 0,
+            "a " + std::string(HandleKindWord(KindBits(bits))) + " handle given as a " + word +
+                " handle"};
   }
   const Slot* slot = SlotOf(bits);
-  if (slot == nullptr) return {nullptr, "stale " + word + " handle (its object is gone)", true};
-  return {slot->object, ""};
+  if (slot == nullptr) return {nullptr, 0, "stale " + word + " handle (its object is gone)", true};
+  return {slot->object, slot->id, "", false};
 }
 
 HandleKind HandleTable::KindOf(const void* handle, void** object) const {

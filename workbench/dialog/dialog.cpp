@@ -9,7 +9,7 @@
 namespace wb {
 namespace {
 
-UserOutcome Refuse(const Component& component, const std::string& why) {
+UserOutcome Refuse(const Field& component, const std::string& why) {
   return {UiEvent::kNone, std::string(KindName(component.kind)) + " " + component.name + " " + why};
 }
 
@@ -36,45 +36,45 @@ std::string SelectionRefusal(UiStatus status, const std::vector<std::string>& na
 Dialog::Dialog(DialogResource resource)
     : resource_(std::move(resource)), title_(resource_.dialog.Text("Label")) {
   components_.reserve(resource_.components.size());
-  for (const ComponentResource& component : resource_.components) {
+  for (const FieldResource& component : resource_.components) {
     index_.emplace(component.name, components_.size());
     components_.emplace_back(component);
   }
 }
 
-const Component* Dialog::Lookup(std::string_view name) const {
+const Field* Dialog::Lookup(std::string_view name) const {
   const auto found = index_.find(std::string(name));
   return found == index_.end() ? nullptr : &components_[found->second];
 }
 
-Component* Dialog::Lookup(std::string_view name) {
-  return const_cast<Component*>(std::as_const(*this).Lookup(name));
+Field* Dialog::Lookup(std::string_view name) {
+  return const_cast<Field*>(std::as_const(*this).Lookup(name));
 }
 
-UiStatus Dialog::Find(ComponentKind kind, std::string_view name, Component** component) {
-  Component* found = Lookup(name);
-  if (!found) return UiStatus::kNoComponent;
+UiStatus Dialog::Find(FieldKind kind, std::string_view name, Field** component) {
+  Field* found = Lookup(name);
+  if (!found) return UiStatus::kNoField;
   if (found->kind != kind) return UiStatus::kWrongKind;
   *component = found;
   return UiStatus::kOk;
 }
 
-UiStatus Dialog::SetEnabled(ComponentKind kind, std::string_view name, bool enabled) {
-  Component* component = nullptr;
+UiStatus Dialog::SetEnabled(FieldKind kind, std::string_view name, bool enabled) {
+  Field* component = nullptr;
   const UiStatus status = Find(kind, name, &component);
   if (status == UiStatus::kOk) component->enabled = enabled;
   return status;
 }
 
-UiStatus Dialog::SetVisible(ComponentKind kind, std::string_view name, bool visible) {
-  Component* component = nullptr;
+UiStatus Dialog::SetVisible(FieldKind kind, std::string_view name, bool visible) {
+  Field* component = nullptr;
   const UiStatus status = Find(kind, name, &component);
   if (status == UiStatus::kOk) component->visible = visible;
   return status;
 }
 
-UiStatus Dialog::SetLabel(ComponentKind kind, std::string_view name, std::string_view label) {
-  Component* component = nullptr;
+UiStatus Dialog::SetLabel(FieldKind kind, std::string_view name, std::string_view label) {
+  Field* component = nullptr;
   const UiStatus status = Find(kind, name, &component);
   if (status != UiStatus::kOk) return status;
   if (!FindAttributeRule(kind, "Label")) return UiStatus::kWrongKind;
@@ -83,9 +83,9 @@ UiStatus Dialog::SetLabel(ComponentKind kind, std::string_view name, std::string
 }
 
 UiStatus Dialog::GetOptionValue(std::string_view name, std::string* item) const {
-  const Component* component = Lookup(name);
-  if (!component) return UiStatus::kNoComponent;
-  if (component->kind != ComponentKind::kOptionMenu) return UiStatus::kWrongKind;
+  const Field* component = Lookup(name);
+  if (!component) return UiStatus::kNoField;
+  if (component->kind != FieldKind::kOptionMenu) return UiStatus::kWrongKind;
   const std::vector<std::string>& selected = std::get<ChoiceState>(component->state).Selected();
   *item = selected.empty() ? std::string() : selected.front();
   return UiStatus::kOk;
@@ -93,24 +93,24 @@ UiStatus Dialog::GetOptionValue(std::string_view name, std::string* item) const 
 
 UiStatus Dialog::SetOptionValue(std::string_view name, const std::string& item) {
   ChoiceState* choice = nullptr;
-  const UiStatus status = Find(ComponentKind::kOptionMenu, name, &choice);
+  const UiStatus status = Find(FieldKind::kOptionMenu, name, &choice);
   return status == UiStatus::kOk ? choice->Select({item}) : status;
 }
 
-bool Dialog::IsShown(const Component& component) const {
-  const Component* at = &component;
+bool Dialog::IsShown(const Field& component) const {
+  const Field* at = &component;
   while (at && at->visible) at = at->parent.empty() ? nullptr : Lookup(at->parent);
   return at == nullptr;
 }
 
-bool Dialog::IsUsable(const Component& component) const {
-  const Component* at = &component;
+bool Dialog::IsUsable(const Field& component) const {
+  const Field* at = &component;
   while (at && at->enabled) at = at->parent.empty() ? nullptr : Lookup(at->parent);
   return at == nullptr;
 }
 
 UserOutcome Dialog::Reach(std::string_view name) const {
-  const Component* component = Lookup(name);
+  const Field* component = Lookup(name);
   if (!component) {
     return {UiEvent::kNone, "dialog " + resource_.name + " has no component " + std::string(name)};
   }
@@ -122,12 +122,12 @@ UserOutcome Dialog::Reach(std::string_view name) const {
 UserOutcome Dialog::UserSetField(std::string_view component, std::string_view text) {
   UserOutcome outcome = Reach(component);
   if (!outcome.Done()) return outcome;
-  Component& field = *Lookup(component);
+  Field& field = *Lookup(component);
   auto* state = std::get_if<TextState>(&field.state);
   if (!state) return Refuse(field, "is not a field to type into");
   if (!state->IsEditable()) return Refuse(field, "is read-only");
   if (state->SetValue(text) == UiStatus::kOk) return Fires(UiEvent::kInput);
-  const bool broken = field.kind == ComponentKind::kInputPanel && text.find('\n') != text.npos;
+  const bool broken = field.kind == FieldKind::kInputPanel && text.find('\n') != text.npos;
   return Refuse(field, broken
                            ? "takes one line only"
                            : "takes " + std::to_string(state->MaxLength()) + " characters at most");
@@ -136,7 +136,7 @@ UserOutcome Dialog::UserSetField(std::string_view component, std::string_view te
 UserOutcome Dialog::UserSelect(std::string_view component, const std::vector<std::string>& names) {
   UserOutcome outcome = Reach(component);
   if (!outcome.Done()) return outcome;
-  Component& target = *Lookup(component);
+  Field& target = *Lookup(component);
   if (auto* choice = std::get_if<ChoiceState>(&target.state)) {
     const UiStatus status = choice->Select(names);
     if (status == UiStatus::kOk) return Fires(UiEvent::kSelect);
@@ -153,7 +153,7 @@ UserOutcome Dialog::UserSelect(std::string_view component, const std::vector<std
 UserOutcome Dialog::UserToggle(std::string_view check_button) {
   UserOutcome outcome = Reach(check_button);
   if (!outcome.Done()) return outcome;
-  Component& target = *Lookup(check_button);
+  Field& target = *Lookup(check_button);
   auto* check = std::get_if<CheckState>(&target.state);
   if (!check) return Refuse(target, "is not a check button");
   check->set = !check->set;
@@ -163,16 +163,16 @@ UserOutcome Dialog::UserToggle(std::string_view check_button) {
 UserOutcome Dialog::UserPress(std::string_view push_button) {
   UserOutcome outcome = Reach(push_button);
   if (!outcome.Done()) return outcome;
-  const Component& target = *Lookup(push_button);
-  if (target.kind != ComponentKind::kPushButton) return Refuse(target, "is not a push button");
+  const Field& target = *Lookup(push_button);
+  if (target.kind != FieldKind::kPushButton) return Refuse(target, "is not a push button");
   return Fires(UiEvent::kActivate);
 }
 
 UserOutcome Dialog::UserDoubleClick(std::string_view component, const std::string& name) {
   UserOutcome outcome = Reach(component);
   if (!outcome.Done()) return outcome;
-  const Component& target = *Lookup(component);
-  if (target.kind != ComponentKind::kTable && target.kind != ComponentKind::kList) {
+  const Field& target = *Lookup(component);
+  if (target.kind != FieldKind::kTable && target.kind != FieldKind::kList) {
     return Refuse(target, "has no rows to double-click");
   }
   outcome = UserSelect(component, {name});
@@ -184,7 +184,7 @@ UserOutcome Dialog::UserFocusCell(std::string_view table, const std::string& row
                                   std::string_view column) {
   UserOutcome outcome = Reach(table);
   if (!outcome.Done()) return outcome;
-  Component& target = *Lookup(table);
+  Field& target = *Lookup(table);
   auto* model = std::get_if<TableModel>(&target.state);
   if (!model) return Refuse(target, "is not a table");
   if (model->SetFocus(row, column) != UiStatus::kOk) {
@@ -196,7 +196,7 @@ UserOutcome Dialog::UserFocusCell(std::string_view table, const std::string& row
 
 std::string Dialog::DescribeComponents() const {
   std::string text;
-  for (const Component& component : components_) {
+  for (const Field& component : components_) {
     text += std::string(KindName(component.kind)) + " " + component.name;
     const std::string value = ValueText(component);
     if (!value.empty()) text += ": " + value;

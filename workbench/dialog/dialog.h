@@ -33,24 +33,24 @@ class Dialog {
   const DialogResource& Resource() const { return resource_; }
   const std::string& Title() const { return title_; }
   void SetTitle(std::string_view title) { title_ = title; }
-  const std::vector<Component>& Components() const { return components_; }
+  const std::vector<Field>& Fields() const { return components_; }
 
   // --- The plug-in's side. The out-pointers are set only on kOk and stay valid as long as the
   // dialog; a component of another kind is kWrongKind.
-  UiStatus Find(ComponentKind kind, std::string_view name, Component** component);
+  UiStatus Find(FieldKind kind, std::string_view name, Field** component);
   // The typed state of a component: ChoiceState, TextState, CheckState or TableModel.
   template <class State>
-  UiStatus Find(ComponentKind kind, std::string_view name, State** state) {
-    Component* component = nullptr;
+  UiStatus Find(FieldKind kind, std::string_view name, State** state) {
+    Field* component = nullptr;
     const UiStatus status = Find(kind, name, &component);
     if (status != UiStatus::kOk) return status;
     *state = std::get_if<State>(&component->state);
     return *state ? UiStatus::kOk : UiStatus::kWrongKind;
   }
-  UiStatus SetEnabled(ComponentKind kind, std::string_view name, bool enabled);
-  UiStatus SetVisible(ComponentKind kind, std::string_view name, bool visible);
+  UiStatus SetEnabled(FieldKind kind, std::string_view name, bool enabled);
+  UiStatus SetVisible(FieldKind kind, std::string_view name, bool visible);
   // Labels of buttons, label texts and group captions.
-  UiStatus SetLabel(ComponentKind kind, std::string_view name, std::string_view label);
+  UiStatus SetLabel(FieldKind kind, std::string_view name, std::string_view label);
   // The name of the item that an option menu shows; "" while it has no items.
   UiStatus GetOptionValue(std::string_view name, std::string* item) const;
   UiStatus SetOptionValue(std::string_view name, const std::string& item);
@@ -70,21 +70,21 @@ class Dialog {
                             std::string_view column);
 
   // True when the component and every group around it is visible (or enabled).
-  bool IsShown(const Component& component) const;
-  bool IsUsable(const Component& component) const;
+  bool IsShown(const Field& component) const;
+  bool IsUsable(const Field& component) const;
 
   // A line a component: kind, name, state, and whether it is greyed or hidden.
   std::string DescribeComponents() const;
 
  private:
-  const Component* Lookup(std::string_view name) const;
-  Component* Lookup(std::string_view name);
+  const Field* Lookup(std::string_view name) const;
+  Field* Lookup(std::string_view name);
   // Whether a user can reach `name` at all; the refusal says why not.
   UserOutcome Reach(std::string_view name) const;
 
   DialogResource resource_;
   std::string title_;
-  std::vector<Component> components_;
+  std::vector<Field> components_;
   std::unordered_map<std::string, std::size_t> index_;
 };
 

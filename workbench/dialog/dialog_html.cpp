@@ -40,7 +40,7 @@ std::string CellStyle(const TableCell* cell) {
 class DialogPainter {
  public:
   explicit DialogPainter(const Dialog& dialog) : dialog_(dialog) {
-    for (const Component& component : dialog.Components()) live_[component.name] = &component;
+    for (const Field& component : dialog.Fields()) live_[component.name] = &component;
   }
 
   std::string Paint() {
@@ -75,12 +75,12 @@ class DialogPainter {
     html_ += "</div>";
   }
 
-  void PaintComponent(const Component& component) {
+  void PaintComponent(const Field& component) {
     if (!dialog_.IsShown(component)) return;
-    const ComponentResource& resource = *dialog_.Resource().Find(component.name);
-    if (component.kind == ComponentKind::kSubLayout) return PaintGroup(component, resource);
-    if (component.kind == ComponentKind::kTab) return PaintPages(resource);
-    if (component.kind == ComponentKind::kSeparator) {
+    const FieldResource& resource = *dialog_.Resource().Find(component.name);
+    if (component.kind == FieldKind::kSubLayout) return PaintGroup(component, resource);
+    if (component.kind == FieldKind::kTab) return PaintPages(resource);
+    if (component.kind == FieldKind::kSeparator) {
       html_ += "<hr class=\"dlg-rule\">";
     } else if (const auto* choice = std::get_if<ChoiceState>(&component.state)) {
       PaintChoice(component, resource, *choice);
@@ -97,7 +97,7 @@ class DialogPainter {
   }
 
   // Opens the component's own element: its class, greyed or not, its help text and its style.
-  void Open(const Component& component, std::string classes, const std::string& style) {
+  void Open(const Field& component, std::string classes, const std::string& style) {
     if (!dialog_.IsUsable(component)) classes += " dlg-off";
     html_ += "<div class=\"" + classes + "\" data-name=\"" + EscapeHtml(component.name) + "\"";
     if (!component.help_text.empty()) html_ += " title=\"" + EscapeHtml(component.help_text) + "\"";
@@ -105,13 +105,13 @@ class DialogPainter {
     html_ += ">";
   }
 
-  void Element(const Component& component, const std::string& classes, const std::string& style,
+  void Element(const Field& component, const std::string& classes, const std::string& style,
                const std::string& inner_html) {
     Open(component, classes, style);
     html_ += inner_html + "</div>";
   }
 
-  static std::string WidthStyle(const ComponentResource& resource, int fallback) {
+  static std::string WidthStyle(const FieldResource& resource, int fallback) {
     return "min-width:" + std::to_string(resource.Number("Columns", fallback)) + "ch";
   }
 
@@ -119,7 +119,7 @@ class DialogPainter {
     return "min-height:" + std::to_string(lines * 3 / 2) + "em";
   }
 
-  void PaintGroup(const Component& component, const ComponentResource& resource) {
+  void PaintGroup(const Field& component, const FieldResource& resource) {
     if (!resource.Flag("Decorate", false)) return PaintGrid(resource.layout);
     html_ += "<fieldset class=\"dlg-group\">";
     if (!component.label.empty()) html_ += "<legend>" + EscapeHtml(component.label) + "</legend>";
@@ -127,7 +127,7 @@ class DialogPainter {
     html_ += "</fieldset>";
   }
 
-  void PaintPages(const ComponentResource& tab) {
+  void PaintPages(const FieldResource& tab) {
     for (const LayoutCell& shown : tab.layout.cells) {
       html_ += "<div class=\"dlg-tabs\">";
       for (const LayoutCell& page : tab.layout.cells) {
@@ -140,15 +140,15 @@ class DialogPainter {
     }
   }
 
-  void PaintPlain(const Component& component, const ComponentResource& resource) {
+  void PaintPlain(const Field& component, const FieldResource& resource) {
     switch (component.kind) {
-      case ComponentKind::kPushButton: {
+      case FieldKind::kPushButton: {
         const bool is_default = dialog_.Resource().dialog.Text("DefaultButton") == component.name;
         Element(component, is_default ? "dlg-button dlg-default" : "dlg-button", {},
                 EscapeHtml(component.label));
         break;
       }
-      case ComponentKind::kDrawingArea:
+      case FieldKind::kDrawingArea:
         Element(component, "dlg-drawing",
                 "width:" + std::to_string(resource.Number("DrawingWidth", 120)) +
                     "px;height:" + std::to_string(resource.Number("DrawingHeight", 60)) + "px",
@@ -159,11 +159,10 @@ class DialogPainter {
     }
   }
 
-  void PaintText(const Component& component, const ComponentResource& resource,
-                 const TextState& text) {
+  void PaintText(const Field& component, const FieldResource& resource, const TextState& text) {
     std::string classes = "dlg-field";
     std::string style = WidthStyle(resource, 12);
-    if (component.kind == ComponentKind::kTextArea) {
+    if (component.kind == FieldKind::kTextArea) {
       classes += " dlg-area";
       style += ";" + HeightStyle(resource.Number("Rows", 4));
     }
@@ -171,15 +170,15 @@ class DialogPainter {
     Element(component, classes, style, EscapeHtml(text.Value()));
   }
 
-  void PaintChoice(const Component& component, const ComponentResource& resource,
+  void PaintChoice(const Field& component, const FieldResource& resource,
                    const ChoiceState& choice) {
-    if (component.kind == ComponentKind::kOptionMenu) {
+    if (component.kind == FieldKind::kOptionMenu) {
       const auto& selected = choice.Selected();
       const std::string shown = selected.empty() ? "" : choice.LabelOf(selected.front());
       return Element(component, "dlg-field dlg-option", WidthStyle(resource, 8),
                      "<span>" + EscapeHtml(shown) + "</span><b></b>");
     }
-    const bool list = component.kind == ComponentKind::kList;
+    const bool list = component.kind == FieldKind::kList;
     const bool one_line = !list && resource.Flag("Orientation", false);
     Open(component,
          list       ? "dlg-list"
@@ -195,8 +194,7 @@ class DialogPainter {
     html_ += "</div>";
   }
 
-  void PaintTable(const Component& component, const ComponentResource& resource,
-                  const TableModel& table) {
+  void PaintTable(const Field& component, const FieldResource& resource, const TableModel& table) {
     Open(component, "dlg-sheet", HeightStyle(resource.Number("VisibleRows", 4) + 1));
     html_ += "<table><thead><tr>";
     for (const TableModel::Column& column : table.Columns()) {
@@ -227,7 +225,7 @@ class DialogPainter {
   }
 
   const Dialog& dialog_;
-  std::unordered_map<std::string, const Component*> live_;
+  std::unordered_map<std::string, const Field*> live_;
   std::string html_;
 };
 

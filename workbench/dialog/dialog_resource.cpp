@@ -14,7 +14,7 @@ namespace wb {
 namespace {
 
 template <class T>
-T ValueOr(const ComponentResource& component, const std::string& attribute, T fallback) {
+T ValueOr(const FieldResource& component, const std::string& attribute, T fallback) {
   const auto found = component.attributes.find(attribute);
   return found == component.attributes.end() ? fallback : std::get<T>(found->second.value);
 }
@@ -42,7 +42,7 @@ class ResourceReader {
       Fail(root.line, "expected (Dialog NAME (Components ...) (Resources ...))");
     }
     resource_.name = items[1].text;
-    resource_.dialog.kind = ComponentKind::kDialog;
+    resource_.dialog.kind = FieldKind::kDialog;
     resource_.dialog.line = root.line;
   }
 
@@ -64,7 +64,7 @@ class ResourceReader {
     if (!index_.emplace(name, resource_.components.size()).second) {
       Fail(line, "component " + name + " is declared twice");
     }
-    ComponentResource component;
+    FieldResource component;
     component.kind = *kind;
     component.name = name;
     component.line = line;
@@ -85,7 +85,7 @@ class ResourceReader {
     const std::string& key = entry.children[0].text;
     const std::size_t dot = key.find('.');
     if (dot == std::string::npos) Fail(entry.line, key + " lacks the dot before its attribute");
-    ComponentResource& component = Target(key.substr(0, dot), entry.line);
+    FieldResource& component = Target(key.substr(0, dot), entry.line);
     const std::string attribute = key.substr(dot + 1);
     const AttributeRule* rule = FindAttributeRule(component.kind, attribute);
     if (!rule) {
@@ -103,7 +103,7 @@ class ResourceReader {
     }
   }
 
-  ComponentResource& Target(const std::string& name, int line) {
+  FieldResource& Target(const std::string& name, int line) {
     if (name.empty()) return resource_.dialog;
     const auto found = index_.find(name);
     if (found == index_.end()) Fail(line, "component " + name + " is not declared");
@@ -157,14 +157,14 @@ class ResourceReader {
     return number;
   }
 
-  LayoutGrid ReadLayout(const SyntaxNode& entry, const ComponentResource& owner) {
+  LayoutGrid ReadLayout(const SyntaxNode& entry, const FieldResource& owner) {
     if (entry.children.size() != 2 || !entry.children[1].IsForm("Grid")) {
       Fail(entry.line, "a layout is one (Grid ...)");
     }
     return ReadGrid(entry.children[1], owner);
   }
 
-  LayoutGrid ReadGrid(const SyntaxNode& node, const ComponentResource& owner) {
+  LayoutGrid ReadGrid(const SyntaxNode& node, const FieldResource& owner) {
     const auto& items = node.children;
     if (items.size() < 3 || !items[1].IsForm("Rows") || !items[2].IsForm("Cols")) {
       Fail(node.line, "a grid opens with (Rows ...) (Cols ...)");
@@ -211,7 +211,7 @@ class ResourceReader {
     cursor.next = static_cast<std::size_t>((row - 1) * cursor.columns + column - 1);
   }
 
-  LayoutCell ReadCell(const SyntaxNode& item, CellCursor& cursor, const ComponentResource& owner) {
+  LayoutCell ReadCell(const SyntaxNode& item, CellCursor& cursor, const FieldResource& owner) {
     if (cursor.next >= cursor.taken.size()) {
       Fail(item.line, "too many cells for a grid of " + std::to_string(cursor.rows) + " rows and " +
                           std::to_string(cursor.columns) + " columns");
@@ -231,7 +231,7 @@ class ResourceReader {
     return cell;
   }
 
-  void Place(const SyntaxNode& item, const ComponentResource& owner) {
+  void Place(const SyntaxNode& item, const FieldResource& owner) {
     const auto found = index_.find(item.text);
     if (found == index_.end()) Fail(item.line, "the layout names unknown component " + item.text);
     if (!placed_.emplace(item.text, item.line).second) {
@@ -249,33 +249,33 @@ class ResourceReader {
 
 }  // namespace
 
-bool ComponentResource::Flag(const std::string& attribute, bool fallback) const {
+bool FieldResource::Flag(const std::string& attribute, bool fallback) const {
   return ValueOr<bool>(*this, attribute, fallback);
 }
 
-int ComponentResource::Number(const std::string& attribute, int fallback) const {
+int FieldResource::Number(const std::string& attribute, int fallback) const {
   return ValueOr<int>(*this, attribute, fallback);
 }
 
-std::vector<int> ComponentResource::Numbers(const std::string& attribute) const {
+std::vector<int> FieldResource::Numbers(const std::string& attribute) const {
   return ValueOr<std::vector<int>>(*this, attribute, {});
 }
 
-std::string ComponentResource::Text(const std::string& attribute) const {
+std::string FieldResource::Text(const std::string& attribute) const {
   return ValueOr<std::string>(*this, attribute, {});
 }
 
-std::vector<std::string> ComponentResource::Texts(const std::string& attribute) const {
+std::vector<std::string> FieldResource::Texts(const std::string& attribute) const {
   return ValueOr<std::vector<std::string>>(*this, attribute, {});
 }
 
-int ComponentResource::LineOf(const std::string& attribute) const {
+int FieldResource::LineOf(const std::string& attribute) const {
   const auto found = attributes.find(attribute);
   return found == attributes.end() ? line : found->second.line;
 }
 
-const ComponentResource* DialogResource::Find(std::string_view component) const {
-  for (const ComponentResource& candidate : components) {
+const FieldResource* DialogResource::Find(std::string_view component) const {
+  for (const FieldResource& candidate : components) {
     if (candidate.name == component) return &candidate;
   }
   return nullptr;

@@ -36,7 +36,7 @@ struct AttributeValue {
   std::variant<bool, int, std::vector<int>, std::string, std::vector<std::string>> value;
 };
 
-struct ComponentResource {
+struct FieldResource {
   bool Has(const std::string& attribute) const { return attributes.count(attribute) != 0; }
 
   // The attribute's value, or the fallback when the file does not give it. The type asked for must
@@ -49,7 +49,7 @@ struct ComponentResource {
   // Line of the attribute, or of the component's declaration when it is not given.
   int LineOf(const std::string& attribute) const;
 
-  ComponentKind kind = ComponentKind::kLabel;
+  FieldKind kind = FieldKind::kLabel;
   std::string name;
   int line = 0;
   std::string parent;  // the sublayout or tab it lies in; empty for the dialog itself
@@ -59,11 +59,11 @@ struct ComponentResource {
 
 struct DialogResource {
   // Null when the dialog has no such component.
-  const ComponentResource* Find(std::string_view component) const;
+  const FieldResource* Find(std::string_view component) const;
 
   std::string name;
-  ComponentResource dialog;                   // the dialog's own attributes and layout
-  std::vector<ComponentResource> components;  // in file order, which is the tab order
+  FieldResource dialog;                   // the dialog's own attributes and layout
+  std::vector<FieldResource> components;  // in file order, which is the tab order
 };
 
 // Parses and checks a whole resource. `file` is what errors name. Throws ResourceError.

@@ -31,7 +31,7 @@ class ResourceChecker {
 
   void Check() const {
     CheckDialog();
-    for (const ComponentResource& component : resource_.components) {
+    for (const FieldResource& component : resource_.components) {
       CheckNames(component);
       CheckCounts(component);
       CheckSelection(component);
@@ -42,23 +42,23 @@ class ResourceChecker {
   }
 
  private:
-  [[noreturn]] void Fail(const ComponentResource& component, const std::string& attribute,
+  [[noreturn]] void Fail(const FieldResource& component, const std::string& attribute,
                          const std::string& reason) const {
     throw ResourceError(file_, component.LineOf(attribute), reason);
   }
 
   void CheckDialog() const {
-    const ComponentResource& dialog = resource_.dialog;
+    const FieldResource& dialog = resource_.dialog;
     if (!dialog.Has("Layout")) Fail(dialog, "Layout", "the dialog has no .Layout");
     if (!dialog.Has("DefaultButton")) return;
     const std::string button = dialog.Text("DefaultButton");
-    const ComponentResource* found = resource_.Find(button);
-    if (!found || found->kind != ComponentKind::kPushButton) {
+    const FieldResource* found = resource_.Find(button);
+    if (!found || found->kind != FieldKind::kPushButton) {
       Fail(dialog, "DefaultButton", "default button " + button + " is no push button here");
     }
   }
 
-  void CheckNames(const ComponentResource& component) const {
+  void CheckNames(const FieldResource& component) const {
     for (const char* attribute : {"Names", "ColumnNames", "RowNames"}) {
       std::set<std::string> seen;
       for (const std::string& name : component.Texts(attribute)) {
@@ -68,17 +68,17 @@ class ResourceChecker {
         }
       }
     }
-    if (component.kind == ComponentKind::kRadioGroup && !component.Has("Names")) {
+    if (component.kind == FieldKind::kRadioGroup && !component.Has("Names")) {
       Fail(component, "Names", "radio group " + component.name + " has no buttons");
     }
   }
 
-  std::size_t CountOf(const ComponentResource& component, const std::string& attribute) const {
+  std::size_t CountOf(const FieldResource& component, const std::string& attribute) const {
     return attribute == "ColumnWidths" ? component.Numbers(attribute).size()
                                        : component.Texts(attribute).size();
   }
 
-  void CheckCounts(const ComponentResource& component) const {
+  void CheckCounts(const FieldResource& component) const {
     for (const PairedAttributes& pair : kPairs) {
       if (!component.Has(pair.per_name)) continue;
       const std::size_t names = CountOf(component, pair.names);
@@ -91,7 +91,7 @@ class ResourceChecker {
     }
   }
 
-  void CheckSelection(const ComponentResource& component) const {
+  void CheckSelection(const FieldResource& component) const {
     const std::vector<std::string> names = component.Texts("Names");
     const std::vector<std::string> selected = component.Texts("SelectedNames");
     for (const std::string& name : selected) {
@@ -106,10 +106,10 @@ class ResourceChecker {
     }
   }
 
-  void CheckValue(const ComponentResource& component) const {
+  void CheckValue(const FieldResource& component) const {
     if (!component.Has("Value")) return;
     const std::string value = component.Text("Value");
-    if (component.kind == ComponentKind::kOptionMenu) {
+    if (component.kind == FieldKind::kOptionMenu) {
       if (component.Has("SelectedNames")) {
         Fail(component, "Value", component.name + " gives both Value and SelectedNames");
       }
@@ -123,23 +123,23 @@ class ResourceChecker {
     }
   }
 
-  void CheckContainer(const ComponentResource& component) const {
-    const bool tab = component.kind == ComponentKind::kTab;
-    if ((tab || component.kind == ComponentKind::kSubLayout) && !component.Has("Layout")) {
+  void CheckContainer(const FieldResource& component) const {
+    const bool tab = component.kind == FieldKind::kTab;
+    if ((tab || component.kind == FieldKind::kSubLayout) && !component.Has("Layout")) {
       Fail(component, "Layout", component.name + " has no layout");
     }
     if (!tab) return;
     for (const LayoutCell& cell : component.layout.cells) {
-      const ComponentResource* page = resource_.Find(cell.component);
-      if (!page || page->kind != ComponentKind::kSubLayout) {
+      const FieldResource* page = resource_.Find(cell.component);
+      if (!page || page->kind != FieldKind::kSubLayout) {
         Fail(component, "Layout", "the pages of tab " + component.name + " must be SubLayouts");
       }
     }
   }
 
   // Placed at all, and not merely within containers that lie in one another.
-  void CheckReachable(const ComponentResource& component) const {
-    const ComponentResource* at = &component;
+  void CheckReachable(const FieldResource& component) const {
+    const FieldResource* at = &component;
     for (std::size_t steps = 0; steps <= resource_.components.size(); ++steps) {
       if (at->parent.empty()) {
         if (LiesIn(resource_.dialog.layout, at->name)) return;

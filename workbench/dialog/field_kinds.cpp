@@ -5,45 +5,45 @@ namespace wb {
 namespace {
 
 struct KindRow {
-  ComponentKind kind;
+  FieldKind kind;
   const char* name;
 };
 
 constexpr KindRow kKinds[] = {
-    {ComponentKind::kDialog, "Dialog"},
-    {ComponentKind::kSubLayout, "SubLayout"},
-    {ComponentKind::kTab, "Tab"},
-    {ComponentKind::kRadioGroup, "RadioGroup"},
-    {ComponentKind::kCheckButton, "CheckButton"},
-    {ComponentKind::kPushButton, "PushButton"},
-    {ComponentKind::kInputPanel, "InputPanel"},
-    {ComponentKind::kOptionMenu, "OptionMenu"},
-    {ComponentKind::kLabel, "Label"},
-    {ComponentKind::kTable, "Table"},
-    {ComponentKind::kList, "List"},
-    {ComponentKind::kTextArea, "TextArea"},
-    {ComponentKind::kDrawingArea, "DrawingArea"},
-    {ComponentKind::kSeparator, "Separator"},
+    {FieldKind::kDialog, "Dialog"},
+    {FieldKind::kSubLayout, "SubLayout"},
+    {FieldKind::kTab, "Tab"},
+    {FieldKind::kRadioGroup, "RadioGroup"},
+    {FieldKind::kCheckButton, "CheckButton"},
+    {FieldKind::kPushButton, "PushButton"},
+    {FieldKind::kInputPanel, "InputPanel"},
+    {FieldKind::kOptionMenu, "OptionMenu"},
+    {FieldKind::kLabel, "Label"},
+    {FieldKind::kTable, "Table"},
+    {FieldKind::kList, "List"},
+    {FieldKind::kTextArea, "TextArea"},
+    {FieldKind::kDrawingArea, "DrawingArea"},
+    {FieldKind::kSeparator, "Separator"},
 };
 
-constexpr unsigned Bit(ComponentKind kind) {
+constexpr unsigned Bit(FieldKind kind) {
   return 1u << static_cast<unsigned>(kind);
 }
 
-constexpr unsigned kDialog = Bit(ComponentKind::kDialog);
-constexpr unsigned kSubLayout = Bit(ComponentKind::kSubLayout);
-constexpr unsigned kTab = Bit(ComponentKind::kTab);
-constexpr unsigned kRadio = Bit(ComponentKind::kRadioGroup);
-constexpr unsigned kCheck = Bit(ComponentKind::kCheckButton);
-constexpr unsigned kPush = Bit(ComponentKind::kPushButton);
-constexpr unsigned kInput = Bit(ComponentKind::kInputPanel);
-constexpr unsigned kOption = Bit(ComponentKind::kOptionMenu);
-constexpr unsigned kLabel = Bit(ComponentKind::kLabel);
-constexpr unsigned kTable = Bit(ComponentKind::kTable);
-constexpr unsigned kList = Bit(ComponentKind::kList);
-constexpr unsigned kTextArea = Bit(ComponentKind::kTextArea);
-constexpr unsigned kDrawing = Bit(ComponentKind::kDrawingArea);
-constexpr unsigned kSeparator = Bit(ComponentKind::kSeparator);
+constexpr unsigned kDialog = Bit(FieldKind::kDialog);
+constexpr unsigned kSubLayout = Bit(FieldKind::kSubLayout);
+constexpr unsigned kTab = Bit(FieldKind::kTab);
+constexpr unsigned kRadio = Bit(FieldKind::kRadioGroup);
+constexpr unsigned kCheck = Bit(FieldKind::kCheckButton);
+constexpr unsigned kPush = Bit(FieldKind::kPushButton);
+constexpr unsigned kInput = Bit(FieldKind::kInputPanel);
+constexpr unsigned kOption = Bit(FieldKind::kOptionMenu);
+constexpr unsigned kLabel = Bit(FieldKind::kLabel);
+constexpr unsigned kTable = Bit(FieldKind::kTable);
+constexpr unsigned kList = Bit(FieldKind::kList);
+constexpr unsigned kTextArea = Bit(FieldKind::kTextArea);
+constexpr unsigned kDrawing = Bit(FieldKind::kDrawingArea);
+constexpr unsigned kSeparator = Bit(FieldKind::kSeparator);
 constexpr unsigned kPlaced = ~kDialog;  // everything that lies in a dialog
 constexpr unsigned kButtons = kCheck | kPush;
 constexpr unsigned kChoices = kRadio | kOption | kList;
@@ -101,18 +101,18 @@ constexpr AttributeRule kAttributes[] = {
 
 }  // namespace
 
-const char* KindName(ComponentKind kind) {
+const char* KindName(FieldKind kind) {
   return kKinds[static_cast<unsigned>(kind)].name;
 }
 
-std::optional<ComponentKind> DeclarableKind(std::string_view word) {
+std::optional<FieldKind> DeclarableKind(std::string_view word) {
   for (const KindRow& row : kKinds) {
-    if (row.kind != ComponentKind::kDialog && word == row.name) return row.kind;
+    if (row.kind != FieldKind::kDialog && word == row.name) return row.kind;
   }
   return std::nullopt;
 }
 
-const AttributeRule* FindAttributeRule(ComponentKind kind, std::string_view name) {
+const AttributeRule* FindAttributeRule(FieldKind kind, std::string_view name) {
   for (const AttributeRule& rule : kAttributes) {
     if (name == rule.name) return (rule.kinds & Bit(kind)) != 0 ? &rule : nullptr;
   }

@@ -7,7 +7,7 @@
 
 namespace wb {
 
-enum class ComponentKind {
+enum class FieldKind {
   kDialog,
   kSubLayout,
   kTab,
@@ -25,22 +25,22 @@ enum class ComponentKind {
 };
 
 // The word that resource files and error texts use, for example "RadioGroup".
-const char* KindName(ComponentKind kind);
+const char* KindName(FieldKind kind);
 
 // The kind that a resource may declare under `word`; none for unknown words and for "Dialog".
-std::optional<ComponentKind> DeclarableKind(std::string_view word);
+std::optional<FieldKind> DeclarableKind(std::string_view word);
 
 enum class ValueType { kFlag, kNumber, kNumbers, kText, kTexts, kLayout };
 
 struct AttributeRule {
   const char* name;
-  unsigned kinds;  // bit set of ComponentKind
+  unsigned kinds;  // bit set of FieldKind
   ValueType type;
   int smallest;  // bounds of each number; unused for the other types
   int largest;
 };
 
 // The rule for attribute `name` of a component of `kind`, null when the kind has no such attribute.
-const AttributeRule* FindAttributeRule(ComponentKind kind, std::string_view name);
+const AttributeRule* FindAttributeRule(FieldKind kind, std::string_view name);
 
 }  // namespace wb

@@ -21,7 +21,7 @@ std::string OnOneLine(const std::string& text) {
   return line;
 }
 
-TableModel InitialTable(const ComponentResource& resource) {
+TableModel InitialTable(const FieldResource& resource) {
   TableModel table;
   table.InsertColumns("", resource.Texts("ColumnNames"));
   if (resource.Has("ColumnLabels")) table.SetColumnLabels(resource.Texts("ColumnLabels"));
@@ -32,18 +32,18 @@ TableModel InitialTable(const ComponentResource& resource) {
   return table;
 }
 
-ComponentState InitialState(const ComponentResource& resource) {
+FieldState InitialState(const FieldResource& resource) {
   switch (resource.kind) {
-    case ComponentKind::kRadioGroup:
-    case ComponentKind::kOptionMenu:
-    case ComponentKind::kList:
+    case FieldKind::kRadioGroup:
+    case FieldKind::kOptionMenu:
+    case FieldKind::kList:
       return ChoiceState(resource);
-    case ComponentKind::kInputPanel:
-    case ComponentKind::kTextArea:
+    case FieldKind::kInputPanel:
+    case FieldKind::kTextArea:
       return TextState(resource);
-    case ComponentKind::kCheckButton:
+    case FieldKind::kCheckButton:
       return CheckState{resource.Flag("Set", false)};
-    case ComponentKind::kTable:
+    case FieldKind::kTable:
       return InitialTable(resource);
     default:
       return std::monostate();
@@ -52,17 +52,17 @@ ComponentState InitialState(const ComponentResource& resource) {
 
 }  // namespace
 
-ChoiceState::ChoiceState(const ComponentResource& resource)
+ChoiceState::ChoiceState(const FieldResource& resource)
     : names_(resource.Texts("Names")),
       labels_(resource.Texts("Labels")),
       selected_(resource.Texts("SelectedNames")) {
   if (resource.Has("Value")) selected_ = {resource.Text("Value")};
-  if (resource.kind == ComponentKind::kList) {
+  if (resource.kind == FieldKind::kList) {
     policy_ = static_cast<SelectionPolicy>(
         resource.Number("SelectionPolicy", static_cast<int>(SelectionPolicy::kSingle)));
   }
   // An option menu always shows one of its items; a radio group may start with none pressed.
-  if (resource.kind == ComponentKind::kOptionMenu && selected_.empty() && !names_.empty()) {
+  if (resource.kind == FieldKind::kOptionMenu && selected_.empty() && !names_.empty()) {
     selected_ = {names_.front()};
   }
 }
@@ -108,11 +108,11 @@ UiStatus ChoiceState::SetPolicy(int policy) {
   return UiStatus::kOk;
 }
 
-TextState::TextState(const ComponentResource& resource)
+TextState::TextState(const FieldResource& resource)
     : value_(resource.Text("Value")),
       max_length_(static_cast<std::size_t>(resource.Number("MaxLen", 0))),
       editable_(resource.Flag("Editable", true)),
-      many_lines_(resource.kind == ComponentKind::kTextArea) {}
+      many_lines_(resource.kind == FieldKind::kTextArea) {}
 
 UiStatus TextState::SetValue(std::string_view value) {
   if (max_length_ != 0 && WideLength(value) > max_length_) return UiStatus::kBadArgument;
@@ -121,7 +121,7 @@ UiStatus TextState::SetValue(std::string_view value) {
   return UiStatus::kOk;
 }
 
-Component::Component(const ComponentResource& resource)
+Field::Field(const FieldResource& resource)
     : kind(resource.kind),
       name(resource.name),
       parent(resource.parent),
@@ -132,7 +132,7 @@ Component::Component(const ComponentResource& resource)
   if (FindAttributeRule(kind, "Label") != nullptr) label = resource.Text("Label");
 }
 
-std::string ValueText(const Component& component) {
+std::string ValueText(const Field& component) {
   if (const auto* choice = std::get_if<ChoiceState>(&component.state)) {
     return Join(", ", choice->Selected()) + " of " + Join(", ", choice->Names());
   }

@@ -18,7 +18,7 @@ namespace wb {
 // Named items of which some are selected: radio groups, option menus, lists.
 class ChoiceState {
  public:
-  explicit ChoiceState(const ComponentResource& resource);
+  explicit ChoiceState(const FieldResource& resource);
 
   const std::vector<std::string>& Names() const { return names_; }
   const std::vector<std::string>& Labels() const { return labels_; }
@@ -48,7 +48,7 @@ class ChoiceState {
 // Typed text: input panels and text areas.
 class TextState {
  public:
-  explicit TextState(const ComponentResource& resource);
+  explicit TextState(const FieldResource& resource);
 
   const std::string& Value() const { return value_; }
   std::size_t MaxLength() const { return max_length_; }  // in wide characters; 0 is no limit
@@ -70,23 +70,23 @@ struct CheckState {
   bool set = false;
 };
 
-using ComponentState = std::variant<std::monostate, ChoiceState, TextState, CheckState, TableModel>;
+using FieldState = std::variant<std::monostate, ChoiceState, TextState, CheckState, TableModel>;
 
-struct Component {
-  explicit Component(const ComponentResource& resource);
+struct Field {
+  explicit Field(const FieldResource& resource);
 
-  ComponentKind kind;
+  FieldKind kind;
   std::string name;
   std::string parent;  // the sublayout or tab it lies in
   std::string label;
   std::string help_text;
   bool enabled;
   bool visible;
-  ComponentState state;
+  FieldState state;
 };
 
 // One phrase that tells the component's state: what is selected of what, the typed text, set or
 // unset, the size of a table, or else its label.
-std::string ValueText(const Component& component);
+std::string ValueText(const Field& component);
 
 }  // namespace wb

@@ -6,7 +6,7 @@ namespace wb {
 
 enum class UiStatus {
   kOk,
-  kNoComponent,  // the dialog has no component of that name
+  kNoField,      // the dialog has no component of that name
   kWrongKind,    // the component is of another kind
   kBadArgument,  // the value cannot be: too long, a duplicate name, a count that does not match
   kNotFound,     // a name inside the component: an item, a row, a column

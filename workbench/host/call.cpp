@@ -3,8 +3,6 @@
 
 #include <mutex>
 
-#include "workbench/host/loans.h"
-
 namespace wb {
 namespace {
 
@@ -18,17 +16,6 @@ std::string Quoted(std::string text) {
 
 // Calls from foreign threads may come at any time; only their record needs care.
 std::mutex foreign_thread_mutex;
-
-// Where a release function's first argument is the place of the resource, not the resource.
-bool TakesPlace(const std::string& function) {
-  return function == "ProArrayFree" || function == "ProGeomitemdataFree";
-}
-
-bool Releases(const std::string& function) {
-  return TakesPlace(function) || function == "ProStringarrayFree" ||
-         function == "ProWstringarrayFree" || function == "ProWstringFree" ||
-         function == "ProSelectionarrayFree" || function == "ProSelectionEnvFree";
-}
 
 }  // namespace
 
@@ -68,6 +55,10 @@ bool CrossingBase::Begin() {
   return fault_ == nullptr;
 }
 
+ProError CrossingBase::Caught() const {
+  return CaughtInCrossing(host_, function_, user_acted_);
+}
+
 ProError CaughtInCrossing(Host& host, const char* function, bool user_acted) {
   try {
     throw;
@@ -76,8 +67,7 @@ ProError CaughtInCrossing(Host& host, const char* function, bool user_acted) {
     if (!user_acted || !misuse.stale) host.ReportBreach(function, misuse.why);
     return PRO_TK_BAD_INPUTS;
   } catch (const NotModelled& gap) {
-    host.not_modelled.push_back("workbench: not modelled: " + std::string(function) + ": " +
-                                gap.what);
+    host.events.Add(Gap{"workbench: not modelled: " + std::string(function) + ": " + gap.what});
     return PRO_TK_NOT_IMPLEMENTED;
   } catch (const std::exception& error) {
     host.ReportBreach(function, std::string("exception across the boundary: ") + error.what());
@@ -88,10 +78,14 @@ ProError CaughtInCrossing(Host& host, const char* function, bool user_acted) {
   }
 }
 
-Model& Call::ModelAt(const void* handle) const {
-  const HandleTable::Found found = host.handles.Look(handle, HandleKind::kModel);
+HandleTable::Found Call::Look(const void* handle, HandleKind kind) const {
+  HandleTable::Found found = host.handles.Look(handle, kind);
   if (found.object == nullptr) Fail(found);
-  return *static_cast<Model*>(found.object);
+  return found;
+}
+
+Model& Call::ModelAt(const void* handle) const {
+  return *static_cast<Model*>(Look(handle, HandleKind::kModel).object);
 }
 
 Model& Call::SolidAt(const void* handle) const {
@@ -108,9 +102,7 @@ void Call::CheckStillThere(const void* handle) const {
 }
 
 PickedItem& Call::SelectionAt(const void* handle) const {
-  const HandleTable::Found found = host.handles.Look(handle, HandleKind::kSelection);
-  if (found.object == nullptr) Fail(found);
-  return *static_cast<PickedItem*>(found.object);
+  return *static_cast<PickedItem*>(Look(handle, HandleKind::kSelection).object);
 }
 
 Feature& Call::FeatureAt(const ProModelitem* item, Model** owner) const {
@@ -149,10 +141,6 @@ std::string Call::ModelNameText(const wchar_t* text) const {
   return Text(text, PRO_NAME_SIZE, "model name");
 }
 
-std::filesystem::path Call::Path(const wchar_t* text, const char* what) const {
-  return PathFromUtf8(Text(text, PRO_PATH_SIZE, what));
-}
-
 void Call::CopyText(wchar_t* place, size_t limit, const std::string& text) const {
   if (place == nullptr) Fail("null text buffer");
   const std::wstring wide = ToWide(text).substr(0, limit - 1);
@@ -163,32 +151,6 @@ void Call::TakeBack(const void* what, Resource resource) const {
   const std::string wrong = host.accounts.Check(what, resource);
   if (!wrong.empty()) Fail(wrong);
   host.accounts.Take(what);
-}
-
-namespace {
-
-// A selection array is given back with the selections in it.
-void ForgiveSelections(const void* array) {
-  Host& host = TheHost();
-  if (!host.accounts.Check(array, Resource::kArray).empty()) return;
-  const int count = ArraySize(Call(host, "ProSelectionarrayFree", 0), array);
-  for (int i = 0; i < count; ++i) {
-    host.accounts.Forgive(static_cast<const ProSelection*>(array)[i]);
-  }
-}
-
-}  // namespace
-
-void ForgiveArguments(const char* function, const void* first) {
-  if (std::string_view(function) == "ProUIDialogDestroy" && first != nullptr) {
-    const LiveDialog* const dialog = TheHost().dialogs.Find(static_cast<const char*>(first));
-    if (dialog != nullptr) TheHost().accounts.Forgive(dialog);
-    return;
-  }
-  if (!Releases(function) || first == nullptr) return;
-  if (std::string_view(function) == "ProSelectionarrayFree") ForgiveSelections(first);
-  TheHost().accounts.Forgive(TakesPlace(function) ? *static_cast<const void* const*>(first)
-                                                  : first);
 }
 
 }  // namespace wb

@@ -1,6 +1,12 @@
 // One crossing into the host: count, thread check, ordered faults, argument checks, trace, and no
-// exception back into the plug-in. Every exported function is written as
-//   return Crossing("ProMdlNameGet", model, Out(name)).Run([&](Call& call) { ... });
+// exception back into the plug-in. Every exported function says what its arguments are and what it
+// does with what they stand for:
+//   ProError ProMdlTypeGet(ProMdl model, ProMdlType* type) {
+//     return Crossing(__func__, ModelIn(model), Out(type, "type place"))
+//         .Run([](const Model& from, ProMdlType& place) { ... });
+//   }
+// The arguments are looked up before the body runs (arguments.h has their kinds); a body that gives
+// no status has succeeded. One that wants more of the host takes a `const Call&` first.
 #pragma once
 
 #include <cstring>
@@ -23,21 +29,6 @@ struct NotModelled {
   std::string what;
 };
 
-// Marks an argument that the call fills in, so that an empty success can empty it.
-template <typename T>
-struct OutArgument {
-  T* place;
-  size_t count;
-};
-template <typename T>
-OutArgument<T> Out(T* place) {
-  return {place, 1};
-}
-// A text buffer of `count` characters.
-inline OutArgument<wchar_t> OutText(wchar_t* place, size_t count) {
-  return {place, count};
-}
-
 std::string DescribeArgument(const char* text);
 std::string DescribeArgument(const wchar_t* text);
 std::string DescribeArgument(int number);
@@ -47,28 +38,9 @@ template <typename T>
 requires std::is_enum_v<T> std::string DescribeArgument(T number) {
   return DescribeArgument(static_cast<int>(number));
 }
-template <typename T>
-std::string DescribeArgument(const OutArgument<T>& out) {
-  if (out.place == nullptr) return "null";
-  if constexpr (std::is_same_v<T, wchar_t>) return "-> " + DescribeArgument(out.place);
-  if constexpr (std::is_arithmetic_v<T> || std::is_enum_v<T>) {
-    return "-> " + DescribeArgument(static_cast<int>(*out.place));
-  } else if constexpr (std::is_pointer_v<T>) {
-    return "-> " + DescribeArgument(static_cast<const void*>(*out.place));
-  } else {
-    return "->";
-  }
-}
 template <typename R, typename... A>
 std::string DescribeArgument(R (*)(A...)) {
   return "callback";
-}
-
-template <typename T>
-void EmptyArgument(const T&) {}
-template <typename T>
-void EmptyArgument(const OutArgument<T>& out) {
-  if (out.place != nullptr) std::memset(static_cast<void*>(out.place), 0, sizeof(T));
 }
 
 // The checks an exported function makes of its arguments.
@@ -87,6 +59,8 @@ class Call {
     if (pointer == nullptr) Fail(std::string("null ") + what);
     return *pointer;
   }
+  // What a handle stands for, or is inside of; a misuse when it is no such handle.
+  HandleTable::Found Look(const void* handle, HandleKind kind) const;
   Model& ModelAt(const void* handle) const;
   // A part or assembly.
   Model& SolidAt(const void* handle) const;
@@ -100,7 +74,6 @@ class Call {
   std::string Text(const wchar_t* text, size_t limit, const char* what) const;
   std::string Narrow(const char* text, size_t limit, const char* what) const;
   std::string ModelNameText(const wchar_t* text) const;
-  std::filesystem::path Path(const wchar_t* text, const char* what) const;
   void CopyText(wchar_t* place, size_t limit, const std::string& text) const;
 
   void Give(const void* what, Resource resource) const {
@@ -116,14 +89,30 @@ class Call {
 // Longest narrow text taken (component paths and names); longer ones are a misuse.
 inline constexpr size_t kNarrowLimit = 256;
 
-// For functions that release something: what a failed call keeps out of the accounts.
-void ForgiveArguments(const char* function, const void* first);
+// An argument that the body gets as it is: numbers, flags, pointers to the plug-in's own data.
+template <typename T>
+struct AsItIs {
+  T value;
+  std::string Describe() const { return DescribeArgument(value); }
+  T Look(const Call&) const { return value; }
+};
+
+template <typename T>
+auto AsArgument(const T& argument) {
+  if constexpr (requires(const Call& call) { argument.Look(call); }) {
+    return argument;
+  } else {
+    return AsItIs<T>{argument};
+  }
+}
 
 class CrossingBase {
  protected:
   // Does what every crossing starts with; false when a fault or a breach has decided `status`.
   bool Begin();
   void EndQuietly() { host_.trace.LeaveQuietly(); }
+  // Names the exception in flight.
+  ProError Caught() const;
 
   explicit CrossingBase(const char* function) : host_(TheHost()), function_(function) {}
   ~CrossingBase() = default;
@@ -135,19 +124,20 @@ class CrossingBase {
   bool user_acted_ = false;  // between the plug-in's call and its being carried out
 };
 
-template <typename... Args>
+template <typename... Arguments>
 class Crossing : CrossingBase {
  public:
-  explicit Crossing(const char* function, Args... args) : CrossingBase(function), args_(args...) {}
+  template <typename... Given>
+  explicit Crossing(const char* function, const Given&... given)
+      : CrossingBase(function), arguments_(AsArgument(given)...) {}
 
   template <typename Body>
   ProError Run(Body&& body) {
-    const bool runs = Begin();
-    const ProError status = runs ? GuardedRun(body) : Refused();
-    if (!host_.trace.keep_lines) {
-      EndQuietly();
-    } else {
+    const ProError status = Begin() ? GuardedRun(body) : Refused();
+    if (host_.trace.keep_lines) {
       host_.trace.Leave(call_, function_, Describe(), status);
+    } else {
+      EndQuietly();
     }
     return status;
   }
@@ -155,44 +145,65 @@ class Crossing : CrossingBase {
  private:
   template <typename Body>
   ProError GuardedRun(Body& body) {
-    Call call(host_, function_, call_);
+    const Call call(host_, function_, call_);
     try {
-      return body(call);
+      return std::apply(
+          [&](const Arguments&... argument) {
+            // In braces: looked up in their order.
+            std::tuple<decltype(argument.Look(call))...> looked{argument.Look(call)...};
+            return Invoke(body, call, looked);
+          },
+          arguments_);
     } catch (...) {
       return Caught();
     }
   }
-  // Names the exception in flight; defined beside Begin.
-  ProError Caught();
+  template <typename Body, typename Looked>
+  static ProError Invoke(Body& body, const Call& call, Looked& looked) {
+    const auto run = [&](auto&... values) {
+      if constexpr (std::is_invocable_v<Body&, const Call&, decltype(values)...>) {
+        return body(call, values...);
+      } else {
+        return body(values...);
+      }
+    };
+    if constexpr (std::is_void_v<decltype(std::apply(run, looked))>) {
+      std::apply(run, looked);
+      return PRO_TK_NO_ERROR;
+    } else {
+      return std::apply(run, looked);
+    }
+  }
+  // What a fault makes of the call: an argument that is given back is not held against the plug-in,
+  // and places are emptied by a success that gives nothing.
   ProError Refused() {
     if (fault_ == nullptr) return PRO_TK_GENERAL_ERROR;
-    if constexpr (sizeof...(Args) > 0) ForgiveFirst(std::get<0>(args_));
-    if (fault_->kind != FaultKind::kEmptySuccess) return static_cast<ProError>(fault_->status);
-    std::apply([](const auto&... arg) { (EmptyArgument(arg), ...); }, args_);
-    return PRO_TK_NO_ERROR;
-  }
-  template <typename T>
-  void ForgiveFirst(const T& first) {
-    if constexpr (std::is_pointer_v<T> && !std::is_function_v<std::remove_pointer_t<T>>) {
-      ForgiveArguments(function_, first);
-    }
+    const auto each = [this](const auto& argument) {
+      if constexpr (requires { argument.Forgive(host_); }) argument.Forgive(host_);
+      if constexpr (requires { argument.Empty(); }) {
+        if (fault_->kind == FaultKind::kEmptySuccess) argument.Empty();
+      }
+    };
+    std::apply([&](const Arguments&... argument) { (each(argument), ...); }, arguments_);
+    const bool claims_success = fault_->kind == FaultKind::kEmptySuccess;
+    return claims_success ? PRO_TK_NO_ERROR : static_cast<ProError>(fault_->status);
   }
   std::string Describe() const {
     std::vector<std::string> texts;
-    std::apply([&](const auto&... arg) { (texts.push_back(DescribeArgument(arg)), ...); }, args_);
+    std::apply([&](const Arguments&... argument) { (texts.push_back(argument.Describe()), ...); },
+               arguments_);
     return Join(", ", texts);
   }
 
-  std::tuple<Args...> args_;
+  std::tuple<Arguments...> arguments_;
 };
+
+template <typename... Given>
+Crossing(const char*, const Given&...)
+    -> Crossing<decltype(AsArgument(std::declval<const Given&>()))...>;
 
 // Turns the exception in flight into a recorded breach and a failing status. What the call was
 // given may have been right until the user acted: then it only fails.
 ProError CaughtInCrossing(Host& host, const char* function, bool user_acted = false);
-
-template <typename... Args>
-ProError Crossing<Args...>::Caught() {
-  return CaughtInCrossing(host_, function_, user_acted_);
-}
 
 }  // namespace wb

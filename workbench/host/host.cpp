@@ -29,12 +29,7 @@ Host::~Host() {
 
 void Host::Forget(Model& model) {
   handles.End(model.handle);
-  for (const Box& surface : model.surfaces) {
-    const auto found = surface_handles.find(&surface);
-    if (found == surface_handles.end()) continue;
-    handles.End(found->second);
-    surface_handles.erase(found);
-  }
+  handles.EndAllInside(&model);
   for (PickedItem* item : picked) {
     if (item->owner == &model) item->owner = nullptr;
     if (item->root == &model) item->root = nullptr;
@@ -42,7 +37,7 @@ void Host::Forget(Model& model) {
 }
 
 void Host::ReportBreach(const std::string& function, const std::string& why) {
-  breaches.push_back({function, why});
+  events.Add(Breach{function, why});
 }
 
 bool Host::OnUiThread() const {

@@ -4,9 +4,7 @@
 #include <filesystem>
 #include <map>
 #include <string>
-#include <unordered_map>
 #include <unordered_set>
-#include <utility>
 #include <vector>
 
 #include "workbench/checks/accounts.h"
@@ -15,6 +13,7 @@
 #include "workbench/checks/trace.h"
 #include "workbench/host/automation.h"
 #include "workbench/host/commands.h"
+#include "workbench/host/events.h"
 #include "workbench/host/live_dialog.h"
 #include "workbench/host/message_area.h"
 #include "workbench/host/user.h"
@@ -22,13 +21,6 @@
 #include "workbench/session/session.h"
 
 namespace wb {
-
-// One breach of the interface's contract: "plug-in misused FUNCTION: why".
-struct Breach {
-  std::string function;
-  std::string why;
-  std::string Text() const { return "plug-in misused " + function + ": " + why; }
-};
 
 struct Host {
   Host();
@@ -43,7 +35,8 @@ struct Host {
   Faults faults;
   Commands commands;
   Dialogs dialogs;
-  MessageArea messages;
+  Events events;
+  MessageArea messages{events};
   WindowsCalls windows;
   AutomationProgram* automation = nullptr;  // null: no program is registered
   User* user = nullptr;
@@ -55,22 +48,15 @@ struct Host {
 
   std::unordered_set<PickedItem*> picked;  // live selections
   std::vector<void*> last_picks;           // selection handles of the last interactive pick
-  // Options of each selection environment asked for: number and value.
-  std::vector<std::vector<std::pair<int, int>>> selection_environments;
-  std::unordered_map<const Box*, void*> surface_handles;
 
-  std::vector<Breach> breaches;
-  std::vector<std::string> file_problems;  // model files that could not be read
-  std::vector<std::string> not_modelled;   // "workbench: not modelled: FUNCTION"
-  std::vector<std::string> repaints;       // repaint and tree refresh calls, in order
-  std::string running_command;             // empty: the plug-in is idle
+  std::string running_command;  // empty: the plug-in is idle
   unsigned long ui_thread = 0;
 
   void ReportBreach(const std::string& function, const std::string& why);
   bool OnUiThread() const;
   // Whether the user did something at this moment, in the middle of a call of `function`.
   bool LetUserIn(const char* function);
-  // Ends every handle to a model that leaves the session, its surfaces and selections included.
+  // Ends every handle to a model that leaves the session and to what is inside it.
   void Forget(Model& model);
   // What a handle stands for, for traces: "part bolt".
   std::string DescribeHandle(const void* handle) const;

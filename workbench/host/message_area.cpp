@@ -10,13 +10,15 @@ const MessageRecord* MessageArea::Find(const std::filesystem::path& file, const 
   auto found = files_.find(file);
   if (found == files_.end()) {
     if (!std::filesystem::is_regular_file(file)) {
-      missing.push_back("there is no message file " + PathToUtf8(file));
+      events_.Add(MissingText{"there is no message file " + PathToUtf8(file)});
       return nullptr;
     }
     found = files_.emplace(file, MessageFile::Load(file)).first;
   }
   const MessageRecord* const record = found->second.Find(key);
-  if (record == nullptr) missing.push_back(PathToUtf8(file) + " has no key \"" + key + "\"");
+  if (record == nullptr) {
+    events_.Add(MissingText{PathToUtf8(file) + " has no key \"" + key + "\""});
+  }
   return record;
 }
 

@@ -6,9 +6,9 @@
 #include <map>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "workbench/base/message_file.h"
+#include "workbench/host/events.h"
 
 namespace wb {
 
@@ -16,18 +16,16 @@ struct Host;
 
 class MessageArea {
  public:
-  // Texts shown, in order, with their arguments filled in.
-  std::vector<std::string> notes;
-  // Message files and keys that were asked for and are not there, one line each.
-  std::vector<std::string> missing;
+  explicit MessageArea(Events& events) : events_(events) {}
 
-  // Null when the file or the key is missing, which is noted in `missing`. Throws MessageFileError
-  // for a file that is there but broken.
+  // Null when the file or the key is missing, which is an event. Throws MessageFileError for a file
+  // that is there but broken.
   const MessageRecord* Find(const std::filesystem::path& file, const std::string& key);
   // Reads every file anew from now on.
   void Forget() { files_.clear(); }
 
  private:
+  Events& events_;
   std::map<std::filesystem::path, MessageFile> files_;
 };
 

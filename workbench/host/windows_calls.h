@@ -9,17 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "workbench/host/user.h"
-
 namespace wb {
-
-struct ShellCall {
-  std::string function;  // "ShellExecuteW", "WinExec"
-  std::string verb;
-  std::string program;  // for WinExec the whole command line
-  std::string parameters;
-  int show = 0;
-};
 
 struct Timer {
   unsigned long long id = 0;
@@ -28,23 +18,11 @@ struct Timer {
   bool kill_failed = false;   // by a fault: that it is pending is not held against the plug-in
 };
 
-struct MouseEvent {
-  unsigned flags = 0;
-  unsigned dx = 0;
-  unsigned dy = 0;
-  unsigned data = 0;
-};
-
 struct WindowsCalls {
-  std::vector<MessageBox> boxes;
-  std::vector<ShellCall> shell;
   std::vector<Timer> timers;               // pending
-  std::vector<FileRequest> file_requests;  // of the open and save dialogs
   unsigned long dialog_error = 0;          // how the latest of them failed; 0: it did not
   unsigned long long slept_ms = 0;         // the plug-in's pauses, which take no time here
   std::function<void()> in_pause;          // what goes on elsewhere in each of them
-  std::vector<MouseEvent> mouse;
-  std::vector<std::string> classes;        // class ids of objects asked for, "{...}"
   std::filesystem::path desktop_folder;    // what the desktop folder look-up answers
   std::filesystem::path local_app_folder;  // what the local application data look-up answers
   std::set<std::string> withheld;          // host functions that this host does not offer

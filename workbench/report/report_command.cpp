@@ -106,12 +106,19 @@ std::string DrawStates(const CommandRecord& command) {
                    });
 }
 
+std::string ValueCells(const ValueChange& change) {
+  return Cell(change.model) + Cell(change.name) + ValueCell(change.before) +
+         ValueCell(change.after);
+}
+
 std::string DrawParameters(const CommandRecord& command) {
   return DrawTable("Parameters", {"Model", "Parameter", "Before", "After"}, command.parameters,
-                   "parameter", [](const ParameterChange& change) {
-                     return Cell(change.model) + Cell(change.parameter) + ValueCell(change.before) +
-                            ValueCell(change.after);
-                   });
+                   "parameter", &ValueCells);
+}
+
+std::string DrawFacts(const CommandRecord& command) {
+  return DrawTable("Other facts", {"Model", "Fact", "Before", "After"}, command.facts, "fact",
+                   &ValueCells);
 }
 
 std::string DrawDrawings(const CommandRecord& command) {
@@ -197,7 +204,8 @@ std::string CommandInShort(const CommandRecord& command) {
   const std::pair<std::size_t, const char*> counts[] = {
       {command.dialogs.size(), "dialog"},       {command.boxes.size(), "message"},
       {command.notes.size(), "note"},           {command.states.size(), "feature state"},
-      {command.parameters.size(), "parameter"}, {command.files.size(), "file"},
+      {command.parameters.size(), "parameter"}, {command.facts.size(), "other fact"},
+      {command.files.size(), "file"},
   };
   std::vector<std::string> words;
   for (const auto& [count, noun] : counts) {
@@ -216,7 +224,8 @@ std::string DrawCommand(const CommandRecord& command, const std::string& anchor,
     html += draw(command);
   }
   html += DrawTrees(command, limits);
-  for (const auto draw : {&DrawStates, &DrawParameters, &DrawDrawings, &DrawFiles, &DrawCalls}) {
+  for (const auto draw :
+       {&DrawStates, &DrawParameters, &DrawFacts, &DrawDrawings, &DrawFiles, &DrawCalls}) {
     html += draw(command);
   }
   return html + "</section>\n";

@@ -218,7 +218,7 @@ std::string DrawTrees(const CommandRecord& command, const TreeLimits& limits) {
   const ModelTree& after = command.tree_after;
   if (before.rows.empty() && after.rows.empty()) return {};
   std::set<std::string> touched;
-  for (const ParameterChange& change : command.parameters) touched.insert(change.model);
+  for (const ValueChange& change : command.parameters) touched.insert(change.model);
   const TreeMarks marks = CompareTrees(before, after, touched);
   if (before == after && !marks.AnyMarked()) {
     return "<details class=\"fold\"><summary>Model tree, the same before and after" +

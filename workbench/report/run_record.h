@@ -32,10 +32,11 @@ struct ModelTree {
   bool operator==(const ModelTree&) const = default;
 };
 
-// A parameter that a command added (no value before), deleted (no value after) or set.
-struct ParameterChange {
+// A parameter or other fact that a command added (no value before), deleted (no value after) or
+// set.
+struct ValueChange {
   std::string model;
-  std::string parameter;
+  std::string name;
   std::optional<std::string> before;
   std::optional<std::string> after;
 };
@@ -112,7 +113,8 @@ struct CommandRecord {
   ModelTree tree_before;  // of the current model; no rows: there was none
   ModelTree tree_after;
   std::vector<StateChange> states;
-  std::vector<ParameterChange> parameters;
+  std::vector<ValueChange> parameters;
+  std::vector<ValueChange> facts;        // other than states and parameters
   std::vector<DrawingPicture> drawings;  // the current one, and those that changed
 
   std::vector<WrittenFile> files;

@@ -1,9 +1,12 @@
 // Pictures of a session and the differences between two of them.
 #include "workbench/report/session_picture.h"
 
+#include <algorithm>
 #include <limits>
 #include <unordered_map>
 #include <unordered_set>
+
+#include "workbench/session/model_facts.h"
 
 namespace wb {
 namespace {
@@ -19,20 +22,21 @@ TreeIcon IconOf(const Model& model) {
     case ModelKind::kPart:
       break;
   }
-  if (model.skeleton) return TreeIcon::kSkeleton;
-  return model.sheet_metal ? TreeIcon::kSheetMetal : TreeIcon::kPart;
+  if (model.solid().skeleton) return TreeIcon::kSkeleton;
+  return model.solid().sheet_metal ? TreeIcon::kSheetMetal : TreeIcon::kPart;
 }
 
 TreeRow RowOf(const Feature& component, int depth) {
   TreeRow row;
   row.depth = depth;
   row.id = component.id;
-  row.name = component.component.Text();
-  if (component.component.kind == ModelKind::kAssembly) row.icon = TreeIcon::kAssembly;
-  if (component.model) row.icon = IconOf(*component.model);
+  const ModelLink& link = component.component->link;
+  row.name = link.name.Text();
+  if (link.name.kind == ModelKind::kAssembly) row.icon = TreeIcon::kAssembly;
+  if (link.model) row.icon = IconOf(*link.model);
   row.hidden = component.hidden || !component.visible;
   row.suppressed = component.status != FeatureStatus::kActive;
-  row.missing = component.model == nullptr;
+  row.missing = link.model == nullptr;
   return row;
 }
 
@@ -46,15 +50,16 @@ class TreeWalk {
   const Feature* Next(int* depth) {
     while (!stack_.empty()) {
       Level& level = stack_.back();
-      if (level.next == level.model->features.size()) {
+      const ItemList<Feature>& features = FeaturesOf(*level.model);
+      if (level.next == features.size()) {
         entered_.erase(level.model);
         stack_.pop_back();
         continue;
       }
-      const Feature& feature = level.model->features[level.next++];
+      const Feature& feature = features[level.next++];
       if (!feature.IsComponent()) continue;
       *depth = static_cast<int>(stack_.size());
-      if (feature.model) Enter(*feature.model);
+      if (feature.ComponentModel()) Enter(*feature.ComponentModel());
       return &feature;
     }
     return nullptr;
@@ -104,90 +109,96 @@ class RowCount {
 
   void Step() {
     Level& level = open_.back();
-    if (level.next == level.model->features.size()) {
+    const ItemList<Feature>& features = FeaturesOf(*level.model);
+    if (level.next == features.size()) {
       rows_[level.model] = level.rows;
       open_.pop_back();
       return;
     }
-    const Feature& feature = level.model->features[level.next];
-    if (feature.IsComponent() && feature.model && !rows_.contains(feature.model)) {
-      return Begin(*feature.model);
-    }
+    const Feature& feature = features[level.next];
+    const Model* const below = feature.ComponentModel();
+    if (below && !rows_.contains(below)) return Begin(*below);
     ++level.next;
     if (!feature.IsComponent()) return;
-    level.rows = Sum(level.rows, feature.model ? rows_.at(feature.model) : 1);
+    level.rows = Sum(level.rows, below ? rows_.at(below) : 1);
   }
 
   std::unordered_map<const Model*, std::uint64_t> rows_;
   std::vector<Level> open_;
 };
 
-ModelPicture PictureOf(const Model& model) {
-  ModelPicture picture;
-  for (const Parameter& parameter : model.parameters) {
-    picture.parameters.emplace_back(parameter.name, ParameterText(parameter.value));
-  }
-  for (const Feature& feature : model.features) {
-    picture.features.push_back({feature.id, feature.IsComponent() ? feature.component.Text() : "",
-                                feature.hidden, feature.visible, feature.status});
-  }
-  if (model.id.kind == ModelKind::kDrawing) {
-    DrawingPicture& drawing = picture.drawing.emplace();
-    drawing.name = model.id.Text();
-    if (model.drawing_of) drawing.shows = model.drawing_of->Text();
-    for (const Sheet& sheet : model.sheets) drawing.sheets.push_back({sheet.size, sheet.scale});
-  }
-  return picture;
+DrawingPicture DrawingPictureOf(const Model& model) {
+  const auto& content = *model.As<DrawingContent>();
+  DrawingPicture drawing;
+  drawing.name = model.id.Text();
+  if (content.shows) drawing.shows = content.shows->name.Text();
+  for (const Sheet& sheet : content.sheets) drawing.sheets.push_back({sheet.size, sheet.scale});
+  return drawing;
 }
 
-void NoteParameters(const std::string& model, const ModelPicture& before, const ModelPicture& after,
+void NoteParameters(const std::string& name, const Model& before, const Model& after,
                     CommandRecord& command) {
-  if (before.parameters == after.parameters) return;
-  const std::map<std::string, std::string> old(before.parameters.begin(), before.parameters.end());
-  const std::map<std::string, std::string> now(after.parameters.begin(), after.parameters.end());
-  for (const auto& [name, value] : before.parameters) {
-    if (!now.contains(name)) command.parameters.push_back({model, name, value, {}});
+  for (const Parameter& was : before.parameters) {
+    if (after.parameters.Find(ItemKey(was)) != nullptr) continue;
+    command.parameters.push_back({name, was.name, ParameterText(was.value), {}});
   }
-  for (const auto& [name, value] : after.parameters) {
-    const auto found = old.find(name);
-    if (found == old.end()) {
-      command.parameters.push_back({model, name, {}, value});
-    } else if (found->second != value) {
-      command.parameters.push_back({model, name, found->second, value});
+  for (const Parameter& is : after.parameters) {
+    const Parameter* const was = before.parameters.Find(ItemKey(is));
+    const std::string text = ParameterText(is.value);
+    if (was == nullptr) {
+      command.parameters.push_back({name, is.name, {}, text});
+    } else if (ParameterText(was->value) != text) {
+      command.parameters.push_back({name, is.name, ParameterText(was->value), text});
     }
   }
 }
 
-std::string ItemText(const FeatureFact& feature) {
+std::string ItemText(const Feature& feature) {
   const std::string id = std::to_string(feature.id);
-  return feature.component.empty() ? "feature " + id : feature.component + " (" + id + ")";
+  if (!feature.component) return "feature " + id;
+  return feature.component->link.name.Text() + " (" + id + ")";
 }
 
-std::string StateText(const FeatureFact& feature) {
+std::string StateText(const Feature& feature) {
   std::string text = feature.hidden ? "hidden" : feature.visible ? "shown" : "not visible";
   if (feature.status != FeatureStatus::kActive) {
-    text += std::string(", ") + FeatureStatusWord(feature.status);
+    text += std::string(", ") + WordFor(feature.status);
   }
   return text;
 }
 
-void NoteStates(const std::string& model, const ModelPicture& before, const ModelPicture& after,
+void NoteStates(const std::string& name, const Model& before, const Model& after,
                 CommandRecord& command) {
-  if (before.features == after.features) return;
-  std::unordered_map<int, const FeatureFact*> now;
-  for (const FeatureFact& feature : after.features) now[feature.id] = &feature;
-  for (const FeatureFact& feature : before.features) {
-    const auto found = now.find(feature.id);
-    const std::string was = StateText(feature);
-    const std::string is = found == now.end() ? "deleted" : StateText(*found->second);
-    if (was != is) command.states.push_back({model, ItemText(feature), was, is});
-    if (found != now.end()) now.erase(found);
-  }
-  for (const FeatureFact& feature : after.features) {
-    if (now.contains(feature.id)) {
-      command.states.push_back({model, ItemText(feature), "not there", StateText(feature)});
+  for (const Feature& was : FeaturesOf(before)) {
+    const Feature* const now = after.FindFeature(was.id);
+    const std::string is = now == nullptr ? "deleted" : StateText(*now);
+    if (StateText(was) != is) {
+      command.states.push_back({name, ItemText(was), StateText(was), is});
     }
   }
+  for (const Feature& is : FeaturesOf(after)) {
+    if (before.FindFeature(is.id) != nullptr) continue;
+    command.states.push_back({name, ItemText(is), "not there", StateText(is)});
+  }
+}
+
+// What has a table of its own in the report.
+bool IsToldElsewhere(const std::string& path) {
+  constexpr std::string_view kTold[] = {"parameters/", "features/"};
+  return std::ranges::any_of(kTold, [&](std::string_view list) { return path.starts_with(list); });
+}
+
+void NoteFacts(const std::string& name, const Model& before, const Model& after,
+               CommandRecord& command) {
+  for (const FactChange& change : ChangesBetween(before, after)) {
+    if (IsToldElsewhere(change.path)) continue;
+    command.facts.push_back({name, change.path, change.before, change.after});
+  }
+}
+
+bool HasNoted(const CommandRecord& command, const std::string& model) {
+  return std::ranges::any_of(command.facts,
+                             [&](const ValueChange& change) { return change.model == model; });
 }
 
 }  // namespace
@@ -216,11 +227,10 @@ SessionPicture TakePicture(const Session& session) {
   if (const Model* current = session.Current()) {
     picture.current = current->id.Text();
     // A manufacturing model has no components of its own: its assembly is what users work on.
-    const Model* assembly = current->mfg_assembly_model;
-    picture.tree = TakeTree(assembly ? *assembly : *current);
+    picture.tree = TakeTree(ShownSolid(*current));
   }
   for (const auto& model : session.models()) {
-    picture.models.emplace(model->id.Text(), PictureOf(*model));
+    picture.models.emplace(model->id.Text(), *model);
   }
   return picture;
 }
@@ -234,10 +244,11 @@ void NoteChanges(const SessionPicture& before, const SessionPicture& after,
     if (old != before.models.end()) {
       NoteParameters(name, old->second, now, command);
       NoteStates(name, old->second, now, command);
+      NoteFacts(name, old->second, now, command);
     }
-    if (!now.drawing) continue;
-    const bool changed = old == before.models.end() || old->second.drawing != now.drawing;
-    if (changed || name == after.current) command.drawings.push_back(*now.drawing);
+    if (now.As<DrawingContent>() == nullptr) continue;
+    const bool changed = old == before.models.end() || HasNoted(command, name);
+    if (changed || name == after.current) command.drawings.push_back(DrawingPictureOf(now));
   }
 }
 

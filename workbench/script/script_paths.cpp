@@ -9,8 +9,9 @@ namespace wb {
 namespace {
 
 bool IsNamed(const Feature& feature, const std::string& name) {
-  return feature.IsComponent() &&
-         (EqualFolded(feature.component.name, name) || EqualFolded(feature.component.Text(), name));
+  if (!feature.component) return false;
+  const ModelName& model = feature.component->link.name;
+  return EqualFolded(model.name, name) || EqualFolded(model.Text(), name);
 }
 
 Feature& ComponentOf(Model& parent, const std::string& step) {
@@ -19,10 +20,10 @@ Feature& ComponentOf(Model& parent, const std::string& step) {
   const int number = mark == std::string::npos ? 1 : WholeNumber(step.substr(mark + 1)).value_or(0);
   const bool by_id = mark != std::string::npos && step[mark] == '@';
   int seen = 0;
-  for (Feature& feature : parent.features) {
+  for (const Feature& feature : FeaturesOf(parent)) {
     if (by_id ? feature.IsComponent() && feature.id == number
               : IsNamed(feature, name) && ++seen == number) {
-      return feature;
+      return *parent.FindFeature(feature.id);
     }
   }
   throw ScriptError(parent.id.Text() + " has no component \"" + step + "\"");
@@ -31,7 +32,7 @@ Feature& ComponentOf(Model& parent, const std::string& step) {
 PickedItem PickOf(Model& root, const std::string& path) {
   if (path == ".") return {static_cast<int>(root.id.kind), 0, &root, &root, {}};
   const ComponentSpot spot = FindComponentSpot(root, path);
-  Model* const model = spot.feature->model;
+  Model* const model = spot.feature->ComponentModel();
   if (model == nullptr) {
     throw ScriptError("the model of component \"" + path + "\" is not in session");
   }
@@ -51,7 +52,7 @@ ComponentSpot FindComponentSpot(Model& root, const std::string& path) {
     spot.owner = parent;
     spot.feature = &ComponentOf(*parent, path.substr(at, slash - at));
     spot.ids.push_back(spot.feature->id);
-    parent = spot.feature->model;
+    parent = spot.feature->ComponentModel();
     at = slash + 1;
   }
   return spot;
@@ -87,8 +88,9 @@ std::string DescribePick(const PickedItem& pick) {
   for (const int id : pick.path) {
     Feature* const feature = at == nullptr ? nullptr : at->FindFeature(id);
     text += (text.empty() ? "" : "/");
-    text += feature == nullptr ? "@" + std::to_string(id) : feature->component.name;
-    at = feature == nullptr ? nullptr : feature->model;
+    const bool known = feature != nullptr && feature->component;
+    text += known ? feature->component->link.name.name : "@" + std::to_string(id);
+    at = known ? feature->component->link.model : nullptr;
   }
   return text;
 }

@@ -64,8 +64,7 @@ void CommandRecorder::Note(const CommandRun& result) {
 }
 
 void CommandRecorder::NoteShown() {
-  const std::vector<std::string>& notes = run_.host.messages.notes;
-  record().notes.assign(notes.begin() + static_cast<std::ptrdiff_t>(run_.marks.notes), notes.end());
+  record().notes = run_.host.events.TextsSince<wb::Note>(run_.marks.begin);
 }
 
 void CommandRecorder::NoteCalls() {

@@ -22,13 +22,6 @@ void ReplaceAll(std::string* text, const std::string& what, const std::string& w
   }
 }
 
-// Takes what came to `list` since the mark.
-template <typename List, typename Describe>
-void TakeNew(const List& list, size_t* mark, std::vector<std::string>* complaints,
-             Describe describe) {
-  for (; *mark < list.size(); ++*mark) complaints->push_back(describe(list[*mark]));
-}
-
 std::vector<ScriptHandlers> AllHandlers() {
   return {FolderStatements(),   ModelStatements(),      StateStatements(),
           LifeStatements(),     DialogStatements(),     DialogExpectations(),
@@ -206,21 +199,20 @@ void ScriptRun::Stop(const Statement& at) {
 }
 
 void ScriptRun::BeginMarks() {
-  marks = {
-      host.messages.notes.size(), host.windows.boxes.size(),          host.windows.shell.size(),
-      host.repaints.size(),       host.selection_environments.size(), host.breaches.size(),
-      host.not_modelled.size(),   host.file_problems.size(),          host.messages.missing.size()};
+  marks = {host.events.Mark(), host.events.Mark()};
   host.trace.Restart();
 }
 
 std::vector<std::string> ScriptRun::TakeComplaints() {
   std::vector<std::string> complaints;
-  const auto as_it_is = [](const std::string& text) { return text; };
-  TakeNew(host.breaches, &marks.breaches, &complaints,
-          [](const Breach& breach) { return breach.Text(); });
-  TakeNew(host.not_modelled, &marks.not_modelled, &complaints, as_it_is);
-  TakeNew(host.file_problems, &marks.file_problems, &complaints, as_it_is);
-  TakeNew(host.messages.missing, &marks.missing_texts, &complaints, as_it_is);
+  const auto add = [&](const std::vector<std::string>& texts) {
+    complaints.insert(complaints.end(), texts.begin(), texts.end());
+  };
+  add(host.events.TextsSince<Breach>(marks.told));
+  add(host.events.TextsSince<Gap>(marks.told));
+  add(host.events.TextsSince<FileProblem>(marks.told));
+  add(host.events.TextsSince<MissingText>(marks.told));
+  marks.told = host.events.Mark();
   return complaints;
 }
 
@@ -283,7 +275,7 @@ Model& ScriptRun::ModelNamed(const std::string& name) {
 Model& ScriptRun::Root() {
   Model* const current = host.session.Current();
   if (current == nullptr) throw ScriptError("no model is open, so there are no component paths");
-  return current->mfg_assembly_model != nullptr ? *current->mfg_assembly_model : *current;
+  return ShownSolid(*current);
 }
 
 std::filesystem::path ScriptRun::WorkPath(const std::string& path) const {

@@ -56,10 +56,11 @@ struct ScriptFolders {
   bool kept = false;
 };
 
-// How far each list had come when the last action began: expectations look at what it added.
+// How far the events had come when the last action began, and when complaints were last taken:
+// expectations look at what the action added.
 struct ActionMarks {
-  size_t notes = 0, boxes = 0, shell = 0, repaints = 0, environments = 0;
-  size_t breaches = 0, not_modelled = 0, file_problems = 0, missing_texts = 0;
+  size_t begin = 0;
+  size_t told = 0;
 };
 
 class ScriptRun {

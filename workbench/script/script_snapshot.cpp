@@ -3,6 +3,7 @@
 
 #include <fstream>
 #include <set>
+#include <unordered_set>
 
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
@@ -38,15 +39,22 @@ void WriteBack(const fs::path& file, const std::string& content) {
   std::ofstream(file, std::ios::binary | std::ios::trunc) << content;
 }
 
-// Facts that a command may change; surfaces stay, since handles point at them.
-void CopyChangeable(const Model& from, Model* to) {
-  to->features = from.features;
-  to->parameters = from.parameters;
-  to->sheets = from.sheets;
-  to->modified = from.modified;
-  to->version = from.version;
-  to->folder = from.folder;
-  to->Reindex();
+std::vector<bool> ResolvedLinks(Model& model) {
+  std::vector<bool> resolved;
+  ForEachLink(model, [&](const ModelLink& link) { resolved.push_back(link.model != nullptr); });
+  return resolved;
+}
+
+// The whole of `held`, but under the handle that the model has now.
+void PutBack(const Model& held, const std::vector<bool>& resolved, Session& session) {
+  Model& model = *session.Find(held.id);
+  void* const handle = model.handle;
+  model = held;
+  model.handle = handle;
+  auto was_resolved = resolved.begin();
+  ForEachLink(model, [&](ModelLink& link) {
+    link.model = *was_resolved++ ? session.Find(link.name) : nullptr;
+  });
 }
 
 }  // namespace
@@ -89,10 +97,7 @@ SessionSnapshot::SessionSnapshot(const Host& host, const std::vector<fs::path>& 
       working_directory_(host.session.working_directory()),
       options_(host.options) {
   for (const auto& model : host.session.models()) {
-    HeldModel& held = models_.emplace_back(HeldModel{*model, {}});
-    for (const Feature& feature : model->features) {
-      held.resolved.push_back(feature.model != nullptr);
-    }
+    models_.push_back({*model, ResolvedLinks(*model)});
   }
   for (const PickedItem& pick : host.session.selection_buffer) {
     buffer_.push_back({pick, pick.owner->id, pick.root->id});
@@ -105,26 +110,17 @@ SessionSnapshot::SessionSnapshot(const Host& host, const std::vector<fs::path>& 
 }
 
 void SessionSnapshot::RestoreModels(Session& session) const {
+  std::unordered_set<std::string> held_names;
+  for (const HeldModel& held : models_) held_names.insert(held.model.id.Text());
   std::vector<Model*> newcomers;
   for (const auto& model : session.models()) {
-    const auto is_held = [&](const HeldModel& held) {
-      return held.model.id.Text() == model->id.Text();
-    };
-    if (std::none_of(models_.begin(), models_.end(), is_held)) newcomers.push_back(model.get());
+    if (!held_names.contains(model->id.Text())) newcomers.push_back(model.get());
   }
   for (Model* const model : newcomers) session.Erase(*model);
   for (const HeldModel& held : models_) {
-    if (session.Find(held.model.id) == nullptr) session.Add(Model(held.model));
+    if (session.Find(held.model.id) == nullptr) session.Add(held.model);
   }
-  for (const HeldModel& held : models_) {
-    Model& model = *session.Find(held.model.id);
-    CopyChangeable(held.model, &model);
-    for (size_t i = 0; i < model.features.size(); ++i) {
-      Feature& feature = model.features[i];
-      feature.model = held.resolved[i] ? session.Find(feature.component) : nullptr;
-    }
-    if (held.model.mfg_assembly) model.mfg_assembly_model = session.Find(*held.model.mfg_assembly);
-  }
+  for (const HeldModel& held : models_) PutBack(held.model, held.resolved, session);
 }
 
 void SessionSnapshot::RestoreWindows(Session& session) const {

@@ -33,7 +33,7 @@ class SessionSnapshot {
  private:
   struct HeldModel {
     Model model;
-    std::vector<bool> resolved;  // which of its components had their model in session
+    std::vector<bool> resolved;  // which of its links had their model in session
   };
   struct HeldPick {
     PickedItem pick;

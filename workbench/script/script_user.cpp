@@ -99,8 +99,8 @@ void ScriptUser::Fire(LiveDialog& dialog, const std::string& component, const st
   const bool bound = dialog.Fire(component, event);
   if (bound || run_.lenient) return;
   if (component.empty()) run_.Fail(Place(), "dialog " + dialog.name + " has no close action");
-  Component* button = nullptr;
-  if (dialog.state.Find(ComponentKind::kPushButton, component, &button) == UiStatus::kOk) {
+  Field* button = nullptr;
+  if (dialog.state.Find(FieldKind::kPushButton, component, &button) == UiStatus::kOk) {
     run_.Fail(Place(), "nothing is bound to " + component + " of dialog " + dialog.name);
   }
 }

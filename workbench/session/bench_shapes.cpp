@@ -12,22 +12,18 @@ constexpr int kBranches = 10;
 constexpr char kTop[] = "top";
 
 Model NewModel(std::string name, ModelKind kind) {
-  Model model;
-  model.id = {std::move(name), kind};
-  return model;
+  return Model({std::move(name), kind});
 }
 
 Model& AddPart(Session& session, int number) {
   Model part = NewModel("part" + std::to_string(number), ModelKind::kPart);
-  part.parameters.push_back({"材料", std::string("Q235")});
+  part.parameters.Add({"材料", std::string("Q235")});
   return session.Add(std::move(part));
 }
 
 void Place(Model& assembly, const Model& component) {
-  Feature feature;
-  feature.id = static_cast<int>(assembly.features.size()) + 1;
-  feature.component = component.id;
-  assembly.features.push_back(std::move(feature));
+  ItemList<Feature>& features = assembly.solid().features;
+  features.Add(NewComponent(static_cast<int>(features.size()) + 1, component.id));
 }
 
 Model& BuildFlat(Session& session, int occurrences) {
@@ -47,7 +43,7 @@ Model& BuildHalfSuppressed(Session& session, int occurrences) {
   Model top = NewModel(kTop, ModelKind::kAssembly);
   for (int i = 0; i < occurrences; ++i) {
     Place(top, AddPart(session, i));
-    if (i % 2 == 1) top.features.back().status = FeatureStatus::kSuppressed;
+    if (i % 2 == 1) top.solid().features.back().status = FeatureStatus::kSuppressed;
   }
   return session.Add(std::move(top));
 }

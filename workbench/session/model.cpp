@@ -13,19 +13,16 @@ const ModelKindRow* FindKind(auto&& matches) {
   return found == std::end(kKindNames) ? nullptr : found;
 }
 
-struct StatusWord {
-  FeatureStatus status;
-  const char* word;
-};
-constexpr StatusWord kStatusWords[] = {
-    {FeatureStatus::kActive, "active"},
-    {FeatureStatus::kInactive, "inactive"},
-    {FeatureStatus::kFamilyTableSuppressed, "family_table_suppressed"},
-    {FeatureStatus::kSimplifiedRepSuppressed, "simplified_rep_suppressed"},
-    {FeatureStatus::kProgramSuppressed, "program_suppressed"},
-    {FeatureStatus::kSuppressed, "suppressed"},
-    {FeatureStatus::kUnregenerated, "unregenerated"},
-};
+ModelContent ContentOf(ModelKind kind) {
+  switch (kind) {
+    case ModelKind::kDrawing:
+      return DrawingContent();
+    case ModelKind::kManufacturing:
+      return ManufacturingContent();
+    default:
+      return SolidContent();
+  }
+}
 
 }  // namespace
 
@@ -70,66 +67,65 @@ std::string ParameterText(const ParameterValue& value) {
   return std::get<bool>(value) ? "yes" : "no";
 }
 
-const char* FeatureStatusWord(FeatureStatus status) {
-  for (const StatusWord& row : kStatusWords) {
-    if (row.status == status) return row.word;
-  }
-  return "unknown";
+Feature NewComponent(int id, ModelName model, const Placement& placement) {
+  Feature feature;
+  feature.id = id;
+  feature.component = ComponentPart{{std::move(model), nullptr}, placement};
+  return feature;
 }
 
-std::optional<FeatureStatus> FeatureStatusFromWord(std::string_view word) {
-  for (const StatusWord& row : kStatusWords) {
-    if (word == row.word) return row.status;
-  }
-  return std::nullopt;
-}
+Model::Model(ModelName name) : id(std::move(name)), content(ContentOf(id.kind)) {}
 
 Feature* Model::FindFeature(int feature_id) {
-  // Features are mostly numbered without a gap; the index would cost more than the call it serves.
-  if (!features.empty() && feature_id >= features.front().id) {
-    const auto place = static_cast<size_t>(feature_id) - static_cast<size_t>(features.front().id);
-    if (place < features.size() && features[place].id == feature_id) return &features[place];
-  }
-  const auto found = feature_index_.find(feature_id);
-  return found == feature_index_.end() ? nullptr : &features[found->second];
+  SolidContent* const solid_content = As<SolidContent>();
+  return solid_content == nullptr ? nullptr : solid_content->features.Find(feature_id);
+}
+
+const Feature* Model::FindFeature(int feature_id) const {
+  return const_cast<Model*>(this)->FindFeature(feature_id);
 }
 
 Parameter* Model::FindParameter(std::string_view name) {
-  const auto found = parameter_index_.find(FoldCase(name));
-  return found == parameter_index_.end() ? nullptr : &parameters[found->second];
+  return parameters.Find(FoldCase(name));
 }
 
 void Model::SetParameter(const std::string& name, ParameterValue value) {
   modified = true;
-  if (Parameter* existing = FindParameter(name)) {
+  if (Parameter* const existing = FindParameter(name)) {
     existing->value = std::move(value);
-    return;
+  } else {
+    parameters.Add({name, std::move(value)});
   }
-  parameter_index_[FoldCase(name)] = parameters.size();
-  parameters.push_back({name, std::move(value)});
 }
 
 bool Model::DeleteParameter(std::string_view name) {
-  const auto found = parameter_index_.find(FoldCase(name));
-  if (found == parameter_index_.end()) return false;
-  parameters.erase(parameters.begin() + static_cast<std::ptrdiff_t>(found->second));
+  if (!parameters.Remove(FoldCase(name))) return false;
   modified = true;
-  Reindex();
   return true;
 }
 
-int Model::NextFeatureId() const {
-  int highest = 0;
-  for (const Feature& feature : features) highest = std::max(highest, feature.id);
-  return highest + 1;
+const ItemList<Feature>& FeaturesOf(const Model& model) {
+  static const ItemList<Feature> kNone;
+  const SolidContent* const solid_content = model.As<SolidContent>();
+  return solid_content == nullptr ? kNone : solid_content->features;
 }
 
-void Model::Reindex() {
-  feature_index_.clear();
-  parameter_index_.clear();
-  for (size_t i = 0; i < features.size(); ++i) feature_index_.emplace(features[i].id, i);
-  for (size_t i = 0; i < parameters.size(); ++i) {
-    parameter_index_.emplace(FoldCase(parameters[i].name), i);
+const Model& ShownSolid(const Model& model) {
+  const ManufacturingContent* const manufacturing = model.As<ManufacturingContent>();
+  const bool has_one = manufacturing != nullptr && manufacturing->assembly &&
+                       manufacturing->assembly->model != nullptr;
+  return has_one ? *manufacturing->assembly->model : model;
+}
+
+void ForEachLink(Model& model, const std::function<void(ModelLink&)>& use) {
+  if (SolidContent* const solid_content = model.As<SolidContent>()) {
+    for (Feature& feature : solid_content->features) {
+      if (feature.component) use(feature.component->link);
+    }
+  } else if (DrawingContent* const drawing = model.As<DrawingContent>()) {
+    if (drawing->shows) use(*drawing->shows);
+  } else if (ManufacturingContent* const manufacturing = model.As<ManufacturingContent>()) {
+    if (manufacturing->assembly) use(*manufacturing->assembly);
   }
 }
 

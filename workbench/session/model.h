@@ -1,14 +1,19 @@
-// A model of the workbench's session: what its file holds, plus what only a session knows.
+// A model of the workbench's session: what its file holds, plus what only a session knows. Every
+// model has an identity, parameters and links to other models; what else it holds depends on its
+// kind.
 #pragma once
 
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <variant>
 #include <vector>
+
+#include "workbench/session/facts.h"
+#include "workbench/session/item_list.h"
 
 namespace wb {
 
@@ -43,6 +48,14 @@ struct ModelName {
 // "bolt.prt" -> name and kind; no value when the extension is unknown or missing.
 std::optional<ModelName> ParseModelName(std::string_view text);
 
+struct Model;
+
+// A model that another one refers to.
+struct ModelLink {
+  ModelName name;
+  Model* model = nullptr;  // null: not found in session
+};
+
 // Lengths are millimetres.
 using Point = std::array<double, 3>;
 struct Box {
@@ -75,12 +88,14 @@ enum class FeatureStatus {
   kSuppressed = 5,
   kUnregenerated = 6,
 };
-const char* FeatureStatusWord(FeatureStatus status);
-std::optional<FeatureStatus> FeatureStatusFromWord(std::string_view word);
 
 inline constexpr int kComponentFeatureType = 1000;
 
-struct Model;
+// What makes a feature a component.
+struct ComponentPart {
+  ModelLink link;
+  Placement placement = kIdentityPlacement;
+};
 
 struct Feature {
   int id = 0;
@@ -89,11 +104,17 @@ struct Feature {
   bool visible = true;
   int status_flags = 0;
   bool hidden = false;
-  // Of component features only:
-  Model* model = nullptr;  // null: not found in session
-  ModelName component;
-  Placement placement = kIdentityPlacement;
-  bool IsComponent() const { return type == kComponentFeatureType; }
+  std::optional<ComponentPart> component = std::nullopt;
+
+  bool IsComponent() const { return component.has_value(); }
+  // Of the component's model; null also for other features.
+  Model* ComponentModel() const { return component ? component->link.model : nullptr; }
+};
+Feature NewComponent(int id, ModelName model, const Placement& placement = kIdentityPlacement);
+
+struct Surface {
+  int id = 0;
+  Box box;
 };
 
 struct Sheet {
@@ -101,36 +122,73 @@ struct Sheet {
   double scale = 1.0;
 };
 
-struct Model {
-  ModelName id;
-  void* handle = nullptr;
+// Parts and assemblies.
+struct SolidContent {
   bool sheet_metal = false;
   bool skeleton = false;
-  std::string note;  // free text of the model file, kept through a save
-  std::vector<Feature> features;
-  std::vector<Parameter> parameters;
-  std::vector<Box> surfaces;
-  std::vector<Sheet> sheets;              // drawings
-  std::optional<ModelName> drawing_of;    // drawings: the solid shown
-  std::optional<ModelName> mfg_assembly;  // manufacturing models
-  Model* mfg_assembly_model = nullptr;
+  ItemList<Feature> features;
+  ItemList<Surface> surfaces;
+};
 
+struct DrawingContent {
+  std::optional<ModelLink> shows;  // the solid drawn
+  std::vector<Sheet> sheets;
+};
+
+struct ManufacturingContent {
+  std::optional<ModelLink> assembly;
+};
+
+using ModelContent = std::variant<SolidContent, DrawingContent, ManufacturingContent>;
+
+struct Model {
+  Model() : Model(ModelName{}) {}
+  // With the content of its kind, empty.
+  explicit Model(ModelName name);
+
+  ModelName id;
+  std::string note;  // free text of the model file, kept through a save
+  ItemList<Parameter> parameters;
+  ModelContent content;
+
+  // What only the session knows.
+  void* handle = nullptr;
   std::filesystem::path folder;
   int version = 0;
   bool modified = false;
 
+  // The content, of a model that has it; null for others.
+  template <typename Content>
+  Content* As() {
+    return std::get_if<Content>(&content);
+  }
+  template <typename Content>
+  const Content* As() const {
+    return std::get_if<Content>(&content);
+  }
+  // Of a part or assembly only.
+  SolidContent& solid() { return std::get<SolidContent>(content); }
+  const SolidContent& solid() const { return std::get<SolidContent>(content); }
+
+  // Null for no such feature, and for models that have none.
   Feature* FindFeature(int feature_id);
+  const Feature* FindFeature(int feature_id) const;
   Parameter* FindParameter(std::string_view name);
   // Adds or replaces; keeps the order of first definition.
   void SetParameter(const std::string& name, ParameterValue value);
   bool DeleteParameter(std::string_view name);
-  int NextFeatureId() const;
-  // Call after `features` or `parameters` changed other than through the members above.
-  void Reindex();
-
- private:
-  std::unordered_map<int, size_t> feature_index_;
-  std::unordered_map<std::string, size_t> parameter_index_;
 };
+
+// The features of a part or assembly; of other models an empty list.
+const ItemList<Feature>& FeaturesOf(const Model& model);
+
+// What a user sees of a model as its structure: of a manufacturing model its assembly.
+const Model& ShownSolid(const Model& model);
+inline Model& ShownSolid(Model& model) {
+  return const_cast<Model&>(ShownSolid(static_cast<const Model&>(model)));
+}
+
+// Every link of a model to another one, in order.
+void ForEachLink(Model& model, const std::function<void(ModelLink&)>& use);
 
 }  // namespace wb

@@ -12,12 +12,17 @@ namespace {
 // A model on the way down, and which of those under it comes next.
 struct Step {
   const Model* model;
+  std::vector<const Model*> under;
   size_t next = 0;
 };
 
-// The models under `model` are its components' and, last, the assembly of a manufacturing model.
-const Model* ModelUnder(const Model& model, size_t index) {
-  return index < model.features.size() ? model.features[index].model : model.mfg_assembly_model;
+// The models that `model` refers to and that are in session.
+std::vector<const Model*> ModelsUnder(const Model& model) {
+  std::vector<const Model*> under;
+  ForEachLink(const_cast<Model&>(model), [&](const ModelLink& link) {
+    if (link.model != nullptr) under.push_back(link.model);
+  });
+  return under;
 }
 
 class CycleSearch {
@@ -27,14 +32,14 @@ class CycleSearch {
     Enter(top);
     while (!way_.empty()) {
       Step& step = way_.back();
-      if (step.next > step.model->features.size()) {
+      if (step.next == step.under.size()) {
         on_way_.erase(step.model);
         way_.pop_back();
         continue;
       }
-      const Model* const under = ModelUnder(*step.model, step.next++);
-      if (under != nullptr && on_way_.contains(under)) return CycleOf(under);
-      if (under != nullptr) Enter(under);
+      const Model* const under = step.under[step.next++];
+      if (on_way_.contains(under)) return CycleOf(under);
+      Enter(under);
     }
     return {};
   }
@@ -43,7 +48,7 @@ class CycleSearch {
   // Each model is walked once, however often it is placed.
   void Enter(const Model* model) {
     if (!walked_.insert(model).second) return;
-    way_.push_back({model});
+    way_.push_back({model, ModelsUnder(*model)});
     on_way_.insert(model);
   }
 

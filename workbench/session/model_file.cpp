@@ -1,17 +1,34 @@
-// Reads and writes model documents.
+// Reads and writes model documents by the tables of facts.
 #include "workbench/session/model_file.h"
 
+#include <algorithm>
 #include <fstream>
+#include <functional>
+#include <limits>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
 #include "workbench/base/text.h"
+#include "workbench/session/model_facts.h"
 
 namespace wb {
 namespace {
 
 using Json = nlohmann::ordered_json;
-constexpr int kFormat = 1;
+
+// Files of format 1 gave surfaces as two corners without an id. All formats up to ours are read.
+constexpr int kFormat = 2;
+constexpr int kFormatOfBareSurfaces = 1;
+
+// Where in a document something stands: keys, and numbers of list items from 0.
+using DocumentPath = std::vector<std::string>;
+
+// What is wrong with the entry at `path`.
+struct EntryError : std::runtime_error {
+  EntryError(DocumentPath at, const std::string& why)
+      : std::runtime_error(why), path(std::move(at)) {}
+  DocumentPath path;
+};
 
 // Wraps every complaint about one file, so that it names the file and the way out.
 [[noreturn]] void Fail(const std::filesystem::path& file, const std::string& why) {
@@ -19,104 +36,182 @@ constexpr int kFormat = 1;
                        "; mend the file, or delete it and import or save the model again");
 }
 
-Json BoxJson(const Box& box) {
-  return {{box.min[0], box.min[1], box.min[2]}, {box.max[0], box.max[1], box.max[2]}};
+Json ToJson(const FactValue& value) {
+  return std::visit(
+      [](const auto& held) -> Json {
+        if constexpr (std::is_same_v<std::remove_cvref_t<decltype(held)>, std::monostate>) {
+          return nullptr;
+        } else {
+          return held;
+        }
+      },
+      value);
 }
 
-Json FeatureJson(const Feature& feature) {
-  Json json;
-  json["id"] = feature.id;
-  json["type"] = feature.type;
-  if (feature.IsComponent()) json["model"] = feature.component.Text();
-  if (feature.status != FeatureStatus::kActive) json["status"] = FeatureStatusWord(feature.status);
-  if (!feature.visible) json["visible"] = false;
-  if (feature.status_flags != 0) json["flags"] = feature.status_flags;
-  if (feature.hidden) json["hidden"] = true;
-  if (feature.placement != kIdentityPlacement) json["placement"] = feature.placement;
-  return json;
+// Numbers of lists inside lists one after another.
+void CollectNumbers(const Json& json, std::vector<double>& numbers) {
+  if (json.is_number()) {
+    numbers.push_back(json.get<double>());
+  } else if (json.is_array()) {
+    for (const Json& item : json) CollectNumbers(item, numbers);
+  } else {
+    throw FactError("a list of numbers is wanted");
+  }
 }
 
-Json ParameterJson(const Parameter& parameter) {
-  Json json;
-  json["name"] = parameter.name;
-  json["type"] = ParameterTypeWord(parameter.value);
-  std::visit([&](const auto& value) { json["value"] = value; }, parameter.value);
-  return json;
+FactValue FromJson(const Json& json) {
+  if (json.is_boolean()) return json.get<bool>();
+  if (json.is_number_integer()) {
+    const auto number = json.get<long long>();
+    const bool fits =
+        number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
+    return fits ? FactValue(static_cast<int>(number)) : FactValue(static_cast<double>(number));
+  }
+  if (json.is_number()) return json.get<double>();
+  if (json.is_string()) return json.get<std::string>();
+  std::vector<double> numbers;
+  CollectNumbers(json, numbers);
+  return numbers;
 }
 
-ParameterValue ParameterFromJson(const Json& json) {
-  const std::string type = json.at("type");
-  const Json& value = json.at("value");
-  if (type == "real") return value.get<double>();
-  if (type == "string") return value.get<std::string>();
-  if (type == "integer") return value.get<int>();
-  if (type == "yes_no") return value.get<bool>();
-  throw std::runtime_error("unknown parameter type \"" + type +
-                           "\" (real, string, integer and yes_no are known)");
+Json RecordJson(const RecordType& type, void* record);
+
+void AddFacts(const RecordType& type, void* record, Json& json) {
+  for (const FactRow& row : type.facts) {
+    const FactValue value = row.get(record);
+    if (std::holds_alternative<std::monostate>(value)) continue;
+    const bool always = row.in_file != InFile::kIfNotDefault;
+    if (always || value != row.get(type.plain())) json[row.name] = ToJson(value);
+  }
 }
 
-ModelName NameFromJson(const Json& json) {
-  const std::string text = json;
-  const auto name = ParseModelName(text);
-  if (!name) throw std::runtime_error("\"" + text + "\" is no model name such as \"bolt.prt\"");
-  return *name;
-}
-
-Feature FeatureFromJson(const Json& json) {
-  Feature feature;
-  feature.id = json.at("id");
-  feature.type = json.value("type", kComponentFeatureType);
-  if (feature.IsComponent()) feature.component = NameFromJson(json.at("model"));
-  const std::string status = json.value("status", "active");
-  const auto known = FeatureStatusFromWord(status);
-  if (!known) throw std::runtime_error("unknown feature status \"" + status + "\"");
-  feature.status = *known;
-  feature.visible = json.value("visible", true);
-  feature.status_flags = json.value("flags", 0);
-  feature.hidden = json.value("hidden", false);
-  if (json.contains("placement")) feature.placement = json.at("placement").get<Placement>();
-  return feature;
-}
-
-Box BoxFromJson(const Json& json) {
-  return {json.at(0).get<Point>(), json.at(1).get<Point>()};
-}
-
-// Two features with one id would make every selection of it ambiguous.
-void CheckUniqueIds(const Model& model) {
-  std::unordered_map<int, int> seen;
-  for (const Feature& feature : model.features) {
-    if (++seen[feature.id] > 1) {
-      throw std::runtime_error("feature id " + std::to_string(feature.id) + " occurs twice");
+void AddLists(const RecordType& type, void* record, Json& json) {
+  for (const ListRow& list : type.lists) {
+    for (size_t i = 0; i < list.size(record); ++i) {
+      json[list.name].push_back(RecordJson(list.type(), list.at(record, i)));
     }
   }
 }
 
-Model ModelFromJson(const Json& json) {
-  if (json.at("format").get<int>() != kFormat) {
-    throw std::runtime_error("unknown format number " + json.at("format").dump());
+Json RecordJson(const RecordType& type, void* record) {
+  Json json = Json::object();
+  AddFacts(type, record, json);
+  AddLists(type, record, json);
+  return json;
+}
+
+void ReadFacts(const RecordRef& ref, const Json& json, DocumentPath& path) {
+  for (const FactRow& row : ref.type->facts) {
+    if (!json.contains(row.name)) {
+      if (row.in_file != InFile::kRequired) continue;
+      throw EntryError(path, "\"" + std::string(row.name) + "\" is missing");
+    }
+    path.push_back(row.name);
+    try {
+      row.set(ref.record, FromJson(json.at(row.name)));
+    } catch (const FactError& error) {
+      throw EntryError(path, "\"" + path.back() + "\": " + error.what());
+    }
+    path.pop_back();
   }
-  Model model;
-  model.id = NameFromJson(json.at("model"));
-  model.sheet_metal = json.value("sheet_metal", false);
-  model.skeleton = json.value("skeleton", false);
-  model.note = json.value("note", "");
-  for (const Json& item : json.value("features", Json::array())) {
-    model.features.push_back(FeatureFromJson(item));
+}
+
+void ReadRecord(std::span<const RecordRef> refs, const Json& json, DocumentPath& path,
+                std::span<const char* const> other_keys = {});
+
+void ReadList(const RecordRef& ref, const ListRow& list, const Json& json, DocumentPath& path) {
+  path.push_back(list.name);
+  if (!json.is_array()) throw EntryError(path, "\"" + path.back() + "\" is no list");
+  for (size_t i = 0; i < json.size(); ++i) {
+    path.push_back(std::to_string(i));
+    const std::shared_ptr<void> item = list.type().make();
+    const RecordRef item_ref{item.get(), &list.type()};
+    ReadRecord({&item_ref, 1}, json[i], path);
+    try {
+      list.add(ref.record, item.get());
+    } catch (const FactError& error) {
+      throw EntryError(path, std::string(list.name) + ": " + error.what());
+    }
+    path.pop_back();
   }
-  for (const Json& item : json.value("parameters", Json::array())) {
-    model.parameters.push_back({item.at("name"), ParameterFromJson(item)});
+  path.pop_back();
+}
+
+bool IsKnown(std::span<const RecordRef> refs, const std::string& key) {
+  const auto named = [&](const auto& row) { return key == row.name; };
+  return std::ranges::any_of(refs, [&](const RecordRef& ref) {
+    return std::ranges::any_of(ref.type->facts, named) ||
+           std::ranges::any_of(ref.type->lists, named);
+  });
+}
+
+// An entry that nobody reads would be lost with the next save.
+void RefuseUnknownKeys(std::span<const RecordRef> refs, const Json& json, DocumentPath& path,
+                       std::span<const char* const> other_keys) {
+  for (const auto& [key, value] : json.items()) {
+    if (IsKnown(refs, key) || std::ranges::find(other_keys, key) != other_keys.end()) continue;
+    path.push_back(key);
+    throw EntryError(path, "unknown entry \"" + key + "\"");
   }
-  for (const Json& item : json.value("surfaces", Json::array())) {
-    model.surfaces.push_back(BoxFromJson(item));
+}
+
+void ReadRecord(std::span<const RecordRef> refs, const Json& json, DocumentPath& path,
+                std::span<const char* const> other_keys) {
+  if (!json.is_object()) throw EntryError(path, "an entry in braces is wanted");
+  RefuseUnknownKeys(refs, json, path, other_keys);
+  for (const RecordRef& ref : refs) {
+    ReadFacts(ref, json, path);
+    for (const ListRow& list : ref.type->lists) {
+      if (json.contains(list.name)) ReadList(ref, list, json.at(list.name), path);
+    }
   }
-  for (const Json& item : json.value("sheets", Json::array())) {
-    model.sheets.push_back({item.at("size"), item.value("scale", 1.0)});
+}
+
+// The component part stands in a component and nowhere else.
+void CheckFeatures(const Model& model) {
+  size_t place = 0;
+  for (const Feature& feature : FeaturesOf(model)) {
+    const DocumentPath path = {"features", std::to_string(place++)};
+    const bool wants_model = feature.type == kComponentFeatureType;
+    if (wants_model && !feature.component) throw EntryError(path, "\"model\" is missing");
+    if (!wants_model && feature.component) {
+      throw EntryError(path, "a feature of type " + std::to_string(feature.type) +
+                                 " has neither \"model\" nor \"placement\"");
+    }
   }
-  if (json.contains("drawing_of")) model.drawing_of = NameFromJson(json.at("drawing_of"));
-  if (json.contains("assembly")) model.mfg_assembly = NameFromJson(json.at("assembly"));
-  CheckUniqueIds(model);
-  model.Reindex();
+}
+
+// Surfaces of format 1, two corners each, as records numbered from 1.
+void NumberBareSurfaces(Json& json) {
+  if (!json.contains("surfaces") || !json["surfaces"].is_array()) return;
+  int id = 0;
+  for (Json& surface : json["surfaces"]) {
+    ++id;
+    if (!surface.is_array() || surface.size() != 2) continue;
+    surface = Json{{"id", id}, {"min", surface[0]}, {"max", surface[1]}};
+  }
+}
+
+int FormatOf(const Json& json) {
+  const Json format = json.is_object() ? json.value("format", Json()) : Json();
+  const int number = format.is_number_integer() ? format.get<int>() : 0;
+  if (number >= 1 && number <= kFormat) return number;
+  throw EntryError({"format"}, "unknown format number " + format.dump() + " (1 to " +
+                                   std::to_string(kFormat) + " are known)");
+}
+
+Model ModelFromJson(Json json) {
+  if (FormatOf(json) == kFormatOfBareSurfaces) NumberBareSurfaces(json);
+  const std::string text = json.value("model", "");
+  const auto name = ParseModelName(text);
+  if (!name) {
+    throw EntryError({"model"}, "\"" + text + "\" is no model name such as \"bolt.prt\"");
+  }
+  Model model(*name);
+  DocumentPath path;
+  static constexpr const char* kHead[] = {"format", "model"};
+  ReadRecord(RecordsOf(model), json, path, kHead);
+  CheckFeatures(model);
   return model;
 }
 
@@ -135,43 +230,80 @@ int LineOfByte(const std::string& text, size_t byte) {
          static_cast<int>(std::count(text.begin(), text.begin() + static_cast<long>(end), '\n'));
 }
 
+// Reads a document entry by entry and keeps the line of the last one that `matches` accepts by its
+// path and value.
+class LineSearch {
+ public:
+  using Matches = std::function<bool(const DocumentPath& path, const Json& value)>;
+
+  LineSearch(const std::string& text, Matches matches)
+      : text_(text), in_(text), matches_(std::move(matches)) {}
+
+  int Line() {
+    const Json read = Json::parse(in_, [this](int, Json::parse_event_t event, Json& value) {
+      Look(event, value);
+      return true;
+    });
+    return std::max(line_, 1);
+  }
+
+ private:
+  using Event = Json::parse_event_t;
+
+  void Look(Event event, const Json& value) {
+    if (event == Event::key) {
+      path_.back() = value.get<std::string>();
+      return;
+    }
+    if (event == Event::object_end || event == Event::array_end) {
+      path_.pop_back();
+      counts_.pop_back();
+      return;
+    }
+    CountInList();
+    if (line_ == 0 && matches_(path_, value)) {
+      line_ = LineOfByte(text_, static_cast<size_t>(in_.tellg()));
+    }
+    if (event == Event::value) return;
+    path_.emplace_back();
+    counts_.push_back(event == Event::array_start ? 0 : -1);
+  }
+  void CountInList() {
+    if (!counts_.empty() && counts_.back() >= 0) path_.back() = std::to_string(counts_.back()++);
+  }
+
+  const std::string& text_;
+  std::istringstream in_;
+  Matches matches_;
+  DocumentPath path_;
+  std::vector<int> counts_;  // of items of the lists we are in; -1 for an object
+  int line_ = 0;
+};
+
+int LineOf(const std::string& text, const DocumentPath& wanted) {
+  return LineSearch(text, [&](const DocumentPath& path, const Json&) { return path == wanted; })
+      .Line();
+}
+
 // The line of the component `under`, or of such an assembly; the first line when none names it.
 int LineNaming(const std::string& text, const ModelName& under) {
-  constexpr int kTopLevel = 1;
-  std::istringstream in(text);
-  std::string key;
-  int line = 0;
-  const auto look = [&](int depth, Json::parse_event_t event, const Json& value) {
-    if (event == Json::parse_event_t::key) key = value;
-    const bool names = key == "assembly" || (key == "model" && depth > kTopLevel);
-    const bool is_text = event == Json::parse_event_t::value && value.is_string();
-    if (line != 0 || !names || !is_text) return true;
-    if (EqualFolded(value.get<std::string>(), under.Text())) {
-      line = LineOfByte(text, static_cast<size_t>(in.tellg()));
-    }
-    return true;
-  };
-  const Json read = Json::parse(in, look);
-  return std::max(line, 1);
+  return LineSearch(text,
+                    [&](const DocumentPath& path, const Json& value) {
+                      if (path.empty() || !value.is_string()) return false;
+                      const bool names =
+                          path.back() == "assembly" || (path.back() == "model" && path.size() > 1);
+                      return names && EqualFolded(value.get<std::string>(), under.Text());
+                    })
+      .Line();
 }
 
 Json ModelJson(const Model& model) {
   Json json;
   json["format"] = kFormat;
   json["model"] = model.id.Text();
-  if (model.sheet_metal) json["sheet_metal"] = true;
-  if (model.skeleton) json["skeleton"] = true;
-  if (!model.note.empty()) json["note"] = model.note;
-  if (model.mfg_assembly) json["assembly"] = model.mfg_assembly->Text();
-  if (model.drawing_of) json["drawing_of"] = model.drawing_of->Text();
-  for (const Sheet& sheet : model.sheets) {
-    json["sheets"].push_back({{"size", sheet.size}, {"scale", sheet.scale}});
-  }
-  for (const Parameter& parameter : model.parameters) {
-    json["parameters"].push_back(ParameterJson(parameter));
-  }
-  for (const Feature& feature : model.features) json["features"].push_back(FeatureJson(feature));
-  for (const Box& box : model.surfaces) json["surfaces"].push_back(BoxJson(box));
+  const auto records = RecordsOf(const_cast<Model&>(model));
+  for (const RecordRef& ref : records) AddFacts(*ref.type, ref.record, json);
+  for (const RecordRef& ref : records) AddLists(*ref.type, ref.record, json);
   return json;
 }
 
@@ -186,6 +318,8 @@ Model ReadModelFile(const std::filesystem::path& file) {
     return model;
   } catch (const nlohmann::json::parse_error& error) {
     Fail(file, "line " + std::to_string(LineOfByte(text, error.byte)) + ": not valid JSON");
+  } catch (const EntryError& error) {
+    Fail(file, "line " + std::to_string(LineOf(text, error.path)) + ": " + error.what());
   } catch (const std::exception& error) {
     Fail(file, error.what());
   }

@@ -15,29 +15,6 @@ std::string Key(const ModelName& name) {
   return FoldCase(name.Text());
 }
 
-constexpr int kAssemblyType = 1;
-constexpr int kPartType = 2;
-
-// "bolt#2" -> "bolt" and 2.
-std::pair<std::string, int> SplitOccurrence(const std::string& step) {
-  const size_t mark = step.rfind('#');
-  if (mark == std::string::npos) return {step, 1};
-  return {step.substr(0, mark), std::atoi(step.c_str() + mark + 1)};
-}
-
-bool Names(const Feature& feature, const std::string& name) {
-  return EqualFolded(feature.component.name, name) || EqualFolded(feature.component.Text(), name);
-}
-
-const Feature& FindComponent(const Model& parent, const std::string& step) {
-  const auto [name, wanted] = SplitOccurrence(step);
-  int seen = 0;
-  for (const Feature& feature : parent.features) {
-    if (feature.IsComponent() && Names(feature, name) && ++seen == wanted) return feature;
-  }
-  throw std::runtime_error("\"" + parent.id.Text() + "\" has no component \"" + step + "\"");
-}
-
 }  // namespace
 
 FolderIndex::FolderIndex(const std::filesystem::path& folder) {
@@ -97,15 +74,10 @@ Model* Session::RetrieveTree(const ModelName& name, const FolderIndex& folder) {
     Model* const model = pending.back();
     pending.pop_back();
     loaded.push_back(model);
-    const auto want = [&](const ModelName& wanted) {
-      if (Find(wanted) != nullptr) return;
-      if (Model* const found = Load(wanted, folder)) pending.push_back(found);
-    };
-    for (const Feature& feature : model->features) {
-      if (feature.IsComponent()) want(feature.component);
-    }
-    if (model->mfg_assembly) want(*model->mfg_assembly);
-    if (model->drawing_of) want(*model->drawing_of);
+    ForEachLink(*model, [&](const ModelLink& link) {
+      if (Find(link.name) != nullptr) return;
+      if (Model* const found = Load(link.name, folder)) pending.push_back(found);
+    });
     Resolve(*model);
   }
   RefuseCycle(loaded, folder);
@@ -133,7 +105,6 @@ Model* Session::Load(const ModelName& name, const FolderIndex& folder) {
 Model& Session::Add(Model model) {
   models_.push_back(std::make_unique<Model>(std::move(model)));
   Model& added = *models_.back();
-  added.Reindex();
   by_name_[Key(added.id)] = &added;
   if (on_enter) on_enter(added);
   Resolve(added);
@@ -141,18 +112,16 @@ Model& Session::Add(Model model) {
 }
 
 void Session::Resolve(Model& model) {
-  for (Feature& feature : model.features) {
-    if (feature.IsComponent() && feature.model == nullptr) feature.model = Find(feature.component);
-  }
-  if (model.mfg_assembly) model.mfg_assembly_model = Find(*model.mfg_assembly);
+  ForEachLink(model, [this](ModelLink& link) {
+    if (link.model == nullptr) link.model = Find(link.name);
+  });
 }
 
 void Session::Erase(Model& model) {
   for (const auto& other : models_) {
-    for (Feature& feature : other->features) {
-      if (feature.model == &model) feature.model = nullptr;
-    }
-    if (other->mfg_assembly_model == &model) other->mfg_assembly_model = nullptr;
+    ForEachLink(*other, [&](ModelLink& link) {
+      if (link.model == &model) link.model = nullptr;
+    });
   }
   for (Window& window : windows_) {
     if (window.model == &model) window.model = nullptr;
@@ -200,26 +169,6 @@ Window* Session::FindWindowOf(const Model& model) {
     if (window.model == &model) return &window;
   }
   return nullptr;
-}
-
-PickedItem PickComponent(Model& root, const std::string& path) {
-  PickedItem item{
-      root.id.kind == ModelKind::kAssembly ? kAssemblyType : kPartType, 0, &root, &root, {}};
-  Model* parent = &root;
-  for (size_t at = 0; at < path.size();) {
-    const size_t slash = std::min(path.find('/', at), path.size());
-    const Feature& step = FindComponent(*parent, path.substr(at, slash - at));
-    item.path.push_back(step.id);
-    parent = step.model;
-    at = slash + 1;
-    if (parent == nullptr) {
-      throw std::runtime_error("the model of component \"" + step.component.Text() +
-                               "\" is not in session");
-    }
-  }
-  item.owner = parent;
-  item.type = static_cast<int>(parent->id.kind);
-  return item;
 }
 
 }  // namespace wb

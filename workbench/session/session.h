@@ -95,9 +95,4 @@ class Session {
   int next_window_ = 1;
 };
 
-// Component names such as "pump/rotor/bolt#2": resolves a slash path below `root` to component
-// ids; "#n" takes the n-th component of that name. Throws std::runtime_error with the step at
-// fault.
-PickedItem PickComponent(Model& root, const std::string& path);
-
 }  // namespace wb

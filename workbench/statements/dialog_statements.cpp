@@ -49,9 +49,9 @@ void Rows(ScriptRun& run, const Statement& statement) {
   Deed(run, statement, State(run).UserSelect(statement.Text("COMPONENT"), statement.Texts("ROW")));
 }
 
-const Component& ComponentAt(ScriptRun& run, const Statement& statement) {
+const Field& FieldAt(ScriptRun& run, const Statement& statement) {
   const std::string& name = statement.Text("COMPONENT");
-  for (const Component& component : State(run).Components()) {
+  for (const Field& component : State(run).Fields()) {
     if (component.name == name) return component;
   }
   throw ScriptError("dialog " + run.user.dialog().name + " has no component " + name +
@@ -60,7 +60,7 @@ const Component& ComponentAt(ScriptRun& run, const Statement& statement) {
 
 template <typename T>
 const T& StateOf(ScriptRun& run, const Statement& statement) {
-  const Component& component = ComponentAt(run, statement);
+  const Field& component = FieldAt(run, statement);
   const T* const state = std::get_if<T>(&component.state);
   if (state != nullptr) return *state;
   throw ScriptError(std::string(KindName(component.kind)) + " " + component.name +
@@ -138,18 +138,16 @@ void ExpectCheck(ScriptRun& run, const Statement& statement) {
 }
 
 void ExpectEnabled(ScriptRun& run, const Statement& statement) {
-  CheckEither(run, statement, "enabled", "disabled",
-              State(run).IsUsable(ComponentAt(run, statement)));
+  CheckEither(run, statement, "enabled", "disabled", State(run).IsUsable(FieldAt(run, statement)));
 }
 
 void ExpectVisible(ScriptRun& run, const Statement& statement) {
-  CheckEither(run, statement, "visible", "invisible",
-              State(run).IsShown(ComponentAt(run, statement)));
+  CheckEither(run, statement, "visible", "invisible", State(run).IsShown(FieldAt(run, statement)));
 }
 
 void ExpectLabel(ScriptRun& run, const Statement& statement) {
   run.CheckText(statement, "label of " + statement.Text("COMPONENT"), statement.Text("TEXT"),
-                ComponentAt(run, statement).label);
+                FieldAt(run, statement).label);
 }
 
 void NoSuchCell(ScriptRun& run, const Statement& statement) {

@@ -8,12 +8,6 @@
 namespace wb {
 namespace {
 
-// What the last action added to a list.
-template <typename T>
-std::vector<T> Since(const std::vector<T>& list, size_t mark) {
-  return {list.begin() + static_cast<std::ptrdiff_t>(std::min(mark, list.size())), list.end()};
-}
-
 std::string Shown(const std::vector<std::string>& texts) {
   std::vector<std::string> quoted;
   for (const std::string& text : texts) quoted.push_back(Quoted(text));
@@ -25,7 +19,7 @@ bool Contains(const std::vector<std::string>& texts, const std::string& text) {
 }
 
 std::vector<std::string> Notes(const ScriptRun& run) {
-  return Since(run.host.messages.notes, run.marks.notes);
+  return run.host.events.TextsSince<Note>(run.marks.begin);
 }
 
 void ExpectNote(ScriptRun& run, const Statement& statement) {
@@ -40,7 +34,7 @@ void ExpectNotes(ScriptRun& run, const Statement& statement) {
 }
 
 void ExpectMessage(ScriptRun& run, const Statement& statement) {
-  const std::vector<MessageBox> boxes = Since(run.host.windows.boxes, run.marks.boxes);
+  const auto boxes = run.host.events.Since<MessageBox>(run.marks.begin);
   const bool shown = std::any_of(boxes.begin(), boxes.end(), [&](const MessageBox& box) {
     return BoxIs(box, statement.Text("KIND"), statement.Text("TEXT"));
   });
@@ -52,14 +46,14 @@ void ExpectMessage(ScriptRun& run, const Statement& statement) {
 }
 
 void ExpectNoMessage(ScriptRun& run, const Statement& statement) {
-  const std::vector<MessageBox> boxes = Since(run.host.windows.boxes, run.marks.boxes);
+  const auto boxes = run.host.events.Since<MessageBox>(run.marks.begin);
   run.Check(statement, boxes.empty(), "message box", "none",
             boxes.empty() ? "" : DescribeBox(boxes.front()));
 }
 
 std::vector<std::string> ShellCalls(const ScriptRun& run, const std::string& function) {
   std::vector<std::string> calls;
-  for (const ShellCall& call : Since(run.host.windows.shell, run.marks.shell)) {
+  for (const ShellCall& call : run.host.events.Since<ShellCall>(run.marks.begin)) {
     if (call.function != function) continue;
     calls.push_back(function == "WinExec" ? call.program : call.program + " " + call.parameters);
   }
@@ -79,7 +73,7 @@ void ExpectWinExec(ScriptRun& run, const Statement& statement) {
 }
 
 void ExpectNoShell(ScriptRun& run, const Statement& statement) {
-  const size_t calls = run.host.windows.shell.size() - run.marks.shell;
+  const size_t calls = run.host.events.Since<ShellCall>(run.marks.begin).size();
   run.Check(statement, calls == 0, "programs started", "none", std::to_string(calls));
 }
 

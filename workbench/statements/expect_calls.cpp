@@ -66,10 +66,9 @@ const char* SelectionOptionWord(int option) {
 
 void ExpectEnvironment(ScriptRun& run, const Statement& statement) {
   std::vector<std::string> got;
-  const auto& all = run.host.selection_environments;
-  for (size_t i = run.marks.environments; i < all.size(); ++i) {
+  for (const PickOptions& asked : run.host.events.Since<PickOptions>(run.marks.begin)) {
     std::vector<std::string> options;
-    for (const auto& [option, value] : all[i]) {
+    for (const auto& [option, value] : asked.options) {
       options.push_back(std::string(SelectionOptionWord(option)) + "=" + std::to_string(value));
     }
     got.push_back(Join(" ", options));

@@ -100,28 +100,33 @@ void ExpectSelection(ScriptRun& run, const Statement& statement) {
             "selection", described(wanted), described(got));
 }
 
-std::vector<std::string> Repaints(const ScriptRun& run) {
-  const std::vector<std::string>& all = run.host.repaints;
-  return {all.begin() + static_cast<std::ptrdiff_t>(run.marks.repaints), all.end()};
+// Repaints and refreshes of the last action, the former first.
+std::vector<std::string> ShownAnew(const ScriptRun& run) {
+  std::vector<std::string> lines;
+  for (const Repaint& repaint : run.host.events.Since<Repaint>(run.marks.begin)) {
+    lines.push_back("repaint " + std::to_string(repaint.window));
+  }
+  for (const TreeRefresh& refresh : run.host.events.Since<TreeRefresh>(run.marks.begin)) {
+    lines.push_back("tree " + refresh.model);
+  }
+  return lines;
 }
 
 void ExpectRepaint(ScriptRun& run, const Statement& statement) {
-  const std::vector<std::string> repaints = Repaints(run);
-  const auto count = std::count_if(repaints.begin(), repaints.end(), [](const std::string& line) {
-    return line.starts_with("repaint");
-  });
+  const std::vector<std::string> all = ShownAnew(run);
   if (statement.Has("no")) {
-    run.Check(statement, repaints.empty(), "repaints and refreshes", "none", Join(", ", repaints));
+    run.Check(statement, all.empty(), "repaints and refreshes", "none", Join(", ", all));
   } else {
-    run.Check(statement, count > 0, "repaint", "one", "none");
+    run.Check(statement, !run.host.events.Since<Repaint>(run.marks.begin).empty(), "repaint", "one",
+              "none");
   }
 }
 
 void ExpectRefresh(ScriptRun& run, const Statement& statement) {
+  const std::vector<std::string> all = ShownAnew(run);
   const std::string wanted = "tree " + run.ModelNamed(statement.Text("MODEL")).id.Text();
-  const std::vector<std::string> repaints = Repaints(run);
-  run.Check(statement, std::find(repaints.begin(), repaints.end(), wanted) != repaints.end(),
-            "refresh of the model tree", wanted, repaints.empty() ? "none" : Join(", ", repaints));
+  run.Check(statement, std::find(all.begin(), all.end(), wanted) != all.end(),
+            "refresh of the model tree", wanted, all.empty() ? "none" : Join(", ", all));
 }
 
 constexpr ScriptHandler kHandlers[] = {

@@ -17,8 +17,7 @@ Model NewModel(const ScriptRun& run, const std::string& name, ModelKind kind) {
   if (name.empty() || WideLength(name) > kMaxNameLength) {
     throw ScriptError("\"" + name + "\" is no model name: 1 to 31 characters are allowed");
   }
-  Model model;
-  model.id = {name, kind};
+  Model model({name, kind});
   model.folder = run.folders.work;
   return model;
 }
@@ -32,8 +31,8 @@ Model& AddNew(ScriptRun& run, Model model) {
 
 void Part(ScriptRun& run, const Statement& statement) {
   Model part = NewModel(run, statement.Text("NAME"), ModelKind::kPart);
-  part.sheet_metal = statement.Has("sheet_metal");
-  part.skeleton = statement.Has("skeleton");
+  part.solid().sheet_metal = statement.Has("sheet_metal");
+  part.solid().skeleton = statement.Has("skeleton");
   AddNew(run, std::move(part));
 }
 
@@ -41,25 +40,39 @@ void Assembly(ScriptRun& run, const Statement& statement) {
   AddNew(run, NewModel(run, statement.Text("NAME"), ModelKind::kAssembly));
 }
 
+ModelLink LinkedModel(ScriptRun& run, const Statement& statement) {
+  Model& model = run.ModelNamed(statement.Text("MODEL"));
+  return {model.id, &model};
+}
+
 void Manufacturing(ScriptRun& run, const Statement& statement) {
   Model model = NewModel(run, statement.Text("NAME"), ModelKind::kManufacturing);
-  if (statement.Has("of")) model.mfg_assembly = run.ModelNamed(statement.Text("MODEL")).id;
+  if (statement.Has("of")) model.As<ManufacturingContent>()->assembly = LinkedModel(run, statement);
   AddNew(run, std::move(model));
 }
 
 void Drawing(ScriptRun& run, const Statement& statement) {
   Model drawing = NewModel(run, statement.Text("NAME"), ModelKind::kDrawing);
-  if (statement.Has("of")) drawing.drawing_of = run.ModelNamed(statement.Text("MODEL")).id;
-  for (const std::string& size : statement.Texts("SIZE")) drawing.sheets.push_back({size, 1.0});
+  auto& content = *drawing.As<DrawingContent>();
+  if (statement.Has("of")) content.shows = LinkedModel(run, statement);
+  for (const std::string& size : statement.Texts("SIZE")) content.sheets.push_back({size, 1.0});
   AddNew(run, std::move(drawing));
 }
 
+Model& SolidNamed(ScriptRun& run, const Statement& statement) {
+  Model& model = run.ModelNamed(statement.Text("MODEL"));
+  if (model.As<SolidContent>() == nullptr) {
+    throw ScriptError(model.id.Text() + " is neither a part nor an assembly");
+  }
+  return model;
+}
+
 // What components and other features have in common.
-Feature NewFeature(const Model& owner, const Statement& statement) {
+Feature NewFeature(const SolidContent& owner, const Statement& statement) {
   Feature feature;
-  feature.id = statement.Has("id") ? statement.Number("ID") : owner.NextFeatureId();
+  feature.id = statement.Has("id") ? statement.Number("ID") : NextId(owner.features);
   if (statement.Has("STATE")) {
-    feature.status = *FeatureStatusFromWord(statement.Text("STATE"));
+    feature.status = *FromWord<FeatureStatus>(statement.Text("STATE"));
   }
   feature.visible = !statement.Has("invisible");
   feature.hidden = statement.Has("hidden");
@@ -74,18 +87,17 @@ void AddFeatures(Model& owner, Feature feature, int times) {
       throw ScriptError(owner.id.Text() + " has a feature " + std::to_string(feature.id) +
                         " already");
     }
-    owner.features.push_back(feature);
+    owner.solid().features.Add(feature);
   }
-  owner.Reindex();
 }
 
-ModelName ComponentName(ScriptRun& run, const Statement& statement, Model** model) {
+ModelLink ComponentLink(ScriptRun& run, const Statement& statement) {
   const std::string& name = statement.Text("COMPONENT");
   if (statement.Has("missing")) {
-    return ParseModelName(name).value_or(ModelName{name, ModelKind::kPart});
+    return {ParseModelName(name).value_or(ModelName{name, ModelKind::kPart}), nullptr};
   }
-  *model = &run.ModelNamed(name);
-  return (*model)->id;
+  Model& model = run.ModelNamed(name);
+  return {model.id, &model};
 }
 
 void Component(ScriptRun& run, const Statement& statement) {
@@ -93,11 +105,11 @@ void Component(ScriptRun& run, const Statement& statement) {
   if (owner.id.kind != ModelKind::kAssembly) {
     throw ScriptError(owner.id.Text() + " is no assembly, so it cannot hold components");
   }
-  Feature feature = NewFeature(owner, statement);
-  feature.component = ComponentName(run, statement, &feature.model);
+  Feature feature = NewFeature(owner.solid(), statement);
+  feature.component = ComponentPart{ComponentLink(run, statement)};
   if (statement.Has("at")) {
-    feature.placement[3] = {statement.Decimal("X"), statement.Decimal("Y"), statement.Decimal("Z"),
-                            1};
+    feature.component->placement[3] = {statement.Decimal("X"), statement.Decimal("Y"),
+                                       statement.Decimal("Z"), 1};
   }
   AddFeatures(owner, std::move(feature), statement.Has("times") ? statement.Number("TIMES") : 1);
   const std::vector<const Model*> cycle = FindCycle({&owner});
@@ -107,10 +119,11 @@ void Component(ScriptRun& run, const Statement& statement) {
 }
 
 void OtherFeature(ScriptRun& run, const Statement& statement) {
-  Model& owner = run.ModelNamed(statement.Text("MODEL"));
-  Feature feature = NewFeature(owner, statement);
+  Model& owner = SolidNamed(run, statement);
+  Feature feature = NewFeature(owner.solid(), statement);
   feature.type = statement.Number("FEATURE_TYPE");
-  if (feature.IsComponent()) throw ScriptError("use \"component\" for features of this type");
+  if (feature.type == kComponentFeatureType)
+    throw ScriptError("use \"component\" for features of this type");
   AddFeatures(owner, std::move(feature), 1);
 }
 
@@ -137,9 +150,10 @@ void DeleteParameter(ScriptRun& run, const Statement& statement) {
 }
 
 void Surface(ScriptRun& run, const Statement& statement) {
-  Model& model = run.ModelNamed(statement.Text("MODEL"));
+  ItemList<wb::Surface>& surfaces = SolidNamed(run, statement).solid().surfaces;
   const auto at = [&](const char* name) { return statement.Decimal(name); };
-  model.surfaces.push_back({{at("X"), at("Y"), at("Z")}, {at("X2"), at("Y2"), at("Z2")}});
+  const Box box = {{at("X"), at("Y"), at("Z")}, {at("X2"), at("Y2"), at("Z2")}};
+  surfaces.Add({NextId(surfaces), box});
 }
 
 void Bulk(ScriptRun& run, const Statement& statement) {

@@ -40,15 +40,13 @@ std::vector<Box> SurfacesOf(const StepModel& step) {
 }
 
 Feature ComponentOf(const StepOccurrence& occurrence, const ModelName& model, int id) {
-  Feature feature;
-  feature.id = id;
-  feature.component = model;
+  Placement placement;
   for (size_t row = 0; row < 4; ++row) {
     for (size_t column = 0; column < 4; ++column) {
-      feature.placement[row][column] = occurrence.placement.m[row][column];
+      placement[row][column] = occurrence.placement.m[row][column];
     }
   }
-  return feature;
+  return NewComponent(id, model, placement);
 }
 
 // A note a product whose model could not bear its name alone, up to this many.
@@ -111,19 +109,23 @@ void RefuseFileInTheWay(const fs::path& folder) {
                            "made when it is missing, or move the file away");
 }
 
+std::string PlacedName(const Feature& component) {
+  return component.component->link.name.Text();
+}
+
 // Models in an order in which each comes before those under it.
 std::vector<const Model*> FromTheTop(const ImportedModels& imported) {
   std::map<std::string, const Model*> by_name;
   std::map<std::string, int> above;  // placements not yet passed
   for (const Model& model : imported.models) {
     by_name[model.id.Text()] = &model;
-    for (const Feature& feature : model.features) ++above[feature.component.Text()];
+    for (const Feature& feature : model.solid().features) ++above[PlacedName(feature)];
   }
   std::vector<const Model*> order;
   for (const ModelName& top : imported.tops) order.push_back(by_name.at(top.Text()));
   for (size_t i = 0; i < order.size(); ++i) {
-    for (const Feature& feature : order[i]->features) {
-      const std::string name = feature.component.Text();
+    for (const Feature& feature : order[i]->solid().features) {
+      const std::string name = PlacedName(feature);
       if (--above[name] == 0) order.push_back(by_name.at(name));
     }
   }
@@ -136,8 +138,8 @@ std::map<std::string, long> OccurrencesBelow(const ImportedModels& imported) {
   for (const Model& model : imported.models) totals[model.id.Text()] = 0;
   for (const ModelName& top : imported.tops) totals[top.Text()] = 1;
   for (const Model* const model : FromTheTop(imported)) {
-    for (const Feature& feature : model->features) {
-      totals[feature.component.Text()] += totals[model->id.Text()];
+    for (const Feature& feature : model->solid().features) {
+      totals[PlacedName(feature)] += totals[model->id.Text()];
     }
   }
   return totals;
@@ -156,12 +158,14 @@ ImportedModels ReadStepModels(const fs::path& file) {
   ImportedModels imported{{}, {}, step.notes};
   const std::vector<ModelName> names = NamesOf(step, imported.notes);
   for (size_t i = 0; i < step.models.size(); ++i) {
-    Model model;
-    model.id = names[i];
-    model.surfaces = SurfacesOf(step.models[i]);
+    Model model(names[i]);
+    for (const Box& box : SurfacesOf(step.models[i])) {
+      ItemList<Surface>& surfaces = model.solid().surfaces;
+      surfaces.Add({static_cast<int>(surfaces.size()) + 1, box});
+    }
     int id = 0;
     for (const StepOccurrence& occurrence : step.models[i].components) {
-      model.features.push_back(
+      model.solid().features.Add(
           ComponentOf(occurrence, names[static_cast<size_t>(occurrence.child)], ++id));
     }
     imported.models.push_back(std::move(model));
@@ -200,15 +204,15 @@ std::string ModelTable(const ImportedModels& imported) {
   size_t width = 5;
   for (const Model& model : imported.models) {
     width = std::max(width, WideLength(model.id.Text()));
-    for (const Feature& feature : model.features) ++placed[feature.component.Text()];
+    for (const Feature& feature : model.solid().features) ++placed[PlacedName(feature)];
   }
   std::string table = Padded("model", width) + "  components  surfaces  placed  in all\n";
   for (const Model& model : imported.models) {
     const std::string name = model.id.Text();
-    table += Padded(name, width) + "  " + Padded(std::to_string(model.features.size()), 10) + "  " +
-             Padded(std::to_string(model.surfaces.size()), 8) + "  " +
-             Padded(std::to_string(placed[name]), 6) + "  " + std::to_string(totals.at(name)) +
-             "\n";
+    table +=
+        Padded(name, width) + "  " + Padded(std::to_string(model.solid().features.size()), 10) +
+        "  " + Padded(std::to_string(model.solid().surfaces.size()), 8) + "  " +
+        Padded(std::to_string(placed[name]), 6) + "  " + std::to_string(totals.at(name)) + "\n";
   }
   return table;
 }

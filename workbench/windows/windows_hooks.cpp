@@ -32,7 +32,7 @@ int WINAPI HookMessageBoxW(HWND, LPCWSTR text, LPCWSTR caption, UINT style) {
   return WindowsCrossing("MessageBoxW", DescribeArgument(text), 0, [&](const Call& call) {
     // The user cannot be asked from elsewhere: he may be at work on the interface's own thread.
     if (!call.host.OnUiThread()) return IDOK;
-    call.host.windows.boxes.push_back(box);
+    call.host.events.Add(box);
     return call.host.user == nullptr ? IDOK : call.host.user->AnswerMessageBox(box);
   });
 }
@@ -43,27 +43,27 @@ HINSTANCE WINAPI HookShellExecuteW(HWND, LPCWSTR verb, LPCWSTR program, LPCWSTR 
       "ShellExecuteW", DescribeArgument(program) + ", " + DescribeArgument(parameters),
       kFileNotFound, [&](const Call& call) {
         if (program == nullptr) call.Fail("null program");
-        call.host.windows.shell.push_back(
-            {"ShellExecuteW", Utf8(verb), Utf8(program), Utf8(parameters), show});
+        call.host.events.Add(
+            ShellCall{"ShellExecuteW", Utf8(verb), Utf8(program), Utf8(parameters), show});
         return kStarted;
       });
   return reinterpret_cast<HINSTANCE>(static_cast<INT_PTR>(result));
 }
 
 UINT WINAPI HookWinExec(LPCSTR command_line, UINT show) {
-  return WindowsCrossing("WinExec", DescribeArgument(command_line), UINT{kFileNotFound},
-                         [&](const Call& call) {
-                           if (command_line == nullptr) call.Fail("null command line");
-                           call.host.windows.shell.push_back(
-                               {"WinExec", "", FromAnsi(command_line), "", static_cast<int>(show)});
-                           return UINT{kStarted};
-                         });
+  return WindowsCrossing(
+      "WinExec", DescribeArgument(command_line), UINT{kFileNotFound}, [&](const Call& call) {
+        if (command_line == nullptr) call.Fail("null command line");
+        call.host.events.Add(
+            ShellCall{"WinExec", "", FromAnsi(command_line), "", static_cast<int>(show)});
+        return UINT{kStarted};
+      });
 }
 
 void WINAPI HookMouseEvent(DWORD flags, DWORD dx, DWORD dy, DWORD data, ULONG_PTR) {
   WindowsCrossing("mouse_event", std::to_string(flags), 0, [&](const Call& call) {
-    call.host.windows.mouse.push_back({static_cast<unsigned>(flags), static_cast<unsigned>(dx),
-                                       static_cast<unsigned>(dy), static_cast<unsigned>(data)});
+    call.host.events.Add(MouseEvent{static_cast<unsigned>(flags), static_cast<unsigned>(dx),
+                                    static_cast<unsigned>(dy), static_cast<unsigned>(data)});
     return 0;
   });
 }
@@ -158,7 +158,7 @@ HRESULT WINAPI HookCoCreateInstance(REFCLSID class_id, LPUNKNOWN, DWORD, REFIID 
   return WindowsCrossing("CoCreateInstance", FromWide(text), HRESULT{REGDB_E_CLASSNOTREG},
                          [&](const Call& call) {
                            call.Place(object, "object place") = nullptr;
-                           call.host.windows.classes.push_back(FromWide(text));
+                           call.host.events.Add(ClassRequest{FromWide(text)});
                            AutomationProgram* const automation = call.host.automation;
                            if (automation == nullptr) return HRESULT{REGDB_E_CLASSNOTREG};
                            return HRESULT{automation->Start(&class_id, &interface_id, object)};
@@ -206,7 +206,7 @@ std::optional<std::string> Choice(const Call& call, const char* function,
   if (dialog.lStructSize != sizeof(OPENFILENAMEW)) call.Fail("wrong structure size");
   if (dialog.lpstrFile == nullptr) call.Fail("null file buffer");
   const FileRequest request = RequestOf(function, dialog);
-  call.host.windows.file_requests.push_back(request);
+  call.host.events.Add(request);
   return call.host.user == nullptr ? std::nullopt : call.host.user->ChooseFile(request);
 }
 
@@ -259,7 +259,7 @@ FARPROC WINAPI HookGetProcAddress(HMODULE module, LPCSTR name) {
   if (function.ends_with(suffix)) function.resize(function.size() - suffix.size());
   if (TheHost().windows.withheld.contains(function)) return nullptr;
   if (found == nullptr) {
-    TheHost().not_modelled.push_back("workbench: not modelled: " + function);
+    TheHost().events.Add(Gap{"workbench: not modelled: " + function});
   }
   return found;
 }

@@ -51,7 +51,8 @@ class ExcelAccess : public HostFixture {
 
   // Text of the only box since the last call; "" when there was none.
   std::string TakeBox() {
-    const auto boxes = std::exchange(host_.windows.boxes, {});
+    const auto boxes = host_.events.All<MessageBox>();
+    host_.events.Forget<MessageBox>();
     EXPECT_LE(boxes.size(), 1u);
     return boxes.empty() ? "" : boxes[0].text;
   }
@@ -115,10 +116,11 @@ TEST_F(ExcelAccess, ALargeTableTellsItsProgress) {
             "Rows written to Excel: %0w\nRows written to Excel: %0w\n已写入Excel的行数：%0w\n\n");
   const auto write = Find<WriteRowsProbe>("WriteRows");
   EXPECT_TRUE(write(file_.c_str(), 100));
-  EXPECT_EQ(host_.messages.notes, Lines());
+  EXPECT_EQ(host_.events.AllTexts<Note>(), Lines());
   EXPECT_TRUE(write(file_.c_str(), 250));
-  EXPECT_EQ(host_.messages.notes, (Lines{"已写入Excel的行数：100/250", "已写入Excel的行数：200/250",
-                                         "已写入Excel的行数：250/250"}));
+  EXPECT_EQ(host_.events.AllTexts<Note>(),
+            (Lines{"已写入Excel的行数：100/250", "已写入Excel的行数：200/250",
+                   "已写入Excel的行数：250/250"}));
   EXPECT_EQ(Breaches(), Lines());
 }
 
@@ -256,8 +258,9 @@ TEST_F(ExcelAccess, AnUnfinishedFileThatStaysIsTold) {
 TEST_F(ExcelAccess, TheTableToReadIsAskedForInAnOpenDialog) {
   chooser_.file = "C:\\names\\table.xls";
   EXPECT_EQ(Choose(), "C:\\names\\table.xls");
-  ASSERT_EQ(host_.windows.file_requests.size(), 1u);
-  const FileRequest& request = host_.windows.file_requests[0];
+  const auto requests = host_.events.All<FileRequest>();
+  ASSERT_EQ(requests.size(), 1u);
+  const FileRequest& request = requests[0];
   EXPECT_EQ(request.asked_by, "GetOpenFileNameW");
   EXPECT_EQ(request.title, "请选择需要加载的批量重命名表格文件");
   EXPECT_EQ(request.filter, "Microsoft Excel 2000(*.xls)|*.xls|所有文件(*.*)|*.*");

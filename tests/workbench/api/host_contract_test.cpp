@@ -21,24 +21,21 @@ struct Row {
 class HostContract : public HostFixture {
  protected:
   HostContract() {
-    Model part;
-    part.id = {"lid", ModelKind::kPart};
-    part.parameters = {{"MASS", 1.5}, {"COUNT", 2}, {"NAME", std::string("盖")}, {"BOUGHT", true}};
-    part.Reindex();
+    Model part({"lid", ModelKind::kPart});
+    part.SetParameter("MASS", 1.5);
+    part.SetParameter("COUNT", 2);
+    part.SetParameter("NAME", std::string("盖"));
+    part.SetParameter("BOUGHT", true);
     lid_ = &host_.session.Add(std::move(part));
-    Model assembly;
-    assembly.id = {"box", ModelKind::kAssembly};
-    for (const int id : {7, 8, 9}) assembly.features.emplace_back().id = id;
-    assembly.features[0].component = lid_->id;
-    assembly.features[1].component = {"gone", ModelKind::kPart};
-    assembly.features[2].type = 923;
-    assembly.Reindex();
+    Model assembly({"box", ModelKind::kAssembly});
+    ItemList<Feature>& features = assembly.solid().features;
+    features.Add(NewComponent(7, lid_->id));
+    features.Add(NewComponent(8, {"gone", ModelKind::kPart}));
+    features.Add({.id = 9, .type = 923});
     box_ = &host_.session.Add(std::move(assembly));
-    Model drawing;
-    drawing.id = {"sheet", ModelKind::kDrawing};
+    Model drawing({"sheet", ModelKind::kDrawing});
     drawing_ = &host_.session.Add(std::move(drawing));
-    Model erased;
-    erased.id = {"erased", ModelKind::kPart};
+    Model erased({"erased", ModelKind::kPart});
     Model& gone = host_.session.Add(std::move(erased));
     stale_ = gone.handle;
     host_.session.Erase(gone);
@@ -48,12 +45,11 @@ class HostContract : public HostFixture {
     for (const Row& row : rows) {
       SCOPED_TRACE(row.what);
       EXPECT_EQ(row.call(), row.status);
-      Lines breaches;
-      for (const Breach& breach : std::exchange(host_.breaches, {})) {
-        breaches.push_back(breach.Text());
-      }
+      const Lines breaches = Breaches();
+      host_.events.Forget<Breach>();
       EXPECT_EQ(breaches, row.breach.empty() ? Lines() : Lines{"plug-in misused " + row.breach});
-      const Lines gaps = std::exchange(host_.not_modelled, {});
+      const Lines gaps = host_.events.AllTexts<Gap>();
+      host_.events.Forget<Gap>();
       EXPECT_EQ(gaps, row.not_modelled.empty()
                           ? Lines()
                           : Lines{"workbench: not modelled: " + row.not_modelled});
@@ -392,8 +388,8 @@ ProError NoteSurface(ProSurface surface, ProError, ProAppData data) {
 }
 
 TEST_F(HostContract, SurfacesAndSheetsAreThoseOfTheirModels) {
-  lid_->surfaces = {{{0, 0, 0}, {10, 20, 0}}};
-  drawing_->sheets = {{"A3", 0.5}};
+  lid_->solid().surfaces.Add({1, {{0, 0, 0}, {10, 20, 0}}});
+  drawing_->As<DrawingContent>()->sheets = {{"A3", 0.5}};
   ProSurface surface = nullptr;
   ProGeomitemdata* data = nullptr;
   ProName size{};

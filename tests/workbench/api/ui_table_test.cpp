@@ -140,7 +140,7 @@ TEST_F(UiTable, WrongPlacesAndKindsAreHeldAgainstThePlugin) {
        "ProUIOptionmenuEnable: the dialog has no component \"none\""},
   };
   for (const auto& row : kCases) {
-    host_.breaches.clear();
+    host_.events.Forget<Breach>();
     row.call();
     EXPECT_EQ(Breaches(), Lines{"plug-in misused " + std::string(row.breach)});
   }

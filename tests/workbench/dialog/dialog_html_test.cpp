@@ -28,7 +28,7 @@ class DialogHtmlTest : public testing::Test {
   }
   TableModel& Bill() {
     TableModel* table = nullptr;
-    EXPECT_EQ(dialog_.Find(ComponentKind::kTable, "Bill", &table), UiStatus::kOk);
+    EXPECT_EQ(dialog_.Find(FieldKind::kTable, "Bill", &table), UiStatus::kOk);
     return *table;
   }
 
@@ -49,8 +49,8 @@ TEST_F(DialogHtmlTest, ShowsTheLiveState) {
   EXPECT_TRUE(Shows("<div><i></i>Bee</div>"));
   EXPECT_TRUE(Shows("dlg-button dlg-default\" data-name=\"Ok\""));
   dialog_.UserSelect("Radio", {"b"});
-  dialog_.SetEnabled(ComponentKind::kPushButton, "Ok", false);
-  dialog_.SetVisible(ComponentKind::kInputPanel, "Field", false);
+  dialog_.SetEnabled(FieldKind::kPushButton, "Ok", false);
+  dialog_.SetVisible(FieldKind::kInputPanel, "Field", false);
   EXPECT_TRUE(Shows("<div class=\"dlg-on\"><i></i>Bee</div>"));
   EXPECT_TRUE(Shows("dlg-button dlg-default dlg-off\" data-name=\"Ok\""));
   EXPECT_FALSE(Shows("data-name=\"Field\""));

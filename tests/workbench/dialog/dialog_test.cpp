@@ -28,14 +28,14 @@ constexpr const char* kResource = R"((Dialog D
 class WorkbenchDialogTest : public testing::Test {
  protected:
   template <class State>
-  State& Get(ComponentKind kind, const char* name) {
+  State& Get(FieldKind kind, const char* name) {
     State* state = nullptr;
     EXPECT_EQ(dialog_.Find(kind, name, &state), UiStatus::kOk);
     return *state;
   }
-  TableModel& Bill() { return Get<TableModel>(ComponentKind::kTable, "Bill"); }
-  ChoiceState& Radio() { return Get<ChoiceState>(ComponentKind::kRadioGroup, "Radio"); }
-  TextState& Field() { return Get<TextState>(ComponentKind::kInputPanel, "Field"); }
+  TableModel& Bill() { return Get<TableModel>(FieldKind::kTable, "Bill"); }
+  ChoiceState& Radio() { return Get<ChoiceState>(FieldKind::kRadioGroup, "Radio"); }
+  TextState& Field() { return Get<TextState>(FieldKind::kInputPanel, "Field"); }
 
   std::string Label(const char* row, const char* column) {
     std::string label = "?";
@@ -47,11 +47,10 @@ class WorkbenchDialogTest : public testing::Test {
 };
 
 TEST_F(WorkbenchDialogTest, MissingComponentAndWrongKindAreToldApart) {
-  Component* component = nullptr;
-  EXPECT_EQ(dialog_.Find(ComponentKind::kCheckButton, "PDFCheck]", &component),
-            UiStatus::kNoComponent);
-  EXPECT_EQ(dialog_.Find(ComponentKind::kTextArea, "Field", &component), UiStatus::kWrongKind);
-  EXPECT_EQ(dialog_.SetLabel(ComponentKind::kInputPanel, "Field", "x"), UiStatus::kWrongKind);
+  wb::Field* component = nullptr;
+  EXPECT_EQ(dialog_.Find(FieldKind::kCheckButton, "PDFCheck]", &component), UiStatus::kNoField);
+  EXPECT_EQ(dialog_.Find(FieldKind::kTextArea, "Field", &component), UiStatus::kWrongKind);
+  EXPECT_EQ(dialog_.SetLabel(FieldKind::kInputPanel, "Field", "x"), UiStatus::kWrongKind);
   EXPECT_EQ(component, nullptr);
 }
 
@@ -66,7 +65,7 @@ TEST_F(WorkbenchDialogTest, RadioGroupKeepsItsSelectionWhenTheNewOneCannotBe) {
 }
 
 TEST_F(WorkbenchDialogTest, RadioGroupWithoutSelectionInTheResourceStartsWithNone) {
-  auto& blank = Get<ChoiceState>(ComponentKind::kRadioGroup, "Blank");
+  auto& blank = Get<ChoiceState>(FieldKind::kRadioGroup, "Blank");
   EXPECT_EQ(blank.Select({""}), UiStatus::kNotFound);
   EXPECT_TRUE(blank.Selected().empty());
 }
@@ -83,7 +82,7 @@ TEST_F(WorkbenchDialogTest, OptionMenuValueIsTheNameOfItsItem) {
 }
 
 TEST_F(WorkbenchDialogTest, NewItemsDropSelectionsAndLabelsThatNoLongerFit) {
-  auto& option = Get<ChoiceState>(ComponentKind::kOptionMenu, "Option");
+  auto& option = Get<ChoiceState>(FieldKind::kOptionMenu, "Option");
   EXPECT_EQ(option.SetNames({"1", "1"}), UiStatus::kBadArgument);
   EXPECT_EQ(option.SetNames({"1", "2", "3"}), UiStatus::kOk);
   EXPECT_TRUE(option.Selected().empty());
@@ -96,7 +95,7 @@ TEST_F(WorkbenchDialogTest, FieldCountsItsLimitInWideCharacters) {
   EXPECT_EQ(Field().SetValue("abc\U0001F529"), UiStatus::kBadArgument);  // counts 5
   EXPECT_EQ(Field().SetValue("a\nb"), UiStatus::kBadArgument);
   EXPECT_EQ(Field().Value(), "千米数字");
-  auto& area = Get<TextState>(ComponentKind::kTextArea, "Area");
+  auto& area = Get<TextState>(FieldKind::kTextArea, "Area");
   EXPECT_EQ(area.SetValue("a\nb"), UiStatus::kOk);
 }
 
@@ -183,7 +182,7 @@ TEST_F(WorkbenchDialogTest, UserDeedsChangeStateAndNameTheActionToFire) {
   EXPECT_EQ(Radio().Selected(), Names{"b"});
   EXPECT_EQ(dialog_.UserSelect("Items", {"p", "r"}).event, UiEvent::kSelect);
   EXPECT_EQ(dialog_.UserToggle("Check").event, UiEvent::kActivate);
-  EXPECT_TRUE(Get<CheckState>(ComponentKind::kCheckButton, "Check").set);
+  EXPECT_TRUE(Get<CheckState>(FieldKind::kCheckButton, "Check").set);
   EXPECT_EQ(dialog_.UserPress("Ok").event, UiEvent::kActivate);
   Bill().InsertRows("", {"1", "2"});
   EXPECT_EQ(dialog_.UserDoubleClick("Bill", "2").event, UiEvent::kActivate);
@@ -195,9 +194,9 @@ TEST_F(WorkbenchDialogTest, UserDeedsChangeStateAndNameTheActionToFire) {
 }
 
 TEST_F(WorkbenchDialogTest, UserCannotDoWhatADialogDoesNotOffer) {
-  dialog_.SetEnabled(ComponentKind::kPushButton, "Ok", false);
-  dialog_.SetVisible(ComponentKind::kSubLayout, "Group", false);
-  Get<TextState>(ComponentKind::kTextArea, "Area").SetEditable(false);
+  dialog_.SetEnabled(FieldKind::kPushButton, "Ok", false);
+  dialog_.SetVisible(FieldKind::kSubLayout, "Group", false);
+  Get<TextState>(FieldKind::kTextArea, "Area").SetEditable(false);
   const struct {
     UserOutcome outcome;
     const char* refusal;
@@ -222,8 +221,8 @@ TEST_F(WorkbenchDialogTest, UserCannotDoWhatADialogDoesNotOffer) {
 }
 
 TEST_F(WorkbenchDialogTest, DescriptionListsEveryComponentWithItsState) {
-  dialog_.SetEnabled(ComponentKind::kSubLayout, "Group", false);
-  Get<TextState>(ComponentKind::kTextArea, "Area").SetValue("a\nb");
+  dialog_.SetEnabled(FieldKind::kSubLayout, "Group", false);
+  Get<TextState>(FieldKind::kTextArea, "Area").SetValue("a\nb");
   const std::string text = dialog_.DescribeComponents();
   for (const char* line : {"RadioGroup Radio: a of a, b (greyed)\n", "InputPanel Field: \"x\"\n",
                            "TextArea Area: \"a\\nb\"\n", "CheckButton Check: unset\n",

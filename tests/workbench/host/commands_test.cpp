@@ -95,7 +95,7 @@ TEST_F(CommandsTest, MisusesAreNamed) {
        }},
   };
   for (const Refused& row : kRefused) {
-    host_.breaches.clear();
+    host_.events.Forget<Breach>();
     EXPECT_EQ(row.call(), PRO_TK_BAD_INPUTS) << row.breach;
     EXPECT_EQ(Breaches(), (Lines{std::string("plug-in misused ") + row.breach}));
   }
@@ -132,7 +132,7 @@ TEST_F(CommandsTest, WhatTheHostRefusesWithAStatusChangesNothing) {
   EXPECT_EQ(host_.commands.FindMenu("M"), nullptr);
   EXPECT_FALSE(host_.commands.Find("Command")->designated);
   EXPECT_EQ(Breaches(), Lines{});
-  EXPECT_EQ(host_.messages.missing.size(), 2u);
+  EXPECT_EQ(host_.events.All<MissingText>().size(), 2u);
 }
 
 TEST_F(CommandsTest, LabelsComeFromTheMessageFileOfTheLanguage) {

@@ -36,23 +36,14 @@ class HostFixture : public testing::Test {
 
   // An assembly "box.asm" with one component, shown in the current window.
   Model& ShowAssembly() {
-    Model assembly;
-    assembly.id = {"box", ModelKind::kAssembly};
-    Feature component;
-    component.id = 7;
-    component.component = {"lid", ModelKind::kPart};
-    assembly.features.push_back(component);
-    assembly.Reindex();
+    Model assembly({"box", ModelKind::kAssembly});
+    assembly.solid().features.Add(NewComponent(7, {"lid", ModelKind::kPart}));
     Model& added = host_.session.Add(std::move(assembly));
     host_.session.ActivateWindow(host_.session.ShowInWindow(added).id);
     return added;
   }
 
-  std::vector<std::string> Breaches() const {
-    std::vector<std::string> lines;
-    for (const Breach& breach : host_.breaches) lines.push_back(breach.Text());
-    return lines;
-  }
+  std::vector<std::string> Breaches() const { return host_.events.AllTexts<Breach>(); }
 
   const std::filesystem::path folder_ =
       std::filesystem::temp_directory_path() /

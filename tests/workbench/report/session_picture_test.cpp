@@ -7,19 +7,14 @@ namespace wb {
 namespace {
 
 Model Named(const std::string& name, ModelKind kind) {
-  Model model;
-  model.id = {name, kind};
-  return model;
+  return Model({name, kind});
 }
 
 // An assembly in session that holds `part` so many times, with component ids from 1.
 Model& AddAssembly(Session& session, const std::string& name, Model& part, int times) {
   Model assembly = Named(name, ModelKind::kAssembly);
   for (int id = 1; id <= times; ++id) {
-    Feature& component = assembly.features.emplace_back();
-    component.id = id;
-    component.component = part.id;
-    component.model = &part;
+    assembly.solid().features.Add(NewComponent(id, part.id));
   }
   return session.Add(std::move(assembly));
 }
@@ -51,7 +46,8 @@ TEST(SessionPictureTest, CountsOccurrencesBeyondTheLimitWithoutVisitingThem) {
 TEST(SessionPictureTest, AModelInsideItselfEnds) {
   Session session;
   Model& top = AddNested(session, 2, 1);
-  top.features[0].model->features[0].model = &top;
+  Model& below = *top.solid().features[0].ComponentModel();
+  below.solid().features[0].component->link.model = &top;
   EXPECT_EQ(TakeTree(top).rows.size(), 3u);
 }
 
@@ -64,15 +60,15 @@ TEST(SessionPictureTest, NotesWhatACommandChanged) {
   bolt.DeleteParameter("OLD");
   bolt.SetParameter("SET", 4);
   bolt.SetParameter("NEW", std::string("x"));
-  top.features[1].hidden = true;
+  top.solid().features[1].hidden = true;
   session.Add(Named("late", ModelKind::kPart)).SetParameter("P", 1);
 
   CommandRecord command;
   NoteChanges(before, TakePicture(session), command);
   std::vector<std::string> parameters;
-  for (const ParameterChange& change : command.parameters) {
-    parameters.push_back(change.model + " " + change.parameter + ": " +
-                         change.before.value_or("none") + " to " + change.after.value_or("none"));
+  for (const ValueChange& change : command.parameters) {
+    parameters.push_back(change.model + " " + change.name + ": " + change.before.value_or("none") +
+                         " to " + change.after.value_or("none"));
   }
   EXPECT_EQ(parameters, (std::vector<std::string>{"bolt.prt OLD: 3 to none", "bolt.prt SET: 3 to 4",
                                                   "bolt.prt NEW: none to x"}));

@@ -208,7 +208,7 @@ TEST_F(SpreadsheetServerTest, WrongCallsAreRefusedAndHeldAgainstThePlugin) {
   };
   for (const auto& row : kCases) {
     SCOPED_TRACE(row.breach);
-    host_.breaches.clear();
+    host_.events.Forget<Breach>();
     row.call();
     EXPECT_EQ(TestObject::result, row.result);
     EXPECT_EQ(Breaches(), Lines{"plug-in misused Excel: " + std::string(row.breach)});
@@ -216,9 +216,9 @@ TEST_F(SpreadsheetServerTest, WrongCallsAreRefusedAndHeldAgainstThePlugin) {
   wchar_t name[] = L"Value2";
   wchar_t* names[] = {name};
   DISPID id = 0;
-  host_.breaches.clear();
+  host_.events.Forget<Breach>();
   EXPECT_EQ(cell.get()->GetIDsOfNames(IID_NULL, names, 1, 0, &id), DISP_E_UNKNOWNNAME);
-  EXPECT_EQ(host_.breaches.size(), 1u);
+  EXPECT_EQ(host_.events.All<Breach>().size(), 1u);
 }
 
 TEST_F(SpreadsheetServerTest, TheProgramsOwnErrorsExplainThemselves) {
@@ -329,7 +329,7 @@ TEST_F(SpreadsheetServerTest, AProgramThatWouldNotEndIsNotHeldAgainstThePlugin) 
     const TestObject program = Start();
     spreadsheet_.Order({.busy = busy});
     for (int i = 0; i < busy; ++i) program.Call(kQuit);
-    host_.breaches.clear();
+    host_.events.Forget<Breach>();
     ReportLeftPrograms(-1);
     EXPECT_EQ(Breaches().size(), 2u) << busy;
   }
@@ -341,7 +341,7 @@ TEST_F(SpreadsheetServerTest, AWorkbookThatABusyProgramDidNotMarkIsAskedAbout) {
     excel.Cell("A1").Put(kValue2, "a");
     spreadsheet_.Order({.busy = busy});
     for (int i = 0; i < busy; ++i) excel.book.Put(kSaved, true);
-    host_.breaches.clear();
+    host_.events.Forget<Breach>();
     excel.program.Call(kQuit);
     EXPECT_EQ(Breaches(),
               (Lines{"plug-in misused Excel: Quit asks the user whether to save the workbook"}))

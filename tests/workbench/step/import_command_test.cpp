@@ -19,8 +19,7 @@ class Import : public testing::Test {
  protected:
   Import() {
     std::ofstream(folder_ / "notes.txt") << "mine";
-    Model bolt;
-    bolt.id = {"bolt", ModelKind::kPart};
+    const Model bolt({"bolt", ModelKind::kPart});
     bolt_.models.push_back(bolt);
     bolt_.tops.push_back(bolt.id);
   }

@@ -26,9 +26,9 @@ class ImportHooks : public HostFixture {
   int Run(const std::string& command) { return RunCommand(command).status; }
   // What the command showed in the message area.
   Lines NotesOf(const std::string& command) {
-    host_.messages.notes.clear();
+    host_.events.Forget<Note>();
     Run(command);
-    return host_.messages.notes;
+    return host_.events.AllTexts<Note>();
   }
 
   SteadyUser user_;
@@ -37,9 +37,10 @@ class ImportHooks : public HostFixture {
 
 TEST_F(ImportHooks, AMessageBoxIsRecordedAndAnsweredByTheUser) {
   EXPECT_EQ(Run("Box"), IDNO);
-  ASSERT_EQ(host_.windows.boxes.size(), 1u);
-  EXPECT_EQ(host_.windows.boxes[0].caption, "Caption");
-  EXPECT_EQ(host_.windows.boxes[0].text, "Delete all?");
+  const auto boxes = host_.events.All<MessageBox>();
+  ASSERT_EQ(boxes.size(), 1u);
+  EXPECT_EQ(boxes[0].caption, "Caption");
+  EXPECT_EQ(boxes[0].text, "Delete all?");
   host_.user = nullptr;
   EXPECT_EQ(Run("Box"), IDOK);
 }
@@ -53,11 +54,12 @@ TEST_F(ImportHooks, ABoxOnAnotherThreadIsABreachButAnswered) {
 TEST_F(ImportHooks, ProgramsAreRecordedInsteadOfStarted) {
   EXPECT_GT(Run("Explorer"), 32);
   EXPECT_GT(Run("Notepad"), 31);
-  ASSERT_EQ(host_.windows.shell.size(), 2u);
-  EXPECT_EQ(host_.windows.shell[0].program, "explorer");
-  EXPECT_EQ(host_.windows.shell[0].parameters, "C:\\");
-  EXPECT_EQ(host_.windows.shell[1].program, "notepad.exe list.ini");
-  EXPECT_EQ(host_.windows.shell[1].show, SW_SHOW);
+  const auto shell = host_.events.All<ShellCall>();
+  ASSERT_EQ(shell.size(), 2u);
+  EXPECT_EQ(shell[0].program, "explorer");
+  EXPECT_EQ(shell[0].parameters, "C:\\");
+  EXPECT_EQ(shell[1].program, "notepad.exe list.ini");
+  EXPECT_EQ(shell[1].show, SW_SHOW);
 }
 
 TEST_F(ImportHooks, ATimerWaitsUntilFiredAndIsGoneOnceStopped) {
@@ -66,7 +68,7 @@ TEST_F(ImportHooks, ATimerWaitsUntilFiredAndIsGoneOnceStopped) {
   EXPECT_EQ(host_.windows.timers[0].milliseconds, 2000u);
   FireTimers();
   FireTimers();
-  EXPECT_EQ(host_.messages.notes, (Lines{"中文标签"}));
+  EXPECT_EQ(host_.events.AllTexts<Note>(), (Lines{"中文标签"}));
 }
 
 TEST_F(ImportHooks, ATimerThatCouldNotBeStoppedFiresAgainAndIsNotHeldAgainstThePlugin) {
@@ -89,10 +91,11 @@ TEST_F(ImportHooks, KnownFoldersLieWhereTheRunWantsThem) {
 TEST_F(ImportHooks, FileDialogsAreAnsweredByTheUser) {
   user_.file = "C:\\bills\\pump";
   EXPECT_EQ(NotesOf("SaveFile"), (Lines{"From here to pump.xlsx, 1 of 2.500000"}));
-  ASSERT_EQ(host_.windows.file_requests.size(), 1u);
-  EXPECT_EQ(host_.windows.file_requests[0].asked_by, "GetSaveFileNameW");
-  EXPECT_EQ(host_.windows.file_requests[0].title, "Save the bill");
-  EXPECT_EQ(host_.windows.file_requests[0].filter, "Bills|*.xlsx|All|*.*");
+  const auto requests = host_.events.All<FileRequest>();
+  ASSERT_EQ(requests.size(), 1u);
+  EXPECT_EQ(requests[0].asked_by, "GetSaveFileNameW");
+  EXPECT_EQ(requests[0].title, "Save the bill");
+  EXPECT_EQ(requests[0].filter, "Bills|*.xlsx|All|*.*");
   user_.file.reset();
   EXPECT_EQ(Run("OpenFile"), FALSE);
 }
@@ -109,7 +112,10 @@ TEST_F(ImportHooks, AnObjectOfAnotherProgramIsRefusedUnlessAStandInMakesIt) {
   host_.automation = &program;
   EXPECT_EQ(Run("Object"), S_OK);
   host_.automation = nullptr;
-  EXPECT_EQ(host_.windows.classes, Lines(2, "{00021401-0000-0000-C000-000000000046}"));
+  Lines classes;
+  for (const ClassRequest& request : host_.events.All<ClassRequest>())
+    classes.push_back(request.id);
+  EXPECT_EQ(classes, Lines(2, "{00021401-0000-0000-C000-000000000046}"));
 }
 
 struct NaturalFailure {
@@ -150,7 +156,7 @@ TEST_F(ImportHooks, AWithheldHostFunctionIsMissingForThePlugin) {
   host_.windows.withheld = {"ProMessageDisplay"};
   host_.windows.desktop_folder = "C:\\desk";
   EXPECT_EQ(NotesOf("Desktop"), Lines{});
-  EXPECT_EQ(host_.not_modelled, Lines{});
+  EXPECT_EQ(host_.events.AllTexts<Gap>(), Lines{});
 }
 
 }  // namespace

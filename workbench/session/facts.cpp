@@ -1,0 +1,203 @@
+// Facts as texts, and the walks over records that files, reports and statements share.
+#include "workbench/session/facts.h"
+
+#include <charconv>
+#include <limits>
+
+#include "workbench/base/text.h"
+
+namespace wb {
+namespace {
+
+template <typename Number>
+std::optional<Number> Whole(std::string_view text) {
+  Number number{};
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return number;
+}
+
+std::string NumbersText(const std::vector<double>& numbers) {
+  std::vector<std::string> texts;
+  for (const double number : numbers) texts.push_back(NumberText(number));
+  return Join(" ", texts);
+}
+
+std::optional<std::vector<double>> Numbers(std::string_view text) {
+  std::vector<double> numbers;
+  while (!text.empty()) {
+    const size_t blank = std::min(text.find(' '), text.size());
+    const auto number = Whole<double>(text.substr(0, blank));
+    if (!number) return std::nullopt;
+    numbers.push_back(*number);
+    text.remove_prefix(std::min(blank + 1, text.size()));
+  }
+  return numbers;
+}
+
+// The facts of an item that say more than its defaults, for one that came or went.
+std::string Summary(const RecordType& type, const void* record) {
+  std::vector<std::string> texts;
+  for (const FactRow& row : type.facts) {
+    const FactValue value = row.get(record);
+    if (row.in_file == InFile::kIfNotDefault && value == row.get(type.plain())) continue;
+    texts.push_back(std::string(row.name) + " " + FactText(value));
+  }
+  return Join(", ", texts);
+}
+
+void CollectListChanges(const ListRow& list, void* before, void* after, const std::string& path,
+                        std::vector<FactChange>& changes) {
+  const RecordType& type = list.type();
+  for (size_t i = 0; i < list.size(before); ++i) {
+    const std::string key = list.key(before, i);
+    const std::string item = path + "/" + key;
+    const size_t now = list.find(after, key);
+    if (now == list.size(after)) {
+      changes.push_back({item, Summary(type, list.at(before, i)), std::nullopt});
+    } else {
+      CollectChanges(type, list.at(before, i), list.at(after, now), item + "/", changes);
+    }
+  }
+  for (size_t i = 0; i < list.size(after); ++i) {
+    const std::string key = list.key(after, i);
+    if (list.find(before, key) != list.size(before)) continue;
+    changes.push_back({path + "/" + key, std::nullopt, Summary(type, list.at(after, i))});
+  }
+}
+
+std::string NamesIn(std::span<const RecordRef> records) {
+  std::vector<std::string> names;
+  for (const RecordRef& ref : records) {
+    for (const FactRow& row : ref.type->facts) names.push_back(row.name);
+    for (const ListRow& list : ref.type->lists) names.push_back(std::string(list.name) + "/...");
+  }
+  return Join(", ", names);
+}
+
+FactPlace FindInList(void* record, const ListRow& list, std::string_view path) {
+  const size_t slash = std::min(path.find('/'), path.size());
+  const std::string key(path.substr(0, slash));
+  const size_t place = list.find(record, key);
+  if (place == list.size(record)) {
+    throw FactError("there is no " + std::string(list.name) + "/" + key);
+  }
+  const RecordRef item{list.at(record, place), &list.type()};
+  return FindFact({&item, 1}, path.substr(std::min(slash + 1, path.size())));
+}
+
+}  // namespace
+
+std::string FactText(const FactValue& value) {
+  switch (value.index()) {
+    case 0:
+      return "none";
+    case 1:
+      return std::get<bool>(value) ? "yes" : "no";
+    case 2:
+      return std::to_string(std::get<int>(value));
+    case 3:
+      return NumberText(std::get<double>(value));
+    case 4:
+      return std::get<std::string>(value);
+    default:
+      return NumbersText(std::get<std::vector<double>>(value));
+  }
+}
+
+FactValue ParseFact(std::string_view text, const FactValue& like) {
+  if (std::holds_alternative<bool>(like)) {
+    if (text == "yes" || text == "no") return text == "yes";
+    throw FactError("\"" + std::string(text) + "\" is neither yes nor no");
+  }
+  if (std::holds_alternative<int>(like)) {
+    if (const auto number = Whole<int>(text)) return *number;
+    throw FactError("\"" + std::string(text) + "\" is no whole number");
+  }
+  if (std::holds_alternative<double>(like)) {
+    if (const auto number = Whole<double>(text)) return *number;
+    throw FactError("\"" + std::string(text) + "\" is no number");
+  }
+  if (std::holds_alternative<std::vector<double>>(like)) {
+    if (const auto numbers = Numbers(text)) return *numbers;
+    throw FactError("\"" + std::string(text) + "\" is no row of numbers");
+  }
+  return std::string(text);
+}
+
+void RefuseFact(const FactValue& value, const std::string& wanted) {
+  throw FactError("\"" + FactText(value) + "\" where " + wanted + " is wanted");
+}
+
+void RefuseRepeated(const std::string& key) {
+  throw FactError(key + " occurs twice");
+}
+
+bool FactTraits<bool>::From(const FactValue& value) {
+  if (const auto* const flag = std::get_if<bool>(&value)) return *flag;
+  RefuseFact(value, "yes or no");
+}
+
+int FactTraits<int>::From(const FactValue& value) {
+  if (const auto* const number = std::get_if<int>(&value)) return *number;
+  RefuseFact(value, "a whole number");
+}
+
+double FactTraits<double>::From(const FactValue& value) {
+  if (const auto* const number = std::get_if<double>(&value)) return *number;
+  if (const auto* const whole = std::get_if<int>(&value)) return *whole;
+  RefuseFact(value, "a number");
+}
+
+std::string FactTraits<std::string>::From(const FactValue& value) {
+  if (const auto* const text = std::get_if<std::string>(&value)) return *text;
+  RefuseFact(value, "a text");
+}
+
+std::string KeyText(int id) {
+  return std::to_string(id);
+}
+
+template <>
+int KeyFrom<int>(const std::string& text) {
+  return Whole<int>(text).value_or(std::numeric_limits<int>::min());
+}
+
+template <>
+std::string KeyFrom<std::string>(const std::string& text) {
+  return FoldCase(text);
+}
+
+size_t PlaceFromNumber(const std::string& text, size_t size) {
+  const auto number = Whole<size_t>(text);
+  return number && *number >= 1 && *number <= size ? *number - 1 : size;
+}
+
+void CollectChanges(const RecordType& type, void* before, void* after, const std::string& path,
+                    std::vector<FactChange>& changes) {
+  for (const FactRow& row : type.facts) {
+    const FactValue was = row.get(before);
+    const FactValue is = row.get(after);
+    if (was != is) changes.push_back({path + row.name, FactText(was), FactText(is)});
+  }
+  for (const ListRow& list : type.lists) {
+    CollectListChanges(list, before, after, path + list.name, changes);
+  }
+}
+
+FactPlace FindFact(std::span<const RecordRef> records, std::string_view path) {
+  const size_t slash = std::min(path.find('/'), path.size());
+  const std::string_view name = path.substr(0, slash);
+  for (const RecordRef& ref : records) {
+    for (const FactRow& row : ref.type->facts) {
+      if (name == row.name && slash == path.size()) return {ref.record, &row};
+    }
+    for (const ListRow& list : ref.type->lists) {
+      if (name != list.name || slash == path.size()) continue;
+      return FindInList(ref.record, list, path.substr(slash + 1));
+    }
+  }
+  throw FactError("there is no fact \"" + std::string(path) + "\"; there are: " + NamesIn(records));
+}
+
+}  // namespace wb
