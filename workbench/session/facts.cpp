@@ -126,7 +126,7 @@ FactValue ParseFact(std::string_view text, const FactValue& like) {
 }
 
 void RefuseFact(const FactValue& value, const std::string& wanted) {
-  throw FactError("\"" + FactText(value) + "\" where " + wanted + " is wanted");
+  throw FactError("\"" + FactText(value) + "\" instead of " + wanted);
 }
 
 void RefuseRepeated(const std::string& key) {

@@ -230,8 +230,8 @@ int LineOfByte(const std::string& text, size_t byte) {
          static_cast<int>(std::count(text.begin(), text.begin() + static_cast<long>(end), '\n'));
 }
 
-// Reads a document entry by entry and keeps the line of the last one that `matches` accepts by its
-// path and value.
+// Reads a document entry by entry and finds the line of the first one that `matches` accepts by its
+// path and value; 0: none.
 class LineSearch {
  public:
   using Matches = std::function<bool(const DocumentPath& path, const Json& value)>;
@@ -244,7 +244,7 @@ class LineSearch {
       Look(event, value);
       return true;
     });
-    return std::max(line_, 1);
+    return line_;
   }
 
  private:
@@ -280,21 +280,23 @@ class LineSearch {
   int line_ = 0;
 };
 
-int LineOf(const std::string& text, const DocumentPath& wanted) {
-  return LineSearch(text, [&](const DocumentPath& path, const Json&) { return path == wanted; })
-      .Line();
+// The line of an entry, or of the one around it where the document has another form there.
+int LineOf(const std::string& text, DocumentPath wanted) {
+  for (; !wanted.empty(); wanted.pop_back()) {
+    const auto is_wanted = [&](const DocumentPath& path, const Json&) { return path == wanted; };
+    if (const int line = LineSearch(text, is_wanted).Line()) return line;
+  }
+  return 1;
 }
 
 // The line of the component `under`, or of such an assembly; the first line when none names it.
 int LineNaming(const std::string& text, const ModelName& under) {
-  return LineSearch(text,
-                    [&](const DocumentPath& path, const Json& value) {
-                      if (path.empty() || !value.is_string()) return false;
-                      const bool names =
-                          path.back() == "assembly" || (path.back() == "model" && path.size() > 1);
-                      return names && EqualFolded(value.get<std::string>(), under.Text());
-                    })
-      .Line();
+  const auto names = [&](const DocumentPath& path, const Json& value) {
+    if (path.empty() || !value.is_string()) return false;
+    const bool is_link = path.back() == "assembly" || (path.back() == "model" && path.size() > 1);
+    return is_link && EqualFolded(value.get<std::string>(), under.Text());
+  };
+  return std::max(LineSearch(text, names).Line(), 1);
 }
 
 Json ModelJson(const Model& model) {
