@@ -35,7 +35,6 @@ class Accounts {
   void Take(const void* what);
   // A fault kept the plug-in from giving this back: it is not held against it.
   void Forgive(const void* what) { open_.erase(what); }
-  bool IsOut(const void* what) const { return open_.contains(what); }
   void MoveTo(const void* from, const void* to);
 
   const std::unordered_map<const void*, Account>& open() const { return open_; }

@@ -32,7 +32,6 @@ class Dialog {
 
   const DialogResource& Resource() const { return resource_; }
   const std::string& Title() const { return title_; }
-  void SetTitle(std::string_view title) { title_ = title; }
   const std::vector<Field>& Fields() const { return components_; }
 
   // --- The plug-in's side. The out-pointers are set only on kOk and stay valid as long as the

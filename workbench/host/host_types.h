@@ -17,5 +17,3 @@
 #include "toolkit/ui.h"
 #include "toolkit/ui_table.h"
 #include "toolkit/window.h"
-
-const char* StatusWord(int status);

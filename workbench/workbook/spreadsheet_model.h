@@ -36,7 +36,6 @@ struct CellArea {
   bool Contains(CellPosition cell) const;
   bool Overlaps(const CellArea& other) const;
   bool IsWholeColumns() const { return Rows() == kSheetRows; }
-  bool IsWholeRows() const { return Columns() == kSheetColumns; }
 };
 std::string AreaAddress(const CellArea& area);
 // "A1:C1", or one cell.
