@@ -8,6 +8,7 @@
 #include "workbench/script/script_runner.h"
 #include "workbench/session/bench_shapes.h"
 #include "workbench/session/model_cycle.h"
+#include "workbench/statements/statement_families.h"
 #include "workbench/step/import.h"
 
 namespace wb {
@@ -211,29 +212,39 @@ void Save(ScriptRun& run, const Statement& statement) {
   run.host.session.Save(model);
 }
 
-constexpr ScriptHandler kHandlers[] = {
-    {"part", &Part},
-    {"assembly", &Assembly},
-    {"manufacturing", &Manufacturing},
-    {"drawing", &Drawing},
-    {"component", &Component},
-    {"feature", &OtherFeature},
-    {"parameter_real", &SetParameter},
-    {"parameter_integer", &SetParameter},
-    {"parameter_string", &SetParameter},
-    {"parameter_yes_no", &SetParameter},
-    {"parameter_missing", &DeleteParameter},
-    {"surface", &Surface},
-    {"bulk", &Bulk},
-    {"import", &Import},
-    {"retrieve", &Retrieve},
-    {"open", &Open},
-    {"activate", &Activate},
-    {"close_window", &CloseWindow},
-    {"erase", &Erase},
-    {"save_all", &SaveAll},
-    {"save", &Save},
+#define WB_STATE                                                             \
+  "STATE:active|inactive|family_table_suppressed|simplified_rep_suppressed|" \
+  "program_suppressed|suppressed|unregenerated"
+
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"part NAME {[sheet_metal] [skeleton]}",                       kTopPlace,    &Part},
+    {"assembly NAME",                                              kTopPlace,    &Assembly},
+    {"manufacturing NAME [of MODEL]",                              kTopPlace,    &Manufacturing},
+    {"drawing NAME [of MODEL] size SIZE...",                       kTopPlace,    &Drawing},
+    {"component MODEL <- COMPONENT {[id ID] [" WB_STATE "] [invisible] [flags FLAGS] [hidden] "
+     "[missing] [at X Y Z] [times TIMES]}",                        kTopPlace,    &Component},
+    {"feature MODEL type FEATURE_TYPE {[id ID] [" WB_STATE "] [invisible] [flags FLAGS] [hidden]}",
+                                                                   kTopPlace,    &OtherFeature},
+    {"parameter MODEL NAME real NUMBER",                           kTopOrDialog, &SetParameter},
+    {"parameter MODEL NAME integer INTEGER",                       kTopOrDialog, &SetParameter},
+    {"parameter MODEL NAME string TEXT",                           kTopOrDialog, &SetParameter},
+    {"parameter MODEL NAME yes_no FLAG:yes|no",                    kTopOrDialog, &SetParameter},
+    {"parameter MODEL NAME missing",                               kTopOrDialog, &DeleteParameter},
+    {"surface MODEL X Y Z X2 Y2 Z2",                               kTopPlace,    &Surface},
+    {"bulk SHAPE:flat|tree|chain|single|half|repeated|pool TIMES", kTopPlace,    &Bulk},
+    {"import PATH",                                                kTopPlace,    &Import},
+    {"retrieve MODEL",                                             kTopPlace,    &Retrieve},
+    {"open MODEL",                                                 kTopPlace,    &Open},
+    {"activate MODEL",                                             kTopOrDialog, &Activate},
+    {"close window",                                               kTopOrDialog, &CloseWindow},
+    {"erase MODEL",                                                kTopOrDialog, &Erase},
+    {"save all",                                                   kTopPlace,    &SaveAll},
+    {"save MODEL [in PATH]",                                       kTopPlace,    &Save},
 };
+// clang-format on
+
+#undef WB_STATE
 
 }  // namespace
 
@@ -249,8 +260,8 @@ ParameterValue ParameterArgument(const Statement& statement) {
   return text;
 }
 
-ScriptHandlers ModelStatements() {
-  return kHandlers;
+StatementForms ModelStatements() {
+  return kForms;
 }
 
 }  // namespace wb
