@@ -1,6 +1,8 @@
 // Statements that order faults; the option of the command line is read as the one it stands for.
 #include "workbench/statements/fault_statements.h"
 
+#include <algorithm>
+
 #include "workbench/base/command_line.h"
 #include "workbench/language/script_words.h"
 #include "workbench/script/script_calls.h"
