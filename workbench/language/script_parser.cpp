@@ -10,16 +10,15 @@
 namespace wb {
 namespace {
 
-const std::vector<Pattern>& Patterns() {
-  static const std::vector<Pattern> patterns = [] {
-    std::vector<Pattern> compiled;
-    for (const StatementForm& form : StatementForms()) {
-      compiled.push_back(CompilePattern(form.pattern));
-    }
-    return compiled;
-  }();
-  return patterns;
-}
+// A form, ready to be compared with lines.
+struct ReadableForm {
+  explicit ReadableForm(const StatementForm& row)
+      : form(&row), pattern(CompilePattern(row.pattern)) {}
+
+  const StatementForm* form;
+  Pattern pattern;
+};
+using ReadableForms = std::vector<ReadableForm>;
 
 const char* PlaceName(unsigned places) {
   if ((places & kTopPlace) != 0) return "at the top level of a script";
@@ -38,9 +37,10 @@ std::string Suggestion(const std::string& word, const std::vector<std::string>& 
 // What the forms of one place make of a line.
 class FormSearch {
  public:
-  FormSearch(const ScriptLine& line, unsigned place) : line_(line) {
-    for (size_t i = 0; i < StatementForms().size() && !found_; ++i) {
-      if ((StatementForms()[i].places & place) != 0) Try(StatementForms()[i], Patterns()[i]);
+  FormSearch(const ReadableForms& forms, const ScriptLine& line, unsigned place)
+      : forms_(forms), line_(line) {
+    for (size_t i = 0; i < forms.size() && !found_; ++i) {
+      if ((forms[i].form->places & place) != 0) Try(forms[i]);
     }
   }
 
@@ -61,10 +61,10 @@ class FormSearch {
   }
 
  private:
-  void Try(const StatementForm& form, const Pattern& pattern) {
-    PatternMatch match = MatchPattern(pattern, line_.words);
+  void Try(const ReadableForm& tried) {
+    PatternMatch match = MatchPattern(tried.pattern, line_.words);
     if (match.matched) {
-      found_ = &form;
+      found_ = tried.form;
       best_ = std::move(match);
       return;
     }
@@ -74,19 +74,20 @@ class FormSearch {
       wanted_.clear();
     }
     same_problem_ = nearest_.empty() || (same_problem_ && match.problem == best_.problem);
-    nearest_.push_back(form.pattern);
+    nearest_.push_back(tried.form->pattern);
     wanted_.insert(wanted_.end(), match.wanted.begin(), match.wanted.end());
     best_ = std::move(match);
   }
 
   // A form of another place that the line would be.
   const StatementForm* FormElsewhere() const {
-    for (size_t i = 0; i < StatementForms().size(); ++i) {
-      if (MatchPattern(Patterns()[i], line_.words).matched) return &StatementForms()[i];
-    }
-    return nullptr;
+    const auto found = std::find_if(forms_.begin(), forms_.end(), [&](const ReadableForm& other) {
+      return MatchPattern(other.pattern, line_.words).matched;
+    });
+    return found == forms_.end() ? nullptr : found->form;
   }
 
+  const ReadableForms& forms_;
   const ScriptLine& line_;
   const StatementForm* found_ = nullptr;
   PatternMatch best_;
@@ -97,9 +98,9 @@ class FormSearch {
 
 class Parser {
  public:
-  Parser(const std::string& file, const std::vector<ScriptLine>& lines,
+  Parser(StatementForms forms, const std::string& file, const std::vector<ScriptLine>& lines,
          std::vector<LineError>* errors)
-      : file_(file), lines_(lines), errors_(*errors) {}
+      : forms_(forms.begin(), forms.end()), file_(file), lines_(lines), errors_(*errors) {}
 
   std::vector<Statement> Top() {
     std::vector<Statement> statements;
@@ -125,7 +126,7 @@ class Parser {
 
   void One(unsigned place, std::vector<Statement>* statements) {
     const ScriptLine& line = lines_[at_++];
-    FormSearch search(line, place);
+    FormSearch search(forms_, line, place);
     if (search.found() == nullptr) {
       Error(line.number, search.Problem());
       SkipBlockOf(line);
@@ -149,14 +150,22 @@ class Parser {
   // A faulty line that would have opened a block takes its block along, so that one mistake is one
   // error.
   void SkipBlockOf(const ScriptLine& line) {
-    const std::string& last = line.words.back().text;
-    const std::string& first = line.words[0].text;
-    const bool in_dialog = first == "dialog" || first == "at" || last == "while";
-    if (!in_dialog && last != "with") return;
+    const auto opened = std::find_if(forms_.begin(), forms_.end(), [&](const ReadableForm& form) {
+      return form.form->block != 0 && SeemsMeant(form.pattern, line);
+    });
+    if (opened == forms_.end()) return;
     std::vector<Statement> dropped;
-    Block(in_dialog ? kDialogPlace : kAnswerPlace, line.number, &dropped);
+    Block(opened->form->block, line.number, &dropped);
   }
 
+  // The word that ends such a statement tells it, or the first one where it ends otherwise.
+  static bool SeemsMeant(const Pattern& pattern, const ScriptLine& line) {
+    const bool by_end = pattern.back().kind == PatternPart::Kind::kWords;
+    const ScriptWord& word = by_end ? line.words.back() : line.words.front();
+    return word.text == (by_end ? pattern.back() : pattern.front()).words.front();
+  }
+
+  const ReadableForms forms_;
   const std::string& file_;
   const std::vector<ScriptLine>& lines_;
   std::vector<LineError>& errors_;
@@ -164,6 +173,11 @@ class Parser {
 };
 
 }  // namespace
+
+bool Statement::Is(std::string_view word) const {
+  const std::string_view pattern = form->pattern;
+  return pattern.substr(0, pattern.find(' ')) == word;
+}
 
 const std::string& Statement::Text(std::string_view name) const {
   static const std::string none;
@@ -185,10 +199,10 @@ double Statement::Decimal(std::string_view name) const {
   return DecimalNumber(Text(name)).value_or(0);
 }
 
-ParsedScript ParseScript(std::string_view text, const std::string& file) {
+ParsedScript ParseScript(std::string_view text, const std::string& file, StatementForms forms) {
   ParsedScript script;
   const std::vector<ScriptLine> lines = LexScript(text, file, &script.errors);
-  script.statements = Parser(file, lines, &script.errors).Top();
+  script.statements = Parser(forms, file, lines, &script.errors).Top();
   std::stable_sort(script.errors.begin(), script.errors.end(),
                    [](const LineError& a, const LineError& b) { return a.line < b.line; });
   return script;

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "workbench/base/line_error.h"
-#include "workbench/language/script_grammar.h"
 #include "workbench/language/script_pattern.h"
+#include "workbench/language/statement_form.h"
 
 namespace wb {
 
@@ -20,7 +20,8 @@ struct Statement {
   ScriptArguments arguments;
   std::vector<Statement> block;
 
-  bool Is(std::string_view id) const { return form->id == id; }
+  // Whether its pattern begins with this word.
+  bool Is(std::string_view word) const;
   bool Has(std::string_view name) const { return arguments.contains(name); }
   // The argument's (first) word; "" when the line left it out.
   const std::string& Text(std::string_view name) const;
@@ -35,7 +36,7 @@ struct ParsedScript {
   std::vector<LineError> errors;      // in line order
 };
 
-// `file` is what errors and statements name.
-ParsedScript ParseScript(std::string_view text, const std::string& file);
+// `file` is what errors and statements name; `forms` outlive the statements.
+ParsedScript ParseScript(std::string_view text, const std::string& file, StatementForms forms);
 
 }  // namespace wb

@@ -8,10 +8,11 @@
 #include "workbench/main/subcommands.h"
 #include "workbench/plugin/install_tree.h"
 #include "workbench/report/report.h"
-#include "workbench/script/script_faults.h"
-#include "workbench/script/script_runner.h"
 #include "workbench/script/script_watch.h"
 #include "workbench/script/script_windows.h"
+#include "workbench/statements/fault_statements.h"
+#include "workbench/statements/script_file.h"
+#include "workbench/statements/statement_families.h"
 
 namespace wb {
 namespace {
@@ -46,9 +47,10 @@ void RunOne(const std::string& script, const ScriptOptions& options, RunRecord& 
 
 // A script that puts the plug-in elsewhere cannot share a process with others.
 bool NeedsOwnProcess(const std::string& script) {
-  const ParsedScript parsed = ParseScript(ReadFileBytes(PathFromUtf8(script)).value_or(""), script);
+  const std::string text = ReadFileBytes(PathFromUtf8(script)).value_or("");
+  const ParsedScript parsed = ParseScript(text, script, AllStatements());
   return std::any_of(parsed.statements.begin(), parsed.statements.end(),
-                     [](const Statement& s) { return s.Is("install_as") || s.Is("plugin_as"); });
+                     [](const Statement& s) { return s.Is("install") || s.Is("plugin"); });
 }
 
 // Counts what a process of its own closes with, and passes on the lines before.

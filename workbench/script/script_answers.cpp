@@ -1,5 +1,6 @@
-// Answers of the scripted user: picks, files, prompts and message boxes.
+// Answers of the scripted user: dialogs, picks, files, prompts and message boxes.
 #include "workbench/base/text.h"
+#include "workbench/script/script_calls.h"
 #include "workbench/script/script_paths.h"
 #include "workbench/script/script_runner.h"
 
@@ -33,7 +34,38 @@ bool IsKind(const MessageBox& box, const std::string& kind) {
   return box.style == style && box.caption != kCaption;
 }
 
+void AwaitCall(ScriptRun& run, const Statement& statement) {
+  CheckFunctions(statement);
+  run.user.Await(statement);
+}
+
+#define WB_MESSAGE "message KIND:caption|plain|warning TEXT [answer BUTTON:ok|cancel|yes|no]"
+#define WB_REQUEST "{[title TITLE] [filter FILTER] [folder FOLDER]}"
+
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"dialog NAME",                          kAnswerOrDialog, kWhenAsked, kDialogPlace},
+    {WB_MESSAGE " while",                    kAnswerOrDialog, kWhenAsked, kDialogPlace},
+    {WB_MESSAGE,                             kAnswerOrDialog, kWhenAsked},
+    {"pick cancel",                          kAnswerOrDialog, kWhenAsked},
+    {"pick item ITEM ID of MODEL [at PATH]", kAnswerOrDialog, kWhenAsked},
+    {"pick PATH...",                         kAnswerOrDialog, kWhenAsked},
+    {"file cancel " WB_REQUEST,              kAnswerOrDialog, kWhenAsked},
+    {"file PATH " WB_REQUEST,                kAnswerOrDialog, kWhenAsked},
+    {"prompt cancel [asks PROMPT]",          kAnswerOrDialog, kWhenAsked},
+    {"prompt TEXT [asks PROMPT]",            kAnswerOrDialog, kWhenAsked},
+    {"at call NTH of FUNCTION",              kAnswerOrDialog, &AwaitCall, kDialogPlace},
+};
+// clang-format on
+
+#undef WB_MESSAGE
+#undef WB_REQUEST
+
 }  // namespace
+
+StatementForms AnswerStatements() {
+  return kForms;
+}
 
 std::string DescribeBox(const MessageBox& box) {
   for (const char* const kind : {"caption", "plain", "warning"}) {
@@ -48,13 +80,13 @@ bool BoxIs(const MessageBox& box, const std::string& kind, const std::string& te
 }
 
 std::optional<std::vector<PickedItem>> ScriptUser::AnswerPick(const PickRequest& request) {
-  const Statement* const answer = Take({"pick", "pick_item", "pick_cancel"});
+  const Statement* const answer = Take("pick");
   if (answer == nullptr) {
     Unanswered("a pick of " + request.filter + " (at most " + std::to_string(request.max_count) +
                ") was asked for and nobody answers");
     return std::nullopt;
   }
-  if (answer->Is("pick_cancel")) return std::nullopt;
+  if (answer->Has("cancel")) return std::nullopt;
   try {
     return PicksOf(run_, *answer);
   } catch (const std::runtime_error& error) {
@@ -84,7 +116,7 @@ void ScriptUser::CheckFileRequest(const Statement& answer, const FileRequest& re
 }
 
 std::optional<std::string> ScriptUser::AnswerFile(const FileRequest& request) {
-  const Statement* const answer = Take({"file", "file_cancel"});
+  const Statement* const answer = Take("file");
   if (answer == nullptr) {
     Unanswered("a file was asked for by " + request.asked_by + " (title " + Quoted(request.title) +
                ", filter " + Quoted(request.filter) + ", folder " + Quoted(request.start_folder) +
@@ -92,12 +124,12 @@ std::optional<std::string> ScriptUser::AnswerFile(const FileRequest& request) {
     return std::nullopt;
   }
   if (!run_.lenient) CheckFileRequest(*answer, request);
-  if (answer->Is("file_cancel")) return std::nullopt;
+  if (answer->Has("cancel")) return std::nullopt;
   return answer->Text("PATH");
 }
 
 std::optional<std::string> ScriptUser::AnswerText(const std::string& prompt, int max_length) {
-  const Statement* const answer = Take({"prompt", "prompt_cancel"});
+  const Statement* const answer = Take("prompt");
   if (answer == nullptr) {
     Unanswered("the prompt " + Quoted(prompt) + " (at most " + std::to_string(max_length) +
                " characters) was shown and nobody answers");
@@ -106,12 +138,12 @@ std::optional<std::string> ScriptUser::AnswerText(const std::string& prompt, int
   if (answer->Has("asks") && !run_.lenient) {
     run_.CheckText(*answer, "prompt", answer->Text("PROMPT"), prompt);
   }
-  if (answer->Is("prompt_cancel")) return std::nullopt;
+  if (answer->Has("cancel")) return std::nullopt;
   return answer->Text("TEXT");
 }
 
 int ScriptUser::PressedButton(const MessageBox& box) {
-  const Statement* const answer = Take({"message", "message_while"});
+  const Statement* const answer = Take("message");
   if (answer == nullptr) {
     Unanswered("message box that the script does not name: " + DescribeBox(box));
     return kOkButton;
@@ -121,7 +153,7 @@ int ScriptUser::PressedButton(const MessageBox& box) {
     run_.Check(*answer, BoxIs(box, kind, answer->Text("TEXT")), "message box",
                kind + " " + Quoted(answer->Text("TEXT")), DescribeBox(box));
   }
-  if (answer->Is("message_while")) {
+  if (answer->Has("while")) {
     Perform(*answer, answer->block, dialogs_.empty() ? nullptr : dialogs_.back());
   }
   return ButtonId(answer->Text("BUTTON"));

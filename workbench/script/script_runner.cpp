@@ -22,26 +22,7 @@ void ReplaceAll(std::string* text, const std::string& what, const std::string& w
   }
 }
 
-std::vector<ScriptHandlers> AllHandlers() {
-  return {FolderStatements(),   ModelStatements(),      StateStatements(),
-          LifeStatements(),     DialogStatements(),     DialogExpectations(),
-          ActionExpectations(), ModelExpectations(),    FileExpectations(),
-          CallExpectations(),   RegistryExpectations(), SpreadsheetStatements()};
-}
-
 }  // namespace
-
-ScriptAction FindScriptAction(const StatementForm& form) {
-  static const auto actions = [] {
-    std::map<std::string_view, ScriptAction> by_id;
-    for (const ScriptHandlers& family : AllHandlers()) {
-      for (const ScriptHandler& handler : family) by_id.emplace(handler.id, handler.action);
-    }
-    return by_id;
-  }();
-  const auto found = actions.find(form.id);
-  return found == actions.end() ? nullptr : found->second;
-}
 
 std::string Quoted(const std::string& text) {
   std::string quoted = "\"";
@@ -111,8 +92,8 @@ void ScriptRun::Expand(Statement* statement) {
 
 void ScriptRun::Execute(const Statement& statement) {
   NotePlace(statement.Place());
-  const ScriptAction action = FindScriptAction(*statement.form);
-  if (action == nullptr) throw ScriptError("nothing asked for this answer");
+  const StatementAction action = statement.form->action;
+  if (action == kWhenAsked) throw ScriptError("nothing asked for this answer");
   Statement expanded = statement;
   Expand(&expanded);
   action(*this, expanded);
@@ -245,7 +226,7 @@ void ScriptRun::AppendTrace(const Statement& at) {
   std::sort(lines.begin(), lines.end(),
             [](const Crossed& a, const Crossed& b) { return a.call < b.call; });
   std::ofstream out(options.trace, std::ios::binary | std::ios::app);
-  out << "== " << at.Place() << ": " << at.form->id << " " << at.Text("COMMAND") << "\n";
+  out << "== " << at.Place() << ": " << at.text << "\n";
   for (const Crossed& line : lines) {
     out << line.call << std::string(1 + 2 * static_cast<size_t>(std::max(line.depth, 0)), ' ')
         << line.function << "(" << line.arguments << ") = " << WordOf(StatusWords(), line.status)

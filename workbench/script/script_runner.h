@@ -5,7 +5,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <span>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -101,6 +100,9 @@ class ScriptRun {
   std::vector<std::string> TakeComplaints();
   void BeginMarks();
 
+  // What a script says before a command runs is how the models are; later the user changes them.
+  bool ChangedByUser() const { return !host.running_command.empty(); }
+
   // A model by "bolt" or "bolt.prt", in session; a bare name prefers the solid to its drawing.
   Model& ModelNamed(const std::string& name);
   Model* FindModel(const std::string& name);
@@ -143,49 +145,7 @@ class ScriptRun {
   std::unique_ptr<Plugin> plugin_;
 };
 
-using ScriptAction = void (*)(ScriptRun& run, const Statement& statement);
-struct ScriptHandler {
-  const char* id;  // of the statement form
-  ScriptAction action;
-};
-using ScriptHandlers = std::span<const ScriptHandler>;
-
-// One table a family of statements.
-ScriptHandlers FolderStatements();
-ScriptHandlers ModelStatements();
-ScriptHandlers StateStatements();
-ScriptHandlers LifeStatements();
-ScriptHandlers DialogStatements();
-ScriptHandlers DialogExpectations();
-ScriptHandlers ActionExpectations();
-ScriptHandlers ModelExpectations();
-ScriptHandlers FileExpectations();
-ScriptHandlers CallExpectations();
-ScriptHandlers RegistryExpectations();
-ScriptHandlers SpreadsheetStatements();
-
-// Calls of the last action in the order of their beginnings; a call's line is written when it ends.
-// Throws ScriptError while the trace is off.
-std::vector<Crossed> LinesInOrder(const ScriptRun& run);
-// A name that no call bears would make "none" hold for ever; it ends the script.
-void CheckFunctions(const Statement& statement);
-
-// Null for answers, which are taken when the plug-in asks.
-ScriptAction FindScriptAction(const StatementForm& form);
-
 // `text` as a script would write it, so that tabs can be seen.
 std::string Quoted(const std::string& text);
-
-// What became of one script; its failures are in the record.
-struct ScriptOutcome {
-  int passed = 0;
-  int failed = 0;
-  bool readable = true;  // false: the file cannot be read or has errors, and nothing of it ran
-  std::string skipped;   // why it was not run here; empty: it was
-};
-
-// Reads, checks and runs one script, and adds to `record` what happened.
-ScriptOutcome RunScriptFile(const std::filesystem::path& file, const ScriptOptions& options,
-                            RunRecord& record);
 
 }  // namespace wb

@@ -1,8 +1,6 @@
 // Deeds of the scripted user, one after another, and what is left over of them.
 #include "workbench/script/script_user.h"
 
-#include <algorithm>
-
 #include "workbench/dialog/dialog_html.h"
 #include "workbench/script/script_runner.h"
 
@@ -44,8 +42,7 @@ void ScriptUser::ReportMissed(const ScriptMoments::Missed& missed) {
 void ScriptUser::AwaitNext() {
   if (levels_.empty() || !levels_.back().of_answers) return;
   const std::vector<Statement>& statements = *levels_.back().statements;
-  for (size_t& next = levels_.back().next;
-       next < statements.size() && statements[next].Is("at_call");) {
+  for (size_t& next = levels_.back().next; next < statements.size() && statements[next].Is("at");) {
     ExecuteGuarded(statements[next++]);
   }
 }
@@ -62,20 +59,19 @@ bool ScriptUser::CallBegins(const char* function) {
 }
 
 const Statement& ScriptUser::Place() const {
-  static const StatementForm kNowhere{"", "", 0};
+  static const StatementForm kNowhere{"", 0, kWhenAsked};
   static const Statement nowhere{&kNowhere, "script", 0, "", {}, {}};
   if (levels_.empty()) return nowhere;
   const Level& level = levels_.back();
   return level.next < level.statements->size() ? (*level.statements)[level.next] : *level.opened_at;
 }
 
-const Statement* ScriptUser::Take(std::initializer_list<const char*> forms) {
+const Statement* ScriptUser::Take(const char* word) {
   if (levels_.empty()) return nullptr;
   Level& level = levels_.back();
   for (size_t at = level.next; at < level.statements->size(); ++at) {
     const Statement& next = (*level.statements)[at];
-    const auto is_next = [&](const char* form) { return next.Is(form); };
-    if (std::any_of(forms.begin(), forms.end(), is_next)) {
+    if (next.Is(word)) {
       level.next = at + 1;
       return &next;
     }
@@ -115,7 +111,7 @@ void ScriptUser::CloseForUser(LiveDialog& dialog) {
 // No exception may pass through the plug-in, which waits for this answer.
 void ScriptUser::ExecuteGuarded(const Statement& statement) {
   try {
-    if (FindScriptAction(*statement.form) != nullptr) {
+    if (statement.form->action != kWhenAsked) {
       run_.Execute(statement);
     } else if (!run_.lenient) {
       run_.Fail(statement, "nothing asked for this answer");
@@ -137,7 +133,7 @@ void ScriptUser::Perform(const Statement& opened_at, const std::vector<Statement
 }
 
 void ScriptUser::WorkDialog(LiveDialog& dialog) {
-  const Statement* const answer = Take({"dialog"});
+  const Statement* const answer = Take("dialog");
   if (answer == nullptr || answer->Text("NAME") != dialog.name) {
     Unanswered("dialog " + dialog.name + " opened and nobody answers it; it has\n" +
                dialog.state.DescribeComponents());

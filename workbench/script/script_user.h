@@ -58,8 +58,8 @@ class ScriptUser : public User {
 
   const Statement& Place() const;
   std::string Deed() const;
-  // The next statement when it is one of `forms`, taken; null otherwise.
-  const Statement* Take(std::initializer_list<const char*> forms);
+  // The next statement when it begins with `word`, taken; null otherwise.
+  const Statement* Take(const char* word);
   void Perform(const Statement& opened_at, const std::vector<Statement>& statements,
                const LiveDialog* dialog);
   void ExecuteGuarded(const Statement& statement);
@@ -82,6 +82,9 @@ class ScriptUser : public User {
   ScriptMoments moments_;
   std::vector<LiveDialog*> dialogs_;
 };
+
+// The answers, and what the user does in the middle of an action that shows nothing.
+StatementForms AnswerStatements();
 
 // A message box by kind and text; the kinds are "caption", "plain" and "other".
 std::string DescribeBox(const MessageBox& box);

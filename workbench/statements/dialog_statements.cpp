@@ -3,6 +3,7 @@
 
 #include "workbench/base/text.h"
 #include "workbench/script/script_runner.h"
+#include "workbench/statements/statement_families.h"
 
 namespace wb {
 namespace {
@@ -192,31 +193,40 @@ void ExpectColour(ScriptRun& run, const Statement& statement) {
             shown(colour));
 }
 
-constexpr ScriptHandler kDeeds[] = {
-    {"set", &Set},          {"choose", &Choose}, {"check", &SetCheck},
-    {"uncheck", &SetCheck}, {"rows", &Rows},     {"double_click", &DoubleClick},
-    {"focus", &Focus},      {"press", &Press},   {"close", &Close},
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"set COMPONENT TEXT",                       kDialogPlace, &Set},
+    {"choose COMPONENT ITEM_NAME...",            kDialogPlace, &Choose},
+    {"check COMPONENT",                          kDialogPlace, &SetCheck},
+    {"uncheck COMPONENT",                        kDialogPlace, &SetCheck},
+    {"rows COMPONENT ROW...",                    kDialogPlace, &Rows},
+    {"double_click COMPONENT ROW",               kDialogPlace, &DoubleClick},
+    {"focus COMPONENT ROW COLUMN",               kDialogPlace, &Focus},
+    {"press COMPONENT",                          kDialogPlace, &Press},
+    {"close",                                    kDialogPlace, &Close},
+    {"expect title TEXT",                        kDialogPlace, &ExpectTitle},
+    {"expect field COMPONENT TEXT",              kDialogPlace, &ExpectField},
+    {"expect choice COMPONENT none",             kDialogPlace, &ExpectChoice},
+    {"expect choice COMPONENT ITEM_NAME...",     kDialogPlace, &ExpectChoice},
+    {"expect items COMPONENT ITEM_NAME...",      kDialogPlace, &ExpectItems},
+    {"expect STATE:checked|unchecked COMPONENT", kDialogPlace, &ExpectCheck},
+    {"expect STATE:enabled|disabled COMPONENT",  kDialogPlace, &ExpectEnabled},
+    {"expect STATE:visible|invisible COMPONENT", kDialogPlace, &ExpectVisible},
+    {"expect label COMPONENT TEXT",              kDialogPlace, &ExpectLabel},
+    {"expect cell COMPONENT ROW COLUMN TEXT",    kDialogPlace, &ExpectCell},
+    {"expect rows COMPONENT none",               kDialogPlace, &ExpectRows},
+    {"expect rows COMPONENT ROW...",             kDialogPlace, &ExpectRows},
+    {"expect columns COMPONENT COLUMN...",       kDialogPlace, &ExpectColumns},
+    {"expect labels COMPONENT TEXT...",          kDialogPlace, &ExpectLabels},
+    {"expect colour COMPONENT ROW COLUMN none",  kDialogPlace, &ExpectColour},
+    {"expect colour COMPONENT ROW COLUMN N",     kDialogPlace, &ExpectColour},
 };
-
-constexpr ScriptHandler kExpectations[] = {
-    {"expect_title", &ExpectTitle},        {"expect_field", &ExpectField},
-    {"expect_choice_none", &ExpectChoice}, {"expect_choice", &ExpectChoice},
-    {"expect_items", &ExpectItems},        {"expect_check", &ExpectCheck},
-    {"expect_enabled", &ExpectEnabled},    {"expect_visible", &ExpectVisible},
-    {"expect_label", &ExpectLabel},        {"expect_cell", &ExpectCell},
-    {"expect_rows_none", &ExpectRows},     {"expect_rows", &ExpectRows},
-    {"expect_columns", &ExpectColumns},    {"expect_labels", &ExpectLabels},
-    {"expect_colour_none", &ExpectColour}, {"expect_colour", &ExpectColour},
-};
+// clang-format on
 
 }  // namespace
 
-ScriptHandlers DialogStatements() {
-  return kDeeds;
-}
-
-ScriptHandlers DialogExpectations() {
-  return kExpectations;
+StatementForms DialogStatements() {
+  return kForms;
 }
 
 }  // namespace wb

@@ -4,6 +4,7 @@
 #include "workbench/base/text.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/script/script_windows.h"
+#include "workbench/statements/statement_families.h"
 
 namespace wb {
 namespace {
@@ -96,24 +97,26 @@ void ExpectTimer(ScriptRun& run, const Statement& statement) {
   }
 }
 
-constexpr ScriptHandler kHandlers[] = {
-    {"expect_note", &ExpectNote},
-    {"expect_notes", &ExpectNotes},
-    {"expect_no_note", &ExpectNotes},
-    {"expect_message", &ExpectMessage},
-    {"expect_no_message", &ExpectNoMessage},
-    {"expect_shell", &ExpectShell},
-    {"expect_no_shell", &ExpectNoShell},
-    {"expect_winexec", &ExpectWinExec},
-    {"expect_clipboard", &ExpectClipboard},
-    {"expect_timer", &ExpectTimer},
-    {"expect_no_timer", &ExpectTimer},
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"expect note TEXT",                               kTopOrDialog, &ExpectNote},
+    {"expect notes TEXT...",                           kTopOrDialog, &ExpectNotes},
+    {"expect no note",                                 kTopOrDialog, &ExpectNotes},
+    {"expect message KIND:caption|plain|warning TEXT", kTopOrDialog, &ExpectMessage},
+    {"expect no message",                              kTopOrDialog, &ExpectNoMessage},
+    {"expect shell PROGRAM PARAMETERS",                kTopOrDialog, &ExpectShell},
+    {"expect no shell",                                kTopOrDialog, &ExpectNoShell},
+    {"expect winexec TEXT",                            kTopOrDialog, &ExpectWinExec},
+    {"expect clipboard TEXT",                          kTopOrDialog, &ExpectClipboard},
+    {"expect timer N",                                 kTopPlace,    &ExpectTimer},
+    {"expect no timer",                                kTopPlace,    &ExpectTimer},
 };
+// clang-format on
 
 }  // namespace
 
-ScriptHandlers ActionExpectations() {
-  return kHandlers;
+StatementForms ActionExpectations() {
+  return kForms;
 }
 
 }  // namespace wb

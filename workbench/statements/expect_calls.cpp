@@ -3,9 +3,9 @@
 
 #include "workbench/base/text.h"
 #include "workbench/language/script_words.h"
+#include "workbench/script/script_calls.h"
 #include "workbench/script/script_runner.h"
-#include "workbench/spreadsheet/spreadsheet_members.h"
-#include "workbench/windows/windows_hooks.h"
+#include "workbench/statements/statement_families.h"
 
 namespace wb {
 namespace {
@@ -87,39 +87,23 @@ void ExpectFaults(ScriptRun& run, const Statement& statement) {
             statement.Text("N"), std::to_string(run.faults_struck));
 }
 
-constexpr ScriptHandler kHandlers[] = {
-    {"expect_calls_none", &ExpectCalls}, {"expect_calls_at_most", &ExpectCalls},
-    {"expect_calls", &ExpectCalls},      {"expect_call", &ExpectCall},
-    {"expect_order", &ExpectOrder},      {"expect_environment", &ExpectEnvironment},
-    {"expect_status", &ExpectStatus},    {"expect_faults", &ExpectFaults},
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"expect calls FUNCTION none",        kTopOrDialog, &ExpectCalls},
+    {"expect calls FUNCTION at most N",   kTopOrDialog, &ExpectCalls},
+    {"expect calls FUNCTION N",           kTopOrDialog, &ExpectCalls},
+    {"expect call FUNCTION with TEXT",    kTopOrDialog, &ExpectCall},
+    {"expect order FUNCTION...",          kTopOrDialog, &ExpectOrder},
+    {"expect selection_environment TEXT", kTopOrDialog, &ExpectEnvironment},
+    {"expect status STATUS",              kTopPlace,    &ExpectStatus},
+    {"expect faults N",                   kTopPlace,    &ExpectFaults},
 };
+// clang-format on
 
 }  // namespace
 
-void CheckFunctions(const Statement& statement) {
-  for (const std::string& function : statement.Texts("FUNCTION")) {
-    if (function == "any" || IsSpreadsheetMember(function)) continue;
-    if (function.starts_with(kSpreadsheetPrefix)) {
-      throw ScriptError("the spreadsheet program has no member " + function +
-                        "; a property that is put ends with \"=\"");
-    }
-    if (!IsMetFunction(function.c_str())) {
-      throw ScriptError("neither the host nor the intercepted part of Windows has a function " +
-                        function);
-    }
-  }
-}
-
-std::vector<Crossed> LinesInOrder(const ScriptRun& run) {
-  if (!run.host.trace.keep_lines) throw ScriptError("the trace is off");
-  std::vector<Crossed> lines = run.host.trace.lines();
-  std::sort(lines.begin(), lines.end(),
-            [](const Crossed& a, const Crossed& b) { return a.call < b.call; });
-  return lines;
-}
-
-ScriptHandlers CallExpectations() {
-  return kHandlers;
+StatementForms CallExpectations() {
+  return kForms;
 }
 
 }  // namespace wb

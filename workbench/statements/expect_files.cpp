@@ -3,6 +3,7 @@
 #include "workbench/base/utf8_text.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/script/script_windows.h"
+#include "workbench/statements/statement_families.h"
 
 namespace wb {
 namespace {
@@ -55,20 +56,22 @@ void ExpectLog(ScriptRun& run, const Statement& statement) {
                         : Cut(log.size() > kMostShown ? log.substr(log.size() - kMostShown) : log));
 }
 
-constexpr ScriptHandler kHandlers[] = {
-    {"expect_no_file", &ExpectFile},
-    {"expect_file_is", &ExpectFile},
-    {"expect_file_contains", &ExpectFile},
-    {"expect_file", &ExpectFile},
-    {"expect_setting_missing", &ExpectSetting},
-    {"expect_setting", &ExpectSetting},
-    {"expect_log", &ExpectLog},
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"expect no file PATH",                        kTopOrDialog, &ExpectFile},
+    {"expect file PATH is TEXT [ansi]",            kTopOrDialog, &ExpectFile},
+    {"expect file PATH contains TEXT",             kTopOrDialog, &ExpectFile},
+    {"expect file PATH",                           kTopOrDialog, &ExpectFile},
+    {"expect setting FILE SECTION KEY is missing", kTopOrDialog, &ExpectSetting},
+    {"expect setting FILE SECTION KEY is TEXT",    kTopOrDialog, &ExpectSetting},
+    {"expect log STATE:contains|lacks TEXT",       kTopPlace,    &ExpectLog},
 };
+// clang-format on
 
 }  // namespace
 
-ScriptHandlers FileExpectations() {
-  return kHandlers;
+StatementForms FileExpectations() {
+  return kForms;
 }
 
 }  // namespace wb

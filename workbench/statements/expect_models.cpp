@@ -5,6 +5,7 @@
 #include "workbench/script/script_arguments.h"
 #include "workbench/script/script_paths.h"
 #include "workbench/script/script_runner.h"
+#include "workbench/statements/statement_families.h"
 
 namespace wb {
 namespace {
@@ -129,32 +130,34 @@ void ExpectRefresh(ScriptRun& run, const Statement& statement) {
             "refresh of the model tree", wanted, all.empty() ? "none" : Join(", ", all));
 }
 
-constexpr ScriptHandler kHandlers[] = {
-    {"expect_parameter_missing", &ExpectParameter},
-    {"expect_parameter_real", &ExpectParameter},
-    {"expect_parameter_integer", &ExpectParameter},
-    {"expect_parameter_string", &ExpectParameter},
-    {"expect_parameter_yes_no", &ExpectParameter},
-    {"expect_parameters", &ExpectParameters},
-    {"expect_hidden", &ExpectHidden},
-    {"expect_feature", &ExpectFeature},
-    {"expect_modified", &ExpectModified},
-    {"expect_session", &ExpectSession},
-    {"expect_directory", &ExpectDirectory},
-    {"expect_window_none", &ExpectWindow},
-    {"expect_window", &ExpectWindow},
-    {"expect_selection_none", &ExpectSelection},
-    {"expect_selection_item", &ExpectSelection},
-    {"expect_selection", &ExpectSelection},
-    {"expect_repaint", &ExpectRepaint},
-    {"expect_no_repaint", &ExpectRepaint},
-    {"expect_refresh", &ExpectRefresh},
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"expect parameter MODEL NAME is missing",            kTopOrDialog, &ExpectParameter},
+    {"expect parameter MODEL NAME is real NUMBER",        kTopOrDialog, &ExpectParameter},
+    {"expect parameter MODEL NAME is integer INTEGER",    kTopOrDialog, &ExpectParameter},
+    {"expect parameter MODEL NAME is string TEXT",        kTopOrDialog, &ExpectParameter},
+    {"expect parameter MODEL NAME is yes_no FLAG:yes|no", kTopOrDialog, &ExpectParameter},
+    {"expect parameters MODEL N",                         kTopOrDialog, &ExpectParameters},
+    {"expect feature MODEL ID STATE:hidden|shown",        kTopOrDialog, &ExpectFeature},
+    {"expect STATE:hidden|shown PATH...",                 kTopOrDialog, &ExpectHidden},
+    {"expect STATE:modified|unmodified MODEL...",         kTopOrDialog, &ExpectModified},
+    {"expect STATE:in_session|not_in_session MODEL...",   kTopOrDialog, &ExpectSession},
+    {"expect directory PATH",                             kTopOrDialog, &ExpectDirectory},
+    {"expect window none",                                kTopOrDialog, &ExpectWindow},
+    {"expect window MODEL",                               kTopOrDialog, &ExpectWindow},
+    {"expect selection none",                             kTopOrDialog, &ExpectSelection},
+    {"expect selection item ITEM ID of MODEL",            kTopOrDialog, &ExpectSelection},
+    {"expect selection PATH...",                          kTopOrDialog, &ExpectSelection},
+    {"expect repaint",                                    kTopOrDialog, &ExpectRepaint},
+    {"expect no repaint",                                 kTopOrDialog, &ExpectRepaint},
+    {"expect refresh MODEL",                              kTopOrDialog, &ExpectRefresh},
 };
+// clang-format on
 
 }  // namespace
 
-ScriptHandlers ModelExpectations() {
-  return kHandlers;
+StatementForms ModelExpectations() {
+  return kForms;
 }
 
 }  // namespace wb

@@ -3,6 +3,7 @@
 
 #include "workbench/base/text.h"
 #include "workbench/script/script_runner.h"
+#include "workbench/statements/statement_families.h"
 
 namespace wb {
 namespace {
@@ -187,32 +188,35 @@ void ExpectNotification(ScriptRun& run, const Statement& statement) {
             statement.Text("STATE"), got);
 }
 
-constexpr ScriptHandler kHandlers[] = {
-    {"expect_access", &ExpectAccess},
-    {"expect_popup_none", &ExpectPopupNone},
-    {"expect_popup_missing", &ExpectPopupMissing},
-    {"expect_popup_button", &ExpectPopupButton},
-    {"expect_popup_order", &ExpectPopupOrder},
-    {"expect_registered", &ExpectRegistered},
-    {"expect_registrations", &ExpectRegistrations},
-    {"expect_priority", &ExpectPriority},
-    {"expect_designated", &ExpectDesignated},
-    {"expect_icon", &ExpectIcon},
-    {"expect_help_key", &ExpectHelpKey},
-    {"expect_command_label", &ExpectCommandLabel},
-    {"expect_command_help", &ExpectCommandHelp},
-    {"expect_menu_label", &ExpectMenuLabel},
-    {"expect_menu_after", &ExpectMenuAfter},
-    {"expect_menu_missing", &ExpectMenuMissing},
-    {"expect_menu_count", &ExpectMenuCount},
-    {"expect_menu_button", &ExpectMenuButton},
-    {"expect_notification", &ExpectNotification},
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"expect access COMMAND is STATE:available|unavailable",      kTopPlace, &ExpectAccess},
+    {"expect popup none",                                         kTopPlace, &ExpectPopupNone},
+    {"expect popup button NAME missing",                          kTopPlace, &ExpectPopupMissing},
+    {"expect popup button NAME label TEXT "
+     "STATE:available|not_available|unavailable|not_offered",     kTopPlace, &ExpectPopupButton},
+    {"expect popup order NAME...",                                kTopPlace, &ExpectPopupOrder},
+    {"expect command NAME STATE:registered|missing",              kTopPlace, &ExpectRegistered},
+    {"expect command NAME registrations N",                       kTopPlace, &ExpectRegistrations},
+    {"expect command NAME priority N",                            kTopPlace, &ExpectPriority},
+    {"expect command NAME STATE:designated|not_designated",       kTopPlace, &ExpectDesignated},
+    {"expect command NAME icon FILE",                             kTopPlace, &ExpectIcon},
+    {"expect command NAME help_key TEXT",                         kTopPlace, &ExpectHelpKey},
+    {"expect command NAME label TEXT",                            kTopPlace, &ExpectCommandLabel},
+    {"expect command NAME help TEXT",                             kTopPlace, &ExpectCommandHelp},
+    {"expect menu NAME label TEXT",                               kTopPlace, &ExpectMenuLabel},
+    {"expect menu NAME after OTHER",                              kTopPlace, &ExpectMenuAfter},
+    {"expect menu NAME missing",                                  kTopPlace, &ExpectMenuMissing},
+    {"expect menu NAME buttons N",                                kTopPlace, &ExpectMenuCount},
+    {"expect menu NAME button NTH is COMMAND",                    kTopPlace, &ExpectMenuButton},
+    {"expect notification popup_create STATE:registered|missing", kTopPlace, &ExpectNotification},
 };
+// clang-format on
 
 }  // namespace
 
-ScriptHandlers RegistryExpectations() {
-  return kHandlers;
+StatementForms RegistryExpectations() {
+  return kForms;
 }
 
 }  // namespace wb

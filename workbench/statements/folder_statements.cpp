@@ -2,6 +2,7 @@
 #include "workbench/base/text.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/script/script_windows.h"
+#include "workbench/statements/statement_families.h"
 
 #include <fstream>
 
@@ -88,16 +89,18 @@ void RequireCodePage(ScriptRun&, const Statement& statement) {
                    std::to_string(AnsiCodePage())};
 }
 
-constexpr ScriptHandler kHandlers[] = {
-    {"folder_temp", &FolderTemp},
-    {"folder_copy", &FolderCopy},
-    {"folder", &Folder},
-    {"make_folder", &MakeFolder},
-    {"write", &Write},
-    {"install_as", &InstallAs},
-    {"plugin_as", &PluginAs},
-    {"require_code_page", &RequireCodePage},
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"folder temp",            kTopPlace, &FolderTemp},
+    {"folder copy PATH",       kTopPlace, &FolderCopy},
+    {"folder PATH",            kTopPlace, &Folder},
+    {"make_folder PATH",       kTopPlace, &MakeFolder},
+    {"write PATH TEXT [ansi]", kTopPlace, &Write},
+    {"install as NAME",        kTopPlace, &InstallAs},
+    {"plugin as NAME",         kTopPlace, &PluginAs},
+    {"require code_page N",    kTopPlace, &RequireCodePage},
 };
+// clang-format on
 
 }  // namespace
 
@@ -121,8 +124,8 @@ ScriptFolders::~ScriptFolders() {
   if (!kept) fs::remove_all(top, error);
 }
 
-ScriptHandlers FolderStatements() {
-  return kHandlers;
+StatementForms FolderStatements() {
+  return kForms;
 }
 
 }  // namespace wb

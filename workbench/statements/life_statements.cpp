@@ -1,9 +1,10 @@
 // Statements on the plug-in's life and on commands.
 #include "workbench/plugin/timers.h"
-#include "workbench/script/script_faults.h"
+#include "workbench/script/script_calls.h"
 #include "workbench/script/script_record.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/script/script_sweep.h"
+#include "workbench/statements/statement_families.h"
 
 namespace wb {
 namespace {
@@ -64,19 +65,6 @@ void SweepFaults(ScriptRun& run, const Statement& statement) {
   Sweep(run, statement).Run();
 }
 
-void AwaitCall(ScriptRun& run, const Statement& statement) {
-  CheckFunctions(statement);
-  run.user.Await(statement);
-}
-
-void FaultNone(ScriptRun& run, const Statement&) {
-  run.fault = {};
-}
-
-void OrderFault(ScriptRun& run, const Statement& statement) {
-  run.fault = FaultOf(statement);
-}
-
 void Withhold(ScriptRun& run, const Statement& statement) {
   CheckFunctions(statement);
   for (const std::string& function : statement.Texts("FUNCTION")) {
@@ -88,20 +76,25 @@ void SwitchTrace(ScriptRun& run, const Statement& statement) {
   run.host.trace.keep_lines = statement.Text("STATE") == "on";
 }
 
-constexpr ScriptHandler kHandlers[] = {
-    {"start", &Start},       {"stop", &Stop},
-    {"timers", &Timers},     {"popup", &CreatePopup},
-    {"run", &Run},           {"run_with", &Run},
-    {"sweep", &SweepFaults}, {"sweep_with", &SweepFaults},
-    {"at_call", &AwaitCall}, {"fault_none", &FaultNone},
-    {"fault", &OrderFault},  {"fault_empty", &OrderFault},
-    {"withhold", &Withhold}, {"trace", &SwitchTrace},
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"start",                kTopPlace,    &Start},
+    {"stop",                 kTopPlace,    &Stop},
+    {"timers",               kTopPlace,    &Timers},
+    {"popup NAME",           kTopPlace,    &CreatePopup},
+    {"run COMMAND with",     kTopOrDialog, &Run, kAnswerPlace},
+    {"run COMMAND",          kTopOrDialog, &Run},
+    {"sweep COMMAND with",   kTopPlace,    &SweepFaults, kAnswerPlace},
+    {"sweep COMMAND",        kTopPlace,    &SweepFaults},
+    {"withhold FUNCTION...", kTopPlace,    &Withhold},
+    {"trace STATE:on|off",   kTopPlace,    &SwitchTrace},
 };
+// clang-format on
 
 }  // namespace
 
-ScriptHandlers LifeStatements() {
-  return kHandlers;
+StatementForms LifeStatements() {
+  return kForms;
 }
 
 }  // namespace wb

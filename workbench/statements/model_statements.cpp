@@ -8,6 +8,7 @@
 #include "workbench/script/script_runner.h"
 #include "workbench/session/bench_shapes.h"
 #include "workbench/session/model_cycle.h"
+#include "workbench/statements/statement_families.h"
 #include "workbench/step/import.h"
 
 namespace wb {
@@ -130,15 +131,10 @@ void OtherFeature(ScriptRun& run, const Statement& statement) {
 // In 16-bit characters.
 constexpr size_t kLongestParameterText = 80;
 
-// What a script says before a command runs is how the models are; later the user changes them.
-bool ChangedByUser(const ScriptRun& run) {
-  return !run.host.running_command.empty();
-}
-
 void SetParameter(ScriptRun& run, const Statement& statement) {
   Model& model = run.ModelNamed(statement.Text("MODEL"));
   model.SetParameter(statement.Text("NAME"), ParameterArgument(statement));
-  model.modified = ChangedByUser(run);
+  model.modified = run.ChangedByUser();
 }
 
 void DeleteParameter(ScriptRun& run, const Statement& statement) {
@@ -146,7 +142,7 @@ void DeleteParameter(ScriptRun& run, const Statement& statement) {
   if (!model.DeleteParameter(statement.Text("NAME"))) {
     throw ScriptError(model.id.Text() + " has no parameter " + statement.Text("NAME"));
   }
-  model.modified = ChangedByUser(run);
+  model.modified = run.ChangedByUser();
 }
 
 void Surface(ScriptRun& run, const Statement& statement) {
@@ -225,29 +221,39 @@ void Save(ScriptRun& run, const Statement& statement) {
   run.host.session.Save(model);
 }
 
-constexpr ScriptHandler kHandlers[] = {
-    {"part", &Part},
-    {"assembly", &Assembly},
-    {"manufacturing", &Manufacturing},
-    {"drawing", &Drawing},
-    {"component", &Component},
-    {"feature", &OtherFeature},
-    {"parameter_real", &SetParameter},
-    {"parameter_integer", &SetParameter},
-    {"parameter_string", &SetParameter},
-    {"parameter_yes_no", &SetParameter},
-    {"parameter_missing", &DeleteParameter},
-    {"surface", &Surface},
-    {"bulk", &Bulk},
-    {"import", &Import},
-    {"retrieve", &Retrieve},
-    {"open", &Open},
-    {"activate", &Activate},
-    {"close_window", &CloseWindow},
-    {"erase", &Erase},
-    {"save_all", &SaveAll},
-    {"save", &Save},
+#define WB_STATE                                                             \
+  "STATE:active|inactive|family_table_suppressed|simplified_rep_suppressed|" \
+  "program_suppressed|suppressed|unregenerated"
+
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"part NAME {[sheet_metal] [skeleton]}",                       kTopPlace,    &Part},
+    {"assembly NAME",                                              kTopPlace,    &Assembly},
+    {"manufacturing NAME [of MODEL]",                              kTopPlace,    &Manufacturing},
+    {"drawing NAME [of MODEL] size SIZE...",                       kTopPlace,    &Drawing},
+    {"component MODEL <- COMPONENT {[id ID] [" WB_STATE "] [invisible] [flags FLAGS] [hidden] "
+     "[missing] [at X Y Z] [times TIMES]}",                        kTopOrDialog, &Component},
+    {"feature MODEL type FEATURE_TYPE {[id ID] [" WB_STATE "] [invisible] [flags FLAGS] [hidden]}",
+                                                                   kTopOrDialog, &OtherFeature},
+    {"parameter MODEL NAME real NUMBER",                           kTopOrDialog, &SetParameter},
+    {"parameter MODEL NAME integer INTEGER",                       kTopOrDialog, &SetParameter},
+    {"parameter MODEL NAME string TEXT",                           kTopOrDialog, &SetParameter},
+    {"parameter MODEL NAME yes_no FLAG:yes|no",                    kTopOrDialog, &SetParameter},
+    {"parameter MODEL NAME missing",                               kTopOrDialog, &DeleteParameter},
+    {"surface MODEL X Y Z X2 Y2 Z2",                               kTopOrDialog, &Surface},
+    {"bulk SHAPE:flat|tree|chain|single|half|repeated|pool TIMES", kTopPlace,    &Bulk},
+    {"import PATH",                                                kTopPlace,    &Import},
+    {"retrieve MODEL",                                             kTopPlace,    &Retrieve},
+    {"open MODEL",                                                 kTopPlace,    &Open},
+    {"activate MODEL",                                             kTopOrDialog, &Activate},
+    {"close window",                                               kTopOrDialog, &CloseWindow},
+    {"erase MODEL",                                                kTopOrDialog, &Erase},
+    {"save all",                                                   kTopPlace,    &SaveAll},
+    {"save MODEL [in PATH]",                                       kTopPlace,    &Save},
 };
+// clang-format on
+
+#undef WB_STATE
 
 }  // namespace
 
@@ -263,8 +269,8 @@ ParameterValue ParameterArgument(const Statement& statement) {
   return text;
 }
 
-ScriptHandlers ModelStatements() {
-  return kHandlers;
+StatementForms ModelStatements() {
+  return kForms;
 }
 
 }  // namespace wb

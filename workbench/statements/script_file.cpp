@@ -1,7 +1,9 @@
 // Reads a script, tells its errors, runs it.
+#include "workbench/statements/script_file.h"
+
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
-#include "workbench/script/script_runner.h"
+#include "workbench/statements/statement_families.h"
 
 namespace wb {
 namespace {
@@ -22,7 +24,7 @@ ScriptOutcome RunScriptFile(const std::filesystem::path& file, const ScriptOptio
   ParsedScript script;
   const auto text = ReadFileBytes(file);
   if (text) {
-    script = ParseScript(*text, name);
+    script = ParseScript(*text, name, AllStatements());
     for (const LineError& error : script.errors) FailWhole(name, error.line, error.reason, record);
   } else {
     FailWhole(name, 0, "cannot be read", record);

@@ -3,7 +3,9 @@
 #include <cstdio>
 
 #include "workbench/base/text.h"
+#include "workbench/script/script_calls.h"
 #include "workbench/script/script_runner.h"
+#include "workbench/statements/statement_families.h"
 #include "workbench/workbook/xlsx_file.h"
 
 namespace wb {
@@ -175,35 +177,38 @@ void ExpectSheetRow(ScriptRun& run, const Statement& statement) {
             Join(" ", got));
 }
 
-constexpr ScriptHandler kHandlers[] = {
-    {"excel_ready", &Order},
-    {"excel_missing", &Order},
-    {"excel_busy", &Order},
-    {"excel_slow", &Order},
-    {"excel_fail", &Order},
-    {"excel_dies", &Order},
-    {"expect_excel_calls", &ExpectCalls},
-    {"expect_excel_order", &ExpectOrder},
-    {"expect_excel_gone", &ExpectGone},
-    {"expect_sheet_number", &ExpectValue},
-    {"expect_sheet_empty", &ExpectValue},
-    {"expect_sheet_cell", &ExpectValue},
-    {"expect_sheet_format", &ExpectFormat},
-    {"expect_sheet_size", &ExpectSize},
-    {"expect_sheet_style", &ExpectStyle},
-    {"expect_sheet_fill_none", &ExpectFill},
-    {"expect_sheet_fill_rgb", &ExpectFill},
-    {"expect_sheet_fill_index", &ExpectFill},
-    {"expect_sheet_merged_none", &ExpectMerged},
-    {"expect_sheet_merged", &ExpectMerged},
-    {"expect_sheet_used", &ExpectUsed},
-    {"expect_sheet_row", &ExpectSheetRow},
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"excel ready",                                     kTopPlace,    &Order},
+    {"excel missing",                                   kTopPlace,    &Order},
+    {"excel busy N",                                    kTopPlace,    &Order},
+    {"excel slow N",                                    kTopPlace,    &Order},
+    {"excel fail call NTH {[of MEMBER] [silently]}",    kTopPlace,    &Order},
+    {"excel dies at NTH",                               kTopPlace,    &Order},
+    {"expect excel calls N",                            kTopOrDialog, &ExpectCalls},
+    {"expect excel order MEMBER...",                    kTopOrDialog, &ExpectOrder},
+    {"expect excel gone",                               kTopOrDialog, &ExpectGone},
+    {"expect workbook PATH cell CELL is number NUMBER", kTopOrDialog, &ExpectValue},
+    {"expect workbook PATH cell CELL is empty",         kTopOrDialog, &ExpectValue},
+    {"expect workbook PATH cell CELL is TEXT",          kTopOrDialog, &ExpectValue},
+    {"expect workbook PATH cell CELL format TEXT",      kTopOrDialog, &ExpectFormat},
+    {"expect workbook PATH cell CELL size NUMBER",      kTopOrDialog, &ExpectSize},
+    {"expect workbook PATH cell CELL fill none",        kTopOrDialog, &ExpectFill},
+    {"expect workbook PATH cell CELL fill rgb COLOR",   kTopOrDialog, &ExpectFill},
+    {"expect workbook PATH cell CELL fill index N",     kTopOrDialog, &ExpectFill},
+    {"expect workbook PATH cell CELL "
+     "STATE:bold|not_bold|centred|not_centred",         kTopOrDialog, &ExpectStyle},
+    {"expect workbook PATH merged none",                kTopOrDialog, &ExpectMerged},
+    {"expect workbook PATH merged AREA...",             kTopOrDialog, &ExpectMerged},
+    {"expect workbook PATH used AREA",                  kTopOrDialog, &ExpectUsed},
+    {"expect workbook PATH row NTH is TEXT...",         kTopOrDialog, &ExpectSheetRow},
 };
+// clang-format on
 
 }  // namespace
 
-ScriptHandlers SpreadsheetStatements() {
-  return kHandlers;
+StatementForms SpreadsheetStatements() {
+  return kForms;
 }
 
 }  // namespace wb

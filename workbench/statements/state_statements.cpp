@@ -4,6 +4,7 @@
 #include "workbench/script/script_paths.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/script/script_windows.h"
+#include "workbench/statements/statement_families.h"
 
 namespace wb {
 namespace {
@@ -65,26 +66,28 @@ void ClipboardBusy(ScriptRun& run, const Statement& statement) {
   }
 }
 
-constexpr ScriptHandler kHandlers[] = {
-    {"select_none", &SelectNone},
-    {"select_item", &Select},
-    {"select", &Select},
-    {"option_none", &OptionNone},
-    {"option", &Option},
-    {"setting_missing", &Setting},
-    {"setting", &Setting},
-    {"config_folder", &ConfigFolderMissing},
-    {"config_file", &ConfigFileMissing},
-    {"mode", &Mode},
-    {"language", &Language},
-    {"clipboard", &Clipboard},
-    {"clipboard_busy", &ClipboardBusy},
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"select none",                                   kTopPlace, &SelectNone},
+    {"select [also] item ITEM ID of MODEL [at PATH]", kTopPlace, &Select},
+    {"select [also] PATH...",                         kTopPlace, &Select},
+    {"option NAME none",                              kTopPlace, &OptionNone},
+    {"option NAME TEXT...",                           kTopPlace, &Option},
+    {"setting FILE SECTION KEY missing",              kTopPlace, &Setting},
+    {"setting FILE SECTION KEY TEXT",                 kTopPlace, &Setting},
+    {"config_folder missing",                         kTopPlace, &ConfigFolderMissing},
+    {"config_file FILE missing",                      kTopPlace, &ConfigFileMissing},
+    {"mode MODE",                                     kTopPlace, &Mode},
+    {"language LANGUAGE:chinese|english",             kTopPlace, &Language},
+    {"clipboard text TEXT",                           kTopPlace, &Clipboard},
+    {"clipboard STATE:busy|free",                     kTopPlace, &ClipboardBusy},
 };
+// clang-format on
 
 }  // namespace
 
-ScriptHandlers StateStatements() {
-  return kHandlers;
+StatementForms StateStatements() {
+  return kForms;
 }
 
 }  // namespace wb

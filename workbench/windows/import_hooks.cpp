@@ -9,7 +9,7 @@
 namespace wb {
 namespace {
 
-const Hook* HookOf(std::span<const Hook> hooks, const char* name) {
+const Hook* HookOf(HookRows hooks, const char* name) {
   for (const Hook& hook : hooks) {
     if (std::strcmp(hook.name, name) == 0) return &hook;
   }
@@ -35,7 +35,7 @@ class ImportTable {
     return directory.Size == 0 ? nullptr : At<IMAGE_IMPORT_DESCRIPTOR>(directory.VirtualAddress);
   }
 
-  void Intercept(const IMAGE_IMPORT_DESCRIPTOR& library, std::span<const Hook> hooks,
+  void Intercept(const IMAGE_IMPORT_DESCRIPTOR& library, HookRows hooks,
                  Interception& result) const {
     const auto* name = At<IMAGE_THUNK_DATA64>(library.OriginalFirstThunk);
     auto* slot = At<IMAGE_THUNK_DATA64>(library.FirstThunk);
@@ -69,7 +69,7 @@ Interception InterceptImports(void* module) {
   return InterceptImports(module, Hooks());
 }
 
-Interception InterceptImports(void* module, std::span<const Hook> hooks) {
+Interception InterceptImports(void* module, HookRows hooks) {
   const ImportTable table(module);
   Interception result;
   const IMAGE_IMPORT_DESCRIPTOR* library = table.Descriptors();

@@ -5,9 +5,15 @@
 #include <string>
 #include <type_traits>
 
+#include "workbench/base/text.h"
 #include "workbench/host/call.h"
 
 namespace wb {
+
+// A text that the caller may leave out.
+inline std::string Utf8(const wchar_t* text) {
+  return text == nullptr ? "" : FromWide(text);
+}
 
 template <typename Result>
 int ResultForTrace(Result result) {

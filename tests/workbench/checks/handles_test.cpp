@@ -46,7 +46,8 @@ TEST(Handles, OfWhatIsGoneAreStaleAndNeverStandForANewcomer) {
   EXPECT_TRUE(handles.Look(second, HandleKind::kSurface).stale);
   EXPECT_TRUE(handles.Look(whole, HandleKind::kModel).stale);
   EXPECT_EQ(why(elsewhere, HandleKind::kSurface), "");
-  EXPECT_EQ(why(reinterpret_cast<void*>(0x1234560), HandleKind::kSurface), "foreign pointer given as a surface handle");
+  EXPECT_EQ(why(reinterpret_cast<void*>(0x1234560), HandleKind::kSurface),
+            "foreign pointer given as a surface handle");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// A user who acts between a call of the plug-in and its being carried out.
+// What comes between a call of the plug-in and its being carried out: a user who acts, a fault.
 #include <functional>
 
 #include "tests/absent_user.h"
@@ -80,6 +80,17 @@ TEST_F(DisturbedCall, AVisitOfAModelThatIsErasedMeanwhileIsNotModelled) {
   EXPECT_EQ(host_.events.AllTexts<Gap>(),
             Lines{"workbench: not modelled: ProSolidFeatVisit: a model that is "
                   "erased while it is visited"});
+}
+
+// The order that makes the trace useful: a fault strikes before the arguments are looked at.
+TEST_F(DisturbedCall, AFaultStrikesWhateverTheArgumentsAre) {
+  host_.faults.Order({.function = "ProMdlTypeGet", .nth = 2, .status = PRO_TK_OUT_OF_MEMORY});
+  ProMdlType type{};
+  EXPECT_EQ(ProMdlTypeGet(lid_handle_, &type), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProMdlTypeGet(nullptr, nullptr), PRO_TK_OUT_OF_MEMORY);
+  EXPECT_EQ(Breaches(), Lines());
+  EXPECT_EQ(ProMdlTypeGet(nullptr, &type), PRO_TK_BAD_INPUTS);
+  EXPECT_EQ(Breaches(), Lines{"plug-in misused ProMdlTypeGet: null model handle"});
 }
 
 }  // namespace

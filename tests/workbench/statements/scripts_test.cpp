@@ -1,17 +1,15 @@
 // Runs every script of tests/scripts and the demo's as a test of its own. Further: what the runner
-// itself must catch, and the examples of the manual. Each script has a process of its own, since a
-// plug-in stays loaded from where it was loaded first, and takes its settings from there.
+// itself must catch. Each script has a process of its own, since a plug-in stays loaded from where
+// it was loaded first, and takes its settings from there.
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <set>
 
 #include "tests/workbench/test_paths.h"
 #include "workbench/base/command_line.h"
 #include "workbench/base/text.h"
-#include "workbench/script/script_faults.h"
-#include "workbench/script/script_runner.h"
 #include "workbench/script/script_windows.h"
+#include "workbench/statements/fault_statements.h"
 
 namespace wb {
 namespace {
@@ -188,59 +186,12 @@ TEST(ScriptRunner, NothingRunsOfAScriptWithErrors) {
             "scripts_test.qms:2: unknown statement \"opne\"; did you mean \"open\"?\n");
 }
 
-TEST(ScriptRunner, EveryStatementCanBeCarriedOut) {
-  const std::set<std::string> answers = {
-      "dialog",      "message", "message_while", "pick",   "pick_item",
-      "pick_cancel", "file",    "file_cancel",   "prompt", "prompt_cancel"};
-  for (const StatementForm& form : StatementForms()) {
-    EXPECT_NE(FindScriptAction(form) != nullptr, answers.contains(form.id)) << form.id;
-  }
-}
-
-// The examples of the manual between lines of ```qms and ```.
-std::vector<std::string> Examples() {
-  std::vector<std::string> examples;
-  std::ifstream manual(kSource / "docs" / "workbench.md", std::ios::binary);
-  bool inside = false;
-  for (std::string line; std::getline(manual, line);) {
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    if (line == "```qms") {
-      examples.emplace_back();
-      inside = true;
-    } else if (line == "```") {
-      inside = false;
-    } else if (inside) {
-      examples.back() += line + "\n";
-    }
-  }
-  return examples;
-}
-
-void CollectForms(const std::vector<Statement>& statements, std::set<std::string>* forms) {
-  for (const Statement& statement : statements) {
-    forms->insert(statement.form->id);
-    CollectForms(statement.block, forms);
-  }
-}
-
 // A program that a test starts may leave another one running, which holds its output.
 TEST(OutputOfPrograms, IsTheirOwnThoughAnEarlierOneIsStillHeld) {
   const fs::path shell = "C:\\windows\\system32\\cmd.exe";
   OutputOf(shell, {"/c", "start", "/b", "ping", "-n", "3", "127.0.0.1"});
   EXPECT_NE(OutputOf(shell, {"/c", "echo", "second"}).value_or("").find("second"),
             std::string::npos);
-}
-
-TEST(ScriptManual, ShowsEveryStatementInAnExampleThatReads) {
-  std::set<std::string> shown;
-  for (const std::string& example : Examples()) {
-    const ParsedScript script = ParseScript(example, "workbench.md");
-    for (const LineError& error : script.errors) ADD_FAILURE() << error.what() << "\n" << example;
-    CollectForms(script.statements, &shown);
-  }
-  for (const StatementForm& form : StatementForms()) {
-    EXPECT_TRUE(shown.contains(form.id)) << "no example of: " << form.pattern;
-  }
 }
 
 }  // namespace

@@ -1,14 +1,50 @@
-// The option of the command line is read as the statement it stands for.
-#include "workbench/script/script_faults.h"
+// Statements that order faults; the option of the command line is read as the one it stands for.
+#include "workbench/statements/fault_statements.h"
 
 #include <algorithm>
 
 #include "workbench/base/command_line.h"
 #include "workbench/language/script_words.h"
+#include "workbench/script/script_calls.h"
 #include "workbench/script/script_runner.h"
+#include "workbench/statements/statement_families.h"
 
 namespace wb {
 namespace {
+
+constexpr const char* kEmptyPattern = "fault FUNCTION NTH empty [from_then_on]";
+constexpr const char* kStatusPattern = "fault FUNCTION NTH status STATUS [from_then_on]";
+
+// Ends the script for a function that no call can bear.
+FaultPlan FaultOf(const Statement& statement) {
+  CheckFunctions(statement);
+  FaultPlan plan;
+  if (statement.Text("FUNCTION") != "any") plan.function = statement.Text("FUNCTION");
+  plan.nth = statement.Number("NTH");
+  plan.from_then_on = statement.Has("from_then_on");
+  if (statement.Has("empty")) {
+    plan.kind = FaultKind::kEmptySuccess;
+  } else {
+    plan.status = *NumberOf(StatusWords(), statement.Text("STATUS"));
+  }
+  return plan;
+}
+
+void FaultNone(ScriptRun& run, const Statement&) {
+  run.fault = {};
+}
+
+void OrderFault(ScriptRun& run, const Statement& statement) {
+  run.fault = FaultOf(statement);
+}
+
+// clang-format off
+constexpr StatementForm kForms[] = {
+    {"fault none",   kTopPlace, &FaultNone},
+    {kEmptyPattern,  kTopPlace, &OrderFault},
+    {kStatusPattern, kTopPlace, &OrderFault},
+};
+// clang-format on
 
 [[noreturn]] void Refuse(const std::string& text, const std::string& why) {
   throw UsageError("--fault " + text + ": " + why +
@@ -33,36 +69,23 @@ std::vector<ScriptWord> StatementWords(const std::string& text) {
   return words;
 }
 
-const StatementForm& FormOf(const std::vector<ScriptWord>& words) {
+const char* PatternFor(const std::vector<ScriptWord>& words) {
   const bool empty = words.back().text == "empty" || words[words.size() - 2].text == "empty";
-  const std::string_view id = empty ? "fault_empty" : "fault";
-  return *std::ranges::find(StatementForms(), id,
-                            [](const StatementForm& form) { return std::string_view(form.id); });
+  return empty ? kEmptyPattern : kStatusPattern;
 }
 
 }  // namespace
 
-FaultPlan FaultOf(const Statement& statement) {
-  CheckFunctions(statement);
-  FaultPlan plan;
-  if (statement.Text("FUNCTION") != "any") plan.function = statement.Text("FUNCTION");
-  plan.nth = statement.Number("NTH");
-  plan.from_then_on = statement.Has("from_then_on");
-  if (statement.Has("empty")) {
-    plan.kind = FaultKind::kEmptySuccess;
-  } else {
-    plan.status = *NumberOf(StatusWords(), statement.Text("STATUS"));
-  }
-  return plan;
+StatementForms FaultStatements() {
+  return kForms;
 }
 
 FaultPlan FaultOption(const std::string& text) {
   if (text.empty()) return {};
   const std::vector<ScriptWord> words = StatementWords(text);
-  Statement statement;
-  statement.form = &FormOf(words);
-  PatternMatch match = MatchPattern(CompilePattern(statement.form->pattern), words);
+  PatternMatch match = MatchPattern(CompilePattern(PatternFor(words)), words);
   if (!match.matched) Refuse(text, match.problem);
+  Statement statement;
   statement.arguments = std::move(match.arguments);
   try {
     return FaultOf(statement);

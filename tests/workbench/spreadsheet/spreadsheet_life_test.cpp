@@ -1,0 +1,126 @@
+// The spreadsheet stand-in from its start to its end: orders, faults, what is left behind.
+#include "tests/workbench/spreadsheet/spreadsheet_fixture.h"
+#include "workbench/plugin/plugin.h"
+#include "workbench/plugin/plugin_entry.h"
+
+namespace wb {
+namespace {
+
+using SpreadsheetLife = SpreadsheetFixture;
+
+TEST_F(SpreadsheetLife, OrdersMakeCallsFail) {
+  const Opened excel = OpenNew();
+  const TestObject cell = excel.Cell("A1");
+  const auto results = [&](SpreadsheetOrders orders, int calls) {
+    spreadsheet_.Order(std::move(orders));
+    std::vector<HRESULT> got;
+    for (int i = 0; i < calls; ++i) got.push_back(cell.Put(kNumberFormat, "@"));
+    return got;
+  };
+  using Results = std::vector<HRESULT>;
+  EXPECT_EQ(results({.busy = 2}, 3),
+            (Results{RPC_E_SERVERCALL_RETRYLATER, RPC_E_CALL_REJECTED, S_OK}));
+  EXPECT_EQ(results({.fail_at = 2}, 3), (Results{S_OK, DISP_E_EXCEPTION, S_OK}));
+  EXPECT_EQ(results({.fail_at = 1, .fail_silently = true}, 2), (Results{E_OUTOFMEMORY, S_OK}));
+  EXPECT_EQ(results({.fail_at = 1, .fail_member = "Range.Merge"}, 1), Results{S_OK});
+  cell.Call(kMerge, 0);
+  EXPECT_EQ(TestObject::result, DISP_E_EXCEPTION);
+  EXPECT_EQ(results({.die_at = 2}, 3), (Results{S_OK, RPC_E_SERVERFAULT, RPC_E_SERVERFAULT}));
+  ReportLeftPrograms(host_.trace.calls());
+  EXPECT_EQ(Breaches(), Lines{});
+}
+
+TEST_F(SpreadsheetLife, AFaultStrikesASingleMemberAsItStrikesAHostFunction) {
+  const Opened excel = OpenNew();
+  const TestObject cell = excel.Cell("A1");
+  host_.faults.Order({.function = "Excel.Range.Value2=", .nth = 2});
+  EXPECT_EQ(cell.Put(kValue2, "a"), S_OK);
+  EXPECT_EQ(cell.Put(kValue2, "b"), E_FAIL);
+  EXPECT_EQ(cell.Value(kValue2).Text(), "a");
+}
+
+TEST_F(SpreadsheetLife, WhatIsLeftBehindIsToldOnce) {
+  host_.trace.Enter("command");
+  Opened excel = OpenNew();
+  ReportLeftPrograms(0);
+  EXPECT_EQ(Breaches(), (Lines{"plug-in misused Excel: left running (started by call 1)",
+                               "plug-in misused Excel: not released: Application from call 1",
+                               "plug-in misused Excel: not released: Workbook from call 3",
+                               "plug-in misused Excel: not released: Worksheet from call 5"}));
+  ReportLeftPrograms(0);
+  EXPECT_EQ(Breaches().size(), 4u);
+  EXPECT_FALSE(spreadsheet_.Gone());
+  excel = {};
+  EXPECT_FALSE(spreadsheet_.Gone()) << "it runs on, told or not";
+  spreadsheet_.EndAll();
+  EXPECT_TRUE(spreadsheet_.Gone());
+}
+
+TEST_F(SpreadsheetLife, QuitWithUnsavedWorkAsksTheUserAndEndsAllCalls) {
+  const Opened excel = OpenNew();
+  excel.Cell("A1").Put(kValue2, "a");
+  excel.program.Call(kQuit);
+  excel.program.Put(kVisible, false);
+  EXPECT_EQ(TestObject::result, RPC_E_DISCONNECTED);
+  EXPECT_EQ(Breaches(),
+            (Lines{"plug-in misused Excel: Quit asks the user whether to save the workbook",
+                   "plug-in misused Excel: Application.Visible=: called after Quit"}));
+}
+
+TEST_F(SpreadsheetLife, AProgramThatWouldNotEndIsNotHeldAgainstThePlugin) {
+  for (const SpreadsheetOrders& orders :
+       {SpreadsheetOrders{.fail_at = 1}, SpreadsheetOrders{.busy = 1000000}}) {
+    const TestObject program = Start();
+    spreadsheet_.Order(orders);
+    program.Call(kQuit);
+  }
+  ReportLeftPrograms(-1);
+  EXPECT_EQ(Breaches(), Lines{});
+  EXPECT_FALSE(spreadsheet_.Gone());
+  // Busy for a while only, in each of the three ways: it should have been tried again.
+  for (int busy = 1; busy <= 3; ++busy) {
+    const TestObject program = Start();
+    spreadsheet_.Order({.busy = busy});
+    for (int i = 0; i < busy; ++i) program.Call(kQuit);
+    host_.events.Forget<Breach>();
+    ReportLeftPrograms(-1);
+    EXPECT_EQ(Breaches().size(), 2u) << busy;
+  }
+}
+
+TEST_F(SpreadsheetLife, AWorkbookThatABusyProgramDidNotMarkIsAskedAbout) {
+  for (int busy = 1; busy <= 3; ++busy) {
+    Opened excel = OpenNew();
+    excel.Cell("A1").Put(kValue2, "a");
+    spreadsheet_.Order({.busy = busy});
+    for (int i = 0; i < busy; ++i) excel.book.Put(kSaved, true);
+    host_.events.Forget<Breach>();
+    excel.program.Call(kQuit);
+    EXPECT_EQ(Breaches(),
+              (Lines{"plug-in misused Excel: Quit asks the user whether to save the workbook"}))
+        << busy;
+  }
+}
+
+TEST_F(SpreadsheetLife, ThePluginsOwnCallsComeHere) {
+  Plugin plugin(TestBinaryFolder() / "windows_caller.dll");
+  plugin.Start();
+  EXPECT_EQ(RunCommand("Spreadsheet").status, S_OK);
+  EXPECT_EQ(Breaches(), (Lines{"plug-in misused Excel: left running (started by call 2)"}));
+  spreadsheet_.Order({.missing = true});
+  EXPECT_EQ(RunCommand("Spreadsheet").status, CO_E_CLASSSTRING);
+  spreadsheet_.Order({});
+  host_.faults.Order({.function = "CLSIDFromProgID", .nth = 1});
+  EXPECT_EQ(RunCommand("Spreadsheet").status, CO_E_CLASSSTRING);
+}
+
+TEST_F(SpreadsheetLife, WithoutComNothingStarts) {
+  ::CoUninitialize();
+  Start();
+  EXPECT_EQ(TestObject::result, CO_E_NOTINITIALIZED);
+  EXPECT_TRUE(spreadsheet_.Gone());
+  ::CoInitialize(nullptr);
+}
+
+}  // namespace
+}  // namespace wb

@@ -1,0 +1,23 @@
+// A script as a file: what became of it.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "workbench/script/script_runner.h"
+
+namespace wb {
+
+// Its failures are in the record.
+struct ScriptOutcome {
+  int passed = 0;
+  int failed = 0;
+  bool readable = true;  // false: the file cannot be read or has errors, and nothing of it ran
+  std::string skipped;   // why it was not run here; empty: it was
+};
+
+// Reads, checks and runs one script, and adds to `record` what happened.
+ScriptOutcome RunScriptFile(const std::filesystem::path& file, const ScriptOptions& options,
+                            RunRecord& record);
+
+}  // namespace wb
