@@ -2,12 +2,14 @@
 // away, and each command comes with all that the host shows of it.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <map>
 #include <regex>
 #include <set>
 
+#include "frame/not_in_build.h"
 #include "tests/frame/guard/shield_probe.h"
 #include "tests/plugin_host.h"
 #include "workbench/base/message_file.h"
@@ -146,6 +148,109 @@ TEST_F(Boundary, EveryCommandHasItsLabelHelpAndIcon) {
         << command.name;
     EXPECT_FALSE(command.icon.empty()) << command.name;
   }
+}
+
+bool IsCapital(char c) {
+  return c >= 'A' && c <= 'Z';
+}
+
+// The name that all parts of a command bear: "merge_to" of QmMergeTo, "qq_group" of QmQQGroup.
+std::string StemOf(const std::string& command) {
+  const std::string name = command.starts_with("Qm") ? command.substr(2) : command;
+  std::string stem;
+  for (size_t i = 0; i < name.size(); ++i) {
+    const bool ends_capitals = i + 1 < name.size() && !IsCapital(name[i + 1]);
+    if (i > 0 && IsCapital(name[i]) && (!IsCapital(name[i - 1]) || ends_capitals)) stem += '_';
+    stem += static_cast<char>(std::tolower(static_cast<unsigned char>(name[i])));
+  }
+  return stem;
+}
+
+const fs::path kProject = QM_SOURCE_DIR;
+
+// The header that declares the command, below src/; empty when there is none.
+fs::path HeaderOf(const std::string& command) {
+  for (const auto& file : fs::recursive_directory_iterator(kProject / "src")) {
+    if (file.path().filename() != StemOf(command) + ".h") continue;
+    if (ReadText(file.path()).find("ProError " + command + "();") != std::string::npos) {
+      return fs::relative(file.path(), kProject / "src");
+    }
+  }
+  return {};
+}
+
+bool HasMenuTexts(const char* language, const MenuButton& button) {
+  const MessageFile file =
+      MessageFile::Load(kProject / "install" / "text" / language / "qmMenu.txt");
+  return file.Find(button.label_key) != nullptr && file.Find(button.help_key) != nullptr;
+}
+
+// What a built command lacks, in words; `icon` is the file that it is registered with.
+Lines MissingParts(const MenuButton& button, const std::string& icon) {
+  const std::string stem = StemOf(button.name);
+  const fs::path header = HeaderOf(button.name);
+  if (header.empty()) return {stem + ": no " + stem + ".h in src declares " + button.name};
+  const fs::path source = kProject / "src" / fs::path(header).replace_extension(".cpp");
+  const fs::path script = fs::path("tests") / "scripts" / *header.begin() / (stem + ".qms");
+  const fs::path drawn = fs::path("install") / "icons" / fs::path(icon).replace_extension(".svg");
+  const fs::path dialog = fs::path("install") / "text" / "resource" / (button.name + ".res");
+  Lines missing;
+  const auto want = [&](const fs::path& file) {
+    if (!fs::is_regular_file(kProject / file)) {
+      missing.push_back(stem + ": no " + file.generic_string());
+    }
+  };
+  want(fs::relative(source, kProject));
+  want(script);
+  want(drawn);
+  if (!Matches(ReadText(source), R"(\w*Dialog\()").empty()) want(dialog);
+  for (const char* const language : {"chinese_cn", "usascii"}) {
+    if (!HasMenuTexts(language, button)) missing.push_back(stem + ": no texts in " + language);
+  }
+  return missing;
+}
+
+TEST_F(Boundary, EveryBuiltCommandHasItsPartsUnderOneStem) {
+  Plugin plugin(Installed().dll());
+  ASSERT_EQ(plugin.Start(), 0);
+  const Menu* const menu = host_.commands.FindMenu("Menu");
+  ASSERT_NE(menu, nullptr);
+  size_t built = 0;
+  for (size_t i = 0; i < menu->buttons.size(); ++i) {
+    const MenuButton& button = menu->buttons[i];
+    if (std::ranges::count(qm::kNotInBuild, button.name) > 0) continue;
+    ++built;
+    EXPECT_EQ(MissingParts(button, host_.commands.commands[i].icon), Lines()) << button.name;
+  }
+  EXPECT_EQ(built + std::size(qm::kNotInBuild), menu->buttons.size());
+}
+
+// The walk above tells what is missing of a command by its stem.
+TEST_F(Boundary, AMissingPartOfACommandIsNamedByItsStem) {
+  MenuButton button;
+  button.name = "QmQQGroup";
+  button.label_key = button.help_key = "no such key";
+  EXPECT_EQ(MissingParts(button, "none.png"),
+            (Lines{"qq_group: no install/icons/none.svg", "qq_group: no texts in chinese_cn",
+                   "qq_group: no texts in usascii"}));
+  button.name = "QmMergeToNowhere";
+  EXPECT_EQ(MissingParts(button, "none.png"),
+            (Lines{"merge_to_nowhere: no merge_to_nowhere.h in src declares QmMergeToNowhere"}));
+}
+
+// The build's name differs from one to the next, so no script can compare the whole text.
+TEST_F(Boundary, TheVersionBoxTellsProductBuildAndBinding) {
+  Plugin plugin(Installed().dll());
+  ASSERT_EQ(plugin.Start(), 0);
+  host_.windows.boxes.clear();
+  RunCommand("QmVersion");
+  ASSERT_EQ(host_.windows.boxes.size(), 1u);
+  const auto parts = Matches(host_.windows.boxes[0].text,
+                             "^\t羽石工具箱 Quillmax 5\\.1 C3\t\n\t构建：\\w+\t\n"
+                             "\t宿主接口：已查找 (\\d+) 个函数，已绑定 (\\d+) 个，缺失 0 个\t$");
+  ASSERT_EQ(parts.size(), 1u) << host_.windows.boxes[0].text;
+  EXPECT_EQ(parts[0][1], parts[0][2]);
+  EXPECT_GE(std::stoi(parts[0][1]), 5);
 }
 
 // Words of `text`, which are names of commands.

@@ -11,7 +11,7 @@ packages=(
   googletest nlohmann-json3-dev libgtest-dev
   librsvg2-bin zip unzip                 # icons, package
   locales                                # Chinese code page for the tests
-  python3 clang-format                   # documents from sources, checks of sources
+  python3 clang-format clang-tidy        # documents from sources, checks of sources
 )
 
 missing=()

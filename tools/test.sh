@@ -74,6 +74,7 @@ count "windows, code page 1252" "$build/windows-1252.log"
 
 check "rooms" python3 "$here/check_rooms.py"
 check "format" "$here/check_format.sh"
+check "tidy" "$here/check_tidy.sh"
 check "documents are up to date" python3 "$here/generate_docs.py" --check
 check "the library's file" "$here/check_dll.sh" "$cross/quillmax5.1C3.dll"
 check "package" "$here/check_package.sh"

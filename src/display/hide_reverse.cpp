@@ -3,9 +3,8 @@
 #include "display/hide_reverse.h"
 
 #include "display/hide_state.h"
-#include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
-#include "frame/models/current_assembly.h"
+#include "frame/models/opening.h"
 
 namespace qm {
 namespace {
@@ -16,7 +15,7 @@ constexpr wchar_t kNoComponentsHere[] = L"当前模型中没有合适的子零/ 
 
 void ReversePart(ProFeature* part) {
   // Neither, should the host answer success without a state.
-  ProBoolean hidden = static_cast<ProBoolean>(-1);
+  auto hidden = static_cast<ProBoolean>(-1);
   const ProError status = ProModelitemIsHidden(part, &hidden);
   if (Ok(status) && hidden == PRO_B_TRUE) {
     ShowComponent(part);
@@ -27,31 +26,22 @@ void ReversePart(ProFeature* part) {
   }
 }
 
-}  // namespace
-
-ProError QmHideReverse() {
-  const auto root = CurrentAssembly();
-  if (!root) return PRO_TK_NO_ERROR;
-
-  ComponentList components;
-  const ProError status = CollectComponents(*root, ComponentKind::kAll, &components);
-  if (!Ok(status)) {
-    ShowShortMessage(kNoComponentArray);
-    return status;
-  }
-  if (components.empty()) {
-    ShowShortMessage(kNoComponentsHere);
-    return PRO_TK_NO_ERROR;
-  }
-  LogCount("components", components.size());
+void Reverse(const ComponentList& components) {
   for (int i = 0; i < components.size(); ++i) {
     // Reversed twice, a part would stay as it is.
     if (components.repeated(i)) continue;
     if (components.type(i) == PRO_MDL_ASSEMBLY) ShowComponent(components.feature(i));
     if (components.type(i) == PRO_MDL_PART) ReversePart(components.feature(i));
   }
-  components = ComponentList();
-  RefreshDisplay(*root);
+}
+
+}  // namespace
+
+ProError QmHideReverse() {
+  Opening opening = OpenCurrentAssembly(ComponentsOf(ComponentKind::kAll), kNoComponentsHere);
+  if (opening.components.empty()) return opening.status;
+  Reverse(opening.components);
+  RefreshDisplay(&opening);
   return PRO_TK_NO_ERROR;
 }
 

@@ -25,9 +25,10 @@ void ShowComponents(const ComponentList& components) {
   for (int i = 0; i < components.size(); ++i) ShowComponent(components.feature(i));
 }
 
-void RefreshDisplay(ProMdl root) {
+void RefreshDisplay(Opening* opening) {
+  opening->components = ComponentList();
   ProWindowRepaint(kAllWindows);
-  ProTreetoolRefresh(root);
+  ProTreetoolRefresh(opening->root);
 }
 
 }  // namespace qm

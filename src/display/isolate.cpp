@@ -11,6 +11,7 @@
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/current_assembly.h"
+#include "frame/models/opening.h"
 #include "frame/models/preselection.h"
 #include "toolkit/window.h"
 
@@ -130,24 +131,18 @@ ProError QmIsolate() {
     ShowMessage(kNothingSelected);
     return PRO_TK_NO_ERROR;
   }
-  ComponentList all;
   std::vector<ComponentList> inside;
-  ProError status = CollectComponents(*root, ComponentKind::kAll, &all);
-  if (Ok(status)) status = CollectInside(selected, &inside);
-  if (!Ok(status)) {
-    ShowShortMessage(kNoComponentArray);
-    return status;
-  }
-  if (all.empty()) {
-    ShowShortMessage(kNoComponents);
-    return PRO_TK_NO_ERROR;
-  }
-  LogCount("components", all.size());
+  const auto collect = [&](ProSolid assembly, ComponentList* all) {
+    const ProError status = CollectComponents(assembly, ComponentKind::kAll, all);
+    return Ok(status) ? CollectInside(selected, &inside) : status;
+  };
+  Opening opening = OpenAssembly(*root, collect, kNoComponents);
+  if (opening.components.empty()) return opening.status;
   LogCount("selected", static_cast<long long>(selected.size()));
-  HideParts(all);
-  all = ComponentList();
+  HideParts(opening.components);
+  opening.components = ComponentList();
   Show(selected, inside);
-  RefreshDisplay(*root);
+  RefreshDisplay(&opening);
   return PRO_TK_NO_ERROR;
 }
 

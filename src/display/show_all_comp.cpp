@@ -2,30 +2,15 @@
 #include "display/show_all_comp.h"
 
 #include "display/hide_state.h"
-#include "frame/messages/message_box.h"
-#include "frame/messages/run_log.h"
-#include "frame/models/current_assembly.h"
+#include "frame/models/opening.h"
 
 namespace qm {
 
 ProError QmShowAllComp() {
-  const auto root = CurrentAssembly();
-  if (!root) return PRO_TK_NO_ERROR;
-
-  ComponentList components;
-  const ProError status = CollectComponentsForShowAll(*root, &components);
-  if (!Ok(status)) {
-    ShowShortMessage(kNoComponentArray);
-    return status;
-  }
-  if (components.empty()) {
-    ShowShortMessage(kNoComponents);
-    return PRO_TK_NO_ERROR;
-  }
-  LogCount("components", components.size());
-  ShowComponents(components);
-  components = ComponentList();
-  RefreshDisplay(*root);
+  Opening opening = OpenCurrentAssembly(&CollectComponentsForShowAll, kNoComponents);
+  if (opening.components.empty()) return opening.status;
+  ShowComponents(opening.components);
+  RefreshDisplay(&opening);
   return PRO_TK_NO_ERROR;
 }
 

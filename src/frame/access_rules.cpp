@@ -1,31 +1,23 @@
 // The modes of each access rule.
 #include "frame/access_rules.h"
 
+#include "toolkit/numbers.h"
+
 namespace qm {
-namespace {
-
-// The host's mode numbers.
-constexpr int kPartMode = 1;
-constexpr int kSecondPartMode = 2;
-constexpr int kAssembly = 5;
-constexpr int kDrawing = 6;
-constexpr int kManufacturing = 8;
-
-}  // namespace
 
 bool AllowsMode(AccessRule rule, int mode) {
-  const bool in_part = mode == kPartMode || mode == kSecondPartMode;
+  const bool in_part = mode == PRO_MODE_PART_1 || mode == PRO_MODE_PART_2;
   switch (rule) {
     case AccessRule::kAlways:
       return true;
     case AccessRule::kAssemblyMode:
-      return mode == kAssembly || mode == kManufacturing;
+      return mode == PRO_MODE_ASSEMBLY || mode == PRO_MODE_MFG;
     case AccessRule::kSolidMode:
-      return in_part || mode == kAssembly || mode == kManufacturing;
+      return in_part || mode == PRO_MODE_ASSEMBLY || mode == PRO_MODE_MFG;
     case AccessRule::kPartOrAssemblyMode:
-      return in_part || mode == kAssembly;
+      return in_part || mode == PRO_MODE_ASSEMBLY;
     case AccessRule::kDrawingMode:
-      return mode == kDrawing;
+      return mode == PRO_MODE_DRAWING;
   }
   return false;
 }

@@ -6,10 +6,11 @@
 
 #include "frame/access.h"
 #include "frame/command_table.h"
-#include "frame/commands/small_commands.h"
+#include "frame/commands/open_drw.h"
 #include "frame/guard/shield.h"
+#include "frame/menu.h"
 #include "frame/popup_access.h"
-#include "frame/registration.h"
+#include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
 #include "toolkit/message.h"
 #include "toolkit/status.h"
@@ -86,9 +87,8 @@ std::wstring MenuText(const char* key) {
   std::wstring menu_file = kMenuFile;
   ProLine line = {};
   const ProError status = ProMessageToBuffer(line, menu_file.data(), key);
-  if (!Ok(status) || line[0] == L'\0') return FromAnsi(key);
-  line[PRO_LINE_SIZE - 1] = L'\0';
-  return line;
+  const std::wstring_view text = FixedText(line);
+  return Ok(status) && !text.empty() ? std::wstring(text) : FromAnsi(key);
 }
 
 void AppendOpenDrawing(ProPopupMenuId popup) {

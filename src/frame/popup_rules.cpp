@@ -1,26 +1,28 @@
-// Item types of the popup's entries, by the host's numbers.
+// Item types of the popup's entries.
 #include "frame/popup_rules.h"
 
 #include <algorithm>
 #include <iterator>
 
+#include "toolkit/numbers.h"
+
 namespace qm {
 namespace {
 
-constexpr int kAssembly = 1;
-constexpr int kPart = 2;
 // Models, and what a click on a component in the graphics window or the tree may give instead.
-constexpr int kNamedItems[] = {kAssembly, kPart, 5, 6, 25, 66, 71, 72, 176};
+constexpr ProType kNamedItems[] = {
+    PRO_ASSEMBLY, PRO_PART,       PRO_SURFACE,  PRO_EDGE,     PRO_CSYS,
+    PRO_POINT,    PRO_EDGE_START, PRO_EDGE_END, PRO_TYPE_176,
+};
 
 }  // namespace
 
 bool DisplayEntriesOffered(int first_item_type) {
-  return first_item_type == kAssembly || first_item_type == kPart;
+  return first_item_type == PRO_ASSEMBLY || first_item_type == PRO_PART;
 }
 
 bool NameEntriesOffered(int item_type) {
-  return std::find(std::begin(kNamedItems), std::end(kNamedItems), item_type) !=
-         std::end(kNamedItems);
+  return std::ranges::find(kNamedItems, item_type) != std::end(kNamedItems);
 }
 
 }  // namespace qm

@@ -1,12 +1,7 @@
 // The plug-in's user interface in the host: menu, commands, icons, ribbon, popup entries.
 #pragma once
 
-#include <string>
-
 namespace qm {
-
-inline constexpr wchar_t kMenuFile[] = L"qmMenu.txt";
-inline constexpr int kMenuCommandPriority = 2;
 
 // Adds the menu and every command in the table's order. A command that fails to register is
 // simply missing.

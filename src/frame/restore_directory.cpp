@@ -10,6 +10,8 @@
 #include "frame/guard/shield.h"
 #include "frame/messages/run_log.h"
 #include "frame/settings/config.h"
+#include "frame/text/fixed_text.h"
+#include "frame/text/list_rules.h"
 #include "frame/text/text.h"
 #include "toolkit/status.h"
 #include "toolkit/window.h"
@@ -48,7 +50,7 @@ void RestoreLastDirectory() {
   const std::wstring folder = FromAnsi(bytes.c_str());
   if (folder.empty() || folder.size() >= PRO_PATH_SIZE) return;
   ProPath path = {};
-  folder.copy(path, PRO_PATH_SIZE - 1);
+  FillFixedText(folder, path);
   const ProError status = ProDirectoryChange(path);
   if (!Ok(status)) LogEvent("last working directory not restored: " + ToUtf8(folder));
 }

@@ -11,6 +11,7 @@
 
 #include "frame/messages/run_log.h"
 #include "frame/settings/config.h"
+#include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
 #include "toolkit/status.h"
 #include "toolkit/window.h"
@@ -39,11 +40,11 @@ class CharacterLocale {
 
 // `folder` in the code page of Chinese Windows, so that Chinese folder names survive; in the
 // system's own where the C runtime lacks that locale.
-std::optional<std::string> Encoded(const wchar_t* folder) {
+std::optional<std::string> Encoded(const std::wstring& folder) {
   const CharacterLocale chinese("chs");
   if (!chinese.is_set()) return ToAnsiExactly(folder);
   char bytes[2 * PRO_PATH_SIZE];
-  const std::size_t length = std::wcstombs(bytes, folder, sizeof(bytes));
+  const std::size_t length = std::wcstombs(bytes, folder.c_str(), sizeof(bytes));
   if (length >= sizeof(bytes)) return std::nullopt;
   return std::string(bytes, length);
 }
@@ -51,9 +52,10 @@ std::optional<std::string> Encoded(const wchar_t* folder) {
 }  // namespace
 
 void SaveWorkingDirectory() {
-  ProPath folder = {};
-  if (!Ok(ProDirectoryCurrentGet(folder)) || folder[0] == L'\0') return;
-  folder[PRO_PATH_SIZE - 1] = L'\0';
+  ProPath buffer = {};
+  if (!Ok(ProDirectoryCurrentGet(buffer))) return;
+  const std::wstring folder(FixedText(buffer));
+  if (folder.empty()) return;
   const std::optional<std::string> line = Encoded(folder);
   if (!line) {
     LogEvent("working directory not saved, its name cannot be written: " + ToUtf8(folder));

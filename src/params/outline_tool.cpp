@@ -1,10 +1,9 @@
-// Measures the target models and writes their outline parameter.
+// Measures the target models for their outline parameter.
 #include "params/outline_tool.h"
 
 #include "frame/guard/visit.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
-#include "frame/models/host_param.h"
 #include "params/outline_rules.h"
 #include "params/param_batch.h"
 #include "params/param_settings.h"
@@ -48,22 +47,18 @@ OutlineBox Measure(ProMdl model) {
   return box;
 }
 
-// False when the model is left alone.
-bool WriteOutline(const ParamTarget& target, HostName& name, const OutlineFormat& format) {
+// Nothing when the model is left alone.
+std::optional<ParamValue> Outline(const ParamTarget& target, const OutlineFormat& format) {
   const OutlineBox box = Measure(target.model);
-  if (box.empty()) return false;
-  const auto text = OutlineText(box.Sizes(), format.decimals, format.descending);
-  if (text) {
-    WriteTextParameter(target.item, name, *text);
-  } else {
-    LogFailure(target.model, "outline text", PRO_TK_LINE_TOO_LONG);
-  }
-  return text.has_value();
+  if (box.empty()) return std::nullopt;
+  auto text = OutlineText(box.Sizes(), format.decimals, format.descending);
+  if (!text) LogFailure(target.model, "outline text", PRO_TK_LINE_TOO_LONG);
+  return text;
 }
 
 }  // namespace
 
-void WriteOutlines(DialogView dialog) {
+void WriteOutlines(const DialogView& dialog) {
   SaveParamSettings(dialog);
   const auto top = CurrentModelOrAssembly();
   if (!top || top->type != PRO_MDL_ASSEMBLY) {
@@ -72,10 +67,8 @@ void WriteOutlines(DialogView dialog) {
   }
   const OutlineFormat format{OutlineDecimals(dialog.OptionValue("QmOutlineNum")),
                              dialog.CheckState("QmOutlineOrder").value_or(false)};
-  ForEachTarget("QmOutline", dialog, kOutlineFields, top,
-                [&](const ParamTarget& target, HostName& name) {
-                  return WriteOutline(target, name, format);
-                });
+  const auto outline_for = [&](const ParamTarget& target) { return Outline(target, format); };
+  RunBatch(dialog, top, {"QmOutline", kOutlineFields, outline_for, &WriteText});
 }
 
 }  // namespace qm

@@ -8,6 +8,6 @@ namespace qm {
 
 // Each model is measured from its own surfaces. An assembly usually has none, and a model without
 // surfaces is left alone: the sizes of an assembly's components are not combined.
-void WriteOutlines(DialogView dialog);
+void WriteOutlines(const DialogView& dialog);
 
 }  // namespace qm

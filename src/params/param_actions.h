@@ -7,11 +7,11 @@
 namespace qm {
 
 // Models that have the parameter already are left as they are.
-void AddParameters(DialogView dialog);
+void AddParameters(const DialogView& dialog);
 
 // Models without the parameter are left as they are.
-void UpdateParameters(DialogView dialog);
+void UpdateParameters(const DialogView& dialog);
 
-void DeleteParameters(DialogView dialog);
+void DeleteParameters(const DialogView& dialog);
 
 }  // namespace qm

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <variant>
 
-#include "frame/text/parameter_value.h"
+#include "frame/models/parameter_value.h"
 
 namespace qm {
 

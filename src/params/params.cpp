@@ -8,10 +8,9 @@
 #include "params/sheet_size_tool.h"
 
 namespace qm {
+namespace {
 
-ProError QmParams() {
-  Dialog dialog("QmParams");
-  if (!dialog.Create()) return PRO_TK_GENERAL_ERROR;
+void Bind(const Dialog& dialog) {
   dialog.BindButton<&AddParameters>("Add");
   dialog.BindButton<&UpdateParameters>("Update");
   dialog.BindButton<&DeleteParameters>("Delete");
@@ -19,10 +18,16 @@ ProError QmParams() {
   dialog.BindButton<&WriteSheetSizes>("QmSheetSize");
   dialog.BindCloseButton();
   dialog.BindClose();
-  LoadParamSettings(dialog);
-  const bool activated = dialog.Activate();
-  dialog.Destroy();
-  return activated ? PRO_TK_NO_ERROR : PRO_TK_GENERAL_ERROR;
+}
+
+}  // namespace
+
+ProError QmParams() {
+  return RunDialog("QmParams", [](const Dialog& dialog) {
+    Bind(dialog);
+    LoadParamSettings(dialog);
+    return PRO_TK_NO_ERROR;
+  });
 }
 
 }  // namespace qm

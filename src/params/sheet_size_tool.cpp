@@ -1,8 +1,8 @@
-// Looks up the drawings of the target models and writes their sheet size parameter.
+// Looks up the drawings of the target models for their sheet size parameter.
 #include "params/sheet_size_tool.h"
 
 #include "frame/messages/run_log.h"
-#include "frame/models/host_param.h"
+#include "frame/text/fixed_text.h"
 #include "params/param_batch.h"
 #include "params/param_settings.h"
 #include "toolkit/drawing.h"
@@ -13,40 +13,31 @@ namespace {
 
 constexpr int kFirstSheet = 1;
 
-// Empty when there is no such drawing or its sheet cannot be read.
-std::wstring SheetSize(const ParamTarget& target) {
+// Nothing when there is no such drawing or its sheet cannot be read.
+std::optional<ParamValue> SheetSize(const ParamTarget& target) {
   HostName name(target.name);
   ProMdl drawing = nullptr;
   ProError status = ProMdlRetrieve(name.name, PRO_MDL_DRAWING, &drawing);
   if (!Ok(status) || drawing == nullptr) {
     // Most models have no drawing; anything else is a failure.
     if (status != PRO_TK_E_NOT_FOUND) LogFailure(target.model, "ProMdlRetrieve", status);
-    return {};
+    return std::nullopt;
   }
-  ProName size{};
+  ProName buffer{};
   ProMatrix transform{};
-  status = ProDrawingSheetTrfGet(drawing, kFirstSheet, size, transform);
-  if (!Ok(status)) {
-    LogFailure(target.model, "ProDrawingSheetTrfGet", status);
-    return {};
-  }
-  size[PRO_NAME_SIZE - 1] = L'\0';
-  return size;
-}
-
-// False when the model is left alone.
-bool WriteSheetSize(const ParamTarget& target, HostName& name) {
-  const std::wstring size = SheetSize(target);
-  if (!size.empty()) WriteTextParameter(target.item, name, size);
-  return !size.empty();
+  status = ProDrawingSheetTrfGet(drawing, kFirstSheet, buffer, transform);
+  if (!Ok(status)) LogFailure(target.model, "ProDrawingSheetTrfGet", status);
+  const std::wstring_view size = FixedText(buffer);
+  if (!Ok(status) || size.empty()) return std::nullopt;
+  return std::wstring(size);
 }
 
 }  // namespace
 
-void WriteSheetSizes(DialogView dialog) {
+void WriteSheetSizes(const DialogView& dialog) {
   SaveParamSettings(dialog);
   const auto top = CurrentModelOrAssembly();
-  ForEachTarget("QmSheetSize", dialog, kSheetSizeFields, top, &WriteSheetSize);
+  RunBatch(dialog, top, {"QmSheetSize", kSheetSizeFields, &SheetSize, &WriteText});
 }
 
 }  // namespace qm

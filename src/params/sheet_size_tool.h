@@ -8,6 +8,6 @@ namespace qm {
 
 // The drawing is the one of the model's name, its sheet the first. A model without such a drawing
 // is left alone. Drawings that are loaded for this stay in the session.
-void WriteSheetSizes(DialogView dialog);
+void WriteSheetSizes(const DialogView& dialog);
 
 }  // namespace qm

@@ -10,13 +10,6 @@ typedef void uiCmdValue;
 typedef int uiCmdPriority;
 typedef int uiCmdAccessMode;
 
-typedef enum {
-  ACCESS_REMOVE = 0,
-  ACCESS_UNAVAILABLE = 1,
-  ACCESS_DISALLOW = 2,
-  ACCESS_AVAILABLE = 3,
-} uiCmdAccessState;
-
 typedef int (*uiCmdCmdActFn)(uiCmdCmdId command, uiCmdValue* value, void* data) QM_CALLBACK;
 typedef uiCmdAccessState (*uiCmdAccessFn)(uiCmdAccessMode mode) QM_CALLBACK;
 typedef uiCmdAccessState (*ProPopupAccessFn)(uiCmdCmdId command, ProAppData data,
@@ -24,9 +17,6 @@ typedef uiCmdAccessState (*ProPopupAccessFn)(uiCmdCmdId command, ProAppData data
 
 typedef int ProPopupMenuId;
 
-// A popup menu is being created; the callback takes its name.
-typedef int ProNotifyType;
-inline constexpr ProNotifyType kNotifyPopupCreate = 72;
 typedef ProError (*ProFunction)() QM_CALLBACK;
 typedef ProError (*ProPopupCreateAction)(char* menu_name) QM_CALLBACK;
 

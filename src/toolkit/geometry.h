@@ -6,13 +6,6 @@
 
 typedef struct geom_surface_handle* ProSurface;
 
-typedef enum { PRO_SRF_NONE = 0, PRO_SRF_PLANE = 34, PRO_SRF_CYL = 36 } ProSrftype;
-typedef enum {
-  PRO_SURF_ORIENT_IN = -1,
-  PRO_SURF_ORIENT_NONE = 0,
-  PRO_SURF_ORIENT_OUT = 1,
-} ProSurfaceOrient;
-
 // Leading fields of a surface's data; the shape data behind them is not used.
 typedef struct {
   ProSrftype type;

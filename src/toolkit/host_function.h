@@ -3,6 +3,8 @@
 // a build against the vendor's own import library (plain prototype).
 #pragma once
 
+#include "toolkit/numbers.h"
+
 // Suffix of the versioned name under which the host process offers its functions.
 #define QM_HOST_NAME_SUFFIX "_C30"
 
@@ -38,7 +40,7 @@ inline constinit MissingFunctionReporter missing_function_reporter = nullptr;
 
 // What a call answers when the host does not offer the function: every host function returns a
 // status, and this is the general error.
-inline constexpr int kMissingFunctionStatus = -1;
+inline constexpr int kMissingFunctionStatus = PRO_TK_GENERAL_ERROR;
 
 // The look-up shared by all host functions, so that each signature adds only its call.
 class HostEntry {

@@ -4,15 +4,6 @@
 #include "toolkit/host_function.h"
 #include "toolkit/types.h"
 
-typedef enum {
-  PRO_PARAM_DOUBLE = 50,
-  PRO_PARAM_STRING = 51,
-  PRO_PARAM_INTEGER = 52,
-  PRO_PARAM_BOOLEAN = 53,
-  PRO_PARAM_NOTE_ID = 54,
-  PRO_PARAM_VOID = 57,
-} ProParamvalueType;
-
 typedef union {
   double d_val;
   int i_val;
@@ -25,8 +16,6 @@ typedef struct {
   ProParamvalueValue value;
 } ProParamvalue;
 static_assert(sizeof(ProParamvalue) == 176);
-
-typedef enum { PRO_PARAM_OWNER_ITEM = 0 } ProParamfrom;
 
 typedef struct {
   ProParamfrom type;

@@ -8,13 +8,6 @@
 typedef struct pro_selection_handle* ProSelection;
 typedef struct pro_selection_environment* ProSelectionEnv;
 
-// Options of a selection environment, by number.
-typedef enum {
-  PRO_SELECT_DONE_REQUIRED = 50,
-  PRO_SELECT_BY_MENU_ALLOWED = 51,
-  PRO_SELECT_BY_BOX_ALLOWED = 52,
-} ProSelectionEnvAttr;
-
 typedef struct {
   ProSelectionEnvAttr attribute;
   int attribute_value;

@@ -1,7 +1,7 @@
 // Statuses of host calls: the test for success, and names for the run log.
 #pragma once
 
-#include "toolkit/types.h"
+#include "toolkit/numbers.h"
 
 namespace qm {
 

@@ -4,19 +4,6 @@
 #include "toolkit/host_function.h"
 #include "toolkit/types.h"
 
-// Modes as the access rules compare them.
-typedef enum {
-  PRO_MODE_UNUSED = -1,
-  PRO_MODE_PART_1 = 1,
-  PRO_MODE_PART_2 = 2,
-  PRO_MODE_ASSEMBLY = 5,
-  PRO_MODE_DRAWING = 6,
-  PRO_MODE_MFG = 8,
-} ProMode;
-
-// Window id that stands for all windows in a repaint.
-inline constexpr int kAllWindows = -1;
-
 PRO_FUNCTION(ProError, ProModeCurrentGet, ProMode* mode);
 
 PRO_FUNCTION(ProError, ProWindowCurrentGet, int* window);

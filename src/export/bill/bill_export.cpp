@@ -50,7 +50,7 @@ std::optional<WorkbookTable> ReadTable(const DialogTable& table, std::wstring ti
 
 }  // namespace
 
-void ExportBill(DialogView dialog) {
+void ExportBill(const DialogView& dialog) {
   CommandLog log("QmExportBom");
   const auto name = CurrentModelName();
   if (!name) {

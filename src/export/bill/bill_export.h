@@ -6,6 +6,6 @@
 namespace qm {
 
 // Button of the bill's dialog: asks for the file, writes it and opens it.
-void ExportBill(DialogView dialog);
+void ExportBill(const DialogView& dialog);
 
 }  // namespace qm

@@ -33,7 +33,8 @@ std::vector<uint32_t> FirstOfEachNameAndType(const std::vector<BillModel>& model
 }
 
 std::vector<uint32_t> FirstOfEachName(const std::vector<BillModel>& models) {
-  return FirstOfEach(models, [](const BillModel& model) { return std::wstring_view(model.name); });
+  return FirstOfEach(models,
+                     [](const BillModel& model) -> std::wstring_view { return model.name; });
 }
 
 class LevelWalk {

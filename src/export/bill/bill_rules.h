@@ -9,13 +9,15 @@
 #include <string_view>
 #include <vector>
 
+#include "toolkit/numbers.h"
+
 namespace qm {
 
 // A model of the assembly. A model whose name could not be read has an empty one and is not to be
 // listed, but what it holds is.
 struct BillModel {
   std::wstring name;
-  int type = 0;  // the host's number; a part and an assembly may bear the same name
+  ProMdlType type = PRO_MDL_UNUSED;  // a part and an assembly may bear the same name
   // Of an assembly: the models it places, in feature order, once for each placement.
   std::vector<uint32_t> components;
 };
@@ -27,13 +29,15 @@ struct BillStructure {
 };
 
 struct BillRow {
-  uint32_t model;
-  int64_t quantity;
+  uint32_t model = 0;
+  int64_t quantity = 0;
   // Level bill only: 1 for the components of the top assembly, and the place among the parent's
   // entries, counted from 1.
   int level = 0;
   int64_t place = 0;
 };
+
+enum class BillKind { kSummary, kLevels };
 
 // A row for each name and type, in the order of first appearance.
 std::vector<BillRow> SummaryBill(const BillStructure& structure);

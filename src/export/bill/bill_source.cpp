@@ -60,30 +60,39 @@ bool IsSkeleton(ProMdl model) {
   return Ok(status) && is_skeleton == PRO_B_TRUE;
 }
 
+std::optional<BillStructure> ReadStructure(ProMdl assembly) {
+  ComponentList components;
+  if (!Ok(CollectComponents(assembly, ComponentKind::kAll, &components))) return std::nullopt;
+  BillStructure structure;
+  StructureReader(components, &structure).Read(assembly);
+  return structure;
+}
+
+BillTexts ReadTexts(const BillModel& model, const std::vector<std::wstring>& parameters) {
+  if (model.name.empty()) return {};
+  const ProMdl handle = RetrieveModel(model.name, model.type);
+  if (handle == nullptr || IsSkeleton(handle)) return {};
+  if (parameters.empty()) return {true, {}};
+  return {true, ParameterTexts(handle, parameters)};
+}
+
 }  // namespace
 
-ProError ReadBillStructure(ProMdl assembly, BillStructure* structure) {
-  ComponentList components;
-  const ProError status = CollectComponents(assembly, ComponentKind::kAll, &components);
-  if (!Ok(status)) return status;
-  *structure = {};
-  StructureReader(components, structure).Read(assembly);
-  return PRO_TK_NO_ERROR;
-}
-
-BillModelTexts::Model& BillModelTexts::At(uint32_t model) {
-  Model& known = models_[model];
-  if (!known.read) Read(structure_.models[model], &known);
-  return known;
-}
-
-void BillModelTexts::Read(const BillModel& source, Model* model) const {
-  model->read = true;
-  if (source.name.empty()) return;
-  const ProMdl handle = RetrieveModel(source.name, static_cast<ProMdlType>(source.type));
-  model->listed = handle != nullptr && !IsSkeleton(handle);
-  if (!model->listed || parameters_.empty()) return;
-  model->texts = ParameterTexts(handle, parameters_);
+std::optional<BillPlan> PlanBill(ProMdl assembly, BillKind kind, int depth,
+                                 const std::vector<std::wstring>& parameters) {
+  auto structure = ReadStructure(assembly);
+  if (!structure) return std::nullopt;
+  BillPlan plan{std::move(*structure), {}, {}};
+  plan.rows =
+      kind == BillKind::kSummary ? SummaryBill(plan.structure) : LevelBill(plan.structure, depth);
+  plan.texts.resize(plan.structure.models.size());
+  std::vector<bool> read(plan.texts.size(), false);
+  for (const BillRow& row : plan.rows) {
+    if (read[row.model]) continue;
+    read[row.model] = true;
+    plan.texts[row.model] = ReadTexts(plan.structure.models[row.model], parameters);
+  }
+  return plan;
 }
 
 }  // namespace qm

@@ -2,6 +2,7 @@
 // the texts that its row shows. Each fact is asked of the host once, however often a model occurs.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,37 +11,25 @@
 
 namespace qm {
 
-// Reads the active, visible components of all levels under `assembly`. Fails only when they cannot
-// be collected.
-ProError ReadBillStructure(ProMdl assembly, BillStructure* structure);
-
-// The texts of one model's parameters, read at their first use.
-class BillModelTexts {
- public:
-  // `parameters`: the names of the parameters that the columns show.
-  BillModelTexts(const BillStructure& structure, std::vector<std::wstring> parameters)
-      : structure_(structure),
-        parameters_(std::move(parameters)),
-        models_(structure.models.size()) {}
-
+// What the rows of one model show.
+struct BillTexts {
   // False for skeleton models, and for models that cannot be retrieved or have no name.
-  bool IsListed(uint32_t model) { return At(model).listed; }
-  // One text for each parameter; empty where the model has none or one of another type.
-  const std::vector<std::wstring>& Texts(uint32_t model) { return At(model).texts; }
-
- private:
-  struct Model {
-    bool read = false;
-    bool listed = false;
-    std::vector<std::wstring> texts;
-  };
-
-  Model& At(uint32_t model);
-  void Read(const BillModel& source, Model* model) const;
-
-  const BillStructure& structure_;
-  const std::vector<std::wstring> parameters_;
-  std::vector<Model> models_;
+  bool listed = false;
+  // One for each parameter; empty where the model has none or one of another type.
+  std::vector<std::wstring> parameters;
 };
+
+// A bill that is read in full and shown nowhere yet.
+struct BillPlan {
+  BillStructure structure;
+  std::vector<BillRow> rows;     // those of models that are not listed as well
+  std::vector<BillTexts> texts;  // beside the structure's models
+};
+
+// Reads the bill of `assembly` and retrieves its models, in the order of the rows. `depth` counts
+// for the level bill only; `parameters` are the names of those that the columns show. Nothing only
+// when the components cannot be collected.
+std::optional<BillPlan> PlanBill(ProMdl assembly, BillKind kind, int depth,
+                                 const std::vector<std::wstring>& parameters);
 
 }  // namespace qm

@@ -6,9 +6,9 @@
 #include "export/bill/bill_source.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
-#include "frame/models/component_list.h"
+#include "frame/models/opening.h"
 #include "frame/settings/config.h"
-#include "frame/text/value_rules.h"
+#include "frame/text/list_rules.h"
 
 namespace qm {
 namespace {
@@ -68,20 +68,17 @@ std::optional<BillColumns> ReadColumns(const DialogTable& table, BillKind kind) 
 // Writes the rows of one bill, one after another.
 class RowWriter {
  public:
-  RowWriter(const DialogTable& table, const BillColumns& columns, const BillStructure& structure)
-      : table_(table),
-        columns_(columns.columns),
-        structure_(structure),
-        models_(structure, columns.parameters) {}
+  RowWriter(const DialogTable& table, const BillColumns& columns, const BillPlan& plan)
+      : table_(table), columns_(columns.columns), plan_(plan) {}
 
   void Write(const BillRow& row) {
     const std::wstring& position = position_.Of(row);
-    if (!models_.IsListed(row.model)) return;
+    if (!plan_.texts[row.model].listed) return;
     std::string name = std::to_string(count_ + 1);
-    if (!Ok(table_.InsertRow(last_row_, name))) return;
+    if (!table_.InsertRow(last_row_, name)) return;
     ++count_;
     last_row_ = std::move(name);
-    const bool is_assembly = structure_.models[row.model].type == PRO_MDL_ASSEMBLY;
+    const bool is_assembly = plan_.structure.models[row.model].type == PRO_MDL_ASSEMBLY;
     for (const BillColumn& column : columns_) {
       std::wstring text = Text(row, column, position);
       if (!text.empty()) table_.SetLabel(last_row_, column.name, std::move(text));
@@ -92,12 +89,13 @@ class RowWriter {
   long long count() const { return count_; }
 
  private:
-  std::wstring Text(const BillRow& row, const BillColumn& column, const std::wstring& position) {
+  std::wstring Text(const BillRow& row, const BillColumn& column,
+                    const std::wstring& position) const {
     switch (column.source) {
       case ColumnSource::kNumber:
         return std::to_wstring(count_);
       case ColumnSource::kName:
-        return structure_.models[row.model].name;
+        return plan_.structure.models[row.model].name;
       case ColumnSource::kQuantity:
         return std::to_wstring(row.quantity);
       case ColumnSource::kPosition:
@@ -107,13 +105,12 @@ class RowWriter {
       case ColumnSource::kParameter:
         break;
     }
-    return models_.Texts(row.model)[column.parameter];
+    return plan_.texts[row.model].parameters[column.parameter];
   }
 
   const DialogTable& table_;
   const std::vector<BillColumn>& columns_;
-  const BillStructure& structure_;
-  BillModelTexts models_;
+  const BillPlan& plan_;
   PositionNumber position_;
   std::string last_row_;
   long long count_ = 0;
@@ -145,16 +142,14 @@ void FillBill(const DialogTable& table, ProMdl assembly, BillKind kind, int dept
     ShowMessage(kUnreadableField);
     return;
   }
-  BillStructure structure;
-  if (!Ok(ReadBillStructure(assembly, &structure))) {
-    ShowShortMessage(kNoComponentArray);
+  const auto plan = PlanBill(assembly, kind, depth, columns->parameters);
+  if (!plan) {
+    ShowNotCollected();
     return;
   }
-  RowWriter writer(table, *columns, structure);
-  const auto rows =
-      kind == BillKind::kSummary ? SummaryBill(structure) : LevelBill(structure, depth);
-  for (const BillRow& row : rows) writer.Write(row);
-  LogCount("components", static_cast<long long>(structure.occurrences.size()));
+  RowWriter writer(table, *columns, *plan);
+  for (const BillRow& row : plan->rows) writer.Write(row);
+  LogCount("components", static_cast<long long>(plan->structure.occurrences.size()));
   LogCount("rows", writer.count());
 }
 

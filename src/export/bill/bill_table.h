@@ -14,8 +14,6 @@ inline constexpr char kBillTable[] = "bom_list";
 // Background of an assembly's cells; also how the model type of a row is told later.
 inline constexpr ProUIColorType kAssemblyColor = 17;
 
-enum class BillKind { kSummary, kLevels };
-
 // The column that shows the model's name.
 inline constexpr wchar_t kNameLabel[] = L"模型名称";
 

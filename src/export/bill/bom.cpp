@@ -24,7 +24,7 @@ constexpr char kSummaryButton[] = "SumBom";
 constexpr char kLevelsButton[] = "LevelBom";
 
 DialogTable TableOf(const DialogView& dialog) {
-  return DialogTable(dialog, kBillTable);
+  return {dialog, kBillTable};
 }
 
 // Nothing when the host does not tell.
@@ -36,7 +36,7 @@ std::optional<BillKind> ChosenKind(const DialogView& dialog) {
 }
 
 // Switches the columns to the chosen bill. The rows stay empty until the user loads them.
-void PrepareChosenBill(DialogView dialog) {
+void PrepareChosenBill(const DialogView& dialog) {
   const auto kind = ChosenKind(dialog);
   if (!kind) {
     ShowMessage(kUnreadableField);
@@ -46,7 +46,7 @@ void PrepareChosenBill(DialogView dialog) {
   SetBillColumns(TableOf(dialog), *kind);
 }
 
-void LoadBill(DialogView dialog) {
+void LoadBill(const DialogView& dialog) {
   CommandLog log("QmLoadBom");
   const auto assembly = CurrentAssembly();
   if (!assembly) {
@@ -67,15 +67,15 @@ void LoadBill(DialogView dialog) {
   FillBill(TableOf(dialog), *assembly, *kind, depth);
 }
 
-void OpenSettings(DialogView) {
+void OpenSettings(const DialogView&) {
   OpenInNotepad(kBillFile);
 }
 
 // The picture area stays empty.
-void DrawNothing(DialogView) {}
+void DrawNothing(const DialogView&) {}
 
 // Shows the model of the row that was double-clicked. Only its colour tells the model's type.
-void ShowRowModel(DialogView dialog) {
+void ShowRowModel(const DialogView& dialog) {
   dialog.KeepAboveActiveWindow();
   const DialogTable table = TableOf(dialog);
   const auto names = table.ColumnNames();
@@ -122,13 +122,7 @@ void Bind(const Dialog& dialog) {
   dialog.BindClose();
 }
 
-}  // namespace
-
-ProError QmBom() {
-  const auto current = CurrentModelItself();
-  const ShownModel shown(current);
-  Dialog dialog("QmBom");
-  if (!dialog.Create()) return PRO_TK_GENERAL_ERROR;
+ProError Prepare(const Dialog& dialog, const std::optional<CurrentModel>& current) {
   Bind(dialog);
   SetBillColumns(TableOf(dialog), BillKind::kSummary);
   const auto assembly = AssemblyOf(current);
@@ -139,11 +133,18 @@ ProError QmBom() {
   FillBill(TableOf(dialog), *assembly, BillKind::kSummary, 0);
   if (ChosenKind(dialog) == BillKind::kSummary) dialog.EnableOption(kDepthMenu, false);
   dialog.BindDrawingArea<&DrawNothing>("DrawingArea");
-  const bool activated = dialog.Activate();
-  dialog.Destroy();
-  // The user may have looked at models of the bill meanwhile.
-  shown.ShowAgain();
-  return activated ? PRO_TK_NO_ERROR : PRO_TK_GENERAL_ERROR;
+  return PRO_TK_NO_ERROR;
+}
+
+}  // namespace
+
+ProError QmBom() {
+  const auto current = CurrentModelItself();
+  const ShownModel shown(current);
+  // The user may have looked at models of the bill when the dialog ends.
+  return RunDialog(
+      "QmBom", [&](const Dialog& dialog) { return Prepare(dialog, current); },
+      [&] { shown.ShowAgain(); });
 }
 
 }  // namespace qm

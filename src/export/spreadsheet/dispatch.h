@@ -59,7 +59,7 @@ class Variant {
   }
 
  private:
-  VARIANT value_;
+  VARIANT value_ = {};
 };
 
 // How long a busy server is asked again.

@@ -13,7 +13,7 @@ constexpr DWORD kDeletePauseMs = 100;
 
 FileState StateOf(const std::wstring& path) {
   FileState state;
-  state.exists = ::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &state.data);
+  state.exists = ::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &state.data) != FALSE;
   return state;
 }
 

@@ -90,7 +90,7 @@ std::wstring WholePart(double number) {
   // The decimal sign depends on the locale that the host has set.
   const char* const end =
       std::find_if(digits + 1, digits + length, [](char c) { return c < '0' || c > '9'; });
-  return std::wstring(static_cast<const char*>(digits), end);
+  return {static_cast<const char*>(digits), end};
 }
 
 }  // namespace qm

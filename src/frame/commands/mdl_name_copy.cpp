@@ -1,10 +1,13 @@
-// Copies a model's name to the clipboard.
+// QmMdlNameCopy: copies a model's name to the clipboard.
 #include "frame/commands/mdl_name_copy.h"
+
+#include <string>
 
 #include "frame/commands/clipboard.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/models/preselection.h"
+#include "frame/text/fixed_text.h"
 #include "toolkit/model.h"
 #include "toolkit/owners.h"
 
@@ -46,12 +49,12 @@ ProMdl ModelToName() {
 ProError QmMdlNameCopy() {
   const ProMdl model = ModelToName();
   if (model == nullptr) return PRO_TK_E_NOT_FOUND;
-  ProName name = {};
-  const ProError status = ProMdlNameGet(model, name);
+  ProName buffer = {};
+  const ProError status = ProMdlNameGet(model, buffer);
   if (!Ok(status)) return status;
+  const std::wstring name(FixedText(buffer));
   // An empty name would only empty the clipboard.
-  if (name[0] == L'\0') return PRO_TK_E_NOT_FOUND;
-  name[PRO_NAME_SIZE - 1] = L'\0';
+  if (name.empty()) return PRO_TK_E_NOT_FOUND;
   if (CopyToClipboard(name)) DisplayNote("The model name has been copied");
   return PRO_TK_NO_ERROR;
 }

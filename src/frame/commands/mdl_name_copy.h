@@ -1,4 +1,4 @@
-// Copies a model's name to the clipboard.
+// QmMdlNameCopy: copies a model's name to the clipboard.
 #pragma once
 
 #include "toolkit/types.h"

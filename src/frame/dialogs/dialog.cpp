@@ -12,15 +12,11 @@ std::optional<std::wstring> Taken(ProError status, const WideText& text) {
   return text.get();
 }
 
-void CloseDialog(DialogView dialog) {
+void CloseDialog(const DialogView& dialog) {
   dialog.Exit();
 }
 
 }  // namespace
-
-std::wstring DialogView::InputValue(const char* component) const {
-  return TryInputValue(component).value_or(std::wstring());
-}
 
 std::optional<std::wstring> DialogView::TryInputValue(const char* component) const {
   WideText text;
@@ -73,7 +69,7 @@ void DialogView::EnableOption(const char* component, bool enabled) const {
 
 std::optional<bool> DialogView::CheckState(const char* component) const {
   // Neither set nor unset, should the host answer success without a state.
-  ProBoolean state = static_cast<ProBoolean>(-1);
+  auto state = static_cast<ProBoolean>(-1);
   if (!Ok(ProUICheckbuttonGetState(name(), component, &state))) return std::nullopt;
   if (state != PRO_B_FALSE && state != PRO_B_TRUE) return std::nullopt;
   return state == PRO_B_TRUE;
@@ -91,8 +87,8 @@ void DialogView::KeepAboveActiveWindow() const {
   ProUIDialogAboveactivewindowSet(name(), PRO_B_TRUE);
 }
 
-void DialogView::Exit(int exit_status) const {
-  ProUIDialogExit(name(), exit_status);
+void DialogView::Exit() const {
+  ProUIDialogExit(name(), 0);
 }
 
 bool Dialog::Create() {
@@ -109,11 +105,10 @@ void Dialog::BindCloseButton(const char* component) const {
   BindButton<&CloseDialog>(component);
 }
 
-bool Dialog::Activate(int* exit_status) {
-  int status = 0;
-  const bool activated = Ok(ProUIDialogActivate(name(), &status));
+bool Dialog::Activate() const {
+  int exit_status = 0;
+  const bool activated = Ok(ProUIDialogActivate(name(), &exit_status));
   if (!activated) ShowShortMessage(L"UIDialog Activate error!");
-  if (exit_status != nullptr) *exit_status = status;
   return activated;
 }
 
@@ -121,6 +116,18 @@ void Dialog::Destroy() {
   if (!created_) return;
   created_ = false;
   if (!Ok(ProUIDialogDestroy(name()))) ShowShortMessage(L"UIDialog Destroy error!");
+}
+
+ProError RunDialog(const char* name, const PrepareDialog& prepare,
+                   const std::function<void()>& finish) {
+  Dialog dialog(name);
+  if (!dialog.Create()) return PRO_TK_GENERAL_ERROR;
+  const ProError prepared = prepare(dialog);
+  if (!Ok(prepared)) return prepared;
+  const bool was_shown = dialog.Activate();
+  dialog.Destroy();
+  finish();
+  return was_shown ? PRO_TK_NO_ERROR : PRO_TK_GENERAL_ERROR;
 }
 
 }  // namespace qm

@@ -1,6 +1,7 @@
-// Dialogs: the pattern that every dialog command follows, and the fields of a dialog.
+// Dialogs: the run that every dialog command follows, and the fields of a dialog.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <type_traits>
@@ -22,7 +23,6 @@ class DialogView {
 
   const char* name() const { return name_.c_str(); }
 
-  std::wstring InputValue(const char* component) const;
   void SetInputValue(const char* component, std::wstring value) const;
   // Name of the first selected button.
   std::string RadioValue(const char* component) const;
@@ -43,14 +43,14 @@ class DialogView {
   void KeepAboveActiveWindow() const;
 
   // Ends the dialog's activation.
-  void Exit(int exit_status = 0) const;
+  void Exit() const;
 
  private:
   std::string name_;
 };
 
-// Wraps a dialog action for the host. The action is `void(DialogView)`, or
-// `void(DialogView, ProAppData)` when it was bound with data.
+// Wraps a dialog action for the host. The action is `void(const DialogView&)`, or
+// `void(const DialogView&, ProAppData)` when it was bound with data.
 template <auto Action>
 struct DialogAction {
   static void Call(char* dialog, char* component, ProAppData data) noexcept {
@@ -66,49 +66,59 @@ struct DialogAction {
   }
 };
 
-// A dialog that a command creates, activates and destroys; its name is also its resource's. A
-// failure of one of the three calls is shown. Destroyed at the latest by the destructor.
+class Dialog;
+// Binds and fills a new dialog. Any answer but PRO_TK_NO_ERROR, after a message of its own, ends
+// the dialog before it is shown, and is then the command's.
+using PrepareDialog = std::function<ProError(const Dialog&)>;
+
+// Runs a dialog: created, prepared, shown until the user closes it, destroyed. `name` is also its
+// resource's. A failure of the first, third or last step is shown; one that keeps the dialog from
+// being shown is also the answer. `finish` follows the end of a dialog that was prepared.
+ProError RunDialog(
+    const char* name, const PrepareDialog& prepare, const std::function<void()>& finish = [] {});
+
+// A dialog of a command while RunDialog prepares and shows it: what is bound and filled.
 class Dialog : public DialogView {
  public:
-  explicit Dialog(const char* name) : DialogView(name) {}
   Dialog(const Dialog&) = delete;
   Dialog& operator=(const Dialog&) = delete;
+  // Destroys the dialog that is still there.
   ~Dialog() { Destroy(); }
 
-  // False, after the message, when the dialog cannot be created: the command stops.
-  bool Create();
-
   template <auto Action>
-  ProError BindButton(const char* component, ProAppData data = nullptr) const {
-    return ProUIPushbuttonActivateActionSet(name(), component, &DialogAction<Action>::Call, data);
+  void BindButton(const char* component, ProAppData data = nullptr) const {
+    ProUIPushbuttonActivateActionSet(name(), component, &DialogAction<Action>::Call, data);
   }
   // The user chose another button of the group.
   template <auto Action>
-  ProError BindRadio(const char* component) const {
-    return ProUIRadiogroupSelectActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
+  void BindRadio(const char* component) const {
+    ProUIRadiogroupSelectActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
   }
   // A double-click on a row.
   template <auto Action>
-  ProError BindTable(const char* component) const {
-    return ProUITableActivateActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
+  void BindTable(const char* component) const {
+    ProUITableActivateActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
   }
   // The drawing area has got its place and size.
   template <auto Action>
-  ProError BindDrawingArea(const char* component) const {
-    return ProUIDrawingareaPostmanagenotifyActionSet(name(), component, &DialogAction<Action>::Call,
-                                                     nullptr);
+  void BindDrawingArea(const char* component) const {
+    ProUIDrawingareaPostmanagenotifyActionSet(name(), component, &DialogAction<Action>::Call,
+                                              nullptr);
   }
   // The dialog's own close action ends the activation with status 0.
   void BindClose() const;
   // So does this button.
   void BindCloseButton(const char* component = "Close") const;
 
-  // Runs the dialog until the user closes it. False, after the message, when it cannot be shown.
-  bool Activate(int* exit_status = nullptr);
-  // Does nothing when there is no dialog (any more).
+ private:
+  friend ProError RunDialog(const char*, const PrepareDialog&, const std::function<void()>&);
+
+  explicit Dialog(const char* name) : DialogView(name) {}
+  // Each says so when it fails.
+  bool Create();
+  bool Activate() const;
   void Destroy();
 
- private:
   bool created_ = false;
 };
 

@@ -21,6 +21,7 @@ std::optional<std::vector<TextOf<List>>> Gathered(Function& function, const char
   const ProError status = function(dialog, component.c_str(), list.put_count(), list.put_texts());
   if (!Ok(status) && status != PRO_TK_E_NOT_FOUND) return std::nullopt;
   std::vector<TextOf<List>> texts;
+  texts.reserve(static_cast<size_t>(list.size()));
   for (int i = 0; i < list.size(); ++i) texts.emplace_back(list[i]);
   return texts;
 }
@@ -34,9 +35,9 @@ auto PointersTo(std::vector<Text>& texts) {
 }
 
 // Logged here, since a table's user goes on with the next cell.
-ProError Logged(const char* function, ProError status) {
+bool Done(const char* function, ProError status) {
   if (!Ok(status)) LogFailure(nullptr, function, status);
-  return status;
+  return Ok(status);
 }
 
 }  // namespace
@@ -61,37 +62,37 @@ std::optional<std::vector<std::string>> DialogTable::SelectedRows() const {
   return Gathered<NameList>(ProUITableSelectednamesGet, dialog_.name(), component_);
 }
 
-ProError DialogTable::InsertRow(const std::string& neighbour, std::string name) const {
+bool DialogTable::InsertRow(const std::string& neighbour, std::string name) const {
   char* names[] = {name.data()};
-  return Logged("ProUITableRowsInsert", ProUITableRowsInsert(dialog_.name(), component_.c_str(),
-                                                             neighbour.c_str(), 1, names));
+  return Done("ProUITableRowsInsert", ProUITableRowsInsert(dialog_.name(), component_.c_str(),
+                                                           neighbour.c_str(), 1, names));
 }
 
 bool DialogTable::DeleteAllRows() const {
   auto names = RowNames();
   if (!names || names->empty()) return names.has_value();
-  return Ok(Logged("ProUITableRowsDelete", ProUITableRowsDelete(dialog_.name(), component_.c_str(),
-                                                                static_cast<int>(names->size()),
-                                                                PointersTo(*names).data())));
+  return Done("ProUITableRowsDelete",
+              ProUITableRowsDelete(dialog_.name(), component_.c_str(),
+                                   static_cast<int>(names->size()), PointersTo(*names).data()));
 }
 
-ProError DialogTable::InsertColumns(const std::string& neighbour,
-                                    std::vector<std::string> names) const {
-  if (names.empty()) return PRO_TK_NO_ERROR;
-  return Logged("ProUITableColumnsInsert",
-                ProUITableColumnsInsert(dialog_.name(), component_.c_str(), neighbour.c_str(),
-                                        static_cast<int>(names.size()), PointersTo(names).data()));
+bool DialogTable::InsertColumns(const std::string& neighbour,
+                                std::vector<std::string> names) const {
+  if (names.empty()) return true;
+  return Done("ProUITableColumnsInsert",
+              ProUITableColumnsInsert(dialog_.name(), component_.c_str(), neighbour.c_str(),
+                                      static_cast<int>(names.size()), PointersTo(names).data()));
 }
 
-ProError DialogTable::DeleteColumns(std::vector<std::string> names) const {
-  if (names.empty()) return PRO_TK_NO_ERROR;
-  return Logged("ProUITableColumnsDelete",
-                ProUITableColumnsDelete(dialog_.name(), component_.c_str(),
-                                        static_cast<int>(names.size()), PointersTo(names).data()));
+bool DialogTable::DeleteColumns(std::vector<std::string> names) const {
+  if (names.empty()) return true;
+  return Done("ProUITableColumnsDelete",
+              ProUITableColumnsDelete(dialog_.name(), component_.c_str(),
+                                      static_cast<int>(names.size()), PointersTo(names).data()));
 }
 
-ProError DialogTable::SetColumnLabels(std::vector<std::wstring> labels) const {
-  return Logged(
+bool DialogTable::SetColumnLabels(std::vector<std::wstring> labels) const {
+  return Done(
       "ProUITableColumnlabelsSet",
       ProUITableColumnlabelsSet(dialog_.name(), component_.c_str(), static_cast<int>(labels.size()),
                                 PointersTo(labels).data()));
@@ -102,15 +103,15 @@ std::wstring DialogTable::Label(const std::string& row, const std::string& colum
   const ProError status = ProUITableCellLabelGet(dialog_.name(), component_.c_str(), row.c_str(),
                                                  column.c_str(), label.put());
   if (Ok(status) && label) return label.get();
-  if (status != PRO_TK_E_NOT_FOUND) Logged("ProUITableCellLabelGet", status);
+  if (status != PRO_TK_E_NOT_FOUND) Done("ProUITableCellLabelGet", status);
   return {};
 }
 
-ProError DialogTable::SetLabel(const std::string& row, const std::string& column,
-                               std::wstring label) const {
-  return Logged("ProUITableCellLabelSet",
-                ProUITableCellLabelSet(dialog_.name(), component_.c_str(), row.c_str(),
-                                       column.c_str(), label.data()));
+bool DialogTable::SetLabel(const std::string& row, const std::string& column,
+                           std::wstring label) const {
+  return Done("ProUITableCellLabelSet",
+              ProUITableCellLabelSet(dialog_.name(), component_.c_str(), row.c_str(),
+                                     column.c_str(), label.data()));
 }
 
 std::optional<ProUIColorType> DialogTable::Color(const std::string& row,
@@ -122,11 +123,11 @@ std::optional<ProUIColorType> DialogTable::Color(const std::string& row,
   return color;
 }
 
-ProError DialogTable::SetColor(const std::string& row, const std::string& column,
-                               ProUIColorType color) const {
-  return Logged("ProUITableCellBackgroundColorSet",
-                ProUITableCellBackgroundColorSet(dialog_.name(), component_.c_str(), row.c_str(),
-                                                 column.c_str(), color));
+bool DialogTable::SetColor(const std::string& row, const std::string& column,
+                           ProUIColorType color) const {
+  return Done("ProUITableCellBackgroundColorSet",
+              ProUITableCellBackgroundColorSet(dialog_.name(), component_.c_str(), row.c_str(),
+                                               column.c_str(), color));
 }
 
 }  // namespace qm

@@ -24,21 +24,23 @@ class DialogTable {
   std::optional<std::vector<std::wstring>> ColumnLabels() const;
   std::optional<std::vector<std::string>> SelectedRows() const;
 
+  // The changes are false, after a line in the run log, when the host refuses them: the next cell
+  // may do.
   // After row `neighbour`; an empty one inserts at the start.
-  ProError InsertRow(const std::string& neighbour, std::string name) const;
+  bool InsertRow(const std::string& neighbour, std::string name) const;
   // False when a row may be left.
   bool DeleteAllRows() const;
-  ProError InsertColumns(const std::string& neighbour, std::vector<std::string> names) const;
-  ProError DeleteColumns(std::vector<std::string> names) const;
+  bool InsertColumns(const std::string& neighbour, std::vector<std::string> names) const;
+  bool DeleteColumns(std::vector<std::string> names) const;
   // One label for each column, in their order.
-  ProError SetColumnLabels(std::vector<std::wstring> labels) const;
+  bool SetColumnLabels(std::vector<std::wstring> labels) const;
 
   // Empty when nothing was written to the cell, or when it cannot be read, which is logged.
   std::wstring Label(const std::string& row, const std::string& column) const;
-  ProError SetLabel(const std::string& row, const std::string& column, std::wstring label) const;
+  bool SetLabel(const std::string& row, const std::string& column, std::wstring label) const;
   // Nothing for a cell that was not coloured.
   std::optional<ProUIColorType> Color(const std::string& row, const std::string& column) const;
-  ProError SetColor(const std::string& row, const std::string& column, ProUIColorType color) const;
+  bool SetColor(const std::string& row, const std::string& column, ProUIColorType color) const;
 
  private:
   DialogView dialog_;

@@ -7,7 +7,7 @@
 
 namespace __gnu_cxx {
 // The run-time's own function for this; its headers do not declare it.
-void __freeres();
+void __freeres();  // NOLINT(bugprone-reserved-identifier)
 }  // namespace __gnu_cxx
 
 namespace {

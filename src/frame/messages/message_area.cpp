@@ -5,9 +5,9 @@
 
 namespace qm {
 
-void DisplayNote(const char* key, const wchar_t* argument, const wchar_t* file) {
+void DisplayNote(const char* key, const wchar_t* argument) {
   // The host takes the file's name as changeable text.
-  std::wstring file_name = file;
+  std::wstring file_name = kNoteFile;
   if (argument != nullptr) {
     ProMessageDisplay(file_name.data(), key, argument);
   } else {

@@ -6,11 +6,9 @@
 namespace qm {
 
 inline constexpr wchar_t kNoteFile[] = L"qmmsg_display.txt";
-inline constexpr wchar_t kTransparencyNoteFile[] = L"msg_display.txt";
 
 // Shows the text of `key`. `argument` fills a "%0w" of the key. A failure is not reported: a note
 // is never a reason to stop.
-void DisplayNote(const char* key, const wchar_t* argument = nullptr,
-                 const wchar_t* file = kNoteFile);
+void DisplayNote(const char* key, const wchar_t* argument = nullptr);
 
 }  // namespace qm

@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <exception>
 
+#include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
 #include "toolkit/model.h"
 #include "toolkit/status.h"
@@ -15,8 +16,8 @@
 namespace qm {
 namespace {
 
-constexpr long long kMaxFileBytes = 1024 * 1024;
-constexpr std::size_t kMaxPendingBytes = 16 * 1024;
+constexpr long long kMaxFileBytes = 1024LL * 1024;
+constexpr std::size_t kMaxPendingBytes = std::size_t{16} * 1024;
 constexpr long long kMaxFailureLines = 1000;
 
 constinit CommandLog* running_command = nullptr;
@@ -76,8 +77,7 @@ std::string Stamped(std::string_view text) {
 std::string LoggedName(ProMdl model) {
   ProName name = {};
   if (model == nullptr || !Ok(ProMdlNameGet(model, name))) return "(model without name)";
-  name[PRO_NAME_SIZE - 1] = L'\0';
-  return ToUtf8(name);
+  return ToUtf8(FixedText(name));
 }
 
 }  // namespace

@@ -10,9 +10,6 @@
 
 namespace qm {
 
-// What commands show when the array of components cannot be allocated.
-inline constexpr wchar_t kNoComponentArray[] = L"ProArray Alloc error";
-
 enum class ComponentKind {
   kAll,         // also components whose model is not in session
   kAssemblies,  // subassemblies

@@ -2,6 +2,7 @@
 #include "frame/models/model_name.h"
 
 #include "frame/messages/run_log.h"
+#include "frame/text/fixed_text.h"
 #include "toolkit/status.h"
 
 namespace qm {
@@ -13,8 +14,7 @@ std::optional<std::wstring> ModelName(ProMdl model) {
     LogFailure(nullptr, "ProMdlNameGet", status);
     return std::nullopt;
   }
-  name[PRO_NAME_SIZE - 1] = L'\0';
-  return name;
+  return std::wstring(FixedText(name));
 }
 
 }  // namespace qm

@@ -2,18 +2,17 @@
 #include "frame/models/parameter_text.h"
 
 #include "frame/messages/run_log.h"
-#include "frame/models/parameter_lookup.h"
+#include "frame/models/parameters.h"
 #include "frame/text/value_rules.h"
 #include "toolkit/status.h"
 
 namespace qm {
 namespace {
 
-std::wstring ValueText(ProParamvalue& value) {
+std::wstring ValueText(const ProParamvalue& value) {
   switch (value.type) {
     case PRO_PARAM_STRING:
-      value.value.s_val[PRO_LINE_SIZE - 1] = L'\0';
-      return value.value.s_val;
+      return std::wstring(FixedText(value.value.s_val));
     case PRO_PARAM_INTEGER:
       return std::to_wstring(value.value.i_val);
     case PRO_PARAM_DOUBLE:
@@ -25,22 +24,12 @@ std::wstring ValueText(ProParamvalue& value) {
   }
 }
 
-std::wstring ParameterText(ProModelitem* item, const std::wstring& name) {
+std::wstring ParameterText(const ProModelitem& owner, const std::wstring& name) {
   // A longer name would be cut and might then be another parameter's.
   if (name.size() >= PRO_NAME_SIZE) return {};
   HostName host_name(name);
-  ProParameter parameter{};
-  ProError status = FindParameter(item, host_name, &parameter);
-  if (!Ok(status)) {
-    // Most models lack some of the parameters.
-    if (status != PRO_TK_E_NOT_FOUND) LogFailure(item->owner, "ProParameterInit", status);
-    return {};
-  }
-  ProParamvalue value{};
-  value.type = PRO_PARAM_VOID;
-  status = ProParameterValueGet(&parameter, &value);
-  if (!Ok(status)) LogFailure(item->owner, "ProParameterValueGet", status);
-  return Ok(status) ? ValueText(value) : std::wstring();
+  const auto value = ReadParameter(owner, host_name);
+  return value ? ValueText(*value) : std::wstring();
 }
 
 }  // namespace
@@ -53,7 +42,7 @@ std::vector<std::wstring> ParameterTexts(ProMdl model, const std::vector<std::ws
     LogFailure(model, "ProMdlToModelitem", status);
     return texts;
   }
-  for (size_t i = 0; i < names.size(); ++i) texts[i] = ParameterText(&item, names[i]);
+  for (size_t i = 0; i < names.size(); ++i) texts[i] = ParameterText(item, names[i]);
   return texts;
 }
 

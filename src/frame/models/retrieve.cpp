@@ -4,7 +4,7 @@
 #include <string>
 
 #include "frame/messages/run_log.h"
-#include "frame/models/parameter_lookup.h"
+#include "frame/models/host_name.h"
 #include "frame/text/text.h"
 #include "toolkit/status.h"
 

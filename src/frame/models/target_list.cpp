@@ -28,23 +28,22 @@ void SortAndRemoveDuplicates(std::vector<ProMdl>* models) {
 
 }  // namespace
 
-ProError CollectTargets(const CurrentModel& top, std::string_view class_name, TargetList* targets) {
-  *targets = TargetList();
+std::optional<TargetList> CollectTargets(const CurrentModel& top, std::string_view class_name) {
+  TargetList targets;
   const auto* const target_class =
       std::find_if(std::begin(kClasses), std::end(kClasses),
                    [&](const TargetClass& row) { return row.name == class_name; });
-  if (target_class == std::end(kClasses) || top.type != PRO_MDL_ASSEMBLY) return PRO_TK_NO_ERROR;
+  if (target_class == std::end(kClasses) || top.type != PRO_MDL_ASSEMBLY) return targets;
 
   ComponentList components;
-  const ProError status = CollectComponents(top.model, target_class->components, &components);
-  if (!Ok(status)) return status;
-  targets->component_count = components.size();
-  if (target_class->with_top) targets->models.push_back(top.model);
+  if (!Ok(CollectComponents(top.model, target_class->components, &components))) return std::nullopt;
+  targets.component_count = components.size();
+  if (target_class->with_top) targets.models.push_back(top.model);
   for (int i = 0; i < components.size(); ++i) {
-    if (components.model(i) != nullptr) targets->models.push_back(components.model(i));
+    if (components.model(i) != nullptr) targets.models.push_back(components.model(i));
   }
-  SortAndRemoveDuplicates(&targets->models);
-  return PRO_TK_NO_ERROR;
+  SortAndRemoveDuplicates(&targets.models);
+  return targets;
 }
 
 }  // namespace qm

@@ -1,6 +1,7 @@
 // The models that a batch command works on: each model once, of the class chosen in its dialog.
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -16,8 +17,8 @@ struct TargetList {
 // Collects the targets under `top`. `class_name` is the name of a radio button: "AsmAndPart" (every
 // component and `top`), "Part", "Asm" (subassemblies and `top`) or "Smt"; any other collects
 // nothing, and so does a `top` that is no assembly. `top` is a target even when nothing was
-// collected: callers look at `component_count`. Fails only when the array of components cannot be
+// collected: callers look at `component_count`. Nothing only when the array of components cannot be
 // allocated.
-ProError CollectTargets(const CurrentModel& top, std::string_view class_name, TargetList* targets);
+std::optional<TargetList> CollectTargets(const CurrentModel& top, std::string_view class_name);
 
 }  // namespace qm

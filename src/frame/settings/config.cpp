@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include "frame/settings/config_rules.h"
+#include "frame/text/fixed_text.h"
 #include "toolkit/status.h"
 #include "toolkit/window.h"
 
@@ -17,11 +19,10 @@ std::wstring ConfigPath(const wchar_t* file) {
 }
 
 std::wstring TextFolderConfigPath(const wchar_t* file) {
-  ProPath folder = {};
-  if (!Ok(ProToolkitApplTextPathGet(folder))) return ConfigPath(file);
-  folder[PRO_PATH_SIZE - 1] = L'\0';
-  if (folder[0] == L'\0') return ConfigPath(file);
-  return ConfigPathIn(folder, file);
+  ProPath buffer = {};
+  if (!Ok(ProToolkitApplTextPathGet(buffer))) return ConfigPath(file);
+  const std::wstring_view folder = FixedText(buffer);
+  return folder.empty() ? ConfigPath(file) : ConfigPathIn(folder, file);
 }
 
 std::wstring ReadSetting(const wchar_t* section, const wchar_t* key, const std::wstring& path) {

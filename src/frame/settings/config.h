@@ -5,8 +5,6 @@
 
 #include <string>
 
-#include "frame/settings/config_rules.h"
-
 namespace qm {
 
 // File name that the plug-in must bear for its settings to be found.

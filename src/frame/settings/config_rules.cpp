@@ -19,12 +19,6 @@ std::wstring Joined(std::wstring_view folder, std::wstring_view rest, std::wstri
 
 }  // namespace
 
-std::wstring WithoutBlanks(std::wstring_view text) {
-  std::wstring result(text);
-  std::erase(result, L' ');
-  return result;
-}
-
 std::wstring ConfigPathBeside(std::wstring_view module_path, std::wstring_view module_name,
                               std::wstring_view file) {
   const std::size_t separator = module_path.find_last_of(L"\\/");

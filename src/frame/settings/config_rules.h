@@ -6,9 +6,6 @@
 
 namespace qm {
 
-// `text` without any of its spaces: most settings are compared so.
-std::wstring WithoutBlanks(std::wstring_view text);
-
 // `module_path` with its file name replaced by "QMconfig\" and `file`. When the path does not end
 // in `module_name` (compared without case), a path in a folder that cannot exist, so that nothing
 // is read from or written to another program's files.

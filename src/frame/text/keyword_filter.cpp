@@ -4,25 +4,13 @@
 #include <algorithm>
 
 #include "frame/text/letter_case.h"
+#include "frame/text/list_rules.h"
 
 namespace qm {
-namespace {
 
-constexpr wchar_t kFullWidthComma = 0xFF0C;
-
-}  // namespace
-
-KeywordFilter::KeywordFilter(std::wstring_view list) {
-  std::wstring rest = LowerCased(list);
-  std::replace(rest.begin(), rest.end(), kFullWidthComma, L',');
-  for (size_t begin = 0; begin < rest.size();) {
-    const size_t end = std::min(rest.find(L',', begin), rest.size());
-    // Every name begins with the empty text, so an empty piece (a doubled or leading comma) taken
-    // as a keyword would silently exclude every model: it is no keyword.
-    if (end > begin) keywords_.push_back(rest.substr(begin, end - begin));
-    begin = end + 1;
-  }
-}
+// Every name begins with the empty text, so an empty piece (a doubled or leading comma) taken as a
+// keyword would silently exclude every model: it is no keyword, and the list has none.
+KeywordFilter::KeywordFilter(std::wstring_view list) : keywords_(SplitAtCommas(LowerCased(list))) {}
 
 bool KeywordFilter::Excludes(std::wstring_view model_name) const {
   if (keywords_.empty()) return false;

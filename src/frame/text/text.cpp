@@ -27,7 +27,7 @@ std::optional<std::string> ToAnsiExactly(std::wstring_view text) {
   // With UTF-8 as the ANSI code page nothing is lost, and Windows refuses the question.
   BOOL lossy = FALSE;
   std::string result = ToCodePage(CP_ACP, text, ::GetACP() == CP_UTF8 ? nullptr : &lossy);
-  if (lossy || FromAnsi(result) != text) return std::nullopt;
+  if (lossy != FALSE || FromAnsi(result) != text) return std::nullopt;
   return result;
 }
 

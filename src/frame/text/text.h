@@ -2,7 +2,6 @@
 // the host want, and the UTF-8 of the run log.
 #pragma once
 
-#include <algorithm>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,11 +14,5 @@ std::string ToAnsi(std::wstring_view text);
 std::optional<std::string> ToAnsiExactly(std::wstring_view text);
 std::wstring FromAnsi(std::string_view text);
 std::string ToUtf8(std::wstring_view text);
-
-// A fixed text buffer of the host, up to its closing zero or its end.
-template <std::size_t N>
-std::wstring_view FixedText(const wchar_t (&buffer)[N]) {
-  return {buffer, static_cast<std::size_t>(std::find(buffer, buffer + N, L'\0') - buffer)};
-}
 
 }  // namespace qm

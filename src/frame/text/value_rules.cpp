@@ -1,37 +1,17 @@
-// Texts of model values and lists of names.
+// Texts of model values.
 #include "frame/text/value_rules.h"
 
-#include <algorithm>
 #include <charconv>
 #include <system_error>
 
 namespace qm {
 namespace {
 
-constexpr wchar_t kFullWidthComma = 0xFF0C;
 constexpr int kDecimals = 3;
 // The largest double has 309 digits before the point.
 constexpr size_t kLongestReal = 400;
 
 }  // namespace
-
-std::vector<std::wstring> SplitNames(std::wstring_view list) {
-  std::vector<std::wstring> names;
-  std::wstring name;
-  const auto finish = [&] {
-    if (!name.empty()) names.push_back(std::move(name));
-    name.clear();
-  };
-  for (const wchar_t c : list) {
-    if (c == L',' || c == kFullWidthComma) {
-      finish();
-    } else if (c != L' ') {
-      name += c;
-    }
-  }
-  finish();
-  return names;
-}
 
 std::wstring RealText(double value) {
   char digits[kLongestReal];

@@ -1,15 +1,9 @@
-// Texts of model values and lists of names, as bills and file names show them.
+// Texts of model values, as bills and file names show them.
 #pragma once
 
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace qm {
-
-// The names of a comma-separated list as users write it: the full-width comma counts as a comma,
-// spaces and empty pieces are dropped, the order is kept.
-std::vector<std::wstring> SplitNames(std::wstring_view list);
 
 // Three decimals, whatever decimal sign the host's locale has.
 std::wstring RealText(double value);

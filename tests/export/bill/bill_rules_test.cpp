@@ -8,9 +8,6 @@
 namespace qm {
 namespace {
 
-constexpr int kAssembly = 1;
-constexpr int kPart = 2;
-
 // A row as a user reads it.
 struct Line {
   std::string position;
@@ -39,10 +36,10 @@ void Occur(BillStructure& structure, uint32_t assembly) {
 // PUMP: 3 bolts, 2 housings (each with 2 bolts and a lid), 1 lid.
 BillStructure Pump() {
   BillStructure pump;
-  pump.models = {{L"PUMP", kAssembly, {1, 2, 1, 3, 2, 1}},
-                 {L"BOLT", kPart, {}},
-                 {L"HOUSING", kAssembly, {1, 1, 3}},
-                 {L"LID", kPart, {}}};
+  pump.models = {{L"PUMP", PRO_MDL_ASSEMBLY, {1, 2, 1, 3, 2, 1}},
+                 {L"BOLT", PRO_MDL_PART, {}},
+                 {L"HOUSING", PRO_MDL_ASSEMBLY, {1, 1, 3}},
+                 {L"LID", PRO_MDL_PART, {}}};
   Occur(pump, 0);
   return pump;
 }
@@ -78,10 +75,10 @@ TEST(SummaryBill, CountsEachModelOnAllLevelsInTheOrderOfAppearance) {
 
 TEST(SummaryBill, APartAndAnAssemblyOfOneNameAreTwoRows) {
   BillStructure structure;
-  structure.models = {{L"TOP", kAssembly, {1, 2, 1}},
-                      {L"FRAME", kPart, {}},
-                      {L"FRAME", kAssembly, {3}},
-                      {L"FRAME", kPart, {}}};
+  structure.models = {{L"TOP", PRO_MDL_ASSEMBLY, {1, 2, 1}},
+                      {L"FRAME", PRO_MDL_PART, {}},
+                      {L"FRAME", PRO_MDL_ASSEMBLY, {3}},
+                      {L"FRAME", PRO_MDL_PART, {}}};
   Occur(structure, 0);
   EXPECT_EQ(Totals(structure), (TotalList{{"FRAME", 3}, {"FRAME", 1}}));
   EXPECT_EQ(SummaryBill(structure)[1].model, 2u);
@@ -109,11 +106,11 @@ TEST(LevelBill, ListsTheLevelsDownToTheDepth) {
 
 TEST(LevelBill, AnAssemblyStandsWithItsComponentsUnderEachParent) {
   BillStructure structure;
-  structure.models = {{L"TOP", kAssembly, {1, 2}},
-                      {L"LEFT", kAssembly, {3}},
-                      {L"RIGHT", kAssembly, {4, 3, 3}},
-                      {L"HINGE", kAssembly, {4}},
-                      {L"PIN", kPart, {}}};
+  structure.models = {{L"TOP", PRO_MDL_ASSEMBLY, {1, 2}},
+                      {L"LEFT", PRO_MDL_ASSEMBLY, {3}},
+                      {L"RIGHT", PRO_MDL_ASSEMBLY, {4, 3, 3}},
+                      {L"HINGE", PRO_MDL_ASSEMBLY, {4}},
+                      {L"PIN", PRO_MDL_PART, {}}};
   EXPECT_EQ(LevelLines(structure, 9), (std::vector<Line>{{"1", "LEFT", 1, 1},
                                                          {"1.1", "HINGE", 2, 1},
                                                          {"1.1.1", "PIN", 3, 1},
@@ -127,19 +124,19 @@ TEST(LevelBill, AnAssemblyStandsWithItsComponentsUnderEachParent) {
 // the summary and under different parents only.
 TEST(LevelBill, SiblingsOfOneNameAreOneRowWhateverTheirTypes) {
   BillStructure structure;
-  structure.models = {{L"TOP", kAssembly, {1, 2, 1, 3}},
-                      {L"FRAME", kPart, {}},
-                      {L"FRAME", kAssembly, {4}},
-                      {L"BOX", kAssembly, {2}},
-                      {L"BAR", kPart, {}}};
+  structure.models = {{L"TOP", PRO_MDL_ASSEMBLY, {1, 2, 1, 3}},
+                      {L"FRAME", PRO_MDL_PART, {}},
+                      {L"FRAME", PRO_MDL_ASSEMBLY, {4}},
+                      {L"BOX", PRO_MDL_ASSEMBLY, {2}},
+                      {L"BAR", PRO_MDL_PART, {}}};
   EXPECT_EQ(LevelLines(structure, kAllLevels), (std::vector<Line>{{"1", "FRAME", 1, 3},
                                                                   {"1.1", "BAR", 2, 1},
                                                                   {"2", "BOX", 1, 1},
                                                                   {"2.1", "FRAME", 2, 1},
                                                                   {"2.1.1", "BAR", 3, 1}}));
   const std::vector<BillRow> rows = LevelBill(structure, 2);
-  EXPECT_EQ(structure.models[rows[0].model].type, kPart) << "shown as the first";
-  EXPECT_EQ(structure.models[rows[3].model].type, kAssembly);
+  EXPECT_EQ(structure.models[rows[0].model].type, PRO_MDL_PART) << "shown as the first";
+  EXPECT_EQ(structure.models[rows[3].model].type, PRO_MDL_ASSEMBLY);
 }
 
 TEST(LevelBill, ModelsWithoutNameKeepTheirPlacesAndWhatTheyHold) {
@@ -155,7 +152,7 @@ TEST(LevelBill, ModelsWithoutNameKeepTheirPlacesAndWhatTheyHold) {
 
 TEST(LevelBill, AnAssemblyInsideItselfIsListedButNotEntered) {
   BillStructure structure;
-  structure.models = {{L"TOP", kAssembly, {1}}, {L"RING", kAssembly, {1, 0}}};
+  structure.models = {{L"TOP", PRO_MDL_ASSEMBLY, {1}}, {L"RING", PRO_MDL_ASSEMBLY, {1, 0}}};
   EXPECT_EQ(LevelLines(structure, kAllLevels),
             (std::vector<Line>{{"1", "RING", 1, 1}, {"1.1", "RING", 2, 1}, {"1.2", "TOP", 2, 1}}));
 }
@@ -164,9 +161,9 @@ TEST(LevelBill, AllLevelsMeansAllOfTenThousand) {
   constexpr uint32_t kLevels = 10'000;
   BillStructure structure;
   for (uint32_t i = 0; i < kLevels; ++i) {
-    structure.models.push_back({L"L" + std::to_wstring(i), kAssembly, {i + 1}});
+    structure.models.push_back({L"L" + std::to_wstring(i), PRO_MDL_ASSEMBLY, {i + 1}});
   }
-  structure.models.push_back({L"END", kPart, {}});
+  structure.models.push_back({L"END", PRO_MDL_PART, {}});
   const std::vector<BillRow> rows = LevelBill(structure, kAllLevels);
   ASSERT_EQ(rows.size(), kLevels);
   EXPECT_EQ(rows.back().level, static_cast<int>(kLevels));

@@ -1,4 +1,4 @@
-// Where settings files and model folders lie, and how settings are read.
+// Where settings files and model folders lie.
 #include "frame/settings/config_rules.h"
 
 #include <gtest/gtest.h>
@@ -33,12 +33,6 @@ TEST(ConfigRules, TheTextFolderMayEndInSeparators) {
   for (const wchar_t* folder : {L"C:\\qm", L"C:\\qm\\", L"C:\\qm/"}) {
     EXPECT_EQ(ConfigPathIn(folder, L"QmParams.ini"), L"C:\\qm\\QMconfig\\QmParams.ini");
   }
-}
-
-TEST(ConfigRules, BlanksAreRemovedEverywhere) {
-  EXPECT_EQ(WithoutBlanks(L" 0 "), L"0");
-  EXPECT_EQ(WithoutBlanks(L"as UG "), L"asUG");
-  EXPECT_EQ(WithoutBlanks(L"   "), L"");
 }
 
 TEST(DirectoryRules, AModelsFolderIsDeviceAndPathUnlessThePathIsWhole) {

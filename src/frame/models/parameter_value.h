@@ -5,13 +5,15 @@
 #include <string>
 #include <variant>
 
+#include "toolkit/numbers.h"
+
 namespace qm {
 
 // An integer, a real number, a string or a yes/no parameter.
 using ParamValue = std::variant<int, double, std::wstring, bool>;
 
 // Longest texts, in 16-bit characters, that the host stores.
-inline constexpr std::size_t kMaxParamNameLength = 31;
-inline constexpr std::size_t kMaxParamTextLength = 80;
+inline constexpr std::size_t kMaxParamNameLength = PRO_NAME_SIZE - 1;
+inline constexpr std::size_t kMaxParamTextLength = PRO_LINE_SIZE - 1;
 
 }  // namespace qm

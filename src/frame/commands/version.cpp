@@ -1,9 +1,9 @@
-// The commands that only show information.
-#include "frame/commands/information_commands.h"
+// QmVersion: what runs here, and how it is bound to its host.
+#include "frame/commands/version.h"
 
+#include <algorithm>
 #include <string>
 
-#include "frame/dialogs/dialog.h"
 #include "frame/guard/host_binding.h"
 #include "frame/messages/message_box.h"
 #include "frame/text/text.h"
@@ -13,16 +13,6 @@ namespace qm {
 namespace {
 
 constexpr std::size_t kMaxNamedFunctions = 10;
-
-ProError ShowInformationDialog(const char* name) {
-  Dialog dialog(name);
-  if (!dialog.Create()) return PRO_TK_GENERAL_ERROR;
-  dialog.BindClose();
-  dialog.BindCloseButton();
-  const bool was_shown = dialog.Activate();
-  dialog.Destroy();
-  return was_shown ? PRO_TK_NO_ERROR : PRO_TK_GENERAL_ERROR;
-}
 
 std::wstring BindingText(const HostBinding& binding) {
   if (binding.by_vendor_library) return L"\t宿主接口：已由厂商库绑定\t";
@@ -36,14 +26,6 @@ std::wstring BindingText(const HostBinding& binding) {
 }
 
 }  // namespace
-
-ProError QmQQGroup() {
-  return ShowInformationDialog("QmQQGroup");
-}
-
-ProError AboutQm() {
-  return ShowInformationDialog("AboutQm");
-}
 
 ProError QmVersion() {
   const std::wstring product = FromAnsi(QM_PRODUCT_NAME " " QM_VERSION_TEXT);

@@ -1,5 +1,6 @@
-// The settings dialog: filled from the file when it opens, written back when the user presses save.
-#include "frame/commands/settings_dialog.h"
+// QmConfig: the settings dialog, filled from the file when it opens, written back when the user
+// presses save.
+#include "frame/commands/config.h"
 
 #include <algorithm>
 #include <iterator>
@@ -8,6 +9,7 @@
 
 #include "frame/dialogs/dialog.h"
 #include "frame/settings/config.h"
+#include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
 #include "toolkit/owners.h"
 #include "toolkit/window.h"
@@ -66,7 +68,7 @@ std::wstring Section(const char* component) {
 
 // A group without a selection, or one that the host does not tell, keeps its stored value; a new
 // file gets its section all the same.
-void SaveOption(DialogView dialog, const char* option, const std::wstring& path) {
+void SaveOption(const DialogView& dialog, const char* option, const std::wstring& path) {
   const std::wstring section = Section(option);
   const auto button = dialog.TryRadioValue(option);
   WriteSetting(section.c_str(), kValueKey,
@@ -74,7 +76,7 @@ void SaveOption(DialogView dialog, const char* option, const std::wstring& path)
 }
 
 // Paths that the host does not tell keep their stored value.
-void Save(DialogView dialog) {
+void Save(const DialogView& dialog) {
   const std::wstring path = ConfigPath(kConfigFile);
   for (const char* const option : kOptionsAsSaved) SaveOption(dialog, option, path);
   for (const TemplateRow& row : kTemplates) {
@@ -93,7 +95,7 @@ std::wstring FormatFolder() {
 }
 
 // `data` is the row of the pressed button.
-void PickTemplate(DialogView, ProAppData data) {
+void PickTemplate(const DialogView&, ProAppData data) {
   const TemplateRow& row = *static_cast<const TemplateRow*>(data);
   std::wstring title = row.title;
   std::wstring filter = L"*.drw";
@@ -101,9 +103,8 @@ void PickTemplate(DialogView, ProAppData data) {
   ProPath chosen = {};
   const ProError status = ProFileOpen(title.data(), filter.data(), nullptr, nullptr,
                                       folder.empty() ? nullptr : folder.data(), nullptr, chosen);
-  if (!Ok(status) || chosen[0] == L'\0') return;
-  chosen[PRO_PATH_SIZE - 1] = L'\0';
-  DialogView(kDialog).SetInputValue(row.panel, chosen);
+  const std::wstring path(FixedText(chosen));
+  if (Ok(status) && !path.empty()) DialogView(kDialog).SetInputValue(row.panel, path);
 }
 
 void Bind(const Dialog& dialog) {
@@ -129,13 +130,11 @@ void Fill(const Dialog& dialog) {
 }  // namespace
 
 ProError QmConfig() {
-  Dialog dialog(kDialog);
-  if (!dialog.Create()) return PRO_TK_GENERAL_ERROR;
-  Bind(dialog);
-  Fill(dialog);
-  const bool was_shown = dialog.Activate();
-  dialog.Destroy();
-  return was_shown ? PRO_TK_NO_ERROR : PRO_TK_GENERAL_ERROR;
+  return RunDialog(kDialog, [](const Dialog& dialog) {
+    Bind(dialog);
+    Fill(dialog);
+    return PRO_TK_NO_ERROR;
+  });
 }
 
 }  // namespace qm

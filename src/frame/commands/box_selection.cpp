@@ -1,5 +1,5 @@
-// Preselect parts or surfaces by box.
-#include "frame/commands/selection_commands.h"
+// The choice by box and its hand-over to the selection buffer.
+#include "frame/commands/box_selection.h"
 
 #include "toolkit/owners.h"
 #include "toolkit/selection.h"
@@ -27,7 +27,8 @@ ProError AllocateBoxEnvironment(SelectionEnvironment* environment) {
   return Ok(status) && !*environment ? PRO_TK_GENERAL_ERROR : status;
 }
 
-// Replaces the selection buffer by what the user picks; leaves it when the selection fails.
+}  // namespace
+
 ProError PreselectByBox(const char* filter) {
   SelectionEnvironment environment;
   ProError status = AllocateBoxEnvironment(&environment);
@@ -43,16 +44,6 @@ ProError PreselectByBox(const char* filter) {
     if (selections[i] != nullptr) ProSelbufferSelectionAdd(selections[i]);
   }
   return PRO_TK_NO_ERROR;
-}
-
-}  // namespace
-
-ProError BoxSel() {
-  return Ok(PreselectByBox("part")) ? PRO_TK_NO_ERROR : PRO_TK_USER_ABORT;
-}
-
-ProError QmBoxSelSur() {
-  return PreselectByBox("surface");
 }
 
 }  // namespace qm

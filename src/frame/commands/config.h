@@ -1,4 +1,4 @@
-// The settings dialog: every general setting of "QmConfig.ini".
+// QmConfig: the dialog with every general setting of "QmConfig.ini".
 #pragma once
 
 #include "toolkit/types.h"

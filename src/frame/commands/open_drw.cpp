@@ -1,0 +1,53 @@
+// QmOpenDrw: the drawing of the preselected model, in a window of its own.
+#include "frame/commands/open_drw.h"
+
+#include "frame/messages/message_box.h"
+#include "frame/models/host_name.h"
+#include "frame/models/preselection.h"
+#include "frame/text/fixed_text.h"
+#include "toolkit/model.h"
+#include "toolkit/status.h"
+#include "toolkit/window.h"
+
+namespace qm {
+namespace {
+
+// The one preselected assembly or part; null when something else is preselected.
+ProMdl PreselectedModel() {
+  SelectionArray selected;
+  if (!Ok(ProSelbufferSelectionsGet(selected.put())) || selected.size() != 1) return nullptr;
+  auto item = ItemOf(selected[0]);
+  if (!item || (item->type != PRO_ASSEMBLY && item->type != PRO_PART)) return nullptr;
+  ProMdl model = nullptr;
+  return Ok(ProModelitemMdlGet(&*item, &model)) ? model : nullptr;
+}
+
+ProError ShowInWindow(ProMdl drawing, HostName& name) {
+  int window = -1;
+  ProError status = ProObjectwindowCreate(name.name, PRO_DRAWING, &window);
+  if (!Ok(status)) return status;
+  if (window < 0) return PRO_TK_GENERAL_ERROR;
+  status = ProMdlDisplay(drawing);
+  if (!Ok(status)) return status;
+  return ProWindowActivate(window);
+}
+
+}  // namespace
+
+ProError QmOpenDrw() {
+  const ProMdl model = PreselectedModel();
+  if (model == nullptr) return PRO_TK_E_NOT_FOUND;
+  ProName buffer = {};
+  ProError status = ProMdlNameGet(model, buffer);
+  if (!Ok(status)) return status;
+  HostName name(FixedText(buffer));
+  ProMdl drawing = nullptr;
+  status = ProMdlRetrieve(name.name, PRO_MDL_DRAWING, &drawing);
+  if (!Ok(status) || drawing == nullptr) {
+    ShowMessage(L"\t同名工程图打开失败，请确认该模型工程图在当前工作目录是否存在。\t");
+    return PRO_TK_E_NOT_FOUND;
+  }
+  return ShowInWindow(drawing, name);
+}
+
+}  // namespace qm

@@ -1,0 +1,34 @@
+// The parameters of a model: found, read, created, set and deleted by name.
+#pragma once
+
+#include <optional>
+
+#include "frame/models/host_name.h"
+#include "frame/models/parameter_value.h"
+#include "toolkit/model.h"
+#include "toolkit/parameter.h"
+
+namespace qm {
+
+// The value in the host's form; texts longer than `kMaxParamTextLength` are cut.
+ProParamvalue HostValue(const ParamValue& value);
+
+// How an operation ended: the host's function that decided it, and its status. Logging a failure is
+// the caller's, who may know the model's name.
+struct ParameterResult {
+  const char* function;
+  ProError status;
+};
+
+// A success that fills nothing in counts as a failure.
+ParameterResult FindParameter(ProModelitem owner, HostName& name, ProParameter* parameter);
+ParameterResult CreateParameter(ProModelitem owner, HostName& name, ProParamvalue value);
+// Fails where there is no such parameter.
+ParameterResult SetParameter(ProModelitem owner, HostName& name, ProParamvalue value);
+ParameterResult DeleteParameter(ProModelitem owner, HostName& name);
+ParameterResult SetOrCreateParameter(ProModelitem owner, HostName& name, ProParamvalue value);
+
+// Nothing when there is no such parameter; any other failure is logged as well.
+std::optional<ProParamvalue> ReadParameter(ProModelitem owner, HostName& name);
+
+}  // namespace qm
