@@ -242,13 +242,14 @@ TEST_F(Boundary, AMissingPartOfACommandIsNamedByItsStem) {
 TEST_F(Boundary, TheVersionBoxTellsProductBuildAndBinding) {
   Plugin plugin(Installed().dll());
   ASSERT_EQ(plugin.Start(), 0);
-  host_.windows.boxes.clear();
+  host_.events.Forget<MessageBox>();
   RunCommand("QmVersion");
-  ASSERT_EQ(host_.windows.boxes.size(), 1u);
-  const auto parts = Matches(host_.windows.boxes[0].text,
+  const auto boxes = host_.events.All<MessageBox>();
+  ASSERT_EQ(boxes.size(), 1u);
+  const auto parts = Matches(boxes[0].text,
                              "^\t羽石工具箱 Quillmax 5\\.1 C3\t\n\t构建：\\w+\t\n"
                              "\t宿主接口：已查找 (\\d+) 个函数，已绑定 (\\d+) 个，缺失 0 个\t$");
-  ASSERT_EQ(parts.size(), 1u) << host_.windows.boxes[0].text;
+  ASSERT_EQ(parts.size(), 1u) << boxes[0].text;
   EXPECT_EQ(parts[0][1], parts[0][2]);
   EXPECT_GE(std::stoi(parts[0][1]), 5);
 }
