@@ -5,31 +5,36 @@
 #include <charconv>
 #include <vector>
 
+#include "toolkit/status_names.h"
+
 namespace wb {
 namespace {
 
 // clang-format off
-constexpr NumberWord kStatusWords[] = {
-    {"no_error",          0}, {"general_error",  -1}, {"bad_inputs",    -2},
-    {"user_abort",       -3}, {"not_found",      -4}, {"found",         -5},
-    {"line_too_long",    -6}, {"continue",       -7}, {"bad_context",   -8},
-    {"not_implemented",  -9}, {"out_of_memory", -10}, {"comm_error",   -11},
-    {"no_change",       -12}, {"invalid_dir",   -15}, {"invalid_file", -16},
-    {"cant_write",      -17}, {"invalid_type",  -18}, {"invalid_ptr",  -19},
-    {"invalid_name",    -22}, {"cant_open",     -24}, {"not_valid",    -26},
-    {"invalid_item",    -27}, {"msg_not_found", -28}, {"cant_access",  -33},
-    {"in_use",          -39},
+const NumberWord kModeWords[] = {
+    {"by_model", PRO_MODE_UNUSED},     {"part", PRO_MODE_PART_1},       {"sheet_metal_part", PRO_MODE_PART_2},
+    {"assembly", PRO_MODE_ASSEMBLY},   {"drawing", PRO_MODE_DRAWING},   {"manufacturing",    PRO_MODE_MFG},
 };
-constexpr NumberWord kModeWords[] = {
-    {"by_model", -1}, {"part", 1}, {"sheet_metal_part", 2}, {"assembly", 5}, {"drawing", 6},
-    {"manufacturing", 8},
-};
-constexpr NumberWord kItemWords[] = {
-    {"assembly",    1}, {"part",      2}, {"feature", 3}, {"drawing", 4}, {"surface",     5},
-    {"edge",        6}, {"dimension", 8}, {"axis",   21}, {"csys",   25}, {"quilt",      57},
-    {"curve",      62}, {"point",    66}, {"note",   68}, {"edge_start", 71}, {"edge_end", 72},
+const NumberWord kItemWords[] = {
+    {"assembly",   PRO_ASSEMBLY},   {"part",      PRO_PART},      {"feature", PRO_FEATURE},
+    {"drawing",    PRO_DRAWING},    {"surface",   PRO_SURFACE},   {"edge",    PRO_EDGE},
+    {"dimension",  PRO_DIMENSION},  {"axis",      PRO_AXIS},      {"csys",    PRO_CSYS},
+    {"quilt",      PRO_QUILT},      {"curve",     PRO_CURVE},     {"point",   PRO_POINT},
+    {"note",       PRO_NOTE},       {"edge_start", PRO_EDGE_START}, {"edge_end", PRO_EDGE_END},
 };
 // clang-format on
+
+// "PRO_TK_E_NOT_FOUND" -> "not_found"
+std::string StatusWord(std::string_view name) {
+  for (const std::string_view prefix : {"PRO_TK_", "E_"}) {
+    if (name.starts_with(prefix)) name.remove_prefix(prefix.size());
+  }
+  std::string word(name);
+  for (char& c : word) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return word;
+}
 
 template <typename Number>
 std::optional<Number> WholeWord(std::string_view word) {
@@ -61,7 +66,13 @@ size_t Distance(std::string_view a, std::string_view b) {
 }  // namespace
 
 std::span<const NumberWord> StatusWords() {
-  return kStatusWords;
+  static const std::vector<NumberWord> words = [] {
+    std::vector<NumberWord> all;
+    for (const qm::StatusRow& row : qm::kStatusNames)
+      all.push_back({StatusWord(row.name), row.status});
+    return all;
+  }();
+  return words;
 }
 std::span<const NumberWord> ModeWords() {
   return kModeWords;

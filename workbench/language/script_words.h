@@ -9,7 +9,7 @@
 namespace wb {
 
 struct NumberWord {
-  const char* word;
+  std::string word;
   int number;
 };
 

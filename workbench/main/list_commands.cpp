@@ -11,15 +11,16 @@
 namespace wb {
 namespace {
 
-constexpr int kAvailable = 3;
-
 // The modes in which the menu is shown; the last column has no model at all.
 struct ModeColumn {
   const char* title;
   int mode;
 };
-constexpr ModeColumn kModeColumns[] = {
-    {"part", 1}, {"assembly", 5}, {"manufacturing", 8}, {"drawing", 6}, {"none", -1}};
+constexpr ModeColumn kModeColumns[] = {{"part", PRO_MODE_PART_1},
+                                       {"assembly", PRO_MODE_ASSEMBLY},
+                                       {"manufacturing", PRO_MODE_MFG},
+                                       {"drawing", PRO_MODE_DRAWING},
+                                       {"none", PRO_MODE_UNUSED}};
 
 std::string Padded(const std::string& text, size_t width) {
   return text + std::string(width - std::min(width, WideLength(text)), ' ');
@@ -29,7 +30,7 @@ void PrintCommand(Host& host, const MenuButton& button) {
   std::string row = Padded(button.command->name, 23);
   for (const ModeColumn& column : kModeColumns) {
     host.forced_mode = column.mode;
-    row += Padded(AskAccess(button.command->name) == kAvailable ? "yes" : "-", 15);
+    row += Padded(AskAccess(button.command->name) == ACCESS_AVAILABLE ? "yes" : "-", 15);
   }
   std::printf("%s%s\n", row.c_str(), MenuLabel(button.label_key, button.message_file).c_str());
 }

@@ -11,8 +11,6 @@
 namespace wb {
 namespace {
 
-constexpr int kGeneralError = -1;
-constexpr int kBadInputs = -2;
 // One mistake tends to show at many calls; these many are told in full.
 constexpr int kMostToldRuns = 10;
 // A command that makes more calls than this on a small model goes round in circles.
@@ -55,10 +53,10 @@ Sweep::Sweep(ScriptRun& run, const Statement& statement)
 
 void Sweep::Run() {
   static constexpr Kind kKinds[] = {
-      {"general_error", FaultKind::kStatus, kGeneralError, false},
-      {"general_error from_then_on", FaultKind::kStatus, kGeneralError, true},
-      {"bad_inputs", FaultKind::kStatus, kBadInputs, false},
-      {"bad_inputs from_then_on", FaultKind::kStatus, kBadInputs, true},
+      {"general_error", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, false},
+      {"general_error from_then_on", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, true},
+      {"bad_inputs", FaultKind::kStatus, PRO_TK_BAD_INPUTS, false},
+      {"bad_inputs from_then_on", FaultKind::kStatus, PRO_TK_BAD_INPUTS, true},
       {"empty", FaultKind::kEmptySuccess, 0, false},
       {"empty from_then_on", FaultKind::kEmptySuccess, 0, true},
   };

@@ -12,13 +12,19 @@
 #include <variant>
 #include <vector>
 
+#include "toolkit/numbers.h"
 #include "workbench/session/facts.h"
 #include "workbench/session/item_list.h"
 
 namespace wb {
 
 // Values are the host's model type numbers.
-enum class ModelKind { kAssembly = 1, kPart = 2, kDrawing = 4, kManufacturing = 37 };
+enum class ModelKind {
+  kAssembly = PRO_MDL_ASSEMBLY,
+  kPart = PRO_MDL_PART,
+  kDrawing = PRO_MDL_DRAWING,
+  kManufacturing = PRO_MDL_MFG,
+};
 
 struct ModelKindRow {
   ModelKind kind;
@@ -37,7 +43,7 @@ std::optional<ModelKind> KindFromWord(std::string_view word);
 std::optional<ModelKind> KindFromExtension(std::string_view extension);
 
 // The longest model name, in 16-bit characters.
-inline constexpr size_t kMaxNameLength = 31;
+inline constexpr size_t kMaxNameLength = PRO_NAME_SIZE - 1;
 
 // A model named apart from any session: "bolt.prt".
 struct ModelName {
@@ -80,16 +86,16 @@ std::string ParameterText(const ParameterValue& value);
 
 // Values are the host's feature status numbers.
 enum class FeatureStatus {
-  kActive = 0,
-  kInactive = 1,
-  kFamilyTableSuppressed = 2,
-  kSimplifiedRepSuppressed = 3,
-  kProgramSuppressed = 4,
-  kSuppressed = 5,
-  kUnregenerated = 6,
+  kActive = PRO_FEAT_ACTIVE,
+  kInactive = PRO_FEAT_INACTIVE,
+  kFamilyTableSuppressed = PRO_FEAT_FAMTAB_SUPPRESSED,
+  kSimplifiedRepSuppressed = PRO_FEAT_SIMP_REP_SUPPRESSED,
+  kProgramSuppressed = PRO_FEAT_PROG_SUPPRESSED,
+  kSuppressed = PRO_FEAT_SUPPRESSED,
+  kUnregenerated = PRO_FEAT_UNREGENERATED,
 };
 
-inline constexpr int kComponentFeatureType = 1000;
+inline constexpr int kComponentFeatureType = PRO_FEAT_COMPONENT;
 
 // What makes a feature a component.
 struct ComponentPart {

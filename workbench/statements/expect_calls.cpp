@@ -53,11 +53,11 @@ void ExpectOrder(ScriptRun& run, const Statement& statement) {
 
 const char* SelectionOptionWord(int option) {
   switch (option) {
-    case 50:
+    case PRO_SELECT_DONE_REQUIRED:
       return "done_required";
-    case 51:
+    case PRO_SELECT_BY_MENU_ALLOWED:
       return "by_menu";
-    case 52:
+    case PRO_SELECT_BY_BOX_ALLOWED:
       return "by_box";
     default:
       return "unknown";

@@ -8,9 +8,6 @@
 namespace wb {
 namespace {
 
-constexpr int kAvailable = 3;
-constexpr int kPopupNotification = 72;
-
 Command* FindCommand(ScriptRun& run, const Statement& statement) {
   run.EnsureStarted();
   return run.host.commands.Find(statement.Text("NAME"));
@@ -24,7 +21,7 @@ Command& CommandAt(ScriptRun& run, const Statement& statement) {
 
 const char* StateWord(int state) {
   constexpr const char* kWords[] = {"not_offered", "unavailable", "disallowed", "available"};
-  return state >= 0 && state <= kAvailable ? kWords[state] : "unknown";
+  return state >= 0 && state <= ACCESS_AVAILABLE ? kWords[state] : "unknown";
 }
 
 void ExpectAccess(ScriptRun& run, const Statement& statement) {
@@ -181,7 +178,7 @@ void ExpectMenuButton(ScriptRun& run, const Statement& statement) {
 void ExpectNotification(ScriptRun& run, const Statement& statement) {
   run.EnsureStarted();
   const auto& set = run.host.commands.notifications;
-  const auto found = set.find(kPopupNotification);
+  const auto found = set.find(kNotifyPopupCreate);
   const bool registered = found != set.end() && found->second != nullptr;
   const std::string got = registered ? "registered" : "missing";
   run.Check(statement, got == statement.Text("STATE"), "popup notification",
