@@ -9,7 +9,7 @@
 #include <regex>
 #include <set>
 
-#include "frame/not_in_build.h"
+#include "entry/not_in_build.h"
 #include "tests/frame/guard/shield_probe.h"
 #include "tests/plugin_host.h"
 #include "workbench/base/message_file.h"

@@ -81,7 +81,7 @@ def menu_texts(language):
 
 
 def command_table():
-    source = (ROOT / "src" / "frame" / "command_table.cpp").read_text(encoding="utf-8")
+    source = (ROOT / "src" / "entry" / "command_table.cpp").read_text(encoding="utf-8")
     row = re.compile(r'\{"(\w+)",\s*"(\w+)",\s*"([\w.]+)",\s*&(\w+),\s*k(\w+),\s*(true|false)\}')
     chinese = menu_texts("chinese_cn")
     lines = ["| # | command | label | what it does | available in | built |", "|---|---|---|---|---|---|"]

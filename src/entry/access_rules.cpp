@@ -1,5 +1,5 @@
 // The modes of each access rule.
-#include "frame/access_rules.h"
+#include "entry/access_rules.h"
 
 #include "toolkit/numbers.h"
 

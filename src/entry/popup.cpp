@@ -1,15 +1,15 @@
 // Popup entries, in two stages of one notification.
-#include "frame/popup.h"
+#include "entry/popup.h"
 
 #include <string>
 #include <string_view>
 
-#include "frame/access.h"
-#include "frame/command_table.h"
+#include "entry/access.h"
+#include "entry/command_table.h"
+#include "entry/menu.h"
+#include "entry/popup_access.h"
 #include "frame/commands/open_drw.h"
 #include "frame/guard/shield.h"
-#include "frame/menu.h"
-#include "frame/popup_access.h"
 #include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
 #include "toolkit/message.h"

@@ -1,5 +1,5 @@
 // The answer of commands that are not built yet.
-#include "frame/not_in_build.h"
+#include "entry/not_in_build.h"
 
 #include "frame/messages/message_box.h"
 

@@ -1,10 +1,10 @@
 // Popup access functions: they ask the selection buffer, not the list that comes with the call.
-#include "frame/popup_access.h"
+#include "entry/popup_access.h"
 
-#include "frame/access.h"
+#include "entry/access.h"
+#include "entry/popup_rules.h"
 #include "frame/guard/shield.h"
 #include "frame/models/preselection.h"
-#include "frame/popup_rules.h"
 #include "toolkit/owners.h"
 
 namespace qm {

@@ -1,5 +1,5 @@
 // Writes the working directory at exit.
-#include "frame/save_directory.h"
+#include "entry/save_directory.h"
 
 #include <windows.h>
 

@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "frame/access_rules.h"
+#include "entry/access_rules.h"
 #include "toolkit/command.h"
 
 namespace qm {

@@ -1,12 +1,12 @@
 // Registers the command table and the popup entries with the host.
-#include "frame/registration.h"
+#include "entry/registration.h"
 
 #include <string>
 
-#include "frame/access.h"
-#include "frame/command_table.h"
-#include "frame/menu.h"
-#include "frame/popup.h"
+#include "entry/access.h"
+#include "entry/command_table.h"
+#include "entry/menu.h"
+#include "entry/popup.h"
 #include "frame/settings/config.h"
 #include "frame/text/list_rules.h"
 #include "toolkit/status.h"

@@ -1,5 +1,5 @@
 // Item types of the popup's entries.
-#include "frame/popup_rules.h"
+#include "entry/popup_rules.h"
 
 #include <algorithm>
 #include <iterator>

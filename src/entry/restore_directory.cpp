@@ -1,5 +1,5 @@
 // One-shot timer that restores the last working directory.
-#include "frame/restore_directory.h"
+#include "entry/restore_directory.h"
 
 #include <windows.h>
 

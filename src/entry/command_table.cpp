@@ -1,5 +1,5 @@
 // The command table itself, checked at compile time, and the registered function of each row.
-#include "frame/command_table.h"
+#include "entry/command_table.h"
 
 #include <algorithm>
 #include <array>
@@ -9,6 +9,7 @@
 #include "display/hide_reverse.h"
 #include "display/isolate.h"
 #include "display/show_all_comp.h"
+#include "entry/not_in_build.h"
 #include "export/bill/bom.h"
 #include "frame/commands/about_qm.h"
 #include "frame/commands/box_sel.h"
@@ -21,7 +22,6 @@
 #include "frame/commands/set_directory.h"
 #include "frame/commands/version.h"
 #include "frame/guard/shield.h"
-#include "frame/not_in_build.h"
 #include "params/params.h"
 
 namespace qm {

@@ -1,7 +1,7 @@
 // Access functions for the host: a command that does not apply is greyed, never hidden.
 #pragma once
 
-#include "frame/access_rules.h"
+#include "entry/access_rules.h"
 #include "toolkit/command.h"
 
 namespace qm {

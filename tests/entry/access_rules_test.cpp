@@ -1,11 +1,11 @@
 // When commands are greyed, by mode, and popup entries offered, by what is preselected.
-#include "frame/access_rules.h"
+#include "entry/access_rules.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-#include "frame/popup_rules.h"
+#include "entry/popup_rules.h"
 
 namespace qm {
 namespace {

@@ -1,12 +1,12 @@
 // The two entries that the host calls: start and stop of the plug-in.
 #include <windows.h>
 
+#include "entry/registration.h"
+#include "entry/restore_directory.h"
+#include "entry/save_directory.h"
 #include "frame/guard/host_binding.h"
 #include "frame/guard/shield.h"
 #include "frame/messages/run_log.h"
-#include "frame/registration.h"
-#include "frame/restore_directory.h"
-#include "frame/save_directory.h"
 #include "frame/text/version.h"
 
 extern "C" int user_initialize(int argc, char* argv[], char* version, char* build,

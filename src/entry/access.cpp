@@ -1,5 +1,5 @@
 // Access functions, one a rule.
-#include "frame/access.h"
+#include "entry/access.h"
 
 #include "frame/guard/shield.h"
 #include "toolkit/status.h"
