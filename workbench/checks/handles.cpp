@@ -125,6 +125,12 @@ HandleTable::Found HandleTable::Look(const void* handle, HandleKind wanted) cons
   return {slot->object, slot->id, "", false};
 }
 
+void* HandleTable::ObjectAt(const void* handle, HandleKind wanted) const {
+  const auto bits = reinterpret_cast<uint64_t>(handle);
+  const Slot* const slot = KindBits(bits) == wanted ? SlotOf(bits) : nullptr;
+  return slot == nullptr ? nullptr : slot->object;
+}
+
 HandleKind HandleTable::KindOf(const void* handle, void** object) const {
   const Slot* slot = SlotOf(reinterpret_cast<uint64_t>(handle));
   if (slot == nullptr) return HandleKind::kNone;

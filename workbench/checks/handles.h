@@ -33,6 +33,8 @@ class HandleTable {
     bool stale = false;  // it was good once
   };
   Found Look(const void* handle, HandleKind wanted) const;
+  // The object alone, for the calls that are many; null where Look has something to say.
+  void* ObjectAt(const void* handle, HandleKind wanted) const;
   // Kind of a live handle, kNone otherwise; for descriptions.
   HandleKind KindOf(const void* handle, void** object) const;
 

@@ -85,7 +85,9 @@ HandleTable::Found Call::Look(const void* handle, HandleKind kind) const {
 }
 
 Model& Call::ModelAt(const void* handle) const {
-  return *static_cast<Model*>(Look(handle, HandleKind::kModel).object);
+  void* const model = host.handles.ObjectAt(handle, HandleKind::kModel);
+  if (model == nullptr) Fail(host.handles.Look(handle, HandleKind::kModel));
+  return *static_cast<Model*>(model);
 }
 
 Model& Call::SolidAt(const void* handle) const {
@@ -97,7 +99,7 @@ Model& Call::SolidAt(const void* handle) const {
 }
 
 void Call::CheckStillThere(const void* handle) const {
-  if (host.handles.Look(handle, HandleKind::kModel).object != nullptr) return;
+  if (host.handles.ObjectAt(handle, HandleKind::kModel) != nullptr) return;
   throw NotModelled{"a model that is erased while it is visited"};
 }
 
