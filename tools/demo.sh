@@ -59,7 +59,8 @@ print_changes() {
       name = quoted[2]
     }
 
-    /^== / { command = $NF; next }
+    # "== demo.qms:21: run QmParams with"
+    /^== / { command = $4; next }
     { item = substr($0, index($0, "(")) }
     command == "QmParams" && / ProMdlNameGet\(part / { met[++count] = word_after("part ") }
     command == "QmParams" && / ProParameterCreate\(/ { add_part() }
@@ -68,6 +69,7 @@ print_changes() {
     command == "QmIsolate" && / ProModelitemUnhide\(/ && hidden[item] { hidden[item] = 0; shown++ }
 
     END {
+      if (count == 0 || hidden_count == 0) exit 1
       for (i = 1; i <= count; ++i) if (!(met[i] in tried)) { excluded++; names = names " " met[i] }
       printf "QmParams   added %s to %d models\n", name, added
       printf "           %d excluded:%s\n", excluded, names
@@ -87,7 +89,7 @@ collect_workbooks() {
 build_programs
 run_script
 collect_workbooks
-print_changes
+print_changes || stop "the trace does not show what the commands did" "$out/trace.txt"
 echo "QmBom      wrote $out/summary.xlsx"
 echo "           and   $out/levels.xlsx"
 echo "$closing"
