@@ -130,14 +130,15 @@ void CheckAlive(const AutomationObject& object) {
   }
 }
 
-// What the plug-in could not do for no fault of its own is not held against it later.
+// What the plug-in could not do for no fault of its own is not held against it later. A workbook that
+// it could not mark as saved it can still close without saving.
 void Excuse(const AutomationObject& object, const SpreadsheetMember* member, HRESULT result) {
   const std::string_view name = member == nullptr ? kNoMember : member->name;
   const bool rejected = std::ranges::find(kBusyResults, result) != std::end(kBusyResults);
   if (name == "Excel.Application.Quit") {
     (rejected ? object.place.program->quit_rejected : object.place.program->quit_failed) = true;
-  } else if (name == "Excel.Workbook.Saved=" || name == "Excel.Workbook.Close") {
-    (rejected ? object.place.book->saving_rejected : object.place.book->saving_failed) = true;
+  } else if (name == "Excel.Workbook.Close") {
+    (rejected ? object.place.book->closing_rejected : object.place.book->closing_failed) = true;
   }
 }
 

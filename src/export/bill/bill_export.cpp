@@ -59,7 +59,7 @@ void ExportBill(const DialogView& dialog) {
   }
   const ComScope com;
   const auto path = ChooseWorkbookToWrite();
-  if (!path || !IsFreeToWrite(*path, OldFile::kDelete)) return;
+  if (!path || !IsFreeToWrite(*path)) return;
   const auto table = ReadTable(DialogTable(dialog, kBillTable), *name + L" BOM");
   if (!table) {
     ShowMessage(kUnreadableField);

@@ -6,7 +6,6 @@
 #include <commdlg.h>
 #include <shellapi.h>
 #include <shlobj.h>
-#include <shlwapi.h>
 
 #include <array>
 #include <iterator>
@@ -81,20 +80,28 @@ std::optional<std::wstring> ChooseWorkbookToRead() {
   return Choose(&::GetOpenFileNameW, dialog);
 }
 
-bool IsFreeToWrite(const std::wstring& path, OldFile old_file) {
-  // That it cannot be deleted shows when it is opened.
-  if (old_file == OldFile::kDelete && ::PathFileExistsW(path.c_str())) ::DeleteFileW(path.c_str());
-  const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_ALL, FILE_SHARE_READ, nullptr,
-                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+bool IsFreeToWrite(const std::wstring& path) {
+  // All that replacing a file takes. Asking for every right there is would turn away users who may
+  // change a file on a server, but not its owner.
+  constexpr DWORD kAccess = GENERIC_READ | GENERIC_WRITE | DELETE;
+  const HANDLE file = ::CreateFileW(path.c_str(), kAccess, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file != INVALID_HANDLE_VALUE) {
     ::CloseHandle(file);
     return true;
   }
-  const DWORD error = ::GetLastError();
   // Any other failure, normally that there is no such file, does not stand in the way.
-  if (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION) return true;
-  ShowMessage(path + kHeldOpen);
+  if (!IsHeldOpen(::GetLastError())) return true;
+  ShowHeldOpen(path);
   return false;
+}
+
+bool IsHeldOpen(unsigned long error) {
+  return error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION;
+}
+
+void ShowHeldOpen(const std::wstring& path) {
+  ShowMessage(path + kHeldOpen);
 }
 
 void OpenWorkbookFile(const std::wstring& path) {
