@@ -83,8 +83,10 @@ std::optional<ParamPlan> MakePlan(const ParamWishes& wishes, const std::optional
     return std::nullopt;
   }
   const KeywordFilter keywords(*wishes.keyword_list);
-  ParamPlan plan{
-      HostName(*wishes.param_name), {}, targets->component_count, targets->models.size()};
+  ParamPlan plan{HostName::From(*wishes.param_name).value(),
+                 {},
+                 targets->component_count,
+                 targets->models.size()};
   plan.params.reserve(targets->models.size());
   for (const ProMdl model : targets->models) {
     auto target = ReadTarget(model, keywords);
@@ -122,7 +124,9 @@ void RunBatch(const DialogView& dialog, const std::optional<CurrentModel>& top,
 
 bool WriteText(const PlannedParam& param, HostName& param_name) {
   const ProModelitem& owner = param.target.owner;
-  const auto [function, status] = SetOrCreateParameter(owner, param_name, HostValue(param.value));
+  const auto value = HostValue(param.value);
+  const auto [function, status] =
+      value ? SetOrCreateParameter(owner, param_name, *value) : kTextTooLong;
   if (!Ok(status)) LogFailure(owner.owner, function, status);
   return true;
 }

@@ -15,9 +15,10 @@ constexpr int kFirstSheet = 1;
 
 // Nothing when there is no such drawing or its sheet cannot be read.
 std::optional<ParamValue> SheetSize(const ParamTarget& target) {
-  HostName name(target.name);
+  auto name = HostName::From(target.name);
   ProMdl drawing = nullptr;
-  ProError status = ProMdlRetrieve(name.name, PRO_MDL_DRAWING, &drawing);
+  ProError status =
+      name ? ProMdlRetrieve(name->name, PRO_MDL_DRAWING, &drawing) : PRO_TK_LINE_TOO_LONG;
   if (!Ok(status) || drawing == nullptr) {
     // Most models have no drawing; anything else is a failure.
     if (status != PRO_TK_E_NOT_FOUND) LogFailure(target.model, "ProMdlRetrieve", status);

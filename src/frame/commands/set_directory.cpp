@@ -21,9 +21,8 @@ ProError QmSetDirectory() {
   status = ProMdlDataGet(model, &data);
   if (!Ok(status)) return status;
   const std::wstring folder = ModelFolder(FixedText(data.device), FixedText(data.path));
-  if (folder.empty() || folder.size() >= PRO_PATH_SIZE) return PRO_TK_INVALID_DIR;
   ProPath path = {};
-  FillFixedText(folder, path);
+  if (folder.empty() || !FillFixedText(folder, path)) return PRO_TK_INVALID_DIR;
   status = ProDirectoryChange(path);
   if (Ok(status)) DisplayNote("Directory has changed to:%0w", path);
   return status;

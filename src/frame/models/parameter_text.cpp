@@ -25,10 +25,8 @@ std::wstring ValueText(const ProParamvalue& value) {
 }
 
 std::wstring ParameterText(const ProModelitem& owner, const std::wstring& name) {
-  // A longer name would be cut and might then be another parameter's.
-  if (name.size() >= PRO_NAME_SIZE) return {};
-  HostName host_name(name);
-  const auto value = ReadParameter(owner, host_name);
+  auto host_name = HostName::From(name);
+  const auto value = host_name ? ReadParameter(owner, *host_name) : std::nullopt;
   return value ? ValueText(*value) : std::wstring();
 }
 
