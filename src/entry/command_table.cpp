@@ -8,7 +8,11 @@
 
 #include "display/hide_reverse.h"
 #include "display/isolate.h"
+#include "display/normal_view.h"
 #include "display/show_all_comp.h"
+#include "drawing/new_draw.h"
+#include "drawing/new_drw.h"
+#include "drawing/twe_views.h"
 #include "entry/not_in_build.h"
 #include "export/bill/bom.h"
 #include "frame/commands/about_qm.h"
@@ -51,7 +55,7 @@ constexpr CommandRow kCommandTable[] = {
     {"QmIsolate",             "QmIsolate_Help",             "QmIsolate.png",             &QmIsolate,      kAssemblyMode,       true},
     {"QmHideReverse",         "QmHideReverse_Help",         "QmHideReverse.png",         &QmHideReverse,  kAssemblyMode,       true},
     {"QmShowAllComp",         "QmShowAllComp_Help",         "QmShowAllComp.png",         &QmShowAllComp,  kAssemblyMode,       true},
-    {"QmNormalView",          "QmNormalView_Help",          "QmNormalView.png",          &NotInBuild,     kAlways,             true},
+    {"QmNormalView",          "QmNormalView_Help",          "QmNormalView.png",          &QmNormalView,   kAlways,             true},
     {"QmParams",              "QmParams_Help",              "QmParams.png",              &QmParams,       kAssemblyMode,       true},
     {"QmRelations",           "QmRelations_Help",           "QmRelations.png",           &NotInBuild,     kAssemblyMode,       true},
     {"SetUnit",               "SetUnit_Help",               "SetUnit.png",               &NotInBuild,     kPartOrAssemblyMode, true},
@@ -59,8 +63,8 @@ constexpr CommandRow kCommandTable[] = {
     {"CloneAndReplace",       "CloneAndReplace_Help",       "CloneAndReplace.png",       &NotInBuild,     kAssemblyMode,       true},
     {"QmMerge",               "QmMerge_Help",               "QmMerge.png",               &NotInBuild,     kAssemblyMode,       true},
     {"QmMergeTo",             "QmMergeTo_Help",             "QmMergeTo.png",             &NotInBuild,     kAssemblyMode,       true},
-    {"TweViews",              "TweViews_Help",              "TweViews.png",              &NotInBuild,     kSolidMode,          true},
-    {"NewDraw",               "NewDraw_Help",               "NewDraw.png",               &NotInBuild,     kSolidMode,          true},
+    {"TweViews",              "TweViews_Help",              "TweViews.png",              &TweViews,       kSolidMode,          true},
+    {"NewDraw",               "NewDraw_Help",               "NewDraw.png",               &NewDraw,        kSolidMode,          true},
     {"QmExStp",               "QmExStp_Help",               "QmExStp.png",               &NotInBuild,     kAssemblyMode,       true},
     {"QmExIgs",               "QmExIgs_Help",               "QmExIgs.png",               &NotInBuild,     kAssemblyMode,       true},
     {"QmExSat",               "QmExSat_Help",               "QmExSat.png",               &NotInBuild,     kAssemblyMode,       true},
@@ -69,7 +73,7 @@ constexpr CommandRow kCommandTable[] = {
     {"QmRemoveCons",          "QmRemoveCons_Help",          "QmRemoveCons.png",          &NotInBuild,     kAssemblyMode,       true},
     {"QmExport",              "QmExport_Help",              "QmExport.png",              &NotInBuild,     kAlways,             true},
     {"QmMdlCount",            "QmMdlCount_Help",            "QmMdlCount.png",            &NotInBuild,     kAssemblyMode,       true},
-    {"QmNewDrw",              "QmNewDrw_Help",              "QmNewDrw.png",              &NotInBuild,     kAssemblyMode,       true},
+    {"QmNewDrw",              "QmNewDrw_Help",              "QmNewDrw.png",              &QmNewDrw,       kAssemblyMode,       true},
     {"QmDimModify",           "QmDimModify_Help",           "QmDimModify.png",           &NotInBuild,     kDrawingMode,        true},
     {"QmFrmReplace",          "QmFrmReplace_Help",          "QmFrmReplace.png",          &NotInBuild,     kAlways,             true},
     {"QmDrwScaleCheck",       "QmDrwScaleCheck_Help",       "QmDrwScaleCheck.png",       &NotInBuild,     kAlways,             true},

@@ -10,12 +10,24 @@
 
 namespace qm {
 
-std::wstring ConfigPath(const wchar_t* file) {
+namespace {
+
+std::wstring ModulePath() {
   wchar_t path[MAX_PATH] = {};
   const HMODULE module = ::GetModuleHandleW(kPluginFileName);
   // Without a module Windows would answer with the host's own file.
   const DWORD length = module != nullptr ? ::GetModuleFileNameW(module, path, MAX_PATH) : 0;
-  return ConfigPathBeside({path, length}, kPluginFileName, file);
+  return {path, length};
+}
+
+}  // namespace
+
+std::wstring ConfigPath(const wchar_t* file) {
+  return ConfigPathBeside(ModulePath(), kPluginFileName, file);
+}
+
+std::wstring InstalledPath(const wchar_t* name) {
+  return PathBeside(ModulePath(), kPluginFileName, name);
 }
 
 std::wstring TextFolderConfigPath(const wchar_t* file) {

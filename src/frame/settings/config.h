@@ -22,7 +22,10 @@ inline constexpr wchar_t kContentKey[] = L"content";
 // name, a path that does not exist.
 std::wstring ConfigPath(const wchar_t* file);
 
-// The same, starting from the text folder that the host registered for the plug-in; the plug-in's
+// Path of a file or folder of the installation, beside the plug-in; the same holds for it.
+std::wstring InstalledPath(const wchar_t* name);
+
+// The path of a settings file, starting from the text folder that the host registered for the plug-in; the plug-in's
 // own folder when the host does not tell.
 std::wstring TextFolderConfigPath(const wchar_t* file);
 
