@@ -10,11 +10,9 @@
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/drawing_window.h"
+#include "frame/models/folder_drawings.h"
 #include "frame/models/model_name.h"
 #include "frame/models/retrieve.h"
-#include "frame/text/fixed_text.h"
-#include "frame/text/text.h"
-#include "toolkit/file.h"
 #include "toolkit/status.h"
 
 namespace qm {
@@ -23,22 +21,6 @@ namespace {
 // The host's own words for the two failures that it explains as such.
 constexpr wchar_t kExists[] = L"PRO_TK_E_FOUND";
 constexpr wchar_t kNoTemplate[] = L"PRO_TK_E_NOT_FOUND";
-
-// "a3" of "C:\formats\a3.frm.2"; empty when the host cannot part the path.
-std::wstring FormatName(const std::wstring& path) {
-  ProPath full = {};
-  wchar_t folder[PRO_PATH_SIZE] = {};
-  wchar_t name[PRO_PATH_SIZE] = {};
-  wchar_t extension[PRO_PATH_SIZE] = {};
-  int version = 0;
-  if (!FillFixedText(path, full)) return {};
-  const ProError status = ProFilenameParse(full, folder, name, extension, &version);
-  if (!Ok(status)) {
-    LogEvent("ProFilenameParse of " + ToUtf8(path) + " answered " + StatusName(status));
-    return {};
-  }
-  return std::wstring(FixedText(name));
-}
 
 // A drawing without its format is a drawing all the same: what fails here is only logged.
 void PutFormat(ProDrawing drawing, ProMdl model, const std::wstring& format_name) {
@@ -51,7 +33,7 @@ void PutFormat(ProDrawing drawing, ProMdl model, const std::wstring& format_name
 ProError MakeWithFormat(WorkingDirectory& directory, ProMdl model, const std::wstring& name) {
   const auto format_path = PickDrawingFile(L"请选择工程图模板", L"*.frm");
   if (!format_path) return PRO_TK_USER_ABORT;
-  const std::wstring format_name = FormatName(*format_path);
+  const std::wstring format_name = NameInPath(*format_path);
   const NewDrawing made = MakeToolboxDrawing(directory, name, model);
   if (!Ok(made.status)) {
     ShowNoDrawing(made.status, kExists, kNoTemplate);

@@ -6,9 +6,7 @@
 #include "toolkit/window.h"
 
 namespace qm {
-namespace {
 
-// Empty when it is not configured.
 std::wstring FormatFolder() {
   ProName option = L"pro_format_dir";
   HostArray<ProPath> folders;
@@ -16,10 +14,8 @@ std::wstring FormatFolder() {
   return std::wstring(FixedText(folders[0]));
 }
 
-}  // namespace
-
-std::optional<std::wstring> PickDrawingFile(std::wstring title, std::wstring filter) {
-  std::wstring folder = FormatFolder();
+std::optional<std::wstring> PickDrawingFile(std::wstring title, std::wstring filter,
+                                            std::wstring folder) {
   ProPath chosen = {};
   const ProError status = ProFileOpen(title.data(), filter.data(), nullptr, nullptr,
                                       folder.empty() ? nullptr : folder.data(), nullptr, chosen);
