@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Writes docs/host-api.md and the README's command table from the sources they describe.
+"""Writes from the sources they describe: docs/host-api.md, the command table of README.md and what
+install/README.txt says to be built.
 
 With --check nothing is written; the exit code is 1 when a document is out of date.
 """
@@ -80,12 +81,17 @@ def menu_texts(language):
     return {records[i]: (records[i + 1], records[i + 2]) for i in range(0, len(records) - 2, 4)}
 
 
-def command_table():
+def command_rows():
+    """Name, help key, icon, action, access rule and popup of each command, in the menu's order."""
     source = (ROOT / "src" / "entry" / "command_table.cpp").read_text(encoding="utf-8")
     row = re.compile(r'\{"(\w+)",\s*"(\w+)",\s*"([\w.]+)",\s*&(\w+),\s*k(\w+),\s*(true|false)\}')
+    return row.findall(source)
+
+
+def command_table():
     chinese = menu_texts("chinese_cn")
     lines = ["| # | command | label | what it does | available in | built |", "|---|---|---|---|---|---|"]
-    for number, (name, help_key, _, action, rule, _) in enumerate(row.findall(source), 1):
+    for number, (name, help_key, _, action, rule, _) in enumerate(command_rows(), 1):
         built = "" if action == "NotInBuild" else "yes"
         lines.append(f"| {number} | `{name}` | {chinese[name][1]} | {chinese[help_key][0]} | "
                      f"{rule} | {built} |")
@@ -100,10 +106,35 @@ def readme():
     return head + begin + command_table() + end + rest.split(end)[1]
 
 
+def built_commands(texts, column, separator, width):
+    """The labels of the built commands, filled to lines of `width` characters."""
+    labels = [texts[name][column] for name, _, _, action, _, _ in command_rows()
+              if action != "NotInBuild"]
+    lines = [""]
+    for number, label in enumerate(labels, 1):
+        piece = label + (separator if number < len(labels) else "")
+        if len(lines[-1]) + len(piece.rstrip()) > width:
+            lines.append("")
+        lines[-1] += piece
+    return "\n".join("  " + line.rstrip() for line in lines)
+
+
+def package_readme():
+    """A paragraph ends at its blank line; those two that follow the marks below are ours."""
+    text = (ROOT / "install" / "README.txt").read_text(encoding="utf-8")
+    texts = menu_texts("chinese_cn")
+    for mark, column, separator, width in (("已实现的命令：\n", 1, "、", 42),
+                                           ("Built are:\n", 0, ", ", 82)):
+        head, rest = text.split(mark)
+        text = head + mark + built_commands(texts, column, separator, width) + rest[rest.index("\n\n"):]
+    return text
+
+
 def main():
     check = "--check" in sys.argv[1:]
     stale = []
-    for path, wanted in ((ROOT / "docs" / "host-api.md", host_api()), (ROOT / "README.md", readme())):
+    for path, wanted in ((ROOT / "docs" / "host-api.md", host_api()), (ROOT / "README.md", readme()),
+                         (ROOT / "install" / "README.txt", package_readme())):
         if path.exists() and path.read_text(encoding="utf-8") == wanted:
             continue
         stale.append(str(path.relative_to(ROOT)))

@@ -64,7 +64,8 @@ class DialogPainter {
     html_ += "\">";
     for (const LayoutCell& cell : grid.cells) {
       html_ += "<div style=\"grid-area:" + std::to_string(cell.row + 1) + "/" +
-               std::to_string(cell.column + 1) + "\">";
+               std::to_string(cell.column + 1) + (FillsRow(cell) ? ";align-self:stretch" : "") +
+               "\">";
       if (cell.nested.empty()) {
         PaintComponent(*live_.at(cell.component));
       } else {
@@ -73,6 +74,12 @@ class DialogPainter {
       html_ += "</div>";
     }
     html_ += "</div>";
+  }
+
+  bool FillsRow(const LayoutCell& cell) const {
+    if (!cell.nested.empty()) return false;
+    const FieldResource& resource = *dialog_.Resource().Find(cell.component);
+    return resource.Flag("AttachTop", false) && resource.Flag("AttachBottom", false);
   }
 
   void PaintComponent(const Field& component) {

@@ -14,6 +14,7 @@ std::span<const HabitRow> HabitRows() {
       {"lacking_field_is_an_error", &Habits::lacking_field_is_an_error},
       {"model_data_has_name_first", &Habits::model_data_has_name_first},
       {"model_data_has_unknown_order", &Habits::model_data_has_unknown_order},
+      {"resources_lie_beside_text", &Habits::resources_lie_beside_text},
   };
   return kRows;
 }

@@ -19,6 +19,13 @@ InstallCopy::InstallCopy(const fs::path& tree, const std::string& purpose)
   RemoveLeftovers();
   fs::create_directories(work_);
   fs::copy(tree, tree_, fs::copy_options::recursive | fs::copy_options::skip_existing);
+  // What install.cmd does with the settings.
+  const fs::path shipped = tree_ / "QMconfig" / "defaults";
+  std::error_code none_are_shipped;
+  for (const auto& file : fs::directory_iterator(shipped, none_are_shipped)) {
+    const fs::path own = tree_ / "QMconfig" / file.path().filename();
+    if (!fs::exists(own)) fs::copy_file(file.path(), own);
+  }
 }
 
 InstallCopy::~InstallCopy() {
