@@ -68,20 +68,21 @@ ParameterResult SetOrCreateParameter(ProModelitem owner, HostName& name, ProPara
   return {"ProParameterValueSet", ProParameterValueSet(&parameter, &value)};
 }
 
-std::optional<ProParamvalue> ReadParameter(ProModelitem owner, HostName& name) {
+ReadValue ReadParameter(ProModelitem owner, HostName& name) {
   ProParameter parameter{};
   const ParameterResult found = FindParameter(owner, name, &parameter);
+  // Most models lack some of the parameters.
+  if (found.status == PRO_TK_E_NOT_FOUND) return {};
   if (!Ok(found.status)) {
-    // Most models lack some of the parameters.
-    if (found.status != PRO_TK_E_NOT_FOUND) LogFailure(owner.owner, found.function, found.status);
-    return std::nullopt;
+    LogFailure(owner.owner, found.function, found.status);
+    return {std::nullopt, false};
   }
   ProParamvalue value{};
-  value.type = PRO_PARAM_VOID;
   const ProError status = ProParameterValueGet(&parameter, &value);
-  if (Ok(status)) return value;
+  // No value is of type 0.
+  if (Ok(status) && static_cast<int>(value.type) != 0) return {value};
   LogFailure(owner.owner, "ProParameterValueGet", status);
-  return std::nullopt;
+  return {std::nullopt, false};
 }
 
 }  // namespace qm

@@ -28,7 +28,10 @@ ParameterResult SetParameter(ProModelitem owner, HostName& name, ProParamvalue v
 ParameterResult DeleteParameter(ProModelitem owner, HostName& name);
 ParameterResult SetOrCreateParameter(ProModelitem owner, HostName& name, ProParamvalue value);
 
-// Nothing when there is no such parameter; any other failure is logged as well.
-std::optional<ProParamvalue> ReadParameter(ProModelitem owner, HostName& name);
+struct ReadValue {
+  std::optional<ProParamvalue> value;  // nothing: there is no such parameter
+  bool is_known = true;                // false: it cannot be read, which is logged
+};
+ReadValue ReadParameter(ProModelitem owner, HostName& name);
 
 }  // namespace qm
