@@ -99,12 +99,11 @@ void ReadSelection(ProMdl root, ProSelection selection, Preselection* preselecti
 }
 
 // Empty when nothing fit is preselected.
-Preselection ReadPreselection(ProMdl root) {
+Preselection PreselectedComponents(ProMdl root) {
   Preselection preselection;
-  SelectionArray selections;
-  if (!Ok(ProSelbufferSelectionsGet(selections.put()))) return preselection;
-  const int count = selections.size();
-  for (int i = 0; i < count; ++i) ReadSelection(root, selections[i], &preselection);
+  const auto selections = ReadPreselection();
+  const int count = selections ? selections->size() : 0;
+  for (int i = 0; i < count; ++i) ReadSelection(root, (*selections)[i], &preselection);
   return preselection;
 }
 
@@ -161,7 +160,7 @@ ProError QmIsolate() {
     LogOutcome("nothing done, no current assembly");
     return PRO_TK_NO_ERROR;
   }
-  Preselection selected = ReadPreselection(*root);
+  Preselection selected = PreselectedComponents(*root);
   if (selected.components.empty()) {
     ShowMessage(kNothingSelected);
     NoteLeftOut(selected.left_out);

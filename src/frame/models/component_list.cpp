@@ -18,9 +18,6 @@ constexpr int kSkippedStatusFlags = 130;
 // No feature is of this type.
 constexpr ProFeattype kNoFeattype = 0;
 
-// Stays where a success fills nothing in. Of the subtypes only the sheet-metal part's is relied on.
-constexpr auto kNoSubtype = static_cast<ProMdlsubtype>(-1);
-
 enum class LevelFilter { kComponents, kShowAll };
 
 bool AcceptsType(LevelFilter filter, ProFeattype type) {
@@ -68,7 +65,7 @@ Answer AskModelType(ProMdl model, ProMdlType* type) {
 
 Answer AskSubtype(ProMdl model, ProMdlsubtype* subtype) {
   const ProError status = ProMdlSubtypeGet(model, subtype);
-  return {"ProMdlSubtypeGet", status, Ok(status) && *subtype != kNoSubtype};
+  return {"ProMdlSubtypeGet", status, Ok(status) && *subtype != PROMDLSTYPE_UNUSED};
 }
 
 // A model as met during one collection. Models are known by number, so that all of them, and the
@@ -231,7 +228,7 @@ class ComponentCollector {
     node.answer = AskModelType(model, &node.type);
     if (!node.answer.is_known) node.type = PRO_MDL_UNUSED;
     if (kind_ == ComponentKind::kSheetMetal && node.type != PRO_MDL_ASSEMBLY) {
-      ProMdlsubtype subtype = kNoSubtype;
+      ProMdlsubtype subtype = PROMDLSTYPE_UNUSED;
       const Answer answer = AskSubtype(model, &subtype);
       node.sheet_metal = answer.is_known && subtype == PROMDLSTYPE_PART_SHEETMETAL;
       // A sheet-metal part is a part, whatever else is not known.
