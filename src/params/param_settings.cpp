@@ -24,7 +24,7 @@ void SaveParamSettings(const DialogView& dialog, const StoredFields& fields) {
   const std::wstring path = TextFolderConfigPath(kParamsFile);
   SaveTally tally;
   for (const StoredField& field : kStored) fields.Save(dialog, field, path, &tally);
-  NoteUnsaved(tally, path);
+  NoteSaved(tally, path);
 }
 
 }  // namespace qm

@@ -18,7 +18,7 @@ inline constexpr StoredField kOrder = {"QmOutlineOrder", FieldKind::kCheck, kCon
 void LoadParamSettings(const DialogView& dialog, StoredFields* fields);
 
 // Writes the fields. One that does not show its setting, or that the host does not tell, keeps its
-// stored value. Says only what was not saved.
+// stored value. Tells in the message area what came of it.
 void SaveParamSettings(const DialogView& dialog, const StoredFields& fields);
 
 }  // namespace qm

@@ -60,17 +60,14 @@ void Log(const StoredField& field, const std::string& what) {
 }  // namespace
 
 void NoteSaved(const SaveTally& tally, const std::wstring& path) {
-  NoteUnsaved(tally, path);
-  if (!tally.failed && tally.kept == 0) DisplayNote("Settings saved");
-}
-
-void NoteUnsaved(const SaveTally& tally, const std::wstring& path) {
   if (tally.failed) {
     LogOutcome("settings not written");
     DisplayNote("Settings could not be written to %0w", path.c_str());
   } else if (tally.kept > 0) {
     DisplayNote("Settings saved, %0w left as they were: see the run log",
                 std::to_wstring(tally.kept).c_str());
+  } else {
+    DisplayNote("Settings saved");
   }
 }
 

@@ -36,8 +36,6 @@ struct SaveTally {
 // Tells in the message area that the settings were saved, how many were left as they are, or that
 // they could not be written to the file.
 void NoteSaved(const SaveTally& tally, const std::wstring& path);
-// The same, but says nothing about settings that were saved: for actions that save by the way.
-void NoteUnsaved(const SaveTally& tally, const std::wstring& path);
 
 // Must outlive the dialog: bound to its buttons as their data.
 class StoredFields {

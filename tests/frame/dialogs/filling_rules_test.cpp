@@ -6,6 +6,7 @@
 namespace qm {
 namespace {
 
+const std::wstring kBlank;
 const Filling kShown = {L"gb,iso", FillResult::kTaken, L"gb,iso"};
 
 TEST(FilledField, IsTheUsersOnceItHasShownItsSetting) {
@@ -19,10 +20,10 @@ TEST(FilledField, IsTheUsersOnceItHasShownItsSetting) {
 
 TEST(FilledField, ThatDoesNotShowItsSettingIsNeitherSavedNorUsed) {
   const Filling cases[] = {
-      {L"gb,iso", FillResult::kFailed, L""},
-      {L"gb,iso", FillResult::kTaken, L""},  // a success that was none
+      {L"gb,iso", FillResult::kFailed, kBlank},
+      {L"gb,iso", FillResult::kTaken, kBlank},  // a success that was none
       {L"gb,iso", FillResult::kFailed, std::nullopt},
-      {std::nullopt, FillResult::kFailed, L""},  // the setting could not be read
+      {std::nullopt, FillResult::kFailed, kBlank},  // the setting could not be read
       {std::nullopt, FillResult::kFailed, std::nullopt},
   };
   for (const Filling& filling : cases) {
@@ -32,14 +33,14 @@ TEST(FilledField, ThatDoesNotShowItsSettingIsNeitherSavedNorUsed) {
 }
 
 TEST(FilledField, IsTheUsersWhenHeHasChangedItSince) {
-  EXPECT_TRUE(MaySave({L"gb", FillResult::kFailed, L""}, L"din"));
-  EXPECT_TRUE(MaySave({std::nullopt, FillResult::kFailed, L""}, L"din"));
+  EXPECT_TRUE(MaySave({L"gb", FillResult::kFailed, kBlank}, L"din"));
+  EXPECT_TRUE(MaySave({std::nullopt, FillResult::kFailed, kBlank}, L"din"));
   EXPECT_FALSE(MaySave({L"gb", FillResult::kFailed, std::nullopt}, L"din"));
 }
 
 TEST(FilledField, WithoutASettingIsTheUsersFromTheStart) {
-  EXPECT_TRUE(MaySave({L"", FillResult::kUnknownValue, L"1"}, L"1"));
-  EXPECT_TRUE(MaySave({L"", FillResult::kFailed, std::nullopt}, L""));
+  EXPECT_TRUE(MaySave({kBlank, FillResult::kUnknownValue, L"1"}, L"1"));
+  EXPECT_TRUE(MaySave({kBlank, FillResult::kFailed, std::nullopt}, L""));
 }
 
 // The host presses the first button of a group when it is given the name of none.
