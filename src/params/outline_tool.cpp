@@ -19,13 +19,21 @@ struct OutlineFormat {
   bool descending;
 };
 
-// Fails also for a success without usable data.
+// A surface faces out of the model, into it, or is said to do neither.
+bool IsOrientation(ProSurfaceOrient orientation) {
+  return orientation == PRO_SURF_ORIENT_OUT || orientation == PRO_SURF_ORIENT_IN ||
+         orientation == PRO_SURF_ORIENT_NONE;
+}
+
+// Fails also for a success without usable data: where the corners span no box or the orientation is
+// none, the host's record is in another order than ours, and its numbers mean something else.
 ProError IncludeSurface(ProSurface surface, OutlineBox* box) {
   GeometryData data;
   const ProError status = ProSurfaceDataGet(surface, data.put());
   if (!Ok(status)) return status;
   if (!data || data.get()->data.p_surface_data == nullptr) return PRO_TK_INVALID_ITEM;
   const ProSurfacedata& shape = *data.get()->data.p_surface_data;
+  if (!IsOrientation(shape.orient)) return PRO_TK_INVALID_ITEM;
   return box->Include(shape.xyz_min, shape.xyz_max) ? PRO_TK_NO_ERROR : PRO_TK_INVALID_ITEM;
 }
 

@@ -22,6 +22,8 @@ struct ParameterResult {
 
 // A success that fills nothing in counts as a failure.
 ParameterResult FindParameter(ProModelitem owner, HostName& name, ProParameter* parameter);
+// Those that change a parameter also fail when the host's record does not bear the asked name,
+// without case.
 ParameterResult CreateParameter(ProModelitem owner, HostName& name, ProParamvalue value);
 // Fails where there is no such parameter.
 ParameterResult SetParameter(ProModelitem owner, HostName& name, ProParamvalue value);
