@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -127,6 +128,7 @@ class ScriptRun {
   int status = 0;                    // of the last command
   int recording = -1;                // index of the record of the command at work
   std::unique_ptr<ClipboardHolder> clipboard_holder;
+  std::map<std::filesystem::path, std::unique_ptr<FileHolder>> held_files;
   bool lenient = false;  // boxes and answers left over are no failures
 
   RunRecord& record() { return record_; }

@@ -104,7 +104,13 @@ void ScriptUser::Fire(LiveDialog& dialog, const std::string& component, const st
 // A user who is at a loss closes the window; a dialog that does not close then is ended by force,
 // so that no run hangs.
 void ScriptUser::CloseForUser(LiveDialog& dialog) {
-  dialog.Fire("", kCloseEvent);
+  const bool has_way_out =
+      dialog.Fire("", kCloseEvent) || dialog.ended || dialog.Fire("Close", kActivateEvent);
+  // A binding that only claims to have succeeded cannot be known by the plug-in.
+  if (!has_way_out && !run_.host.faults.claims_success()) {
+    run_.host.ReportBreach("ProUIDialogActivate",
+                           "the dialog " + dialog.name + " gives the user no way out");
+  }
   dialog.ended = true;
 }
 

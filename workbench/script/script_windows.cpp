@@ -114,6 +114,18 @@ ClipboardHolder::~ClipboardHolder() {
   }
 }
 
+FileHolder::FileHolder(const std::filesystem::path& file)
+    : file_(::CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                          FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+
+FileHolder::~FileHolder() {
+  if (holds()) ::CloseHandle(file_);
+}
+
+bool FileHolder::holds() const {
+  return file_ != INVALID_HANDLE_VALUE;
+}
+
 namespace {
 
 // A file that a started program writes its output into; gone when this is. What the program starts

@@ -34,6 +34,20 @@ class ClipboardHolder {
   std::unique_ptr<Thread> thread_;
 };
 
+// Keeps a file open, so that nobody else can open it.
+class FileHolder {
+ public:
+  explicit FileHolder(const std::filesystem::path& file);
+  ~FileHolder();
+  FileHolder(const FileHolder&) = delete;
+  FileHolder& operator=(const FileHolder&) = delete;
+
+  bool holds() const;
+
+ private:
+  void* file_;
+};
+
 // Runs a program to its end and gives what it printed; no text when it cannot be started.
 // Arguments are quoted by blanks only, so they must hold no quotes.
 std::optional<std::string> OutputOf(const std::filesystem::path& program,

@@ -30,6 +30,7 @@ Hook HookRow(const char* name, std::type_identity_t<Function>* replacement,
   FAMILY(FolderHooks)            \
   FAMILY(ComHooks)               \
   FAMILY(FileDialogHooks)        \
+  FAMILY(SettingsHooks)          \
   FAMILY(ModuleHooks)
 
 #define WB_DECLARE_FAMILY(Family) HookRows Family();

@@ -36,7 +36,9 @@ void ReportException(const char* where) noexcept {
 int RunCommand(const char* name, ProError (*action)()) noexcept {
   const BusyScope busy;
   if (!busy.taken()) {
-    LogEvent("another command was refused while this one runs");
+    // In a line of its own: the box is not what came of the command that runs.
+    CommandLog refused(name);
+    refused.set_status(PRO_TK_E_IN_USE);
     ShowMessage(kBusyText);
     return PRO_TK_E_IN_USE;
   }

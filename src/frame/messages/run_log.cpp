@@ -7,6 +7,7 @@
 
 #include <cstdio>
 #include <exception>
+#include <iterator>
 
 #include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
@@ -119,6 +120,37 @@ void LogFailure(std::wstring_view model_name, const char* function, ProError sta
   }
 }
 
+void LogLeftOut(const ProFeature& component, const char* function, ProError status) noexcept {
+  if (!CountFailure()) return;
+  try {
+    const ProMdl owner = status == PRO_TK_BAD_INPUTS ? nullptr : component.owner;
+    LogEvent(LoggedName(owner) + ", component " + std::to_string(component.id) +
+             " left out: " + function + " answered " + StatusName(status));
+  } catch (...) {
+    // As above.
+  }
+}
+
+void LogOutcome(const char* what) noexcept {
+  if (running_command != nullptr) running_command->outcome_ = what;
+}
+
+void LogBox(const wchar_t* text) noexcept {
+  if (running_command == nullptr) return;
+  wchar_t* place = running_command->box_;
+  const wchar_t* const end = std::end(running_command->box_) - 1;
+  // On one line, without the tabs around it.
+  while (*text == L'\t') ++text;
+  for (; *text != L'\0' && place != end; ++text) {
+    if (*text != L'\t') *place++ = *text == L'\n' ? L' ' : *text;
+  }
+  *place = L'\0';
+}
+
+void LogLeftOutCount(long long count) noexcept {
+  if (running_command != nullptr) running_command->left_out_ += count;
+}
+
 void LogCount(const char* what, long long count) noexcept {
   if (running_command == nullptr) return;
   try {
@@ -135,7 +167,10 @@ CommandLog::CommandLog(const char* name) noexcept
 
 CommandLog::~CommandLog() {
   running_command = outer_;
-  if (std::uncaught_exceptions() > 0) status_ = PRO_TK_GENERAL_ERROR;
+  if (std::uncaught_exceptions() > 0) {
+    status_ = PRO_TK_GENERAL_ERROR;
+    stopped_ = true;
+  }
   try {
     pending_ += Stamped(ClosingLine());
     WriteLines(pending_);
@@ -157,9 +192,21 @@ std::string CommandLog::ClosingLine() const {
   std::snprintf(seconds, sizeof(seconds), "%.3f", elapsed.count());
   std::string line = std::string(name_) + " ended with " + StatusName(status_) + " after " +
                      seconds + " s" + counts_;
+  if (left_out_ > 0) line += ", " + std::to_string(left_out_) + " left out";
   if (failures_ > 0) line += ", " + std::to_string(failures_) + " failures passed over";
   if (failures_ > kMaxFailureLines) line += " (only the first 1000 listed)";
-  return line;
+  return line + ": " + Outcome();
+}
+
+// What came of the command. Its status alone does not tell: many refusals are no errors to the
+// host.
+std::string CommandLog::Outcome() const {
+  if (stopped_) return "stopped by an internal error";
+  if (outcome_ != nullptr) return outcome_;
+  if (box_[0] != L'\0') return "told \"" + ToUtf8(box_) + "\"";
+  if (status_ == PRO_TK_USER_ABORT) return "cancelled";
+  if (!Ok(status_)) return "failed";
+  return left_out_ > 0 ? "done in part" : "done";
 }
 
 }  // namespace qm
