@@ -83,6 +83,7 @@ std::optional<ParamPlan> MakePlan(const ParamWishes& wishes, const std::optional
     return std::nullopt;
   }
   const KeywordFilter keywords(*wishes.keyword_list);
+  // An overlong name has been refused.
   ParamPlan plan{HostName::From(*wishes.param_name).value(),
                  {},
                  targets->component_count,

@@ -39,7 +39,8 @@ int DeclaredFunctions() {
 bool IsAnyFunctionOffered() {
   return []<int... Nth>(std::integer_sequence<int, Nth...>) {
     return ((FindHostFunction(kDeclaredName<Nth>) != nullptr) || ...);
-  }(std::make_integer_sequence<int, kDeclared>());
+  }
+  (std::make_integer_sequence<int, kDeclared>());
 }
 
 }  // namespace qm

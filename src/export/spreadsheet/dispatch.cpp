@@ -25,8 +25,7 @@ bool IsBusy(HRESULT result) {
 }
 
 constexpr HRESULT kGoneResults[] = {
-    RPC_E_SERVERFAULT,
-    RPC_E_DISCONNECTED,
+    RPC_E_SERVERFAULT, RPC_E_DISCONNECTED,
     static_cast<HRESULT>(0x800706BA),  // RPC_S_SERVER_UNAVAILABLE
 };
 
