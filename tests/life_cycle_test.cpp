@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <fstream>
 #include <functional>
+#include <set>
 
 #include "tests/plugin_host.h"
 #include "workbench/bench/bench_heap.h"
@@ -67,6 +69,40 @@ TEST_F(LifeCycle, TwoThousandLoadsAndUnloadsWithoutAStart) {
   EXPECT_GT(memory_before, 0);
   EXPECT_LT(MemoryInUse() - memory_before, kNoise);
   EXPECT_EQ(TakeBreaches(), Lines());
+}
+
+// All functions of the host by their plain names.
+std::set<std::string> HostFunctions() {
+  std::set<std::string> names;
+  std::ifstream notes(std::filesystem::path(QM_SOURCE_DIR) / "docs" / "host-api-notes.txt");
+  for (std::string line; std::getline(notes, line);) {
+    if (line.starts_with("Pro")) names.insert(line.substr(0, line.find(' ')));
+  }
+  return names;
+}
+
+// Under a name of its own: what was looked up once is never looked up again.
+TEST_F(LifeCycle, AProcessThatOffersNothingAtAllIsRefusedWithASentence) {
+  const std::filesystem::path dll = Installed().tree() / "foreign.dll";
+  std::filesystem::copy_file(Installed().dll(), dll,
+                             std::filesystem::copy_options::overwrite_existing);
+  Plugin plugin(dll);
+  host_.windows.withheld = HostFunctions();
+  ASSERT_GT(host_.windows.withheld.size(), 100u);
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_NE(plugin.Start(), 0);
+    EXPECT_EQ(
+        plugin.refusal(),
+        "羽石工具箱未能启动：在宿主程序中找不到任何接口函数，请检查插件与宿主的版本是否一致。");
+  }
+  for (const auto& [function, count] : host_.trace.Counts()) {
+    EXPECT_FALSE(function.starts_with("Pro")) << function;
+  }
+  EXPECT_TRUE(host_.windows.timers.empty());
+  EXPECT_EQ(TakeBreaches(), Lines());
+  // One that offers anything is told apart, and what is missing is named as ever.
+  host_.windows.withheld.erase("ProMdlCurrentGet");
+  EXPECT_EQ(plugin.Start(), 0);
 }
 
 // Makes the plug-in's own allocations fail: the n-th one once, counted from the order on.

@@ -1,6 +1,9 @@
 // The two entries that the host calls: start and stop of the plug-in.
 #include <windows.h>
 
+#include <algorithm>
+#include <iterator>
+
 #include "entry/registration.h"
 #include "entry/restore_directory.h"
 #include "entry/save_directory.h"
@@ -35,6 +38,18 @@ void Start() {
   RegisterPopup();
 }
 
+constexpr wchar_t kForeignHost[] =
+    L"羽石工具箱未能启动：在宿主程序中找不到任何接口函数，请检查插件与宿主的版本是否一致。";
+constexpr std::size_t kErrorBufferSize = 80;
+static_assert(std::size(kForeignHost) <= kErrorBufferSize);
+
+// The host shows its user the reason.
+ProError RefuseStart(wchar_t* error_buffer) {
+  LogEvent("start refused: the process offers no function of the host");
+  if (error_buffer != nullptr) std::ranges::copy(kForeignHost, error_buffer);
+  return PRO_TK_GENERAL_ERROR;
+}
+
 void Stop() {
   StopDirectoryRestore();
   SaveWorkingDirectory();
@@ -44,7 +59,9 @@ void Stop() {
 }  // namespace
 }  // namespace qm
 
-extern "C" int user_initialize(int, char*[], char*, char*, wchar_t[80]) {
+extern "C" int user_initialize(int, char*[], char*, char*, wchar_t errbuf[80]) {
+  // Nothing of a start would work, and nobody would learn why: the message area is the host's.
+  if (qm::IsForeignHost()) return qm::RefuseStart(errbuf);
   qm::Shielded<&qm::Start>::Call();
   return 0;
 }

@@ -50,7 +50,9 @@ void Run(const DialogView& dialog, const StoredFields& fields, const ParamAction
   // A model that cannot be changed, such as one that has the parameter already, is passed over with
   // a line in the log.
   const auto change = [&](const PlannedParam& param, HostName& name) {
-    const auto [function, status] = action.change(param.target.owner, name, HostValue(param.value));
+    const auto host_value = HostValue(param.value);
+    const auto [function, status] =
+        host_value ? action.change(param.target.owner, name, *host_value) : kTextTooLong;
     if (!Ok(status)) LogFailure(param.target.name, function, status);
     return Ok(status);
   };

@@ -96,7 +96,8 @@ std::optional<ParamPlan> MakePlan(const ParamWishes& wishes, const std::optional
     return std::nullopt;
   }
   const KeywordFilter keywords(*wishes.keyword_list);
-  ParamPlan plan{HostName(*wishes.param_name),
+  // An overlong name has been refused.
+  ParamPlan plan{HostName::From(*wishes.param_name).value(),
                  {},
                  targets->component_count,
                  targets->models.size(),
@@ -134,7 +135,9 @@ void RunBatch(const DialogView& dialog, const StoredFields& fields,
 
 bool WriteText(const PlannedParam& param, HostName& param_name) {
   const ProModelitem& owner = param.target.owner;
-  const auto [function, status] = SetOrCreateParameter(owner, param_name, HostValue(param.value));
+  const auto value = HostValue(param.value);
+  const auto [function, status] =
+      value ? SetOrCreateParameter(owner, param_name, *value) : kTextTooLong;
   if (!Ok(status)) LogFailure(param.target.name, function, status);
   return Ok(status);
 }

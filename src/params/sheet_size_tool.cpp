@@ -14,9 +14,10 @@ namespace {
 constexpr int kFirstSheet = 1;
 
 ValueForModel SheetSize(const ParamTarget& target) {
-  HostName name(target.name);
+  auto name = HostName::From(target.name);
   ProMdl drawing = nullptr;
-  ProError status = ProMdlRetrieve(name.name, PRO_MDL_DRAWING, &drawing);
+  ProError status =
+      name ? ProMdlRetrieve(name->name, PRO_MDL_DRAWING, &drawing) : PRO_TK_LINE_TOO_LONG;
   // Most models have no drawing; anything else is a failure.
   if (status == PRO_TK_E_NOT_FOUND) return {};
   if (!Ok(status) || drawing == nullptr) {

@@ -83,6 +83,7 @@ typedef ProBooleans ProBool;
 
 // Fixed text sizes, in characters with the closing zero.
 #define PRO_NAME_SIZE 32
+#define PRO_FAMILY_NAME_SIZE 66  // "instance<generic>"
 #define PRO_TYPE_SIZE 4
 #define PRO_LINE_SIZE 81
 #define PRO_PATH_SIZE 260

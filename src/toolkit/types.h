@@ -5,7 +5,7 @@
 #include "toolkit/numbers.h"
 
 typedef wchar_t ProName[PRO_NAME_SIZE];
-typedef wchar_t ProFamilyName[PRO_NAME_SIZE];
+typedef wchar_t ProFamilyName[PRO_FAMILY_NAME_SIZE];
 typedef wchar_t ProMdlExtension[PRO_TYPE_SIZE];
 typedef wchar_t ProLine[PRO_LINE_SIZE];
 typedef wchar_t ProPath[PRO_PATH_SIZE];

@@ -48,6 +48,18 @@ std::vector<ModelName> FolderIndex::Models() const {
   return names;
 }
 
+bool FolderIndex::Choose(const ModelName& name, int version) {
+  const auto found = entries_.find(Key(name));
+  if (found == entries_.end()) return false;
+  const std::string newest = PathToUtf8(found->second.file);
+  const std::filesystem::path file =
+      PathFromUtf8(newest.substr(0, newest.rfind('.') + 1) + std::to_string(version));
+  if (!std::filesystem::exists(file)) return false;
+  found->second.version = version;
+  found->second.file = file;
+  return true;
+}
+
 bool Session::ChangeDirectory(const std::filesystem::path& folder) {
   std::error_code error;
   if (!std::filesystem::is_directory(folder, error)) return false;
@@ -65,6 +77,17 @@ Model* Session::Find(const ModelName& name) {
 Model* Session::Retrieve(const ModelName& name) {
   if (Model* present = Find(name)) return present;
   return RetrieveTree(name, FolderIndex(working_directory_));
+}
+
+Model* Session::RetrieveFile(const std::filesystem::path& file, ModelKind kind) {
+  const std::string text = PathToUtf8(file.filename());
+  const auto versioned = ParseFileName(text);
+  const auto name = versioned ? versioned->model : ParseModelName(text);
+  if (!name || name->kind != kind) return nullptr;
+  if (Model* const present = Find(*name)) return present;
+  FolderIndex folder(file.parent_path());
+  if (versioned && !folder.Choose(*name, versioned->version)) return nullptr;
+  return RetrieveTree(*name, folder);
 }
 
 Model* Session::RetrieveTree(const ModelName& name, const FolderIndex& folder) {

@@ -77,7 +77,7 @@ void ExportBill(const DialogView& dialog) {
   const ComScope com;
   const auto path = ChooseWorkbookToWrite();
   if (!path) LogOutcome("cancelled");
-  if (!path || !IsFreeToWrite(*path, OldFile::kDelete)) return;
+  if (!path || !IsFreeToWrite(*path)) return;
   long long unread = 0;
   const auto table = ReadTable(DialogTable(dialog, kBillTable), *name + L" BOM", &unread);
   if (!table) {

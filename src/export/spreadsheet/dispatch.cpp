@@ -24,22 +24,19 @@ bool IsBusy(HRESULT result) {
          result == kInterrupted;
 }
 
-struct KnownResult {
-  HRESULT result;
-  const wchar_t* text;
+constexpr HRESULT kGoneResults[] = {
+    RPC_E_SERVERFAULT, RPC_E_DISCONNECTED,
+    static_cast<HRESULT>(0x800706BA),  // RPC_S_SERVER_UNAVAILABLE
 };
-constexpr KnownResult kKnownResults[] = {
-    {RPC_E_SERVERFAULT, L"程序已意外退出"},
-    {RPC_E_DISCONNECTED, L"程序已意外退出"},
-    {static_cast<HRESULT>(0x800706BA), L"程序已意外退出"},  // RPC_S_SERVER_UNAVAILABLE
-};
+
+bool IsGone(HRESULT result) {
+  return std::ranges::find(kGoneResults, result) != std::end(kGoneResults);
+}
 
 // The system's own text, where it has any, is rarely of help to users.
 std::wstring ResultText(HRESULT result) {
   if (IsBusy(result)) return L"程序正忙，没有应答";
-  for (const KnownResult& known : kKnownResults) {
-    if (known.result == result) return known.text;
-  }
+  if (IsGone(result)) return L"程序已意外退出";
   wchar_t text[512] = {};
   DWORD length = ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
                                   nullptr, static_cast<DWORD>(result), 0, text,
@@ -131,6 +128,10 @@ void AutomationError::set_place(const std::wstring& place) {
 
 bool AutomationError::is_busy() const {
   return IsBusy(result_);
+}
+
+bool AutomationError::is_gone() const {
+  return IsGone(result_);
 }
 
 std::wstring AutomationError::Reason() const {

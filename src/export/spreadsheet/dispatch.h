@@ -31,6 +31,8 @@ class AutomationError : public std::exception {
   HRESULT result() const { return result_; }
   // The server would not take the call, and was asked again for as long as the patience lasted.
   bool is_busy() const;
+  // There is no server any more.
+  bool is_gone() const;
   // What the other program says, or the system's text for the result, and the result's number.
   std::wstring Reason() const;
 

@@ -40,14 +40,14 @@ ProError QmOpenDrw() {
   ProName buffer = {};
   ProError status = ProMdlNameGet(model, buffer);
   if (!Ok(status)) return status;
-  HostName name(FixedText(buffer));
+  auto name = HostName::From(FixedText(buffer));
   ProMdl drawing = nullptr;
-  status = ProMdlRetrieve(name.name, PRO_MDL_DRAWING, &drawing);
+  status = name ? ProMdlRetrieve(name->name, PRO_MDL_DRAWING, &drawing) : PRO_TK_LINE_TOO_LONG;
   if (!Ok(status) || drawing == nullptr) {
     ShowMessage(L"\t同名工程图打开失败，请确认该模型工程图在当前工作目录是否存在。\t");
     return PRO_TK_E_NOT_FOUND;
   }
-  return ShowInWindow(drawing, name);
+  return ShowInWindow(drawing, *name);
 }
 
 }  // namespace qm

@@ -25,10 +25,10 @@ std::wstring ValueText(const ProParamvalue& value) {
 }
 
 std::optional<std::wstring> ParameterText(const ProModelitem& owner, const std::wstring& name) {
-  // A longer name would be cut and might then be another parameter's.
-  if (name.size() >= PRO_NAME_SIZE) return std::wstring();
-  HostName host_name(name);
-  const ReadValue read = ReadParameter(owner, host_name);
+  auto host_name = HostName::From(name);
+  // No parameter has a longer name.
+  if (!host_name) return std::wstring();
+  const ReadValue read = ReadParameter(owner, *host_name);
   if (!read.is_known) return std::nullopt;
   return read.value ? ValueText(*read.value) : std::wstring();
 }

@@ -10,23 +10,27 @@
 namespace qm {
 namespace {
 
+// False when the value does not fit.
 struct HostValueFiller {
   ProParamvalue& host;
-  void operator()(int value) const {
+  bool operator()(int value) const {
     host.type = PRO_PARAM_INTEGER;
     host.value.i_val = value;
+    return true;
   }
-  void operator()(double value) const {
+  bool operator()(double value) const {
     host.type = PRO_PARAM_DOUBLE;
     host.value.d_val = value;
+    return true;
   }
-  void operator()(const std::wstring& value) const {
+  bool operator()(const std::wstring& value) const {
     host.type = PRO_PARAM_STRING;
-    FillFixedText(value, host.value.s_val);
+    return FillFixedText(value, host.value.s_val);
   }
-  void operator()(bool value) const {
+  bool operator()(bool value) const {
     host.type = PRO_PARAM_BOOLEAN;
     host.value.l_val = value ? 1 : 0;
+    return true;
   }
 };
 
@@ -47,9 +51,9 @@ ParameterResult FindToChange(const ProModelitem& owner, HostName& name, ProParam
 
 }  // namespace
 
-ProParamvalue HostValue(const ParamValue& value) {
+std::optional<ProParamvalue> HostValue(const ParamValue& value) {
   ProParamvalue host{};
-  std::visit(HostValueFiller{host}, value);
+  if (!std::visit(HostValueFiller{host}, value)) return std::nullopt;
   return host;
 }
 

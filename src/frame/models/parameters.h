@@ -10,8 +10,8 @@
 
 namespace qm {
 
-// The value in the host's form; texts longer than `kMaxParamTextLength` are cut.
-ProParamvalue HostValue(const ParamValue& value);
+// The value in the host's form; nothing for a text longer than `kMaxParamTextLength`.
+std::optional<ProParamvalue> HostValue(const ParamValue& value);
 
 // How an operation ended: the host's function that decided it, and its status. Logging a failure is
 // the caller's, who may know the model's name.
@@ -19,6 +19,7 @@ struct ParameterResult {
   const char* function;
   ProError status;
 };
+inline constexpr ParameterResult kTextTooLong = {"parameter value", PRO_TK_LINE_TOO_LONG};
 
 // A success that fills nothing in counts as a failure.
 ParameterResult FindParameter(ProModelitem owner, HostName& name, ProParameter* parameter);
