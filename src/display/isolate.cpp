@@ -77,13 +77,12 @@ std::optional<SelectedComponent> ReadSelection(ProMdl root, ProSelection selecti
 }
 
 // Empty when nothing fit is preselected.
-std::vector<SelectedComponent> ReadPreselection(ProMdl root) {
+std::vector<SelectedComponent> PreselectedComponents(ProMdl root) {
   std::vector<SelectedComponent> components;
-  SelectionArray selections;
-  if (!Ok(ProSelbufferSelectionsGet(selections.put()))) return components;
-  const int count = selections.size();
+  const auto selections = ReadPreselection();
+  const int count = selections ? selections->size() : 0;
   for (int i = 0; i < count; ++i) {
-    auto component = ReadSelection(root, selections[i]);
+    auto component = ReadSelection(root, (*selections)[i]);
     if (component) components.push_back(std::move(*component));
   }
   return components;
@@ -126,7 +125,7 @@ ProError QmIsolate() {
   const auto root = CurrentAssembly();
   if (!root) return PRO_TK_NO_ERROR;
 
-  std::vector<SelectedComponent> selected = ReadPreselection(*root);
+  std::vector<SelectedComponent> selected = PreselectedComponents(*root);
   if (selected.empty()) {
     ShowMessage(kNothingSelected);
     return PRO_TK_NO_ERROR;

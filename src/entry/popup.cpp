@@ -104,7 +104,7 @@ void AppendOpenDrawing(ProPopupMenuId popup) {
 
 ProError BuildPopup(char* name) {
   if (name == nullptr || name != kSelectedObjectPopup) return PRO_TK_NO_ERROR;
-  ProPopupMenuId popup = 0;
+  ProPopupMenuId popup = nullptr;
   if (!Ok(ProPopupmenuIdGet(name, &popup))) return PRO_TK_NO_ERROR;
   for (const PopupEntry& entry : kPopupEntries) AppendEntry(popup, entry);
   AppendOpenDrawing(popup);

@@ -15,17 +15,16 @@ uiCmdAccessState Offered(bool is_offered) {
 }
 
 uiCmdAccessState ForDisplay(uiCmdCmdId, ProAppData, ProSelection*) {
-  SelectionArray selected;
-  if (!Ok(ProSelbufferSelectionsGet(selected.put()))) return ACCESS_UNAVAILABLE;
-  if (selected.size() < 1) return ACCESS_REMOVE;
-  const auto item = ItemOf(selected[0]);
+  const auto selected = ReadPreselection();
+  if (!selected) return ACCESS_UNAVAILABLE;
+  const auto item = ItemOf((*selected)[0]);
   return Offered(item && DisplayEntriesOffered(item->type));
 }
 
 uiCmdAccessState ForName(uiCmdCmdId, ProAppData, ProSelection*) {
-  SelectionArray selected;
-  if (!Ok(ProSelbufferSelectionsGet(selected.put())) || selected.size() != 1) return ACCESS_REMOVE;
-  const auto item = ItemOf(selected[0]);
+  const auto selected = ReadPreselection();
+  if (!selected || selected->size() != 1) return ACCESS_REMOVE;
+  const auto item = ItemOf((*selected)[0]);
   return Offered(item && NameEntriesOffered(item->type));
 }
 

@@ -15,7 +15,8 @@ typedef uiCmdAccessState (*uiCmdAccessFn)(uiCmdAccessMode mode) QM_CALLBACK;
 typedef uiCmdAccessState (*ProPopupAccessFn)(uiCmdCmdId command, ProAppData data,
                                              ProSelection* selections) QM_CALLBACK;
 
-typedef int ProPopupMenuId;
+// A number or a pointer: not known, and right for both when it is zeroed before a call fills it.
+typedef void* ProPopupMenuId;
 
 typedef ProError (*ProFunction)() QM_CALLBACK;
 typedef ProError (*ProPopupCreateAction)(char* menu_name) QM_CALLBACK;

@@ -4,16 +4,10 @@
 #include "toolkit/host_function.h"
 #include "toolkit/types.h"
 
-// Where a model's file lies. The lengths of the leading fields are as documented for this release;
-// the trailing reserve keeps a longer record of the host inside our buffer.
+// Where a model's file lies. The order of the texts in it is not certain, so that this is only room
+// for any of them, and more; zero it before a call fills it.
 typedef struct {
-  wchar_t host[PRO_NAME_SIZE];
-  wchar_t device[PRO_NAME_SIZE];
-  wchar_t path[PRO_PATH_SIZE];
-  ProName name;
-  ProMdlExtension type;
-  int version;
-  wchar_t reserve[PRO_PATH_SIZE];
+  wchar_t texts[2048];
 } ProMdldata;
 
 PRO_FUNCTION(ProError, ProMdlCurrentGet, ProMdl* model);
@@ -21,6 +15,8 @@ PRO_FUNCTION(ProError, ProMdlTypeGet, ProMdl model, ProMdlType* type);
 PRO_FUNCTION(ProError, ProMdlSubtypeGet, ProMdl model, ProMdlsubtype* subtype);
 PRO_FUNCTION(ProError, ProMdlNameGet, ProMdl model, ProName name);
 PRO_FUNCTION(ProError, ProMdlDataGet, ProMdl model, ProMdldata* data);
+// Full path of the file that the model came from.
+PRO_FUNCTION(ProError, ProMdlOriginGet, ProMdl model, ProPath origin);
 PRO_FUNCTION(ProError, ProMdlToModelitem, ProMdl model, ProModelitem* item);
 PRO_FUNCTION(ProError, ProModelitemMdlGet, ProModelitem* item, ProMdl* model);
 PRO_FUNCTION(ProError, ProMdlRetrieve, ProFamilyName name, ProMdlType type, ProMdl* model);

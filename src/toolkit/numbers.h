@@ -122,10 +122,9 @@ typedef enum {
   PRO_MDL_MFG = PRO_MFG,
 } ProMdlType;
 
-// Model subtypes used here.
+// Of the subtypes of models only this one is known: compare with it and with nothing else.
 typedef enum {
-  PROMDLSTYPE_NONE = 0,
-  PROMDLSTYPE_PART_SOLID = 3,
+  PROMDLSTYPE_UNUSED = -1,
   PROMDLSTYPE_PART_SHEETMETAL = 4,
 } ProMdlsubtype;
 
@@ -137,6 +136,7 @@ enum {
   PRO_FEAT_TOP_LEVEL_1232 = 1232,
 };
 
+// Certain are the first two, the order of the others is likely.
 typedef enum {
   PRO_FEAT_INVALID = -1,
   PRO_FEAT_ACTIVE = 0,
@@ -197,9 +197,23 @@ typedef enum {
   PRO_MODE_MFG = 8,
 } ProMode;
 
-// Window id that stands for all windows in a repaint.
+// Window id that stands for all windows in a repaint; the host likely takes it for the current one,
+// which is the one that the user looks at.
 inline constexpr int kAllWindows = -1;
 
 // A popup menu is being created; the callback takes its name.
 typedef int ProNotifyType;
 inline constexpr ProNotifyType kNotifyPopupCreate = 72;
+
+// The record of a model's data (ProMdldata): the two orders of its texts that are known, each in
+// characters from the start of the record.
+struct ProMdldataOrder {
+  int name;     // PRO_NAME_SIZE
+  int type;     // PRO_TYPE_SIZE
+  int host;     // PRO_NAME_SIZE
+  int device;   // PRO_NAME_SIZE
+  int path;     // PRO_PATH_SIZE
+  int version;  // an int
+};
+inline constexpr ProMdldataOrder kModelDataNameLast = {324, 356, 0, 32, 64, 360};
+inline constexpr ProMdldataOrder kModelDataNameFirst = {0, 32, 36, 68, 100, 360};

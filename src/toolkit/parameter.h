@@ -24,12 +24,13 @@ typedef struct {
   } who;
 } ProParamowner;
 
+// The size of the host's record is not certain: the reserve keeps a longer one inside our buffer.
 typedef struct {
   ProType type;
   ProName id;
   ProParamowner owner;
+  char reserve[64];
 } ProParameter;
-static_assert(sizeof(ProParameter) == 96);
 
 PRO_FUNCTION(ProError, ProParameterCreate, ProModelitem* owner, ProName name, ProParamvalue* value,
              ProParameter* parameter);

@@ -16,8 +16,10 @@ typedef struct {
 typedef ProError (*ProSelPreFilter)(ProSelection selection, ProAppData data) QM_CALLBACK;
 typedef ProError (*ProSelPostSelact)(ProSelection selection, ProBoolean as_pick,
                                      ProAppData data) QM_CALLBACK;
+typedef ProError (*ProSelPostFilter)(ProSelection selection, ProAppData data) QM_CALLBACK;
 typedef struct {
   ProSelPreFilter pre_filter;
+  ProSelPostFilter post_filter;
   ProSelPostSelact post_selact;
   ProAppData app_data;
 } ProSelFunctions;
@@ -25,7 +27,7 @@ typedef struct sel_access_option* ProSelAppAction;
 
 // The array of selections belongs to the host and lives until the next call.
 PRO_FUNCTION(ProError, ProSelect, const char* filter, int max_count, ProSelection* initial,
-             ProSelFunctions* functions, ProSelectionEnv environment, ProSelAppAction app_action,
+             ProSelFunctions* functions, ProSelectionEnv environment, ProSelAppAction* app_action,
              ProSelection** selections, int* count);
 // `options` is a ProArray.
 PRO_FUNCTION(ProError, ProSelectionEnvAlloc, ProSelectionEnvOption* options,

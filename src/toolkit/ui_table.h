@@ -16,6 +16,9 @@ PRO_FUNCTION(ProError, ProUITableRowsDelete, const char* dialog, const char* com
              char** names);
 PRO_FUNCTION(ProError, ProUITableRownamesGet, const char* dialog, const char* component, int* count,
              char*** names);
+// Makes these the rows.
+PRO_FUNCTION(ProError, ProUITableRownamesSet, const char* dialog, const char* component, int count,
+             char** names);
 PRO_FUNCTION(ProError, ProUITableColumnsInsert, const char* dialog, const char* component,
              const char* neighbour, int count, char** names);
 PRO_FUNCTION(ProError, ProUITableColumnsDelete, const char* dialog, const char* component,

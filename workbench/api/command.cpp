@@ -74,11 +74,18 @@ ProError InsertBeside(std::vector<Item>& items, Item item,
   return PRO_TK_NO_ERROR;
 }
 
+// The host's ids are numbers: only the lower half of the place is filled, as by a host that takes
+// it for an int.
+int NumberOf(ProPopupMenuId handle) {
+  return static_cast<int>(reinterpret_cast<intptr_t>(handle));
+}
+
 // A popup that is being created.
 struct PopupIn {
-  ProPopupMenuId id;
-  std::string Describe() const { return DescribeArgument(id); }
+  ProPopupMenuId handle;
+  std::string Describe() const { return DescribeArgument(NumberOf(handle)); }
   Popup& Look(const Call& call) const {
+    const int id = NumberOf(handle);
     Popup* const popup = call.host.commands.FindPopup(id);
     if (popup == nullptr) call.Fail("there is no popup menu with id " + std::to_string(id));
     if (id != call.host.commands.popup_being_created) {
@@ -118,11 +125,14 @@ ProError ProCmdActionAdd(const char* name, uiCmdCmdActFn action, uiCmdPriority p
                   in_accessory_window, Out(command, "command place"))
       .Run([](const Call& call, const std::string& text, uiCmdCmdActFn act, int rank,
               uiCmdAccessFn ask, ProBoolean, ProBoolean, uiCmdCmdId& place) {
+        const bool again = call.host.commands.Find(text) != nullptr;
+        if (again && call.host.habits.second_registration_fails) return PRO_TK_E_FOUND;
         Command& registered = Registered(call, text);
         registered.action = reinterpret_cast<void*>(act);
         registered.access = reinterpret_cast<void*>(ask);
         registered.priority = rank;
         place = static_cast<uiCmdCmdId>(registered.handle);
+        return PRO_TK_NO_ERROR;
       });
 }
 
@@ -202,7 +212,7 @@ ProError ProPopupmenuIdGet(const char* menu, ProPopupMenuId* id) {
       .Run([](const Call& call, const std::string& name, ProPopupMenuId& place) {
         const Popup* const popup = call.host.commands.FindPopup(name);
         if (popup == nullptr || popup->id == 0) return PRO_TK_E_NOT_FOUND;
-        place = popup->id;
+        std::memcpy(&place, &popup->id, sizeof(popup->id));
         return PRO_TK_NO_ERROR;
       });
 }

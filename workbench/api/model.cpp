@@ -33,17 +33,43 @@ struct KindIn {
   }
 };
 
+// Subtypes of the workbench's own, which the plug-in must not know.
+constexpr int kSubtypeOfNoPart = 0;
+constexpr int kSubtypeOfSolidPart = 3;
+
 ProMdlsubtype SubtypeOf(const Model& model) {
-  if (model.id.kind != ModelKind::kPart) return PROMDLSTYPE_NONE;
-  return model.solid().sheet_metal ? PROMDLSTYPE_PART_SHEETMETAL : PROMDLSTYPE_PART_SOLID;
+  if (model.id.kind != ModelKind::kPart) return static_cast<ProMdlsubtype>(kSubtypeOfNoPart);
+  return model.solid().sheet_metal ? PROMDLSTYPE_PART_SHEETMETAL
+                                   : static_cast<ProMdlsubtype>(kSubtypeOfSolidPart);
+}
+
+// An order that nobody knows: everything a little further on.
+constexpr ProMdldataOrder kUnknownOrder = {12, 44, 48, 80, 112, 372};
+
+const ProMdldataOrder& OrderOf(const Habits& habits) {
+  if (habits.model_data_has_unknown_order) return kUnknownOrder;
+  return habits.model_data_has_name_first ? kModelDataNameFirst : kModelDataNameLast;
 }
 
 // Splits "C:\parts" as the host's record does: the drive apart from the path.
-void FillPlace(const Call& call, const Model& model, ProMdldata& data) {
+void FillRecord(const Call& call, const Model& model, ProMdldata& record) {
+  const ProMdldataOrder& order = OrderOf(call.host.habits);
   const std::string folder = PathToUtf8(model.folder);
   const bool has_drive = folder.size() > 1 && folder[1] == ':';
-  call.CopyText(data.device, PRO_NAME_SIZE, has_drive ? folder.substr(0, 2) : "");
-  call.CopyText(data.path, PRO_PATH_SIZE, has_drive ? folder.substr(2) : folder);
+  const auto text = [&](int place, size_t limit, const std::string& value) {
+    call.CopyText(record.texts + place, limit, value);
+  };
+  text(order.device, PRO_NAME_SIZE, has_drive ? folder.substr(0, 2) : "");
+  text(order.path, PRO_PATH_SIZE, has_drive ? folder.substr(2) : folder);
+  text(order.name, PRO_NAME_SIZE, model.id.name);
+  text(order.type, PRO_TYPE_SIZE, KindExtension(model.id.kind));
+  std::memcpy(record.texts + order.version, &model.version, sizeof(model.version));
+}
+
+// The file of a model that has one.
+std::string OriginOf(const Model& model) {
+  return PathToUtf8(model.folder /
+                    PathFromUtf8(model.id.Text() + "." + std::to_string(model.version)));
 }
 
 }  // namespace
@@ -80,11 +106,16 @@ ProError ProMdlNameGet(ProMdl model, ProName name) {
 ProError ProMdlDataGet(ProMdl model, ProMdldata* data) {
   return Crossing(__func__, ModelIn{model}, Out(data, "record place"))
       .Run([](const Call& call, const Model& from, ProMdldata& record) {
-        record = {};
-        FillPlace(call, from, record);
-        call.CopyText(record.name, PRO_NAME_SIZE, from.id.name);
-        call.CopyText(record.type, PRO_TYPE_SIZE, KindExtension(from.id.kind));
-        record.version = from.version;
+        FillRecord(call, from, record);
+      });
+}
+
+ProError ProMdlOriginGet(ProMdl model, ProPath origin) {
+  return Crossing(__func__, ModelIn{model}, OutText{origin, PRO_PATH_SIZE})
+      .Run([](const Model& from, TextPlace place) {
+        if (from.version == 0) return PRO_TK_E_NOT_FOUND;
+        place = OriginOf(from);
+        return PRO_TK_NO_ERROR;
       });
 }
 

@@ -82,7 +82,7 @@ using namespace wb;
 
 ProError ProSelect(const char* filter, int max_count, ProSelection* initial,
                    ProSelFunctions* functions, ProSelectionEnv environment,
-                   ProSelAppAction app_action, ProSelection** selections, int* count) {
+                   ProSelAppAction* app_action, ProSelection** selections, int* count) {
   return Crossing(__func__, FilterIn(filter), max_count, DataIn{initial}, DataIn{functions},
                   EnvironmentIn{environment}, DataIn{app_action},
                   Out(selections, "selections place"), Out(count, "count place"))
@@ -125,7 +125,11 @@ ProError ProSelbufferSelectionsGet(ProSelection** selections) {
   return Crossing(__func__, Out(selections, "selections place"))
       .Run([](const Call& call, ProSelection*& place) {
         const std::vector<PickedItem>& buffer = call.host.session.selection_buffer;
-        if (buffer.empty()) return PRO_TK_E_NOT_FOUND;
+        if (buffer.empty()) {
+          place = nullptr;
+          return call.host.habits.empty_preselection_succeeds ? PRO_TK_NO_ERROR
+                                                              : PRO_TK_E_NOT_FOUND;
+        }
         place = static_cast<ProSelection*>(
             NewArray(call, static_cast<int>(buffer.size()), sizeof(ProSelection)));
         for (size_t i = 0; i < buffer.size(); ++i) place[i] = NewSelection(call, buffer[i]);

@@ -120,9 +120,11 @@ ProError ProUIRadiogroupSelectednamesSet(const char* dialog, const char* compone
 ProError ProUIRadiogroupSelectednamesGet(const char* dialog, const char* component, int* count,
                                          char*** names) {
   return Crossing(__func__, RadioIn(dialog, component), OutList(count, names))
-      .Run([](const ChoiceState& group, ListPlace<char> place) {
+      .Run([](const Call& call, const ChoiceState& group, ListPlace<char> place) {
         place = group.Selected();
-        return group.Selected().empty() ? PRO_TK_E_NOT_FOUND : PRO_TK_NO_ERROR;
+        const bool succeeds =
+            !group.Selected().empty() || call.host.habits.radio_without_choice_succeeds;
+        return succeeds ? PRO_TK_NO_ERROR : PRO_TK_E_NOT_FOUND;
       });
 }
 
@@ -140,10 +142,14 @@ ProError ProUIInputpanelValueGet(const char* dialog, const char* component, wcha
 
 ProError ProUIOptionmenuValueSet(const char* dialog, const char* component, wchar_t* value) {
   return Crossing(__func__, DialogIn{dialog}, FieldNameIn(component), FieldValueIn(value))
-      .Run(
-          [](const Call& call, LiveDialog& live, const std::string& name, const std::string& item) {
-            return Answer(call, live.state.SetOptionValue(name, item), name);
-          });
+      .Run([](const Call& call, LiveDialog& live, const std::string& name,
+              const std::string& item) {
+        const bool by_label = call.host.habits.option_menu_answers_label;
+        return Answer(
+            call,
+            live.state.SetOptionValue(name, by_label ? live.state.OptionNamed(name, item) : item),
+            name);
+      });
 }
 
 ProError ProUIOptionmenuValueGet(const char* dialog, const char* component, wchar_t** value) {
@@ -151,7 +157,9 @@ ProError ProUIOptionmenuValueGet(const char* dialog, const char* component, wcha
       .Run([](const Call& call, const LiveDialog& live, const std::string& name, WidePlace place) {
         std::string item;
         const ProError status = Answer(call, live.state.GetOptionValue(name, &item), name);
-        if (status == PRO_TK_NO_ERROR) place = item;
+        if (status != PRO_TK_NO_ERROR) return status;
+        const bool by_label = call.host.habits.option_menu_answers_label;
+        place = by_label ? live.state.OptionLabel(name, item) : item;
         return status;
       });
 }

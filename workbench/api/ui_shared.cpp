@@ -40,6 +40,7 @@ ProError Answer(const Call& call, UiStatus status, const std::string& field) {
     case UiStatus::kOk:
       return PRO_TK_NO_ERROR;
     case UiStatus::kNoField:
+      if (call.host.habits.lacking_field_is_an_error) throw RefusedByHabit{PRO_TK_GENERAL_ERROR};
       call.Fail("the dialog has no component \"" + field + "\"");
     case UiStatus::kWrongKind:
       call.Fail("component \"" + field + "\" is of another kind");

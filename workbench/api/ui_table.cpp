@@ -7,11 +7,16 @@ namespace {
 // Longest label, in 16-bit characters: a position number ten thousand levels down has 20,000.
 constexpr size_t kLabelLimit = 32 * 1024;
 
-// A null neighbour stands for the start, as an empty one does.
+// A null neighbour stands for the start, as an empty one does, unless the host has another habit.
+// No value: it is refused.
 struct NeighbourIn : NarrowIn {
   explicit NeighbourIn(const char* name) : NarrowIn{name, "neighbour"} {}
-  std::string Look(const Call& call) const {
-    return text == nullptr ? std::string() : NarrowIn::Look(call);
+  std::optional<std::string> Look(const Call& call) const {
+    const Habits& habits = call.host.habits;
+    const std::string name = text == nullptr ? std::string() : NarrowIn::Look(call);
+    const bool refused = text == nullptr ? habits.null_neighbour_is_refused
+                                         : name.empty() && habits.empty_neighbour_is_refused;
+    return refused ? std::nullopt : std::optional(name);
   }
 };
 
@@ -45,8 +50,9 @@ ProError ProUITableRowsInsert(const char* dialog, const char* component, const c
                               int count, char** names) {
   return Crossing(__func__, TableIn(dialog, component), NeighbourIn(neighbour),
                   NamesIn{count, names})
-      .Run([](const Call& call, TableModel& table, const std::string& after, const Names& rows) {
-        return Answer(call, table.InsertRows(after, rows));
+      .Run([](const Call& call, TableModel& table, const std::optional<std::string>& after,
+              const Names& rows) {
+        return after ? Answer(call, table.InsertRows(*after, rows)) : PRO_TK_BAD_INPUTS;
       });
 }
 
@@ -63,12 +69,20 @@ ProError ProUITableRownamesGet(const char* dialog, const char* component, int* c
       .Run([](const TableModel& table, ListPlace<char> place) { place = table.RowNames(); });
 }
 
+ProError ProUITableRownamesSet(const char* dialog, const char* component, int count, char** names) {
+  return Crossing(__func__, TableIn(dialog, component), NamesIn{count, names})
+      .Run([](const Call& call, TableModel& table, const Names& rows) {
+        return Answer(call, table.SetRowNames(rows));
+      });
+}
+
 ProError ProUITableColumnsInsert(const char* dialog, const char* component, const char* neighbour,
                                  int count, char** names) {
   return Crossing(__func__, TableIn(dialog, component), NeighbourIn(neighbour),
                   NamesIn{count, names})
-      .Run([](const Call& call, TableModel& table, const std::string& after, const Names& columns) {
-        return Answer(call, table.InsertColumns(after, columns));
+      .Run([](const Call& call, TableModel& table, const std::optional<std::string>& after,
+              const Names& columns) {
+        return after ? Answer(call, table.InsertColumns(*after, columns)) : PRO_TK_BAD_INPUTS;
       });
 }
 

@@ -97,6 +97,23 @@ UiStatus Dialog::SetOptionValue(std::string_view name, const std::string& item) 
   return status == UiStatus::kOk ? choice->Select({item}) : status;
 }
 
+std::string Dialog::OptionLabel(std::string_view name, const std::string& item) const {
+  const Field* field = Lookup(name);
+  const auto* choice = field == nullptr ? nullptr : std::get_if<ChoiceState>(&field->state);
+  const std::string label = choice == nullptr ? std::string() : choice->LabelOf(item);
+  return label.empty() ? item : label;
+}
+
+std::string Dialog::OptionNamed(std::string_view name, const std::string& label) const {
+  const Field* field = Lookup(name);
+  const auto* choice = field == nullptr ? nullptr : std::get_if<ChoiceState>(&field->state);
+  if (choice == nullptr) return label;
+  for (const std::string& item : choice->Names()) {
+    if (choice->LabelOf(item) == label) return item;
+  }
+  return label;
+}
+
 bool Dialog::IsShown(const Field& component) const {
   const Field* at = &component;
   while (at && at->visible) at = at->parent.empty() ? nullptr : Lookup(at->parent);

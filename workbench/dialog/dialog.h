@@ -51,7 +51,11 @@ class Dialog {
   // Labels of buttons, label texts and group captions.
   UiStatus SetLabel(FieldKind kind, std::string_view name, std::string_view label);
   // The name of the item that an option menu shows; "" while it has no items.
+  // The selected item of an option menu by its name.
   UiStatus GetOptionValue(std::string_view name, std::string* item) const;
+  // The label of an item, and the item with a label; the text itself where there is none.
+  std::string OptionLabel(std::string_view name, const std::string& item) const;
+  std::string OptionNamed(std::string_view name, const std::string& label) const;
   UiStatus SetOptionValue(std::string_view name, const std::string& item);
 
   // --- The user's side. A component that is missing, hidden or greyed, itself or through the group

@@ -115,6 +115,13 @@ UiStatus TableModel::InsertRows(std::string_view after, const std::vector<std::s
   return UiStatus::kOk;
 }
 
+UiStatus TableModel::SetRowNames(const std::vector<std::string>& names) {
+  const auto none = [](const std::string&) { return false; };
+  if (!AreNewNames(names, none)) return UiStatus::kBadArgument;
+  DeleteRows(RowNames());
+  return InsertRows({}, names);
+}
+
 UiStatus TableModel::DeleteRows(const std::vector<std::string>& names) {
   for (const std::string& name : names) {
     if (row_index_.count(name) == 0) return UiStatus::kNotFound;

@@ -61,6 +61,8 @@ class TableModel {
 
   // Inserts after column or row `after`; an empty `after` inserts at the start.
   UiStatus InsertColumns(std::string_view after, const std::vector<std::string>& names);
+  // Makes these the rows, all blank.
+  UiStatus SetRowNames(const std::vector<std::string>& names);
   UiStatus InsertRows(std::string_view after, const std::vector<std::string>& names);
   UiStatus DeleteColumns(const std::vector<std::string>& names);
   UiStatus DeleteRows(const std::vector<std::string>& names);

@@ -66,6 +66,8 @@ ProError CaughtInCrossing(Host& host, const char* function, bool user_acted) {
     // Only what the user has just taken away is no fault of the plug-in's.
     if (!user_acted || !misuse.stale) host.ReportBreach(function, misuse.why);
     return PRO_TK_BAD_INPUTS;
+  } catch (const RefusedByHabit& refused) {
+    return refused.status;
   } catch (const NotModelled& gap) {
     host.events.Add(Gap{"workbench: not modelled: " + std::string(function) + ": " + gap.what});
     return PRO_TK_NOT_IMPLEMENTED;

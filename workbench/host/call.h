@@ -29,6 +29,11 @@ struct NotModelled {
   std::string what;
 };
 
+// Thrown where the host answers a failing status by a habit of its own: no breach.
+struct RefusedByHabit {
+  ProError status;
+};
+
 std::string DescribeArgument(const char* text);
 std::string DescribeArgument(const wchar_t* text);
 std::string DescribeArgument(int number);
@@ -133,7 +138,7 @@ class Crossing : CrossingBase {
 
   template <typename Body>
   ProError Run(Body&& body) {
-    const ProError status = Begin() ? GuardedRun(body) : Refused();
+    const ProError status = Begin() ? GuardedRun(body) : Struck();
     if (host_.trace.keep_lines) {
       host_.trace.Leave(call_, function_, Describe(), status);
     } else {
@@ -176,7 +181,7 @@ class Crossing : CrossingBase {
   }
   // What a fault makes of the call: an argument that is given back is not held against the plug-in,
   // and places are emptied by a success that gives nothing.
-  ProError Refused() {
+  ProError Struck() {
     if (fault_ == nullptr) return PRO_TK_GENERAL_ERROR;
     const auto each = [this](const auto& argument) {
       if constexpr (requires { argument.Forgive(host_); }) argument.Forgive(host_);

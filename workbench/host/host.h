@@ -14,6 +14,7 @@
 #include "workbench/host/automation.h"
 #include "workbench/host/commands.h"
 #include "workbench/host/events.h"
+#include "workbench/host/habits.h"
 #include "workbench/host/live_dialog.h"
 #include "workbench/host/message_area.h"
 #include "workbench/host/user.h"
@@ -44,6 +45,7 @@ struct Host {
   std::filesystem::path install_folder;                     // holds the DLL, text/ and QMconfig/
   std::string language = "chinese_cn";                      // folder of the message files
   std::map<std::string, std::vector<std::string>> options;  // configuration options, lower case
+  Habits habits;
   int forced_mode = -1;  // mode to report; -1: by the current model
 
   std::unordered_set<PickedItem*> picked;  // live selections

@@ -51,7 +51,9 @@ std::vector<ModelName> FolderIndex::Models() const {
 bool Session::ChangeDirectory(const std::filesystem::path& folder) {
   std::error_code error;
   if (!std::filesystem::is_directory(folder, error)) return false;
-  working_directory_ = folder;
+  // With or without a closing separator it is the same folder.
+  const bool closed = !folder.has_filename() && folder.has_relative_path();
+  working_directory_ = closed ? folder.parent_path() : folder;
   return true;
 }
 

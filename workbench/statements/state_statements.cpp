@@ -45,6 +45,19 @@ void ConfigFolderMissing(ScriptRun& run, const Statement&) {
   std::filesystem::remove_all(run.Installed() / "QMconfig");
 }
 
+void Habit(ScriptRun& run, const Statement& statement) {
+  std::vector<std::string> words;
+  for (const HabitRow& row : HabitRows()) {
+    if (statement.Text("NAME") == row.word) {
+      run.host.habits.*row.habit = statement.Text("STATE") == "on";
+      return;
+    }
+    words.push_back(row.word);
+  }
+  throw ScriptError("the host has no habit \"" + statement.Text("NAME") +
+                    "\" that scripts switch; it has " + Join(", ", words));
+}
+
 void Mode(ScriptRun& run, const Statement& statement) {
   run.host.forced_mode = *NumberOf(ModeWords(), statement.Text("MODE"));
 }
@@ -77,6 +90,7 @@ constexpr StatementForm kForms[] = {
     {"setting FILE SECTION KEY TEXT",                 kTopPlace, &Setting},
     {"config_folder missing",                         kTopPlace, &ConfigFolderMissing},
     {"config_file FILE missing",                      kTopPlace, &ConfigFileMissing},
+    {"habit NAME STATE:on|off",                       kTopPlace, &Habit},
     {"mode MODE",                                     kTopPlace, &Mode},
     {"language LANGUAGE:chinese|english",             kTopPlace, &Language},
     {"clipboard text TEXT",                           kTopPlace, &Clipboard},

@@ -27,13 +27,13 @@ ProMdl PickedModel() {
 
 // Null, after a message when the preselection is to blame, when there is no model to name.
 ProMdl SelectedModel() {
-  SelectionArray selected;
-  if (!Ok(ProSelbufferSelectionsGet(selected.put()))) return PickedModel();
-  if (selected.size() != 1) {
+  const auto selected = ReadPreselection();
+  if (!selected) return PickedModel();
+  if (selected->size() != 1) {
     ShowMessage(L"\t当前模式只能选择1个元件\t");
     return nullptr;
   }
-  return ComponentModelOf(selected[0]);
+  return ComponentModelOf((*selected)[0]);
 }
 
 ProMdl ModelToName() {

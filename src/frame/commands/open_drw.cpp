@@ -14,9 +14,9 @@ namespace {
 
 // The one preselected assembly or part; null when something else is preselected.
 ProMdl PreselectedModel() {
-  SelectionArray selected;
-  if (!Ok(ProSelbufferSelectionsGet(selected.put())) || selected.size() != 1) return nullptr;
-  auto item = ItemOf(selected[0]);
+  const auto selected = ReadPreselection();
+  if (!selected || selected->size() != 1) return nullptr;
+  auto item = ItemOf((*selected)[0]);
   if (!item || (item->type != PRO_ASSEMBLY && item->type != PRO_PART)) return nullptr;
   ProMdl model = nullptr;
   return Ok(ProModelitemMdlGet(&*item, &model)) ? model : nullptr;

@@ -1,10 +1,8 @@
 // QmSetDirectory: the current model's folder becomes the working directory.
 #include "frame/commands/set_directory.h"
 
-#include <string>
-
 #include "frame/messages/message_area.h"
-#include "frame/text/directory_rules.h"
+#include "frame/models/model_folder.h"
 #include "frame/text/fixed_text.h"
 #include "toolkit/model.h"
 #include "toolkit/status.h"
@@ -17,13 +15,10 @@ ProError QmSetDirectory() {
   ProError status = ProMdlCurrentGet(&model);
   if (!Ok(status)) return status;
   if (model == nullptr) return PRO_TK_E_NOT_FOUND;
-  ProMdldata data = {};
-  status = ProMdlDataGet(model, &data);
-  if (!Ok(status)) return status;
-  const std::wstring folder = ModelFolder(FixedText(data.device), FixedText(data.path));
-  if (folder.empty() || folder.size() >= PRO_PATH_SIZE) return PRO_TK_INVALID_DIR;
+  const auto folder = FolderOf(model);
+  if (!folder || folder->empty() || folder->size() >= PRO_PATH_SIZE) return PRO_TK_INVALID_DIR;
   ProPath path = {};
-  FillFixedText(folder, path);
+  FillFixedText(*folder, path);
   status = ProDirectoryChange(path);
   if (Ok(status)) DisplayNote("Directory has changed to:%0w", path);
   return status;

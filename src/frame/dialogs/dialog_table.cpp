@@ -62,10 +62,24 @@ std::optional<std::vector<std::string>> DialogTable::SelectedRows() const {
   return Gathered<NameList>(ProUITableSelectednamesGet, dialog_.name(), component_);
 }
 
+ProError DialogTable::InsertFirstRow(char** names) const {
+  // Which neighbour stands for the start is not certain: null, then an empty name; a host that
+  // takes neither is told what the rows are, which is the same while there are none.
+  ProError status = ProUITableRowsInsert(dialog_.name(), component_.c_str(), nullptr, 1, names);
+  if (Ok(status)) return status;
+  status = ProUITableRowsInsert(dialog_.name(), component_.c_str(), "", 1, names);
+  if (Ok(status)) return status;
+  const auto rows = RowNames();
+  if (!rows || !rows->empty()) return status;
+  return ProUITableRownamesSet(dialog_.name(), component_.c_str(), 1, names);
+}
+
 bool DialogTable::InsertRow(const std::string& neighbour, std::string name) const {
   char* names[] = {name.data()};
-  return Done("ProUITableRowsInsert", ProUITableRowsInsert(dialog_.name(), component_.c_str(),
-                                                           neighbour.c_str(), 1, names));
+  return Done("ProUITableRowsInsert", neighbour.empty()
+                                          ? InsertFirstRow(names)
+                                          : ProUITableRowsInsert(dialog_.name(), component_.c_str(),
+                                                                 neighbour.c_str(), 1, names));
 }
 
 bool DialogTable::DeleteAllRows() const {

@@ -43,6 +43,8 @@ class DialogTable {
   bool SetColor(const std::string& row, const std::string& column, ProUIColorType color) const;
 
  private:
+  ProError InsertFirstRow(char** names) const;
+
   DialogView dialog_;
   std::string component_;
 };

@@ -158,7 +158,7 @@ class ComponentCollector {
       LogFailure(model, "ProMdlTypeGet", status);
     }
     if (kind_ == ComponentKind::kSheetMetal && node.type != PRO_MDL_ASSEMBLY) {
-      ProMdlsubtype subtype = PROMDLSTYPE_NONE;
+      ProMdlsubtype subtype = PROMDLSTYPE_UNUSED;
       node.sheet_metal =
           Ok(ProMdlSubtypeGet(model, &subtype)) && subtype == PROMDLSTYPE_PART_SHEETMETAL;
     }

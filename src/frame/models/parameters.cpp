@@ -1,6 +1,8 @@
 // The host's parameter records and calls.
 #include "frame/models/parameters.h"
 
+#include <cstring>
+
 #include "frame/messages/run_log.h"
 #include "toolkit/status.h"
 
@@ -36,8 +38,11 @@ ProParamvalue HostValue(const ParamValue& value) {
 }
 
 ParameterResult FindParameter(ProModelitem owner, HostName& name, ProParameter* parameter) {
+  *parameter = {};
   const ProError status = ProParameterInit(&owner, name.name, parameter);
-  const bool filled = parameter->owner.who.item.owner != nullptr;
+  // By the whole record: the places of its members are not certain.
+  static constexpr ProParameter kUntouched = {};
+  const bool filled = std::memcmp(parameter, &kUntouched, sizeof(kUntouched)) != 0;
   return {"ProParameterInit", Ok(status) && !filled ? PRO_TK_GENERAL_ERROR : status};
 }
 

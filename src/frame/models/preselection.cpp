@@ -5,6 +5,12 @@
 
 namespace qm {
 
+std::optional<SelectionArray> ReadPreselection() {
+  SelectionArray selected;
+  const bool is_read = Ok(ProSelbufferSelectionsGet(selected.put())) && selected.size() > 0;
+  return is_read ? std::optional(std::move(selected)) : std::nullopt;
+}
+
 std::optional<ProModelitem> ItemOf(ProSelection selection) {
   ProModelitem item = {PRO_TYPE_INVALID, -1, nullptr};
   if (selection == nullptr || !Ok(ProSelectionModelitemGet(selection, &item))) return std::nullopt;

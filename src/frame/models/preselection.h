@@ -7,6 +7,10 @@
 
 namespace qm {
 
+// What is preselected; nothing when the buffer cannot be read. Deliberately a success without
+// selections counts as such a failure: hosts answer an empty buffer either way.
+std::optional<SelectionArray> ReadPreselection();
+
 // Item of a selection; nothing when the host does not tell.
 std::optional<ProModelitem> ItemOf(ProSelection selection);
 

@@ -91,7 +91,8 @@ TEST_F(CommandsTest, MisusesAreNamed) {
       {"ProMenubarmenuPushbuttonAdd: empty button name", [&] { return AddButton("Help", ""); }},
       {"ProPopupmenuButtonAdd: there is no popup menu with id 9",
        [&] {
-         return ProPopupmenuButtonAdd(9, -1, "B", menu_file, menu_file, known, nullptr, nullptr);
+         return ProPopupmenuButtonAdd(reinterpret_cast<ProPopupMenuId>(9), -1, "B", menu_file,
+                                      menu_file, known, nullptr, nullptr);
        }},
   };
   for (const Refused& row : kRefused) {

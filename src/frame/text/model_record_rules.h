@@ -1,0 +1,16 @@
+// The folder in a record of the host whose layout is not certain: read by where known texts stand.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace qm {
+
+// `record` is the host's record of a model's data as characters, zeroed before the host filled it;
+// `name` the model's name, which must stand at the place of one of the two orders that are known.
+// Then the text with a separator is the path, and a drive letter, with or without its colon, the
+// device. No value: the record has another order and says nothing.
+std::optional<std::wstring> FolderInModelRecord(std::wstring_view record, std::wstring_view name);
+
+}  // namespace qm

@@ -1,0 +1,27 @@
+// Habits of the host that its published interface leaves open: what the plug-in must bear either
+// way. A script switches each of them; off is what the workbench does by itself.
+#pragma once
+
+#include <span>
+
+namespace wb {
+
+struct Habits {
+  bool radio_without_choice_succeeds = false;  // with no names, instead of "not found"
+  bool empty_preselection_succeeds = false;    // with no selections, instead of "not found"
+  bool second_registration_fails = false;      // of a command name that is registered
+  bool empty_neighbour_is_refused = false;     // of a table's rows and columns; null is not
+  bool null_neighbour_is_refused = false;
+  bool option_menu_answers_label = false;     // instead of the name of the item
+  bool lacking_field_is_an_error = false;     // a failing status, instead of a misuse
+  bool model_data_has_name_first = false;     // the other known order of the record's texts
+  bool model_data_has_unknown_order = false;  // neither of the two
+};
+
+struct HabitRow {
+  const char* word;
+  bool Habits::*habit;
+};
+std::span<const HabitRow> HabitRows();
+
+}  // namespace wb
