@@ -61,10 +61,11 @@ constexpr StatementForm kForms[] = {
 // clang-format on
 
 [[noreturn]] void Refuse(const std::string& text, const std::string& why) {
-  throw UsageError("--fault " + text + ": " + why +
-                   "; it wants FUNCTION:NTH:STATUS, for example ProMdlNameGet:2:general_error or, "
-                   "with any function, an empty success and no end, any:5:empty:from_then_on, or, for "
-                   "the plug-in's own memory, allocation:5[:from_then_on]");
+  throw UsageError(
+      "--fault " + text + ": " + why +
+      "; it wants FUNCTION:NTH:STATUS, for example ProMdlNameGet:2:general_error or, "
+      "with any function, an empty success and no end, any:5:empty:from_then_on, or, for "
+      "the plug-in's own memory, allocation:5[:from_then_on]");
 }
 
 bool IsOfAllocations(const std::vector<ScriptWord>& words) {
@@ -82,7 +83,8 @@ std::vector<ScriptWord> StatementWords(const std::string& text) {
   }
   constexpr size_t kStatusPlace = 3;
   const bool is_cut_short = words.size() < kStatusPlace;
-  if (!is_cut_short && !IsOfAllocations(words) && (words.size() == kStatusPlace || words[kStatusPlace].text != "empty")) {
+  if (!is_cut_short && !IsOfAllocations(words) &&
+      (words.size() == kStatusPlace || words[kStatusPlace].text != "empty")) {
     words.insert(words.begin() + kStatusPlace, {"status"});
   }
   return words;

@@ -1,12 +1,12 @@
 // The run log: a plain UTF-8 file "Quillmax\quillmax.log" in the user's local application data
 // folder. At 1 MB it becomes "quillmax.old.log" and a new one begins. Logging shows no box, fails
-// no command and lets no exception out.
+// no command and lets no exception out; lines of a text that is there already need no memory.
 #pragma once
 
 #include <chrono>
-#include <string>
 #include <string_view>
 
+#include "frame/text/fixed_line.h"
 #include "toolkit/types.h"
 
 namespace qm {
@@ -41,16 +41,14 @@ class CommandLog {
   friend bool CountFailure() noexcept;
   friend void LogCount(const char*, long long) noexcept;
 
-  void AddLine(std::string_view text);
-  std::string ClosingLine() const;
+  void AddClosingLine() const;
 
   const char* name_;
   CommandLog* outer_;
   std::chrono::steady_clock::time_point start_;
   ProError status_ = PRO_TK_NO_ERROR;
   long long failures_ = 0;
-  std::string counts_;
-  std::string pending_;
+  FixedLine<256> counts_;
 };
 
 }  // namespace qm
