@@ -19,7 +19,7 @@ namespace {
 // The first sweep of a script takes a dense beginning, since what all commands do at first is the
 // same; of the others a few are spread over the whole.
 constexpr long kDense = 64;
-constexpr long kSparse = 2;
+constexpr long kSparse = 6;
 constexpr const char* kCleanEnd = "1 passed, 0 failed";
 
 struct Tally {
