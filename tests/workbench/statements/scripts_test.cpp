@@ -196,7 +196,7 @@ TEST(AllocationSweeps, TellSuccessWithoutTheWorkAndWithoutAWord) {
       "fault allocation 2\nrun Wrong\n",
       {"--plugin", WrongPlugin("silent_memory")});
   for (const char* told :
-       {"scripts_test.qms:2: fault allocation 1 (no call was the last call): it answered success "
+       {"scripts_test.qms:2: fault allocation 1 (none was the last call): it answered success "
         "without its work and without a word\n",
         "scripts_test.qms:2: fault allocation 1 from_then_on",
         "scripts_test.qms:6: the fault ordered for it did not strike\n"}) {
