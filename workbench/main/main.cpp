@@ -24,9 +24,13 @@ constexpr Subcommand kSubcommands[] = {
                  "    reads a STEP file and writes its models into DIR; with --force as next versions\n"
                  "    beside models of the same names", &ImportCommand},
     {"run",      "run SCRIPT... [--out DIR] [--report FILE.html] [--trace FILE] [--plugin DLL]\n"
-                 "    [--install DIR] [--fault FUNCTION:NTH:STATUS[:from_then_on]]\n"
+                 "    [--install DIR] [--fault FUNCTION:NTH:STATUS[:from_then_on]] [--all-allocations]\n"
+                 "    [--first-run LINE:NTH[:from_then_on]]\n"
                  "    runs scripts on copies of the install tree and closes with \"N passed, N failed\"",
                  &RunScriptsCommand},
+    {"memory",   "memory SCRIPT... [--all] [--plugin DLL] [--install DIR]\n"
+                 "    runs the commands whose allocations a script sweeps for the first time, each time in\n"
+                 "    a process of its own with another allocation failed", &MemoryCommand},
     {"commands", "commands [--english] [--plugin DLL] [--install DIR]\n"
                  "    lists the plug-in's menu and where each command is available", &ListCommandsCommand},
     {"bench",    "bench [options]\n"

@@ -1,6 +1,7 @@
 // `workbench run`: runs scripts, says what failed, and closes with "N passed, N failed".
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <sstream>
 
 #include "workbench/base/text.h"
@@ -19,6 +20,7 @@ namespace {
 
 // A batch command on a large assembly may be at work for minutes between two statements.
 constexpr unsigned kHangSeconds = 600;
+constexpr unsigned kFirstRunHangSeconds = 60;
 
 void PrintFailures(const RunRecord& record, size_t from) {
   for (size_t i = from; i < record.failures.size(); ++i) {
@@ -83,11 +85,26 @@ void RunApart(const std::string& script, const CommandLine& line, RunRecord& rec
   TakeOver(script, OutputOf(ProgramFile(), arguments).value_or(""), record);
 }
 
+// "LINE[:NTH[:from_then_on]]".
+MemorySweepOptions FirstRunOption(const std::string& text) {
+  MemorySweepOptions options;
+  if (text.empty()) return options;
+  const size_t colon = std::min(text.find(':'), text.size());
+  options.first_run_line = std::atoi(text.substr(0, colon).c_str());
+  if (options.first_run_line <= 0) throw UsageError("--first-run wants LINE[:NTH[:from_then_on]]");
+  if (colon == text.size()) return options;
+  const FaultPlan plan = FaultOption("allocation" + text.substr(colon));
+  options.nth = plan.nth;
+  options.from_then_on = plan.from_then_on;
+  return options;
+}
+
 }  // namespace
 
 int RunScriptsCommand(const CommandArguments& arguments) {
-  const CommandLine line(arguments, {},
-                         {"--out", "--report", "--trace", "--plugin", "--install", "--fault"});
+  const CommandLine line(
+      arguments, {"--all-allocations"},
+      {"--out", "--report", "--trace", "--plugin", "--install", "--fault", "--first-run"});
   if (line.words().empty()) throw UsageError("run wants one script or more");
   ScriptOptions options;
   options.install = InstallTree(line);
@@ -96,6 +113,8 @@ int RunScriptsCommand(const CommandArguments& arguments) {
   options.trace = line.Path("--trace");
   options.record = line.Has("--report");
   options.fault = FaultOption(line.Value("--fault"));
+  options.memory = FirstRunOption(line.Value("--first-run"));
+  options.memory.all = line.Has("--all-allocations");
   if (!options.trace.empty()) std::filesystem::remove(options.trace);
 
   RunRecord record;
@@ -103,7 +122,7 @@ int RunScriptsCommand(const CommandArguments& arguments) {
   record.facts.emplace_back("Plug-in",
                             PathToUtf8(options.plugin.empty() ? options.install : options.plugin));
   record.facts.emplace_back("Code page", std::to_string(AnsiCodePage()));
-  WatchForHangs(kHangSeconds);
+  WatchForHangs(line.Has("--first-run") ? kFirstRunHangSeconds : kHangSeconds);
   bool readable = true;
   const bool alone = line.words().size() == 1;
   for (const std::string& script : line.words()) {

@@ -22,6 +22,16 @@
 
 namespace wb {
 
+// What sweeps of allocations do in this process.
+struct MemorySweepOptions {
+  bool all = false;  // fails every allocation instead of a sample
+  // The sweep in this line, and no other, runs its command for the first time with one fault, and
+  // then without any; 0: all sweeps run, warm.
+  int first_run_line = 0;
+  long nth = 0;  // 0: only counts
+  bool from_then_on = false;
+};
+
 struct ScriptOptions {
   std::filesystem::path install;  // the install tree; every script works on a copy of its own
   std::filesystem::path plugin;   // a DLL to run instead of the tree's; empty: the tree's
@@ -29,6 +39,7 @@ struct ScriptOptions {
   std::filesystem::path trace;    // file that takes the calls of every action; empty: none
   bool record = false;            // collects what a report shows
   FaultPlan fault;                // met by every action without one of its own; nth 0: none
+  MemorySweepOptions memory;
 };
 
 // A statement that cannot be carried out; the script ends there.

@@ -31,7 +31,8 @@ Hook HookRow(const char* name, std::type_identity_t<Function>* replacement,
   FAMILY(ComHooks)               \
   FAMILY(FileDialogHooks)        \
   FAMILY(SettingsHooks)          \
-  FAMILY(ModuleHooks)
+  FAMILY(ModuleHooks)            \
+  FAMILY(HeapHooks)
 
 #define WB_DECLARE_FAMILY(Family) HookRows Family();
 WB_HOOK_FAMILIES(WB_DECLARE_FAMILY)

@@ -2,11 +2,11 @@
 #include "frame/guard/shield.h"
 
 #include <exception>
-#include <string>
 
 #include "frame/guard/busy.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
+#include "frame/text/fixed_line.h"
 
 namespace qm {
 namespace {
@@ -21,7 +21,13 @@ void LogException(const char* where) noexcept {
     try {
       throw;
     } catch (const std::exception& error) {
-      LogEvent("internal error in " + std::string(where) + ": " + error.what());
+      // Memory may be what has run out.
+      FixedLine<512> line;
+      line += "internal error in ";
+      line += where;
+      line += ": ";
+      line += error.what();
+      LogEvent(line.text());
     }
   } catch (...) {
     LogEvent("internal error");

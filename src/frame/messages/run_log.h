@@ -1,12 +1,12 @@
 // The run log: a plain UTF-8 file "Quillmax\quillmax.log" in the user's local application data
 // folder. At 1 MB it becomes "quillmax.old.log" and a new one begins. Logging shows no box, fails
-// no command and lets no exception out.
+// no command and lets no exception out; lines of a text that is there already need no memory.
 #pragma once
 
 #include <chrono>
-#include <string>
 #include <string_view>
 
+#include "frame/text/fixed_line.h"
 #include "toolkit/types.h"
 
 namespace qm {
@@ -55,9 +55,8 @@ class CommandLog {
   friend void LogOutcome(const char*) noexcept;
   friend void LogBox(const wchar_t*) noexcept;
 
-  void AddLine(std::string_view text);
-  std::string ClosingLine() const;
-  std::string Outcome() const;
+  void AddClosingLine() const;
+  void AddOutcome(FixedLine<1024>* line) const;
 
   const char* name_;
   CommandLog* outer_;
@@ -68,8 +67,7 @@ class CommandLog {
   bool stopped_ = false;  // by an exception
   const char* outcome_ = nullptr;
   wchar_t box_[96] = {};  // the beginning of the last box's text
-  std::string counts_;
-  std::string pending_;
+  FixedLine<256> counts_;
 };
 
 }  // namespace qm

@@ -155,6 +155,8 @@ TEST(FaultOptions, AreReadAndRefusedAsTheStatementIs) {
       {"ProMdlNameGet:2", "STATUS is missing at its end; it wants"},
       {"ProMdlNameGet", "NTH is missing at its end; it wants"},
       {"any:1:empty:for_ever", "\"for_ever\" is one word too many; it wants"},
+      {"allocation:0", "\"0\" is not a count from 1; it wants"},
+      {"allocation:2:empty", "\"empty\" is one word too many; it wants"},
       {":1:empty", "neither the host nor the intercepted part of Windows has"},
   };
   for (const auto& item : cases) {
@@ -166,6 +168,8 @@ TEST(FaultOptions, AreReadAndRefusedAsTheStatementIs) {
   EXPECT_EQ(plan.nth, 3);
   EXPECT_EQ(plan.status, -10);
   EXPECT_TRUE(plan.from_then_on);
+  EXPECT_EQ(FaultOption("allocation:3:from_then_on").kind, FaultKind::kNoMemory);
+  EXPECT_TRUE(FaultOption("allocation:3:from_then_on").from_then_on);
   EXPECT_EQ(FaultOption("any:5:empty").function, "");
   EXPECT_EQ(FaultOption("any:5:empty").kind, FaultKind::kEmptySuccess);
 }
@@ -179,6 +183,48 @@ TEST(FaultOptions, ThatStrikeInNoActionFailTheScript) {
       FailuresOf(script, {"--fault", "ProMdlNameGet:9:general_error"}),
       "scripts_test.qms:7: the fault that the command line orders struck in no action of this "
       "script\n");
+}
+
+// Plug-ins that do wrong when an allocation fails lie beside this program.
+std::string WrongPlugin(const char* stem) {
+  return PathToUtf8(TestBinaryFolder() / (std::string("wrong_") + stem + ".dll"));
+}
+
+TEST(AllocationSweeps, TellSuccessWithoutTheWorkAndWithoutAWord) {
+  const std::string failures = FailuresOf(
+      "make_folder elsewhere\nsweep allocations of Wrong\nfault allocation 1\nrun Wrong\n"
+      "fault allocation 2\nrun Wrong\n",
+      {"--plugin", WrongPlugin("silent_memory")});
+  for (const char* told :
+       {"scripts_test.qms:2: fault allocation 1 (none was the last call): it answered success "
+        "without its work and without a word\n",
+        "scripts_test.qms:2: fault allocation 1 from_then_on",
+        "scripts_test.qms:6: the fault ordered for it did not strike\n"}) {
+    EXPECT_NE(failures.find(told), std::string::npos) << failures;
+  }
+  EXPECT_EQ(failures.find("qms:4: "), std::string::npos) << failures;
+}
+
+TEST(FirstRuns, CountAProcessThatDiesAndOneThatDoesWrong) {
+  const fs::path file = fs::temp_directory_path() / "first_runs.qms";
+  std::ofstream(file) << "make_folder elsewhere\nsweep allocations of Wrong\n";
+  const struct {
+    const char* plugin;
+    const char* told;
+    const char* count;
+  } cases[] = {
+      {"abort", "plug-in aborted in Wrong", "\n0 passed, 1 failed"},
+      {"silent_memory", "allocation 1:from_then_on:", "\n1 passed, 2 failed"},
+  };
+  for (const auto& item : cases) {
+    const std::string output =
+        OutputOf(TestBinaryFolder() / "workbench.exe",
+                 {"memory", PathToUtf8(file), "--plugin", WrongPlugin(item.plugin)})
+            .value_or("");
+    EXPECT_NE(output.find(item.told), std::string::npos) << output;
+    EXPECT_NE(output.find(item.count), std::string::npos) << output;
+  }
+  fs::remove(file);
 }
 
 TEST(ScriptRunner, NothingRunsOfAScriptWithErrors) {
