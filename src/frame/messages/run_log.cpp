@@ -251,6 +251,5 @@ void CommandLog::AddOutcome(FixedLine<1024>* line) const {
     *line += left_out_ > 0 ? "done in part" : "done";
   }
 }
-}
 
 }  // namespace qm
