@@ -7,8 +7,8 @@ rem
 rem The shipped copy is GB2312 with CRLF: its Chinese bytes are never a character that the
 rem command processor gives a meaning to, whatever code page the machine has.
 rem protk.dat is written in the system's ANSI code page, as Creo reads files without a
-rem byte order mark; UNICODE_ENCODING speaks of the narrow texts that the plug-in passes, not of
-rem this file. Delayed expansion is on only where a path is echoed without quotes.
+rem byte order mark; UNICODE_ENCODING speaks of the narrow texts that the plug-in passes, which are
+rem in that code page, too. Delayed expansion is on only where a path is echoed without quotes.
 setlocal EnableExtensions DisableDelayedExpansion
 set "here=%~dp0"
 set "here=%here:~0,-1%"
@@ -41,7 +41,7 @@ setlocal EnableDelayedExpansion
 >> "!registry!" echo EXEC_FILE !here!\!dll!
 >> "!registry!" echo TEXT_DIR !here!
 >> "!registry!" echo STARTUP dll
->> "!registry!" echo UNICODE_ENCODING TRUE
+>> "!registry!" echo UNICODE_ENCODING FALSE
 >> "!registry!" echo ALLOW_STOP TRUE
 >> "!registry!" echo DELAY_START FALSE
 >> "!registry!" echo END
@@ -51,8 +51,13 @@ if not exist "%registry%" goto not_writable
 
 rem Settings that are there stay; those that are missing are copied from the shipped ones.
 set "settings=%here%\QMconfig"
-set "failed="
-for %%f in ("%settings%\defaults\*") do if not exist "%settings%\%%~nxf" copy "%%~f" "%settings%\%%~nxf" >nul 2>nul || set "failed=yes"
+pushd "%settings%\defaults"
+if errorlevel 1 goto no_settings
+set "failed=yes"
+for %%f in (*) do set "failed="
+for %%f in (*) do if not exist "%settings%\%%f" copy "%%f" "%settings%\%%f" >nul 2>nul
+for %%f in (*) do if not exist "%settings%\%%f" set "failed=yes"
+popd
 if defined failed goto no_settings
 
 echo.

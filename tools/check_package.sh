@@ -41,7 +41,7 @@ for shipped in "$settings"/defaults/*; do
   [ "$name" = QmBom.ini ] || cmp "$shipped" "$settings/$name" || fail "$name was not put in place"
 done
 # The file is in the system's code page: compared as bytes.
-for line in 'EXEC_FILE .*quillmax5.1C3.dll' 'STARTUP dll' 'UNICODE_ENCODING TRUE'; do
+for line in 'EXEC_FILE .*quillmax5.1C3.dll' 'STARTUP dll' 'UNICODE_ENCODING FALSE'; do
   LC_ALL=C grep -aq "^$line" "$tree/protk.dat" || fail "protk.dat has no line $line"
 done
 

@@ -43,8 +43,8 @@ ProMdl ModelAt(ProMdl root, ProAsmcomppath& whole, int count) {
 std::optional<bool> MayBeComponent(ProModelitem& item) {
   if (item.type == PRO_PART || item.type == PRO_ASSEMBLY) return true;
   if (item.type != PRO_FEATURE) return false;
-  ProFeattype type = 0;
-  if (!Ok(ProFeatureTypeGet(&item, &type))) return std::nullopt;
+  ProFeattype type = 0;  // none of the host's
+  if (!Ok(ProFeatureTypeGet(&item, &type)) || type == 0) return std::nullopt;
   return type == PRO_FEAT_COMPONENT;
 }
 
@@ -172,7 +172,10 @@ ProError QmIsolate() {
     return Ok(status) ? CollectInside(selected.components, &inside) : status;
   };
   Opening opening = OpenAssembly(*root, collect, kNoComponents);
-  if (opening.components.empty()) return opening.status;
+  if (opening.components.empty()) {
+    NoteLeftOut(selected.left_out);
+    return opening.status;
+  }
   opening.left_out = selected.left_out + CountLeftOut(opening.components, inside);
   LogCount("selected", static_cast<long long>(selected.components.size()));
   HideParts(opening.components);

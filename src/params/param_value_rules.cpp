@@ -12,11 +12,11 @@
 namespace qm {
 namespace {
 
-constexpr wchar_t kEmptyName[] = L"请输入参数名称!";
-constexpr wchar_t kLongName[] = L"参数名称不能超过31个字符,请重新输入!";
-constexpr wchar_t kLongText[] = L"字符串参数值不能超过80个字符,请重新输入!";
-constexpr wchar_t kUnknownType[] = L"请选择参数类型:整数、实数、字符串或是/否!";
-constexpr wchar_t kHugeReal[] = L"实数参数值超出范围,请重新输入!";
+constexpr wchar_t kEmptyName[] = L"请输入参数名称！";
+constexpr wchar_t kLongName[] = L"参数名称不能超过31个字符，请重新输入！";
+constexpr wchar_t kLongText[] = L"字符串参数值不能超过80个字符，请重新输入！";
+constexpr wchar_t kUnknownType[] = L"请选择参数类型：整数、实数、字符串或是/否！";
+constexpr wchar_t kHugeReal[] = L"实数参数值超出范围，请重新输入！";
 constexpr wchar_t kNoBoolean[] = L"布尔类型参数值不能为空,请输入'YES'或'NO'!";
 constexpr wchar_t kBadBoolean[] = L"布尔类型参数值只可为'YES'或'NO',请重新输入!";
 

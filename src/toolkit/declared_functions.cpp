@@ -2,8 +2,6 @@
 // macro that lists them.
 #if !defined(QM_VENDOR_SDK)
 
-#include <algorithm>
-#include <array>
 #include <utility>
 
 // Its first use stands before all declarations, so that they are numbered from 0.

@@ -18,6 +18,8 @@ namespace {
 constexpr char kNumberColumn[] = "num";
 constexpr wchar_t kNumberLabel[] = L"序号";
 constexpr wchar_t kQuantityLabel[] = L"模型数量";
+constexpr wchar_t kPositionLabel[] = L"层级1";
+constexpr wchar_t kLevelLabel[] = L"层级2";
 
 enum class ColumnSource { kParameter, kNumber, kName, kQuantity, kPosition, kLevel };
 
@@ -29,8 +31,8 @@ struct FixedLabel {
 constexpr FixedLabel kFixedLabels[] = {
     {kNameLabel, ColumnSource::kName, false},
     {kQuantityLabel, ColumnSource::kQuantity, false},
-    {L"层级1", ColumnSource::kPosition, true},
-    {L"层级2", ColumnSource::kLevel, true},
+    {kPositionLabel, ColumnSource::kPosition, true},
+    {kLevelLabel, ColumnSource::kLevel, true},
 };
 
 struct BillColumn {
@@ -134,7 +136,9 @@ class RowWriter {
 }  // namespace
 
 bool MayBeBlank(const std::string& column, const std::wstring& label) {
-  return column != kNumberColumn && label != kNameLabel && label != kQuantityLabel;
+  constexpr const wchar_t* kNeverBlank[] = {kNameLabel, kQuantityLabel, kPositionLabel,
+                                            kLevelLabel};
+  return column != kNumberColumn && std::ranges::find(kNeverBlank, label) == std::end(kNeverBlank);
 }
 
 long long SetBillColumns(const DialogTable& table, BillKind kind) {

@@ -90,9 +90,9 @@ void ShowRowModel(const DialogView& dialog) {
   const auto names = table.ColumnNames();
   const auto labels = table.ColumnLabels();
   const auto rows = table.SelectedRows();
-  if (!names || !labels || !rows || rows->empty()) return;
+  if (!names || !labels || !rows || rows->empty()) return LogOutcome("nothing shown");
   const auto column = static_cast<size_t>(std::ranges::find(*labels, kNameLabel) - labels->begin());
-  if (column >= std::min(labels->size(), names->size())) return;
+  if (column >= std::min(labels->size(), names->size())) return LogOutcome("nothing shown");
   const auto name = table.Label(rows->front(), (*names)[column]);
   const auto color = table.Color(rows->front(), (*names)[column]);
   // Without its colour an assembly would be taken for a part of the same name.
@@ -102,9 +102,11 @@ void ShowRowModel(const DialogView& dialog) {
   }
   const ProMdlType type = *color == kAssemblyColor ? PRO_MDL_ASSEMBLY : PRO_MDL_PART;
   const ProMdl model = RetrieveModel(*name, type);
-  if (model == nullptr) return;
+  if (model == nullptr) return LogOutcome("nothing shown");
   const ProError status = ProMdlDisplay(model);
-  if (!Ok(status)) LogFailure(model, "ProMdlDisplay", status);
+  if (Ok(status)) return;
+  LogFailure(model, "ProMdlDisplay", status);
+  LogOutcome("nothing shown");
 }
 
 // What was shown before the dialog. By name, since the user may erase it meanwhile, unless the host

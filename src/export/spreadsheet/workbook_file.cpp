@@ -66,12 +66,9 @@ bool IsProtected(const std::wstring& path) {
 
 // Windows' answer; where it is an error, normally that there is no such file.
 DWORD TryToReplace(const std::wstring& path) {
-  // All that replacing a file takes. Asking for every right there is would turn away users who may
-  // change a file on a server, but not its owner.
-  constexpr DWORD kAccess = GENERIC_READ | GENERIC_WRITE | DELETE;
   if (IsProtected(path)) return ERROR_ACCESS_DENIED;
-  const HANDLE file = ::CreateFileW(path.c_str(), kAccess, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+  const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_ALL, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file == INVALID_HANDLE_VALUE) return ::GetLastError();
   ::CloseHandle(file);
   return ERROR_SUCCESS;

@@ -13,7 +13,7 @@
 namespace qm {
 
 // Shown when a field cannot be read: an empty text in its place could change every model wrongly.
-inline constexpr wchar_t kUnreadableField[] = L"无法读取对话框中的内容,操作已停止!";
+inline constexpr wchar_t kUnreadableField[] = L"无法读取对话框中的内容，操作已停止！";
 
 // A dialog by its name, which need not stay in memory: what actions work on. Owns nothing.
 class DialogView {

@@ -108,16 +108,18 @@ void StoredFields::Save(const DialogView& dialog, const StoredField& field,
   const std::wstring section = FromAnsi(field.component);
   const Filling* const filling = Find(field);
   auto now = Shown(dialog, field);
+  const bool is_read = now.has_value();
   if (now && filling != nullptr && !MaySave(*filling, *now)) now.reset();
   const bool is_radio = field.kind == FieldKind::kRadio;
   if (!now || (is_radio && now->empty())) {
     const auto stored = TryReadSetting(section.c_str(), field.key, path);
-    if (!stored || !stored->empty()) {
+    const bool keeps_setting = !stored || !stored->empty();
+    // Of a field that cannot be read nobody knows what the user made of it, not even an empty one.
+    if (keeps_setting || !is_read) {
       ++tally->kept;
       Log(field, "was not saved: it does not show its setting, or cannot be read");
-      return;
     }
-    if (!is_radio) return;
+    if (keeps_setting || !is_radio) return;
     now = std::wstring();
   }
   if (WriteSetting(section.c_str(), field.key, *now, path)) return;

@@ -145,7 +145,7 @@ void LogFailure(ProMdl model, const char* function, ProError status) noexcept {
     const ProMdl named = status == PRO_TK_BAD_INPUTS ? nullptr : model;
     LogEvent(LoggedName(named) + ": " + function + " answered " + StatusName(status));
   } catch (...) {
-    // As above; the failure stays counted.
+    // Without memory for the line the failure stays counted.
   }
 }
 
@@ -154,7 +154,7 @@ void LogFailure(std::wstring_view model_name, const char* function, ProError sta
   try {
     LogEvent(ToUtf8(model_name) + ": " + function + " answered " + StatusName(status));
   } catch (...) {
-    // As above.
+    // As for the one above.
   }
 }
 
@@ -165,7 +165,7 @@ void LogLeftOut(const ProFeature& component, const char* function, ProError stat
     LogEvent(LoggedName(owner) + ", component " + std::to_string(component.id) +
              " left out: " + function + " answered " + StatusName(status));
   } catch (...) {
-    // As above.
+    // As for the one above.
   }
 }
 
@@ -248,7 +248,7 @@ void CommandLog::AddOutcome(FixedLine<1024>* line) const {
   } else if (!Ok(status_)) {
     *line += "failed";
   } else {
-    *line += left_out_ > 0 ? "done in part" : "done";
+    *line += left_out_ > 0 || failures_ > 0 ? "done in part" : "done";
   }
 }
 

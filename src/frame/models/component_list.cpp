@@ -4,6 +4,7 @@
 #include "frame/models/component_list.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "frame/guard/visit.h"
 #include "frame/messages/run_log.h"
@@ -34,6 +35,9 @@ struct Answer {
   bool is_known = true;
 };
 
+// What an answer is before the host fills it in; none of its own, of which -1 is one.
+constexpr int kNoAnswer = std::numeric_limits<int>::min();
+
 Answer AskFlags(ProFeature& feature, int* flags) {
   const ProError status = ProFeatureStatusflagsGet(&feature, flags);
   return {"ProFeatureStatusflagsGet", status, Ok(status)};
@@ -47,7 +51,8 @@ Answer AskType(ProFeature& feature, ProFeattype* type) {
 
 Answer AskStatus(ProFeature& feature, ProFeatStatus* feature_status) {
   const ProError status = ProFeatureStatusGet(&feature, feature_status);
-  return {"ProFeatureStatusGet", status, Ok(status) && *feature_status != PRO_FEAT_INVALID};
+  return {"ProFeatureStatusGet", status,
+          Ok(status) && *feature_status != static_cast<ProFeatStatus>(kNoAnswer)};
 }
 
 Answer AskVisibility(ProFeature& feature, ProBoolean* visible) {
@@ -65,7 +70,8 @@ Answer AskModelType(ProMdl model, ProMdlType* type) {
 
 Answer AskSubtype(ProMdl model, ProMdlsubtype* subtype) {
   const ProError status = ProMdlSubtypeGet(model, subtype);
-  return {"ProMdlSubtypeGet", status, Ok(status) && *subtype != PROMDLSTYPE_UNUSED};
+  return {"ProMdlSubtypeGet", status,
+          Ok(status) && *subtype != static_cast<ProMdlsubtype>(kNoAnswer)};
 }
 
 // A model as met during one collection. Models are known by number, so that all of them, and the
@@ -188,8 +194,8 @@ class ComponentCollector {
 
   // One that is known to be inactive or invisible is not missed, whatever else is not known.
   bool IsActiveAndVisible(ProFeature& feature) {
-    ProFeatStatus status = PRO_FEAT_INVALID;
-    auto visible = static_cast<ProBoolean>(-1);
+    auto status = static_cast<ProFeatStatus>(kNoAnswer);
+    auto visible = static_cast<ProBoolean>(kNoAnswer);
     const Answer status_answer = AskStatus(feature, &status);
     const Answer visible_answer = AskVisibility(feature, &visible);
     if (status_answer.is_known && status != PRO_FEAT_ACTIVE) return false;
@@ -208,7 +214,9 @@ class ComponentCollector {
       // The further types of the show-all command need not place a model: nothing is missing then.
       if (type != PRO_FEAT_COMPONENT) return PRO_TK_NO_ERROR;
       LeaveOut(feature, "ProAsmcompMdlGet", status);
-      // As an action's answer this ends the level: what follows the missing model is not listed.
+      // As an action's answer this ends the level: what follows the missing model is not listed,
+      // and how much that is nobody counts.
+      LogEvent("what stands behind it in the same assembly is left out, too");
       return PRO_TK_CONTINUE;
     }
     const NodeNumber node = NodeOf(model);
@@ -228,7 +236,7 @@ class ComponentCollector {
     node.answer = AskModelType(model, &node.type);
     if (!node.answer.is_known) node.type = PRO_MDL_UNUSED;
     if (kind_ == ComponentKind::kSheetMetal && node.type != PRO_MDL_ASSEMBLY) {
-      ProMdlsubtype subtype = PROMDLSTYPE_UNUSED;
+      auto subtype = static_cast<ProMdlsubtype>(kNoAnswer);
       const Answer answer = AskSubtype(model, &subtype);
       node.sheet_metal = answer.is_known && subtype == PROMDLSTYPE_PART_SHEETMETAL;
       // A sheet-metal part is a part, whatever else is not known.
