@@ -27,8 +27,9 @@ constexpr Subcommand kSubcommands[] = {
                  "    [--install DIR] [--fault FUNCTION:NTH:STATUS[:from_then_on]]\n"
                  "    runs scripts on copies of the install tree and closes with \"N passed, N failed\"",
                  &RunScriptsCommand},
-    {"commands", "commands [--english] [--plugin DLL] [--install DIR]\n"
-                 "    lists the plug-in's menu and where each command is available", &ListCommandsCommand},
+    {"commands", "commands [--english] [--markdown english|chinese] [--plugin DLL] [--install DIR]\n"
+                 "    lists the plug-in's menu, which commands are built and where each is available;\n"
+                 "    with --markdown as the table of a README", &ListCommandsCommand},
     {"bench",    "bench [options]\n"
                  "    measures how the commands grow with the assembly; see bench --help", &BenchCommand},
     {"help",     "help\n"

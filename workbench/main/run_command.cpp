@@ -8,6 +8,7 @@
 #include "workbench/main/subcommands.h"
 #include "workbench/plugin/install_tree.h"
 #include "workbench/report/report.h"
+#include "workbench/script/own_path.h"
 #include "workbench/script/script_watch.h"
 #include "workbench/script/script_windows.h"
 #include "workbench/statements/fault_statements.h"
@@ -94,14 +95,14 @@ int RunScriptsCommand(const CommandArguments& arguments) {
   options.plugin = line.Path("--plugin");
   options.out = line.Path("--out");
   options.trace = line.Path("--trace");
-  options.record = line.Has("--report");
+  options.report = line.Path("--report");
   options.fault = FaultOption(line.Value("--fault"));
   if (!options.trace.empty()) std::filesystem::remove(options.trace);
 
   RunRecord record;
   record.script = Join(", ", line.words());
   record.facts.emplace_back("Plug-in",
-                            PathToUtf8(options.plugin.empty() ? options.install : options.plugin));
+                            OwnPath(options.plugin.empty() ? options.install : options.plugin));
   record.facts.emplace_back("Code page", std::to_string(AnsiCodePage()));
   WatchForHangs(kHangSeconds);
   bool readable = true;
@@ -113,9 +114,9 @@ int RunScriptsCommand(const CommandArguments& arguments) {
       RunOne(script, options, record, &readable);
     }
   }
-  if (options.record) {
-    WriteReport(line.Path("--report"), record);
-    std::printf("report: %s\n", PathToUtf8(line.Path("--report")).c_str());
+  if (!options.report.empty()) {
+    WriteReport(options.report, record);
+    std::printf("report: %s\n", OwnPath(options.report).c_str());
   }
   std::printf("%d passed, %d failed\n", record.passed, record.failed);
   if (!readable) return 2;
