@@ -33,15 +33,15 @@ void PrintFailures(const RunRecord& record, size_t from) {
 void RunOne(const std::string& script, const ScriptOptions& options, RunRecord& record,
             bool* readable) {
   const size_t failures = record.failures.size();
+  const std::string name = OwnPath(PathFromUtf8(script));
   const ScriptOutcome outcome = RunScriptFile(PathFromUtf8(script), options, record);
   PrintFailures(record, failures);
   *readable = *readable && outcome.readable;
   if (outcome.skipped.empty()) {
-    std::printf("%s: %d checks passed, %d failed\n", script.c_str(), outcome.passed,
-                outcome.failed);
+    std::printf("%s: %d checks passed, %d failed\n", name.c_str(), outcome.passed, outcome.failed);
   } else {
-    std::printf("%s: skipped, since %s\n", script.c_str(), outcome.skipped.c_str());
-    record.facts.emplace_back("Skipped", script + ": " + outcome.skipped);
+    std::printf("%s: skipped, since %s\n", name.c_str(), outcome.skipped.c_str());
+    record.facts.emplace_back("Skipped", name + ": " + outcome.skipped);
   }
   std::fflush(stdout);
 }
@@ -100,7 +100,9 @@ int RunScriptsCommand(const CommandArguments& arguments) {
   if (!options.trace.empty()) std::filesystem::remove(options.trace);
 
   RunRecord record;
-  record.script = Join(", ", line.words());
+  std::vector<std::string> scripts;
+  for (const std::string& script : line.words()) scripts.push_back(OwnPath(PathFromUtf8(script)));
+  record.script = Join(", ", scripts);
   record.facts.emplace_back("Plug-in",
                             OwnPath(options.plugin.empty() ? options.install : options.plugin));
   record.facts.emplace_back("Code page", std::to_string(AnsiCodePage()));

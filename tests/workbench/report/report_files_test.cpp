@@ -4,6 +4,8 @@
 #include <fstream>
 
 #include "tests/workbench/temporary_folder.h"
+#include "workbench/base/text.h"
+#include "workbench/base/utf8_text.h"
 #include "workbench/report/kept_files.h"
 #include "workbench/report/report.h"
 #include "workbench/report/workbook_picture.h"
@@ -26,7 +28,7 @@ bool Shows(const std::string& html, const std::string& part) {
 
 TEST(ReportFilesTest, AFileWrittenIsKeptBesideThePageAndLinkedFromThere) {
   const TemporaryFolder folder("quillmax kept files");
-  const std::filesystem::path original = folder.path / "summary 明细.xlsx";
+  const std::filesystem::path original = folder.path / PathFromUtf8("summary 明细.xlsx");
   std::ofstream(original) << "first";
   const std::filesystem::path page = folder.path / "page.html";
   const KeptFile kept = KeepFile(page, 3, "desktop/summary 明细.xlsx", original);
@@ -34,8 +36,8 @@ TEST(ReportFilesTest, AFileWrittenIsKeptBesideThePageAndLinkedFromThere) {
   EXPECT_EQ(kept.trouble, "");
   // What becomes of the file later is not what this command wrote.
   std::ofstream(original) << "second";
-  std::string text;
-  std::ifstream(folder.path / "page_files" / "3" / "desktop" / original.filename()) >> text;
+  const auto text =
+      ReadFileBytes(folder.path / "page_files" / "3" / "desktop" / original.filename());
   EXPECT_EQ(text, "first");
   EXPECT_NE(KeepFile(page, 3, "gone", folder.path / "gone").trouble, "");
 

@@ -49,7 +49,8 @@ TEST(CommandList, IsTheTableOfBothReadmes) {
                   "| 15 | `QmIsolate` | 独立显示 | Show only the selected components. | "
                   "assembly, manufacturing | yes |"))
       << Join("\n", english);
-  EXPECT_TRUE(has(chinese, "| 15 | `QmIsolate` | 独立显示 | 只显示选中的元件 | 组件、制造 | 是 |"))
+  EXPECT_TRUE(has(
+      chinese, "| 15 | `QmIsolate` | 独立显示 | 仅显示所选元件, 隐藏其余零件 | 组件、制造 | 是 |"))
       << Join("\n", chinese);
 }
 

@@ -33,8 +33,9 @@ end
 run QmOpenDir
 run QmConfig with
   dialog QmConfig
-    choose 恢复上次工作目录 恢复
+    choose 恢复上次工作目录 不恢复
     press 保存
+    close
   end
 end
 run QmQQGroup
