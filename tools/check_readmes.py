@@ -36,11 +36,13 @@ def mentioned(text):
 
 
 def differences(what, ours, theirs):
+    """The first difference; those after it mostly follow from it."""
     if not ours:
         yield f"{NAMES[0]} has no {what}: is it still written in the way that this check reads?"
     for place, (one, other) in enumerate(zip(ours, theirs), 1):
         if one != other:
             yield f"{what} {place} differs:\n  {NAMES[0]}: {one}\n  {NAMES[1]}: {other}"
+            break
     if len(ours) != len(theirs):
         yield f"{what}: {len(ours)} in {NAMES[0]}, {len(theirs)} in {NAMES[1]}"
 
