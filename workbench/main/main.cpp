@@ -31,8 +31,9 @@ constexpr Subcommand kSubcommands[] = {
     {"memory",   "memory SCRIPT... [--all] [--plugin DLL] [--install DIR]\n"
                  "    runs the commands whose allocations a script sweeps for the first time, each time in\n"
                  "    a process of its own with another allocation failed", &MemoryCommand},
-    {"commands", "commands [--english] [--plugin DLL] [--install DIR]\n"
-                 "    lists the plug-in's menu and where each command is available", &ListCommandsCommand},
+    {"commands", "commands [--english] [--markdown english|chinese] [--plugin DLL] [--install DIR]\n"
+                 "    lists the plug-in's menu, which commands are built and where each is available;\n"
+                 "    with --markdown as the table of a README", &ListCommandsCommand},
     {"bench",    "bench [options]\n"
                  "    measures how the commands grow with the assembly; see bench --help", &BenchCommand},
     {"help",     "help\n"

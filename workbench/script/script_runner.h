@@ -37,7 +37,7 @@ struct ScriptOptions {
   std::filesystem::path plugin;   // a DLL to run instead of the tree's; empty: the tree's
   std::filesystem::path out;      // keeps each script's folders below here; empty: they are removed
   std::filesystem::path trace;    // file that takes the calls of every action; empty: none
-  bool record = false;            // collects what a report shows
+  std::filesystem::path report;   // page to collect for, with files beside it; empty: none
   FaultPlan fault;                // met by every action without one of its own; nth 0: none
   MemorySweepOptions memory;
 };

@@ -188,6 +188,10 @@ std::optional<std::string> OutputOf(const std::filesystem::path& program,
   return output.Content();
 }
 
+unsigned ClipboardNumber() {
+  return ::GetClipboardSequenceNumber();
+}
+
 unsigned AnsiCodePage() {
   return ::GetACP();
 }

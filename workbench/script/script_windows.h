@@ -53,6 +53,18 @@ class FileHolder {
 std::optional<std::string> OutputOf(const std::filesystem::path& program,
                                     const std::vector<std::string>& arguments);
 
+// Changes with everything that is put into the clipboard.
+unsigned ClipboardNumber();
+
+// A path as the user's own machine writes it: where Windows programs run on another system, that
+// system's. Relative paths stay.
+std::string OwnPath(const std::filesystem::path& path);
+// The same for the path inside a text, "notepad.exe C:\\a.ini", if there is one.
+std::string WithOwnPath(const std::string& text);
+
+// Another one after everything that is put into the clipboard.
+unsigned ClipboardNumber();
+
 unsigned AnsiCodePage();
 unsigned ProcessId();
 

@@ -1,5 +1,6 @@
 // Statements on the plug-in's life and on commands.
 #include "workbench/plugin/timers.h"
+#include "workbench/script/access_reason.h"
 #include "workbench/script/memory_sweep.h"
 #include "workbench/script/script_calls.h"
 #include "workbench/script/script_record.h"
@@ -32,9 +33,10 @@ void ReportRun(ScriptRun& run, const Statement& statement, const CommandRun& res
   const std::string& command = statement.Text("COMMAND");
   run.status = result.status;
   if (!result.known) {
-    run.Fail(statement, "the plug-in has registered no command " + command);
+    run.Fail(statement,
+             "the plug-in has registered no command " + command + CommandMeant(run.host, command));
   } else if (!result.available) {
-    run.Fail(statement, command + " is not available here");
+    run.Fail(statement, command + " is not available here: " + WhyUnavailable(run.host, command));
   }
   for (const std::string& left : result.left_out) {
     run.Fail(statement, command + " left out " + left);
