@@ -91,5 +91,6 @@ check "tidy" "$here/check_tidy.sh"
 check "documents are up to date" python3 "$here/generate_docs.py" --check
 check "both READMEs say the same" python3 "$here/check_readmes.py"
 check "the library's file" "$here/check_dll.sh" "$cross/quillmax5.1C3.dll"
+check "import" "$here/check_import.sh"
 check "package" "$here/check_package.sh"
 finish

@@ -1,10 +1,10 @@
 // workbench.exe: tries the plug-in without a CAD seat.
 #include <cstdio>
-#include <exception>
 
 #include "workbench/base/text.h"
 #include "workbench/base/windows_headers.h"
 #include "workbench/bench/bench.h"
+#include "workbench/main/guarded.h"
 #include "workbench/main/subcommands.h"
 
 namespace wb {
@@ -59,18 +59,6 @@ int Run(const CommandArguments& arguments) {
   throw UsageError("unknown command \"" + arguments[0] + "\"");
 }
 
-int RunGuarded(const CommandArguments& arguments) {
-  try {
-    return Run(arguments);
-  } catch (const UsageError& error) {
-    std::fprintf(stderr, "workbench: %s; \"workbench help\" lists the commands\n", error.what());
-    return 2;
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "workbench: %s\n", error.what());
-    return 1;
-  }
-}
-
 }  // namespace
 }  // namespace wb
 
@@ -78,5 +66,5 @@ int wmain(int argc, wchar_t** argv) {
   ::SetConsoleOutputCP(CP_UTF8);
   wb::CommandArguments arguments;
   for (int i = 1; i < argc; ++i) arguments.push_back(wb::FromWide(argv[i]));
-  return wb::RunGuarded(arguments);
+  return wb::RunGuarded(&wb::Run, arguments);
 }

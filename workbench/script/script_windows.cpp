@@ -4,6 +4,7 @@
 #include <cstring>
 #include <vector>
 
+#include "workbench/base/temporary_place.h"
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
 #include "workbench/base/windows_headers.h"
@@ -134,9 +135,8 @@ class OutputFile {
  public:
   OutputFile() {
     static int count = 0;
-    path_ = std::filesystem::temp_directory_path() /
-            ("workbench output " + std::to_string(::GetCurrentProcessId()) + " " +
-             std::to_string(++count) + ".txt");
+    path_ = TemporaryPlace() / ("workbench output " + std::to_string(::GetCurrentProcessId()) +
+                                " " + std::to_string(++count) + ".txt");
     SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};
     handle_ = ::CreateFileW(path_.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE,
                             &inherited, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
