@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <iterator>
+#include <new>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -59,8 +60,8 @@ std::optional<std::string> Encoded(const std::wstring& folder) {
   return chinese.is_set() ? InLocale(folder) : ToAnsiExactly(folder);
 }
 
-// Nothing when it cannot be told whole.
-std::optional<std::string> CurrentDirectory() {
+// Nothing when it cannot be told whole, for want of memory, too.
+std::optional<std::string> CurrentDirectory() try {
   ProPath buffer = {};
   const ProError status = ProDirectoryCurrentGet(buffer);
   if (!Ok(status)) {
@@ -71,6 +72,9 @@ std::optional<std::string> CurrentDirectory() {
   auto line = Encoded(folder);
   if (!line) LogEvent("working directory not saved, its name cannot be written: " + ToUtf8(folder));
   return line;
+} catch (const std::bad_alloc&) {
+  LogEvent("working directory not saved, no memory");
+  return std::nullopt;
 }
 
 bool WriteFile(const std::wstring& path, const std::string& text) {

@@ -2,8 +2,6 @@
 // macro that lists them.
 #if !defined(QM_VENDOR_SDK)
 
-#include <algorithm>
-#include <array>
 #include <utility>
 
 // Its first use stands before all declarations, so that they are numbered from 0.
@@ -39,7 +37,8 @@ int DeclaredFunctions() {
 bool IsAnyFunctionOffered() {
   return []<int... Nth>(std::integer_sequence<int, Nth...>) {
     return ((FindHostFunction(kDeclaredName<Nth>) != nullptr) || ...);
-  }(std::make_integer_sequence<int, kDeclared>());
+  }
+  (std::make_integer_sequence<int, kDeclared>());
 }
 
 }  // namespace qm

@@ -33,7 +33,7 @@
 #define PRO_FUNCTION(result, name, ...)                                      \
   template <>                                                                \
   inline constexpr const char* kDeclaredName<__COUNTER__ - kBeforeFirst> = { \
-#name QM_HOST_NAME_SUFFIX}
+      #name QM_HOST_NAME_SUFFIX}
 
 #else
 
@@ -42,9 +42,10 @@ namespace qm {
 // Address of `versioned_name` in the host process, or null. Defined in host_function.cpp.
 void* FindHostFunction(const char* versioned_name);
 
-// How many functions are declared in all, and whether the host offers any of them: without a search
-// and without a first call. Defined in declared_functions.cpp.
+// How many functions are declared in all, called yet or not. Defined in declared_functions.cpp, as
+// is the next one.
 int DeclaredFunctions();
+// Whether the host offers any of them. Binds none.
 bool IsAnyFunctionOffered();
 
 // Receives the plain name of a host function that could not be found, once per function.

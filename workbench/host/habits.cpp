@@ -14,6 +14,9 @@ std::span<const HabitRow> HabitRows() {
       {"lacking_field_is_an_error", &Habits::lacking_field_is_an_error},
       {"model_data_has_name_first", &Habits::model_data_has_name_first},
       {"model_data_has_unknown_order", &Habits::model_data_has_unknown_order},
+      {"resources_lie_beside_text", &Habits::resources_lie_beside_text},
+      {"surface_data_has_unknown_order", &Habits::surface_data_has_unknown_order},
+      {"parameter_record_has_unknown_order", &Habits::parameter_record_has_unknown_order},
   };
   return kRows;
 }

@@ -16,6 +16,9 @@ struct Habits {
   bool lacking_field_is_an_error = false;     // a failing status, instead of a misuse
   bool model_data_has_name_first = false;     // the other known order of the record's texts
   bool model_data_has_unknown_order = false;  // neither of the two
+  bool resources_lie_beside_text = false;     // in `resource`, instead of `text/resource`
+  bool surface_data_has_unknown_order = false;
+  bool parameter_record_has_unknown_order = false;
 };
 
 struct HabitRow {

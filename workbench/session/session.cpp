@@ -48,6 +48,18 @@ std::vector<ModelName> FolderIndex::Models() const {
   return names;
 }
 
+bool FolderIndex::Choose(const ModelName& name, int version) {
+  const auto found = entries_.find(Key(name));
+  if (found == entries_.end()) return false;
+  const std::string newest = PathToUtf8(found->second.file);
+  const std::filesystem::path file =
+      PathFromUtf8(newest.substr(0, newest.rfind('.') + 1) + std::to_string(version));
+  if (!std::filesystem::exists(file)) return false;
+  found->second.version = version;
+  found->second.file = file;
+  return true;
+}
+
 bool Session::ChangeDirectory(const std::filesystem::path& folder) {
   std::error_code error;
   if (!std::filesystem::is_directory(folder, error)) return false;
@@ -67,23 +79,48 @@ Model* Session::Retrieve(const ModelName& name) {
   return RetrieveTree(name, FolderIndex(working_directory_));
 }
 
+Model* Session::RetrieveFile(const std::filesystem::path& file, ModelKind kind) {
+  const std::string text = PathToUtf8(file.filename());
+  const auto versioned = ParseFileName(text);
+  const auto name = versioned ? versioned->model : ParseModelName(text);
+  if (!name || name->kind != kind) return nullptr;
+  if (Model* const present = Find(*name)) return present;
+  FolderIndex folder(file.parent_path());
+  if (versioned && !folder.Choose(*name, versioned->version)) return nullptr;
+  return RetrieveTree(*name, folder);
+}
+
 Model* Session::RetrieveTree(const ModelName& name, const FolderIndex& folder) {
-  Model* const top = Load(name, folder);
   std::vector<Model*> loaded;
+  try {
+    LoadTree(name, folder, loaded);
+    RefuseCycle(loaded, folder);
+  } catch (const ModelFileError&) {
+    for (Model* const model : loaded) Erase(*model);
+    throw;
+  }
+  return loaded.empty() ? nullptr : loaded.front();
+}
+
+// The model and those under it. Those that were loaded before a failure are in `loaded` too.
+void Session::LoadTree(const ModelName& name, const FolderIndex& folder,
+                       std::vector<Model*>& loaded) {
   std::vector<Model*> pending;
-  if (top != nullptr) pending.push_back(top);
+  const auto load = [&](const ModelName& wanted) {
+    Model* const found = Load(wanted, folder);
+    if (found == nullptr) return;
+    loaded.push_back(found);
+    pending.push_back(found);
+  };
+  load(name);
   while (!pending.empty()) {
     Model* const model = pending.back();
     pending.pop_back();
-    loaded.push_back(model);
     ForEachLink(*model, [&](const ModelLink& link) {
-      if (Find(link.name) != nullptr) return;
-      if (Model* const found = Load(link.name, folder)) pending.push_back(found);
+      if (Find(link.name) == nullptr) load(link.name);
     });
     Resolve(*model);
   }
-  RefuseCycle(loaded, folder);
-  return top;
 }
 
 // Models that were in session before hold none of the `loaded` ones, so a new cycle is all of
@@ -94,7 +131,6 @@ void Session::RefuseCycle(const std::vector<Model*>& loaded, const FolderIndex& 
   const std::filesystem::path file = folder.Newest(cycle[cycle.size() - 2]->id);
   const ModelName under = cycle.back()->id;
   const std::string why = under.Text() + " would hold itself: " + CycleText(cycle);
-  for (Model* const model : loaded) Erase(*model);
   RefuseModelUnder(file, under, why);
 }
 

@@ -22,6 +22,9 @@ class FolderIndex {
   std::filesystem::path Newest(const ModelName& name) const;
   int NewestVersion(const ModelName& name) const;
   std::vector<ModelName> Models() const;
+  // From here on this version is the newest of its model. False, and nothing changes, when there is
+  // no such version here.
+  bool Choose(const ModelName& name, int version);
 
  private:
   struct Entry {
@@ -62,6 +65,9 @@ class Session {
   // Throws ModelFileError for a file that cannot be read, and for files by which an assembly would
   // hold itself; none of these models is in session then.
   Model* Retrieve(const ModelName& name);
+  // The same with the file of a full path, whose name says a version or means the newest. All
+  // models under it come from its folder. Null also when the file is of another kind.
+  Model* RetrieveFile(const std::filesystem::path& file, ModelKind kind);
   // Takes over a model made in memory; resolves its components from session only.
   Model& Add(Model model);
   // Links components to models in session, wherever that has become possible.
@@ -84,6 +90,7 @@ class Session {
 
  private:
   Model* RetrieveTree(const ModelName& name, const FolderIndex& folder);
+  void LoadTree(const ModelName& name, const FolderIndex& folder, std::vector<Model*>& loaded);
   void RefuseCycle(const std::vector<Model*>& loaded, const FolderIndex& folder);
   Model* Load(const ModelName& name, const FolderIndex& folder);
 

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <vector>
+#include <iterator>
 
 #include "frame/text/text.h"
 
@@ -16,6 +16,9 @@ namespace {
 // in one language on a system in another refuses calls in the system's.
 constexpr LCID kCallLocale = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
 
+// More than any member that is used takes.
+constexpr std::size_t kMostArguments = 8;
+
 // The program is in the middle of something of its user's, such as the typing of a cell.
 constexpr auto kInterrupted = static_cast<HRESULT>(0x800AC472);
 
@@ -25,8 +28,7 @@ bool IsBusy(HRESULT result) {
 }
 
 constexpr HRESULT kGoneResults[] = {
-    RPC_E_SERVERFAULT,
-    RPC_E_DISCONNECTED,
+    RPC_E_SERVERFAULT, RPC_E_DISCONNECTED,
     static_cast<HRESULT>(0x800706BA),  // RPC_S_SERVER_UNAVAILABLE
 };
 
@@ -174,14 +176,16 @@ Dispatch Dispatch::Create(const wchar_t* program_id) {
 Variant Dispatch::Invoke(const Member& member, WORD kind, Arguments arguments,
                          Patience patience) const {
   if (object_ == nullptr) throw AutomationError(member.name, E_POINTER, {});
-  // The call wants the last argument first. The values stay ours.
-  std::vector<VARIANTARG> reversed;
-  for (const Variant* const argument : arguments)
-    reversed.insert(reversed.begin(), argument->get());
+  if (arguments.size() > kMostArguments) throw AutomationError(member.name, E_INVALIDARG, {});
+  // The call wants the last argument first. The values stay ours. Without an allocation: the way
+  // out after one that failed leads through here.
+  VARIANTARG reversed[kMostArguments] = {};
+  std::transform(std::rbegin(arguments), std::rend(arguments), reversed,
+                 [](const Variant* argument) { return argument->get(); });
   DISPID named = DISPID_PROPERTYPUT;
   const bool puts = kind == DISPATCH_PROPERTYPUT;
-  DISPPARAMS parameters = {reversed.data(), puts ? &named : nullptr,
-                           static_cast<UINT>(reversed.size()), puts ? 1u : 0u};
+  DISPPARAMS parameters = {reversed, puts ? &named : nullptr, static_cast<UINT>(arguments.size()),
+                           puts ? 1u : 0u};
   BusyWait busy(patience);
   ExceptionInfo exception;
   for (;;) {

@@ -69,8 +69,7 @@ SheetTexts Read(ExcelSession& excel, const std::wstring& path, size_t columns) {
 
 std::optional<SheetTexts> ReadWorkbook(const std::wstring& path, size_t columns) {
   std::optional<SheetTexts> rows;
-  const ExcelRun run =
-      RunExcel([&](ExcelSession& excel) { rows = Read(excel, path, columns); });
+  const ExcelRun run = RunExcel([&](ExcelSession& excel) { rows = Read(excel, path, columns); });
   if (!run.is_started) ShowShortMessage(kNoExcel);
   if (run.failure) ShowExcelFailure(kFailed, *run.failure);
   TellWhetherEnded(run);

@@ -86,6 +86,10 @@ ExcelRun RunExcel(const std::function<void(ExcelSession&)>& work) {
     work(*excel);
   } catch (const AutomationError& error) {
     run.failure = error;
+  } catch (...) {
+    run.is_ended = excel->End(Patience::kShort);
+    TellWhetherEnded(run);
+    throw;
   }
   const bool is_busy = run.failure && run.failure->is_busy();
   run.is_ended = excel->End(is_busy ? Patience::kShort : Patience::kFull);

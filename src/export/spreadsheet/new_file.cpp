@@ -3,6 +3,7 @@
 
 #include "export/spreadsheet/old_file_rules.h"
 #include "frame/messages/run_log.h"
+#include "frame/text/fixed_line.h"
 
 namespace qm {
 namespace {
@@ -45,6 +46,15 @@ bool IsMissing(DWORD error) {
   return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
 }
 
+// Without memory of its own: this is told on the way out of any failure.
+void LogPath(const char* what, const std::wstring& path) {
+  FixedLine<1024> line;
+  char text[768] = {};
+  ::WideCharToMultiByte(CP_UTF8, 0, path.c_str(), -1, text, sizeof(text) - 1, nullptr, nullptr);
+  (line += what) += text;
+  LogEvent(line.text());
+}
+
 }  // namespace
 
 NewFile::~NewFile() {
@@ -67,7 +77,7 @@ DWORD NewFile::Begin() {
 bool NewFile::Finish() {
   if (stage_ != Stage::kBegun || !Exists(path_)) return false;
   stage_ = Stage::kFinished;
-  if (!aside_.empty() && !Delete(aside_)) LogEvent("a replaced file could not be deleted");
+  if (!aside_.empty() && !Delete(aside_)) LogPath("a replaced file could not be deleted: ", aside_);
   return true;
 }
 
@@ -76,12 +86,12 @@ NewFile::Leftovers NewFile::Discard() {
   if (stage_ != Stage::kBegun) return left;
   stage_ = Stage::kDiscarded;
   left.unfinished = !Delete(path_);
-  if (left.unfinished) LogEvent("an unfinished file could not be deleted");
+  if (left.unfinished) LogPath("an unfinished file could not be deleted: ", path_);
   const bool is_back =
       aside_.empty() ||
       (!left.unfinished && Repeat([&] { return Move(aside_, path_) == ERROR_SUCCESS; }));
   if (is_back) return left;
-  LogEvent("an old file could not be put back");
+  LogPath("an old file could not be put back, it is now ", aside_);
   left.old_file = std::move(aside_);
   return left;
 }

@@ -58,6 +58,22 @@ std::optional<std::wstring> Choose(BOOL(WINAPI* ask)(OPENFILENAMEW*), OPENFILENA
   return path.data();
 }
 
+// Told by its attribute, too: not every file system keeps an administrator from a protected file.
+bool IsProtected(const std::wstring& path) {
+  const DWORD attributes = ::GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
+// Windows' answer; where it is an error, normally that there is no such file.
+DWORD TryToReplace(const std::wstring& path) {
+  if (IsProtected(path)) return ERROR_ACCESS_DENIED;
+  const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_ALL, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return ::GetLastError();
+  ::CloseHandle(file);
+  return ERROR_SUCCESS;
+}
+
 }  // namespace
 
 std::optional<std::wstring> ChooseWorkbookToWrite() {
@@ -81,17 +97,8 @@ std::optional<std::wstring> ChooseWorkbookToRead() {
 }
 
 bool IsFreeToWrite(const std::wstring& path) {
-  // All that replacing a file takes. Asking for every right there is would turn away users who may
-  // change a file on a server, but not its owner.
-  constexpr DWORD kAccess = GENERIC_READ | GENERIC_WRITE | DELETE;
-  const HANDLE file = ::CreateFileW(path.c_str(), kAccess, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (file != INVALID_HANDLE_VALUE) {
-    ::CloseHandle(file);
-    return true;
-  }
-  // Any other failure, normally that there is no such file, does not stand in the way.
-  if (!IsHeldOpen(::GetLastError())) return true;
+  // Any other failure does not stand in the way.
+  if (!IsHeldOpen(TryToReplace(path))) return true;
   ShowHeldOpen(path);
   return false;
 }

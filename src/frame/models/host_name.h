@@ -2,8 +2,8 @@
 // another one's.
 #pragma once
 
+#include <cstddef>
 #include <optional>
-#include <string>
 #include <string_view>
 
 #include "frame/text/fixed_text.h"
@@ -23,18 +23,22 @@ struct HostName {
 };
 
 // What a model is retrieved by: its name, or the full path of its file, which the host takes in the
-// same place whatever its length.
+// same place.
 struct RetrievalName {
-  // Nothing when a name is too long for a model's, or for that of an instance with its generic's
-  // behind it ("instance<generic>").
+  // Nothing when the text is too long for a path, for a model's name, or for that of an instance
+  // with its generic's behind it ("instance<generic>").
   static std::optional<RetrievalName> From(std::wstring_view text) {
-    const bool is_path = text.find_first_of(L"\\/:") != std::wstring_view::npos;
-    const bool has_generic = text.find(L'<') != std::wstring_view::npos;
-    const std::size_t size = has_generic ? PRO_FAMILY_NAME_SIZE : PRO_NAME_SIZE;
-    if (!is_path && text.size() >= size) return std::nullopt;
-    return RetrievalName{std::wstring(text)};
+    RetrievalName host;
+    if (text.size() >= SizeFor(text) || !FillFixedText(text, host.name)) return std::nullopt;
+    return host;
   }
-  std::wstring text;
+  ProPath name{};  // room for all that the host's type holds, and for a path
+
+ private:
+  static std::size_t SizeFor(std::wstring_view text) {
+    if (text.find_first_of(L"\\/:") != std::wstring_view::npos) return PRO_PATH_SIZE;
+    return text.find(L'<') != std::wstring_view::npos ? PRO_FAMILY_NAME_SIZE : PRO_NAME_SIZE;
+  }
 };
 
 }  // namespace qm

@@ -23,13 +23,18 @@ inline constexpr ParameterResult kTextTooLong = {"parameter value", PRO_TK_LINE_
 
 // A success that fills nothing in counts as a failure.
 ParameterResult FindParameter(ProModelitem owner, HostName& name, ProParameter* parameter);
+// Those that change a parameter also fail when the host's record does not bear the asked name,
+// without case.
 ParameterResult CreateParameter(ProModelitem owner, HostName& name, ProParamvalue value);
 // Fails where there is no such parameter.
 ParameterResult SetParameter(ProModelitem owner, HostName& name, ProParamvalue value);
 ParameterResult DeleteParameter(ProModelitem owner, HostName& name);
 ParameterResult SetOrCreateParameter(ProModelitem owner, HostName& name, ProParamvalue value);
 
-// Nothing when there is no such parameter; any other failure is logged as well.
-std::optional<ProParamvalue> ReadParameter(ProModelitem owner, HostName& name);
+struct ReadValue {
+  std::optional<ProParamvalue> value;  // nothing: there is no such parameter
+  bool is_known = true;                // false: it cannot be read, which is logged
+};
+ReadValue ReadParameter(ProModelitem owner, HostName& name);
 
 }  // namespace qm

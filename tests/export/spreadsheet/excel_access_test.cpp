@@ -95,9 +95,7 @@ class ExcelAccess : public HostFixture {
     host_.user = nullptr;
     return chosen ? FromWide(path) : "none";
   }
-  bool IsFree(const fs::path& file) const {
-    return Find<CheckProbe>("CheckFree")(file.c_str());
-  }
+  bool IsFree(const fs::path& file) const { return Find<CheckProbe>("CheckFree")(file.c_str()); }
   // Holds a file open, as a program does that shows it.
   static HANDLE Hold(const fs::path& file) {
     return ::CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,

@@ -23,10 +23,8 @@ TEST(AsidePath, IsNoLongerThanWindowsTakes) {
   const std::wstring longest = folder + std::wstring(50, L'b') + L".xlsx";  // 259
   EXPECT_EQ(AsidePath(longest, 1), folder + std::wstring(46, L'b') + L".old.xlsx");
   // No half of a character is left.
-  const std::wstring pairs = folder + L"b" + L"\xD83D\xDDFF" + std::wstring(44, L'b') + L".xlsx";
   EXPECT_EQ(AsidePath(folder + std::wstring(45, L'b') + L"\xD83D\xDDFF" + L"bbb.xlsx", 1),
             folder + std::wstring(45, L'b') + L".old.xlsx");
-  EXPECT_EQ(AsidePath(pairs, 1).size(), 255u);
 }
 
 }  // namespace

@@ -14,17 +14,18 @@ TEST(HostName, IsNeverCut) {
   EXPECT_FALSE(HostName::From(longest + L"n"));
 }
 
-TEST(RetrievalName, IsAModelsNameOrAnInstancesOrAPathOfAnyLength) {
+TEST(RetrievalName, IsAModelsNameOrAnInstancesOrAPath) {
   const std::wstring longest(31, L'n');
-  const std::wstring instance = longest + L"<" + longest + L">";
+  const std::wstring instance = longest + L"<" + longest + L"n>";
   const std::wstring path = L"D:\\" + std::wstring(180, L'f') + L"\\bolt.prt.2";
   for (const std::wstring& fits : {longest, instance, path}) {
     const auto name = RetrievalName::From(fits);
     ASSERT_TRUE(name) << fits.size();
-    EXPECT_EQ(name->text, fits);
+    EXPECT_EQ(FixedText(name->name), fits);
   }
   EXPECT_FALSE(RetrievalName::From(longest + L"n"));
-  EXPECT_FALSE(RetrievalName::From(instance + L"nn"));
+  EXPECT_FALSE(RetrievalName::From(instance + L"n"));
+  EXPECT_FALSE(RetrievalName::From(path + std::wstring(260 - path.size(), L'n')));
 }
 
 }  // namespace

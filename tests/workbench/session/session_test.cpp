@@ -76,6 +76,21 @@ TEST_F(SessionFiles, SoIsOneThatHoldsItselfDirectlyOrAsItsManufacturingModel) {
                 ": line 4: pump.asm would hold itself: pump.asm > mill.mfg > pump.asm" + kWayOut);
 }
 
+TEST_F(SessionFiles, ABrokenFileIsNamedAndNoModelOfItsAssemblyComesIntoSession) {
+  WriteAssembly("pump.asm", {"bolt.prt", "rotor.asm"});
+  Write("bolt.prt", "\"note\": \"\"");
+  WriteAssembly("rotor.asm", {"nut.prt"});
+  Write("nut.prt", "\"note\" \"\"");
+  EXPECT_EQ(ErrorOf({"pump", ModelKind::kAssembly}),
+            PathToUtf8(folder_ / "nut.prt.1") + ": line 4: not valid JSON" + kWayOut);
+  EXPECT_TRUE(session_.models().empty());
+
+  fs::remove(folder_ / "nut.prt.1");
+  fs::create_directories(folder_ / "nut.prt.2");
+  EXPECT_EQ(ErrorOf({"pump", ModelKind::kAssembly}),
+            PathToUtf8(folder_ / "nut.prt.2") + ": is a folder" + kWayOut);
+}
+
 TEST_F(SessionFiles, AModelPlacedInSeveralAssembliesIsNoCycle) {
   WriteAssembly("top.asm", {"left.asm", "right.asm", "left.asm", "lost.asm"});
   WriteAssembly("left.asm", {"pair.asm"});
@@ -83,6 +98,26 @@ TEST_F(SessionFiles, AModelPlacedInSeveralAssembliesIsNoCycle) {
   WriteAssembly("pair.asm", {});
   EXPECT_EQ(ErrorOf({"top", ModelKind::kAssembly}), "retrieved");
   EXPECT_EQ(session_.models().size(), 4u);
+}
+
+TEST_F(SessionFiles, AFullPathMeansThatFileAndThoseBesideIt) {
+  Write("bolt.prt", "\"note\": \"first\"");
+  fs::copy_file(folder_ / "bolt.prt.1", folder_ / "bolt.prt.3");
+  WriteAssembly("pump.asm", {"bolt.prt"});
+  session_.ChangeDirectory(fs::temp_directory_path());
+  const auto version = [&](const char* name) {
+    Model* const model = session_.RetrieveFile(folder_ / name, ModelKind::kPart);
+    const int found = model == nullptr ? 0 : model->version;
+    if (model != nullptr) session_.Erase(*model);
+    return found;
+  };
+  EXPECT_EQ(version("bolt.prt.1"), 1);
+  EXPECT_EQ(version("bolt.prt"), 3);
+  EXPECT_EQ(version("bolt.prt.2"), 0);
+  EXPECT_EQ(version("pump.asm"), 0) << "of another kind";
+  EXPECT_EQ(version("bolt"), 0);
+  ASSERT_NE(session_.RetrieveFile(folder_ / "pump.asm.1", ModelKind::kAssembly), nullptr);
+  EXPECT_NE(session_.Find({"bolt", ModelKind::kPart}), nullptr);
 }
 
 }  // namespace
