@@ -22,6 +22,19 @@ ProError Answer(const Model* model, ProMdl& place) {
   return PRO_TK_NO_ERROR;
 }
 
+// What a model is retrieved by: its name, or the full path of its file in the same place.
+struct RetrievalNameIn {
+  const wchar_t* name;
+  std::string Describe() const { return DescribeArgument(name); }
+  std::string Look(const Call& call) const {
+    const std::string text = call.Text(name, PRO_PATH_SIZE, "model path");
+    if (IsPath(text)) return text;
+    if (text.find('<') == std::string::npos) return call.ModelNameText(name);
+    return call.Text(name, PRO_FAMILY_NAME_SIZE, "name of an instance");
+  }
+  static bool IsPath(const std::string& text) { return text.find_first_of("\\/:") != text.npos; }
+};
+
 struct KindIn {
   ProMdlType type;
   std::string Describe() const { return DescribeArgument(type); }
@@ -132,10 +145,15 @@ ProError ProModelitemMdlGet(ProModelitem* item, ProMdl* model) {
 }
 
 ProError ProMdlRetrieve(ProFamilyName name, ProMdlType type, ProMdl* model) {
-  return Crossing(__func__, ModelNameIn{name}, KindIn{type}, Out(model, "model place"))
+  return Crossing(__func__, RetrievalNameIn{name}, KindIn{type}, Out(model, "model place"))
       .Run([](const Call& call, const std::string& wanted, ModelKind kind, ProMdl& place) {
+        Session& session = call.host.session;
+        if (wanted.find('<') != std::string::npos) throw NotModelled{"an instance of a family"};
         try {
-          return Answer(call.host.session.Retrieve({wanted, kind}), place);
+          return Answer(RetrievalNameIn::IsPath(wanted)
+                            ? session.RetrieveFile(PathFromUtf8(wanted), kind)
+                            : session.Retrieve({wanted, kind}),
+                        place);
         } catch (const ModelFileError& error) {
           call.host.events.Add(FileProblem{error.what()});
           return PRO_TK_INVALID_FILE;

@@ -10,6 +10,7 @@ int ModeOf(const Model& model) {
     case ModelKind::kAssembly:
       return PRO_MODE_ASSEMBLY;
     case ModelKind::kDrawing:
+    case ModelKind::kFormat:
       return PRO_MODE_DRAWING;
     case ModelKind::kManufacturing:
       return PRO_MODE_MFG;
@@ -65,7 +66,7 @@ ProError ProModeCurrentGet(ProMode* mode) {
 
 ProError ProWindowCurrentGet(int* window) {
   return Crossing(__func__, Out(window, "window place")).Run([](const Call& call, int& place) {
-    if (call.host.session.current_window() == 0) return PRO_TK_E_NOT_FOUND;
+    if (call.host.session.current_window() == kNoWindow) return PRO_TK_E_NOT_FOUND;
     place = call.host.session.current_window();
     return PRO_TK_NO_ERROR;
   });

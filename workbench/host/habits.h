@@ -12,10 +12,23 @@ struct Habits {
   bool second_registration_fails = false;      // of a command name that is registered
   bool empty_neighbour_is_refused = false;     // of a table's rows and columns; null is not
   bool null_neighbour_is_refused = false;
-  bool option_menu_answers_label = false;     // instead of the name of the item
-  bool lacking_field_is_an_error = false;     // a failing status, instead of a misuse
-  bool model_data_has_name_first = false;     // the other known order of the record's texts
-  bool model_data_has_unknown_order = false;  // neither of the two
+  bool option_menu_answers_label = false;        // instead of the name of the item
+  bool lacking_field_is_an_error = false;        // a failing status, instead of a misuse
+  bool model_data_has_name_first = false;        // the other known order of the record's texts
+  bool model_data_has_unknown_order = false;     // neither of the two
+  bool rotation_axes_count_from_one = false;     // x, y, z are 1, 2, 3 instead of 0, 1, 2
+  bool view_rotates_the_other_way = false;       // of a window
+  bool scaled_view_matrix_is_taken = false;      // rows of another length than 1 are no failure
+  bool view_turn_is_refused = false;             // of a view of a drawing, by an angle
+  bool view_turns_the_other_way = false;         // by an angle
+  bool view_turns_about_the_other_axis = false;  // "Vertical" and "Horizontal" have changed places
+  bool view_display_has_flags_last = false;      // the other known order of the record's fields
+  bool view_places_are_on_the_screen = false;    // instead of on the sheet; so are outlines
+  bool empty_collection_succeeds = false;        // with nothing, instead of "not found"
+  bool table_segments_count_from_minus_one = false;  // instead of from 0
+  bool untouched_dimension_has_no_lines = false;     // instead of "@D"
+  bool untouched_dimension_text_fails = false;       // with "not found", instead of "@D"
+  bool tolerances_are_taken_for_numbers = false;     // which then are anything, instead of places
 };
 
 struct HabitRow {

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "workbench/base/text.h"
+#include "workbench/session/drawing_views.h"
 #include "workbench/session/model_cycle.h"
 #include "workbench/session/model_file.h"
 
@@ -48,6 +49,18 @@ std::vector<ModelName> FolderIndex::Models() const {
   return names;
 }
 
+bool FolderIndex::Choose(const ModelName& name, int version) {
+  const auto found = entries_.find(Key(name));
+  if (found == entries_.end()) return false;
+  const std::string newest = PathToUtf8(found->second.file);
+  const std::filesystem::path file =
+      PathFromUtf8(newest.substr(0, newest.rfind('.') + 1) + std::to_string(version));
+  if (!std::filesystem::exists(file)) return false;
+  found->second.version = version;
+  found->second.file = file;
+  return true;
+}
+
 bool Session::ChangeDirectory(const std::filesystem::path& folder) {
   std::error_code error;
   if (!std::filesystem::is_directory(folder, error)) return false;
@@ -67,6 +80,17 @@ Model* Session::Retrieve(const ModelName& name) {
   return RetrieveTree(name, FolderIndex(working_directory_));
 }
 
+Model* Session::RetrieveFile(const std::filesystem::path& file, ModelKind kind) {
+  const std::string text = PathToUtf8(file.filename());
+  const auto versioned = ParseFileName(text);
+  const auto name = versioned ? versioned->model : ParseModelName(text);
+  if (!name || name->kind != kind) return nullptr;
+  if (Model* const present = Find(*name)) return present;
+  FolderIndex folder(file.parent_path());
+  if (versioned && !folder.Choose(*name, versioned->version)) return nullptr;
+  return RetrieveTree(*name, folder);
+}
+
 Model* Session::RetrieveTree(const ModelName& name, const FolderIndex& folder) {
   Model* const top = Load(name, folder);
   std::vector<Model*> loaded;
@@ -83,7 +107,23 @@ Model* Session::RetrieveTree(const ModelName& name, const FolderIndex& folder) {
     Resolve(*model);
   }
   RefuseCycle(loaded, folder);
+  for (Model* const model : loaded) Complete(*model);
   return top;
+}
+
+std::optional<Model> Session::Template(const std::filesystem::path& file) {
+  const std::filesystem::path full = working_directory_ / file;
+  const std::string text = PathToUtf8(full.filename());
+  const auto versioned = ParseFileName(text);
+  const auto name = versioned ? versioned->model : ParseModelName(text);
+  if (!name || name->kind != ModelKind::kDrawing) return std::nullopt;
+  const Model* const present = Find(*name);
+  const bool is_it = present != nullptr && !versioned && present->folder == full.parent_path();
+  if (is_it) return *present;
+  FolderIndex folder(full.parent_path());
+  if (versioned && !folder.Choose(*name, versioned->version)) return std::nullopt;
+  const std::filesystem::path newest = folder.Newest(*name);
+  return newest.empty() ? std::nullopt : std::optional(ReadModelFile(newest));
 }
 
 // Models that were in session before hold none of the `loaded` ones, so a new cycle is all of
@@ -101,10 +141,16 @@ void Session::RefuseCycle(const std::vector<Model*>& loaded, const FolderIndex& 
 Model* Session::Load(const ModelName& name, const FolderIndex& folder) {
   const std::filesystem::path file = folder.Newest(name);
   if (file.empty()) return nullptr;
-  return &Add(ReadModelFile(file));
+  return &Enter(ReadModelFile(file));
 }
 
 Model& Session::Add(Model model) {
+  Model& added = Enter(std::move(model));
+  Complete(added);
+  return added;
+}
+
+Model& Session::Enter(Model model) {
   models_.push_back(std::make_unique<Model>(std::move(model)));
   Model& added = *models_.back();
   by_name_[Key(added.id)] = &added;
@@ -116,6 +162,18 @@ Model& Session::Add(Model model) {
 void Session::Resolve(Model& model) {
   ForEachLink(model, [this](ModelLink& link) {
     if (link.model == nullptr) link.model = Find(link.name);
+  });
+}
+
+void Session::Complete(Model& model) {
+  Resolve(model);
+  if (DrawingContent* const drawing = model.As<DrawingContent>()) CompleteViews(*drawing);
+}
+
+bool Session::IsReadOnly(const std::filesystem::path& folder) const {
+  std::error_code error;
+  return std::ranges::any_of(read_only_, [&](const std::filesystem::path& closed) {
+    return std::filesystem::equivalent(closed, folder, error);
   });
 }
 

@@ -201,7 +201,7 @@ void CloseWindow(ScriptRun& run, const Statement&) {
   Window* const window = session.FindWindow(session.current_window());
   if (window == nullptr) throw ScriptError("no window is open");
   window->model = nullptr;
-  session.ActivateWindow(0);
+  session.ActivateWindow(kNoWindow);
 }
 
 void Erase(ScriptRun& run, const Statement& statement) {

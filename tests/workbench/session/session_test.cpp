@@ -85,5 +85,25 @@ TEST_F(SessionFiles, AModelPlacedInSeveralAssembliesIsNoCycle) {
   EXPECT_EQ(session_.models().size(), 4u);
 }
 
+TEST_F(SessionFiles, AFullPathMeansThatFileAndThoseBesideIt) {
+  Write("bolt.prt", "\"note\": \"first\"");
+  fs::copy_file(folder_ / "bolt.prt.1", folder_ / "bolt.prt.3");
+  WriteAssembly("pump.asm", {"bolt.prt"});
+  session_.ChangeDirectory(fs::temp_directory_path());
+  const auto version = [&](const char* name) {
+    Model* const model = session_.RetrieveFile(folder_ / name, ModelKind::kPart);
+    const int found = model == nullptr ? 0 : model->version;
+    if (model != nullptr) session_.Erase(*model);
+    return found;
+  };
+  EXPECT_EQ(version("bolt.prt.1"), 1);
+  EXPECT_EQ(version("bolt.prt"), 3);
+  EXPECT_EQ(version("bolt.prt.2"), 0);
+  EXPECT_EQ(version("pump.asm"), 0) << "of another kind";
+  EXPECT_EQ(version("bolt"), 0);
+  ASSERT_NE(session_.RetrieveFile(folder_ / "pump.asm.1", ModelKind::kAssembly), nullptr);
+  EXPECT_NE(session_.Find({"bolt", ModelKind::kPart}), nullptr);
+}
+
 }  // namespace
 }  // namespace wb

@@ -1,0 +1,99 @@
+// Sheets, scales, models and formats of drawings.
+#include "workbench/session/drawing.h"
+
+#include <algorithm>
+
+#include "workbench/base/text.h"
+
+namespace wb {
+namespace {
+
+constexpr SheetSize kSheetSizes[] = {
+    {"A0", 1189, 841}, {"A1", 841, 594}, {"A2", 594, 420},
+    {"A3", 420, 297},  {"A4", 210, 297}, {"A4H", 297, 210},
+};
+
+}  // namespace
+
+const SheetSize* FindSheetSize(std::string_view name) {
+  const auto found = std::ranges::find_if(
+      kSheetSizes, [&](const SheetSize& size) { return EqualFolded(name, size.name); });
+  return found == std::end(kSheetSizes) ? nullptr : found;
+}
+
+Sheet* FindSheet(DrawingContent& drawing, int number) {
+  const bool is_there = number >= 1 && number <= static_cast<int>(drawing.sheets.size());
+  return is_there ? &drawing.sheets[static_cast<size_t>(number - 1)] : nullptr;
+}
+
+const Sheet* FindSheet(const DrawingContent& drawing, int number) {
+  return FindSheet(const_cast<DrawingContent&>(drawing), number);
+}
+
+std::vector<Model*> DrawnModels(const DrawingContent& drawing) {
+  std::vector<Model*> models;
+  for (const DrawnModel& drawn : drawing.models) {
+    if (drawn.link.model != nullptr) models.push_back(drawn.link.model);
+  }
+  const bool current_alone = drawing.models.empty() && drawing.shows;
+  if (current_alone && drawing.shows->model != nullptr) models.push_back(drawing.shows->model);
+  return models;
+}
+
+bool IsDrawn(const DrawingContent& drawing, const Model& model) {
+  return std::ranges::count(DrawnModels(drawing), &model) > 0;
+}
+
+void ShowModel(DrawingContent& drawing, const ModelLink& model) {
+  if (drawing.models.empty() && drawing.shows) drawing.models.push_back({*drawing.shows});
+  const auto is_same = [&](const DrawnModel& drawn) {
+    return EqualFolded(drawn.link.name.Text(), model.name.Text());
+  };
+  if (std::ranges::none_of(drawing.models, is_same)) drawing.models.push_back({model});
+  drawing.shows = model;
+}
+
+DrawingContent MadeOf(const DrawingContent& pattern, const ModelLink& model) {
+  DrawingContent made;
+  made.shows = model;
+  made.sheets = pattern.sheets;
+  if (made.sheets.empty()) made.sheets.emplace_back();
+  for (Sheet& sheet : made.sheets) sheet.scales.Clear();
+  made.tables = pattern.tables;
+  made.notes = pattern.notes;
+  return made;
+}
+
+double SheetScale(const Sheet& sheet, const ModelName& model) {
+  const ModelScale* const own = sheet.scales.Find(FoldCase(model.Text()));
+  return own == nullptr ? sheet.scale : own->scale;
+}
+
+void SetSheetScale(Sheet& sheet, const ModelName& model, double scale) {
+  if (ModelScale* const own = sheet.scales.Find(FoldCase(model.Text()))) {
+    own->scale = scale;
+  } else {
+    sheet.scales.Add({model.Text(), scale});
+  }
+}
+
+bool PlaceFormat(DrawingContent& drawing, int sheet, const ModelName& format,
+                 const FormatContent& content, int format_sheet) {
+  const int number = std::max(format_sheet, kFirstSheet);
+  Sheet* const at = FindSheet(drawing, sheet);
+  if (at == nullptr || number > static_cast<int>(content.sheets.size())) return false;
+  const FormatSheet& from = content.sheets[static_cast<size_t>(number - 1)];
+  at->size = from.size;
+  at->format = format.Text();
+  at->format_sheet = number;
+  at->format_shown = true;
+  for (DrawingTable table : from.tables) {
+    table.id = NextId(drawing.tables);
+    table.format = format.Text();
+    table.segments = {sheet};
+    drawing.tables.Add(std::move(table));
+  }
+  return true;
+}
+
+}  // namespace wb
