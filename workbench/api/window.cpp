@@ -72,6 +72,21 @@ ProError ProWindowCurrentGet(int* window) {
   });
 }
 
+ProError ProWindowCurrentSet(int window) {
+  return Crossing(__func__, WindowIn{window}).Run([](const Call& call, const Window& wanted) {
+    call.host.session.SetCurrentWindow(wanted.id);
+  });
+}
+
+ProError ProWindowMdlGet(int window, ProMdl* model) {
+  return Crossing(__func__, WindowIn{window}, Out(model, "model place"))
+      .Run([](const Window& from, ProMdl& place) {
+        if (from.model == nullptr) return PRO_TK_E_NOT_FOUND;
+        place = from.model->handle;
+        return PRO_TK_NO_ERROR;
+      });
+}
+
 ProError ProWindowActivate(int window) {
   return Crossing(__func__, WindowIn{window}).Run([](const Call& call, const Window& wanted) {
     call.host.session.ActivateWindow(wanted.id);

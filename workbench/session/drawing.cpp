@@ -77,6 +77,23 @@ void SetSheetScale(Sheet& sheet, const ModelName& model, double scale) {
   }
 }
 
+SheetPoint OnSheet(const Sheet& sheet, const SheetPoint& on_screen) {
+  const Placement& m = sheet.transform;
+  SheetPoint point;
+  for (size_t axis = 0; axis < 2; ++axis) {
+    point[axis] = on_screen[0] * m[0][axis] + on_screen[1] * m[1][axis] + m[3][axis];
+  }
+  return point;
+}
+
+SheetPoint OnScreen(const Sheet& sheet, const SheetPoint& on_sheet) {
+  const Placement& m = sheet.transform;
+  const double area = m[0][0] * m[1][1] - m[0][1] * m[1][0];
+  const double x = on_sheet[0] - m[3][0];
+  const double y = on_sheet[1] - m[3][1];
+  return {(x * m[1][1] - y * m[1][0]) / area, (y * m[0][0] - x * m[0][1]) / area};
+}
+
 bool PlaceFormat(DrawingContent& drawing, int sheet, const ModelName& format,
                  const FormatContent& content, int format_sheet) {
   const int number = std::max(format_sheet, kFirstSheet);

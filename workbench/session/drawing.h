@@ -77,7 +77,7 @@ struct DrawingView {
   Outline outline{};
 };
 
-struct TableCell {
+struct DrawingCell {
   int row = 1;
   int column = 1;
   std::string text;
@@ -91,7 +91,7 @@ struct DrawingTable {
   SheetPoint place{};
   std::vector<double> widths;
   std::vector<double> heights;
-  std::vector<TableCell> cells;
+  std::vector<DrawingCell> cells;
 };
 
 // Values are the host's numbers of tolerance types.
@@ -181,6 +181,10 @@ DrawingContent MadeOf(const DrawingContent& pattern, const ModelLink& model);
 // The scale of a sheet for a model.
 double SheetScale(const Sheet& sheet, const ModelName& model);
 void SetSheetScale(Sheet& sheet, const ModelName& model, double scale);
+
+// A point of the screen on the sheet, by the sheet's transform, and the way back.
+SheetPoint OnSheet(const Sheet& sheet, const SheetPoint& on_screen);
+SheetPoint OnScreen(const Sheet& sheet, const SheetPoint& on_sheet);
 
 // Puts a format's sheet on a sheet of the drawing, in place of the format before; tables of that
 // one stay. Sheets 0 and 1 of a format are both its first one. False: it has no such sheet.

@@ -102,13 +102,13 @@ const RecordType& RecordTypeOf<DrawingView>() {
 }
 
 template <>
-const RecordType& RecordTypeOf<TableCell>() {
+const RecordType& RecordTypeOf<DrawingCell>() {
   static constexpr FactRow kFacts[] = {
-      Fact<&TableCell::row>("row", InFile::kAlways),
-      Fact<&TableCell::column>("column", InFile::kAlways),
-      Fact<&TableCell::text>("text", InFile::kRequired),
+      Fact<&DrawingCell::row>("row", InFile::kAlways),
+      Fact<&DrawingCell::column>("column", InFile::kAlways),
+      Fact<&DrawingCell::text>("text", InFile::kRequired),
   };
-  static const RecordType kType = TypeWith<TableCell>(kFacts);
+  static const RecordType kType = TypeWith<DrawingCell>(kFacts);
   return kType;
 }
 
