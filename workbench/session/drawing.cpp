@@ -32,11 +32,16 @@ const Sheet* FindSheet(const DrawingContent& drawing, int number) {
 
 std::vector<Model*> DrawnModels(const DrawingContent& drawing) {
   std::vector<Model*> models;
-  for (const DrawnModel& drawn : drawing.models) {
-    if (drawn.link.model != nullptr) models.push_back(drawn.link.model);
-  }
-  const bool current_alone = drawing.models.empty() && drawing.shows;
-  if (current_alone && drawing.shows->model != nullptr) models.push_back(drawing.shows->model);
+  const auto add = [&](Model* model) {
+    const bool known = model == nullptr || std::ranges::count(models, model) > 0;
+    if (!known) models.push_back(model);
+  };
+  const auto is_current = [&](const DrawnModel& drawn) {
+    return EqualFolded(drawn.link.name.Text(), drawing.shows->name.Text());
+  };
+  const bool current_listed = !drawing.shows || std::ranges::any_of(drawing.models, is_current);
+  if (!current_listed) add(drawing.shows->model);
+  for (const DrawnModel& drawn : drawing.models) add(drawn.link.model);
   return models;
 }
 
@@ -45,11 +50,15 @@ bool IsDrawn(const DrawingContent& drawing, const Model& model) {
 }
 
 void ShowModel(DrawingContent& drawing, const ModelLink& model) {
-  if (drawing.models.empty() && drawing.shows) drawing.models.push_back({*drawing.shows});
-  const auto is_same = [&](const DrawnModel& drawn) {
-    return EqualFolded(drawn.link.name.Text(), model.name.Text());
+  const auto lists = [&](const ModelLink& link) {
+    return std::ranges::any_of(drawing.models, [&](const DrawnModel& drawn) {
+      return EqualFolded(drawn.link.name.Text(), link.name.Text());
+    });
   };
-  if (std::ranges::none_of(drawing.models, is_same)) drawing.models.push_back({model});
+  if (drawing.shows && !lists(*drawing.shows)) {
+    drawing.models.insert(drawing.models.begin(), {*drawing.shows});
+  }
+  if (!lists(model)) drawing.models.push_back({model});
   drawing.shows = model;
 }
 

@@ -64,15 +64,15 @@ struct DrawingView {
   int id = 0;
   ViewKind kind = ViewKind::kGeneral;
   int sheet = kFirstSheet;
-  std::optional<ModelLink> shows;  // none: what the drawing shows
-  int parent = 0;                  // id of a view; 0: none
+  std::optional<ModelLink> shows{};  // none: what the drawing shows
+  int parent = 0;                    // id of a view; 0: none
   ViewSide side = ViewSide::kNone;
   Rotation orientation = kNoRotation;
   bool own_scale = false;  // otherwise its parent's, or that of its sheet for its model
   double scale = 1.0;
   bool exploded = false;
   SheetPoint place{};  // the middle of its outline
-  ViewDisplay display;
+  ViewDisplay display{};
   // As the last regeneration left it; all zero: never regenerated.
   Outline outline{};
 };
@@ -80,18 +80,18 @@ struct DrawingView {
 struct DrawingCell {
   int row = 1;
   int column = 1;
-  std::string text;
+  std::string text{};
 };
 
 // Rows count from the top, columns from the left; `place` is the upper left corner.
 struct DrawingTable {
   int id = 0;
-  std::string format;               // the format it came with, "frame.frm"; empty: none
+  std::string format{};             // the format it came with, "frame.frm"; empty: none
   std::vector<int> segments = {1};  // the sheet of each segment
   SheetPoint place{};
-  std::vector<double> widths;
-  std::vector<double> heights;
-  std::vector<DrawingCell> cells;
+  std::vector<double> widths{};
+  std::vector<double> heights{};
+  std::vector<DrawingCell> cells{};
 };
 
 // Values are the host's numbers of tolerance types.
@@ -110,7 +110,7 @@ struct Dimension {
   SheetPoint place{};
   double value = 0;
   // Lines parted by line breaks; empty: nobody has changed it.
-  std::string text;
+  std::string text{};
   ToleranceType tolerance = ToleranceType::kNominal;
   double upper = 0;
   double lower = 0;  // a positive amount below
@@ -122,7 +122,7 @@ struct SheetNote {
   int id = 0;
   int sheet = kFirstSheet;
   SheetPoint place{};
-  std::string text;
+  std::string text{};
 };
 
 // The scale of a sheet for one of the drawing's models, "pump.asm".
@@ -147,7 +147,8 @@ struct DrawnModel {
 
 struct DrawingContent {
   std::optional<ModelLink> shows;  // the current model
-  std::vector<DrawnModel> models;  // in the order of adding; empty: the current one alone
+  // In the order of adding; the current one stands before them when it is none of them.
+  std::vector<DrawnModel> models;
   int current_sheet = kFirstSheet;
   std::vector<Sheet> sheets;
   ItemList<DrawingView> views;

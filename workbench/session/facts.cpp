@@ -258,13 +258,20 @@ FactPlace FindFact(std::span<const RecordRef> records, std::string_view path) {
 
 bool IsFact(const FactValue& value, std::string_view text) {
   if (FactText(value) == text) return true;
-  const FactValue wanted = ParseFact(text, value);
   if (const double* const number = std::get_if<double>(&value)) {
-    return AreSame(*number, std::get<double>(wanted));
+    const auto wanted = Whole<double>(text);
+    return wanted && AreSame(*number, *wanted);
   }
   const auto* const numbers = std::get_if<std::vector<double>>(&value);
   if (numbers == nullptr) return false;
-  return std::ranges::equal(*numbers, std::get<std::vector<double>>(wanted), &AreSame);
+  const auto wanted = Numbers(text);
+  return wanted && std::ranges::equal(*numbers, *wanted, &AreSame);
+}
+
+size_t CountItems(std::span<const RecordRef> records, std::string_view path) {
+  const ListPlace place = FindList(records, path);
+  if (!place.key.empty()) throw FactError("\"" + std::string(path) + "\" is no list");
+  return place.list->size(place.record);
 }
 
 void AddItem(std::span<const RecordRef> records, std::string_view path, NamedFacts facts) {

@@ -304,9 +304,11 @@ struct FactPlace {
 };
 FactPlace FindFact(std::span<const RecordRef> records, std::string_view path);
 
-// Whether a fact's value is what a text says; numbers agree that differ by rounding alone. Throws
-// FactError for a text that is no such value.
+// Whether a fact's value is what a text says; numbers agree that differ by rounding alone.
 bool IsFact(const FactValue& value, std::string_view text);
+
+// How many items the list with this path has. Throws FactError.
+size_t CountItems(std::span<const RecordRef> records, std::string_view path);
 
 // Adds an item to the list with this path: "views/3" is the item with that key, "sheets" one of a
 // list without keys. Throws FactError.

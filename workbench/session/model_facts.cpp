@@ -147,20 +147,30 @@ std::array<RecordRef, 2> RecordsOf(Model& model) {
   return {RecordRef{&model, &RecordTypeOf<Model>()}, content};
 }
 
-FactPlace FindFact(Model& model, std::string_view path) {
+namespace {
+
+// Names the model in what is wrong with a path.
+template <typename Use>
+auto WithRecords(Model& model, Use use) {
   try {
-    return FindFact(RecordsOf(model), path);
+    return use(RecordsOf(model));
   } catch (const FactError& error) {
     throw FactError(model.id.Text() + ": " + error.what());
   }
 }
 
+}  // namespace
+
+FactPlace FindFact(Model& model, std::string_view path) {
+  return WithRecords(model, [&](const auto& records) { return FindFact(records, path); });
+}
+
 void AddItem(Model& model, std::string_view path, NamedFacts facts) {
-  try {
-    AddItem(RecordsOf(model), path, facts);
-  } catch (const FactError& error) {
-    throw FactError(model.id.Text() + ": " + error.what());
-  }
+  WithRecords(model, [&](const auto& records) { AddItem(records, path, facts); });
+}
+
+size_t CountItems(Model& model, std::string_view path) {
+  return WithRecords(model, [&](const auto& records) { return CountItems(records, path); });
 }
 
 std::vector<FactChange> ChangesBetween(const Model& before, const Model& after) {

@@ -25,6 +25,9 @@ FactPlace FindFact(Model& model, std::string_view path);
 // Adds an item to one of its lists. Throws FactError.
 void AddItem(Model& model, std::string_view path, NamedFacts facts);
 
+// How many items one of its lists has. Throws FactError.
+size_t CountItems(Model& model, std::string_view path);
+
 // What differs between two states of one model.
 std::vector<FactChange> ChangesBetween(const Model& before, const Model& after);
 

@@ -60,6 +60,14 @@ void Drawing(ScriptRun& run, const Statement& statement) {
   AddNew(run, std::move(drawing));
 }
 
+void Format(ScriptRun& run, const Statement& statement) {
+  Model format = NewModel(run, statement.Text("NAME"), ModelKind::kFormat);
+  for (const std::string& size : statement.Texts("SIZE")) {
+    format.As<FormatContent>()->sheets.push_back({size});
+  }
+  AddNew(run, std::move(format));
+}
+
 Model& SolidNamed(ScriptRun& run, const Statement& statement) {
   Model& model = run.ModelNamed(statement.Text("MODEL"));
   if (model.As<SolidContent>() == nullptr) {
@@ -231,6 +239,7 @@ constexpr StatementForm kForms[] = {
     {"assembly NAME",                                              kTopPlace,    &Assembly},
     {"manufacturing NAME [of MODEL]",                              kTopPlace,    &Manufacturing},
     {"drawing NAME [of MODEL] size SIZE...",                       kTopPlace,    &Drawing},
+    {"format NAME size SIZE...",                                   kTopPlace,    &Format},
     {"component MODEL <- COMPONENT {[id ID] [" WB_STATE "] [invisible] [flags FLAGS] [hidden] "
      "[missing] [at X Y Z] [times TIMES]}",                        kTopOrDialog, &Component},
     {"feature MODEL type FEATURE_TYPE {[id ID] [" WB_STATE "] [invisible] [flags FLAGS] [hidden]}",
