@@ -79,7 +79,8 @@ std::string NamesIn(std::span<const RecordRef> records) {
 // The first step of a path and what is behind it.
 struct PathSteps {
   explicit PathSteps(std::string_view path) {
-    const size_t slash = std::min(path.find('/'), path.size());
+    // Not by its own search, of whose inlined copies GCC 12 complains falsely.
+    const auto slash = static_cast<size_t>(std::ranges::find(path, '/') - path.begin());
     first = path.substr(0, slash);
     rest = path.substr(std::min(slash + 1, path.size()));
   }

@@ -188,8 +188,8 @@ TEST_F(DrawingViews, AnAssemblyTakesTheRoomOfWhatItShows) {
 
 TEST_F(DrawingViews, WhatAFileLeavesOutIsFilledIn) {
   ItemList<DrawingView>& views = Drawing().views;
-  views.Add({.id = 5, .kind = ViewKind::kProjection, .parent = 6, .place = {1300, 0}});
-  views.Add({.id = 6, .kind = ViewKind::kProjection, .parent = 1, .place = {900, 0}});
+  views.Add({.id = 5, .kind = ViewKind::kProjection, .parent = 6, .place = {1300, 350}});
+  views.Add({.id = 6, .kind = ViewKind::kProjection, .parent = 1, .place = {900, 350}});
   // Parents in a ring, and one that is not there.
   views.Add({.id = 7, .kind = ViewKind::kProjection, .parent = 8, .place = {9, 9}});
   views.Add({.id = 8, .kind = ViewKind::kProjection, .parent = 7});

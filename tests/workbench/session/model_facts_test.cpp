@@ -107,7 +107,7 @@ TEST_F(ModelFacts, AFileHoldsThemAll) {
   const Model drawing = PumpDrawing();
   EXPECT_EQ(Described(ChangesBetween(drawing, Reread(drawing))), Lines());
   // Nothing of it is what a new drawing has by itself.
-  EXPECT_EQ(Described(ChangesBetween(Model(drawing.id), drawing)).size(), 9u);
+  EXPECT_EQ(Described(ChangesBetween(Model(drawing.id), drawing)).size(), 11u);
 
   Model format({"frame", ModelKind::kFormat});
   format.As<FormatContent>()->sheets = {{"A3", {}}};
@@ -164,7 +164,8 @@ TEST_F(ModelFacts, AreFoundAndSetByPath) {
       {"surfaces/4/min", "1 2", "\"1 2\" instead of 3 numbers"},
       {"features/7/model", "bolt", "\"bolt\" instead of a model name such as"},
       {"features/8/hidden", "yes", "pump.asm: there is no features/8"},
-      {"colour", "red", "pump.asm: there is no fact \"colour\"; there are: note, parameters/..., "},
+      {"colour", "red",
+       "pump.asm: there is no fact \"colour\"; there are: note, view, parameters/..., "},
   };
   for (const auto& item : cases) {
     try {
