@@ -32,6 +32,10 @@ std::string DescribeArgument(int number) {
   return std::to_string(number);
 }
 
+std::string DescribeArgument(double number) {
+  return NumberText(number);
+}
+
 std::string DescribeArgument(const void* pointer) {
   return TheHost().DescribeHandle(pointer);
 }

@@ -37,6 +37,7 @@ struct RefusedByHabit {
 std::string DescribeArgument(const char* text);
 std::string DescribeArgument(const wchar_t* text);
 std::string DescribeArgument(int number);
+std::string DescribeArgument(double number);
 std::string DescribeArgument(const void* pointer);
 std::string DescribeArgument(const ProModelitem* item);
 template <typename T>

@@ -16,6 +16,7 @@ TreeIcon IconOf(const Model& model) {
     case ModelKind::kAssembly:
       return TreeIcon::kAssembly;
     case ModelKind::kDrawing:
+    case ModelKind::kFormat:
       return TreeIcon::kDrawing;
     case ModelKind::kManufacturing:
       return TreeIcon::kManufacturing;

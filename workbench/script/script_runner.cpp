@@ -241,8 +241,8 @@ Model* ScriptRun::FindModel(const std::string& name) {
       host.session.Find({name, ModelKind::kAssembly}) != nullptr) {
     throw ScriptError(name + " is " + name + ".prt and " + name + ".asm; say which");
   }
-  for (const ModelKind kind :
-       {ModelKind::kPart, ModelKind::kAssembly, ModelKind::kManufacturing, ModelKind::kDrawing}) {
+  for (const ModelKind kind : {ModelKind::kPart, ModelKind::kAssembly, ModelKind::kManufacturing,
+                               ModelKind::kDrawing, ModelKind::kFormat}) {
     if (Model* const model = host.session.Find({name, kind})) return model;
   }
   return nullptr;

@@ -102,6 +102,7 @@ void FolderSnapshot::Restore() const {
 
 SessionSnapshot::SessionSnapshot(const Host& host, const std::vector<fs::path>& folders)
     : current_window_(host.session.current_window()),
+      active_window_(host.session.active_window()),
       working_directory_(host.session.working_directory()),
       options_(host.options) {
   for (const auto& model : host.session.models()) {
@@ -136,7 +137,8 @@ void SessionSnapshot::RestoreWindows(Session& session) const {
   for (const HeldWindow& held : windows_) {
     session.FindWindow(held.id)->model = held.shows_model ? session.Find(held.model) : nullptr;
   }
-  session.ActivateWindow(current_window_);
+  session.ActivateWindow(active_window_);
+  session.SetCurrentWindow(current_window_);
 }
 
 void SessionSnapshot::Restore(Host& host) const {

@@ -62,6 +62,14 @@ void Drawing(ScriptRun& run, const Statement& statement) {
   AddNew(run, std::move(drawing));
 }
 
+void Format(ScriptRun& run, const Statement& statement) {
+  Model format = NewModel(run, statement.Text("NAME"), ModelKind::kFormat);
+  for (const std::string& size : statement.Texts("SIZE")) {
+    format.As<FormatContent>()->sheets.push_back({size});
+  }
+  AddNew(run, std::move(format));
+}
+
 Model& SolidNamed(ScriptRun& run, const Statement& statement) {
   Model& model = run.ModelNamed(statement.Text("MODEL"));
   if (model.As<SolidContent>() == nullptr) {
@@ -204,7 +212,7 @@ void CloseWindow(ScriptRun& run, const Statement&) {
   Window* const window = session.FindWindow(session.current_window());
   if (window == nullptr) throw ScriptError("no window is open");
   window->model = nullptr;
-  session.ActivateWindow(0);
+  session.ActivateWindow(kNoWindow);
 }
 
 void Erase(ScriptRun& run, const Statement& statement) {
@@ -234,6 +242,7 @@ constexpr StatementForm kForms[] = {
     {"assembly NAME",                                              kTopPlace,    &Assembly},
     {"manufacturing NAME [of MODEL]",                              kTopPlace,    &Manufacturing},
     {"drawing NAME [of MODEL] size SIZE...",                       kTopPlace,    &Drawing},
+    {"format NAME size SIZE...",                                   kTopPlace,    &Format},
     {"component MODEL <- COMPONENT {[id ID] [" WB_STATE "] [invisible] [flags FLAGS] [hidden] "
      "[missing] [at X Y Z] [times TIMES]}",                        kTopOrDialog, &Component},
     {"feature MODEL type FEATURE_TYPE {[id ID] [" WB_STATE "] [invisible] [flags FLAGS] [hidden]}",
