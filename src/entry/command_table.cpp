@@ -10,8 +10,14 @@
 #include "display/isolate.h"
 #include "display/normal_view.h"
 #include "display/show_all_comp.h"
+#include "drawing/dim_modify.h"
+#include "drawing/drw_scale_check.h"
+#include "drawing/frm_replace.h"
+#include "drawing/main_view_scale.h"
 #include "drawing/new_draw.h"
 #include "drawing/new_drw.h"
+#include "drawing/same_scale.h"
+#include "drawing/single_dim.h"
 #include "drawing/twe_views.h"
 #include "entry/not_in_build.h"
 #include "export/bill/bom.h"
@@ -51,7 +57,7 @@ constexpr CommandRow kCommandTable[] = {
     {"BoxSel",                "BoxSel_Help",                "BoxSel.png",                &BoxSel,         kAssemblyMode,       true},
     {"SetMat",                "SetMat_Help",                "SetMat.png",                &NotInBuild,     kPartOrAssemblyMode, true},
     {"SetBendTable",          "SetBendTable_Help",          "SetBendTable.png",          &NotInBuild,     kPartOrAssemblyMode, true},
-    {"SameScale",             "SameScale_Help",             "SameScale.png",             &NotInBuild,     kDrawingMode,        true},
+    {"SameScale",             "SameScale_Help",             "SameScale.png",             &SameScale,      kDrawingMode,        true},
     {"QmIsolate",             "QmIsolate_Help",             "QmIsolate.png",             &QmIsolate,      kAssemblyMode,       true},
     {"QmHideReverse",         "QmHideReverse_Help",         "QmHideReverse.png",         &QmHideReverse,  kAssemblyMode,       true},
     {"QmShowAllComp",         "QmShowAllComp_Help",         "QmShowAllComp.png",         &QmShowAllComp,  kAssemblyMode,       true},
@@ -74,9 +80,9 @@ constexpr CommandRow kCommandTable[] = {
     {"QmExport",              "QmExport_Help",              "QmExport.png",              &NotInBuild,     kAlways,             true},
     {"QmMdlCount",            "QmMdlCount_Help",            "QmMdlCount.png",            &NotInBuild,     kAssemblyMode,       true},
     {"QmNewDrw",              "QmNewDrw_Help",              "QmNewDrw.png",              &QmNewDrw,       kAssemblyMode,       true},
-    {"QmDimModify",           "QmDimModify_Help",           "QmDimModify.png",           &NotInBuild,     kDrawingMode,        true},
-    {"QmFrmReplace",          "QmFrmReplace_Help",          "QmFrmReplace.png",          &NotInBuild,     kAlways,             true},
-    {"QmDrwScaleCheck",       "QmDrwScaleCheck_Help",       "QmDrwScaleCheck.png",       &NotInBuild,     kAlways,             true},
+    {"QmDimModify",           "QmDimModify_Help",           "QmDimModify.png",           &QmDimModify,    kDrawingMode,        true},
+    {"QmFrmReplace",          "QmFrmReplace_Help",          "QmFrmReplace.png",          &QmFrmReplace,   kAlways,             true},
+    {"QmDrwScaleCheck",       "QmDrwScaleCheck_Help",       "QmDrwScaleCheck.png",       &QmDrwScaleCheck, kAlways,             true},
     {"QmSimRep",              "QmSimRep_Help",              "QmSimRep.png",              &NotInBuild,     kAssemblyMode,       true},
     {"QmBox",                 "QmBox_Help",                 "QmBox.png",                 &NotInBuild,     kAssemblyMode,       true},
     {"QmExportDwg",           "QmExportDwg_Help",           "QmExportDwg.png",           &NotInBuild,     kDrawingMode,        true},
@@ -84,9 +90,9 @@ constexpr CommandRow kCommandTable[] = {
     {"QmMdlNameCopy",         "QmMdlNameCopy_Help",         "QmMdlNameCopy.png",         &QmMdlNameCopy,  kAssemblyMode,       true},
     {"QmMdlRename",           "QmMdlRename_Help",           "QmMdlRename.png",           &NotInBuild,     kAssemblyMode,       true},
     {"QmExportStp",           "QmExportStp_Help",           "QmExportStp.png",           &NotInBuild,     kSolidMode,          true},
-    {"QmUpdateSheetScale",    "QmUpdateSheetScale_Help",    "QmUpdateSheetScale.png",    &NotInBuild,     kDrawingMode,        true},
-    {"QmUpdateMainViewScale", "QmUpdateMainViewScale_Help", "QmUpdateMainViewScale.png", &NotInBuild,     kDrawingMode,        true},
-    {"QmSingleDim",           "QmSingleDim_Help",           "QmSingleDim.png",           &NotInBuild,     kDrawingMode,        true},
+    {"QmUpdateSheetScale",    "QmUpdateSheetScale_Help",    "QmUpdateSheetScale.png",    &QmUpdateSheetScale, kDrawingMode,        true},
+    {"QmUpdateMainViewScale", "QmUpdateMainViewScale_Help", "QmUpdateMainViewScale.png", &QmUpdateMainViewScale, kDrawingMode,        true},
+    {"QmSingleDim",           "QmSingleDim_Help",           "QmSingleDim.png",           &QmSingleDim,    kDrawingMode,        true},
     {"QmSetDirectory",        "QmSetDirectory_Help",        "QmSetDirectory.png",        &QmSetDirectory, kAlways,             true},
     {"QmConfig",              "QmConfig_Help",              "QmConfig.png",              &QmConfig,       kAlways,             true},
     {"ForTest",               "ForTest_Help",               "ForTest.png",               &ForTest,        kAlways,             true},

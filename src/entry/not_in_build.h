@@ -19,7 +19,6 @@ inline constexpr std::string_view kNotInBuild[] = {
     "SurfTransparent",
     "SetMat",
     "SetBendTable",
-    "SameScale",
     "QmRelations",
     "SetUnit",
     "CloneComp",
@@ -33,18 +32,12 @@ inline constexpr std::string_view kNotInBuild[] = {
     "QmRemoveCons",
     "QmExport",
     "QmMdlCount",
-    "QmDimModify",
-    "QmFrmReplace",
-    "QmDrwScaleCheck",
     "QmSimRep",
     "QmBox",
     "QmExportDwg",
     "QmExportPdf",
     "QmMdlRename",
     "QmExportStp",
-    "QmUpdateSheetScale",
-    "QmUpdateMainViewScale",
-    "QmSingleDim",
 };
 
 // Says in a caption box that the command is not in this build.
