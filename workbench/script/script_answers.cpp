@@ -1,6 +1,6 @@
 // Answers of the scripted user: dialogs, picks, files, prompts and message boxes.
 #include "workbench/base/text.h"
-#include "workbench/script/own_path.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/script/script_calls.h"
 #include "workbench/script/script_paths.h"
 #include "workbench/script/script_runner.h"

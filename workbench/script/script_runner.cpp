@@ -7,7 +7,7 @@
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
 #include "workbench/language/script_words.h"
-#include "workbench/script/missing_model.h"
+#include "workbench/reasons/missing_model.h"
 #include "workbench/script/script_watch.h"
 
 namespace wb {

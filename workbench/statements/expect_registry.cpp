@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "workbench/base/text.h"
-#include "workbench/script/access_reason.h"
+#include "workbench/reasons/access_reason.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/statements/statement_families.h"
 

@@ -1,6 +1,6 @@
 // Statements on the plug-in's life and on commands.
 #include "workbench/plugin/timers.h"
-#include "workbench/script/access_reason.h"
+#include "workbench/reasons/access_reason.h"
 #include "workbench/script/memory_sweep.h"
 #include "workbench/script/script_calls.h"
 #include "workbench/script/script_record.h"

@@ -8,7 +8,7 @@
 #include "tests/workbench/test_paths.h"
 #include "workbench/base/command_line.h"
 #include "workbench/base/text.h"
-#include "workbench/script/own_path.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/script/script_windows.h"
 #include "workbench/statements/fault_statements.h"
 
