@@ -72,15 +72,8 @@ ProView MainView(const Sheet& sheet) {
   return general.empty() ? nullptr : general.front();
 }
 
-struct Scales {
-  ProView view;
-  ProSolid solid;
-  double of_view;
-  double of_sheet;
-};
-
 // Those of the main view and its sheet when they differ; nothing, after a message, otherwise.
-std::optional<Scales> DifferingScales(const Sheet& sheet) {
+std::optional<MainViewScales> DifferingScales(const Sheet& sheet) {
   ProView view = MainView(sheet);
   if (view == nullptr) {
     ShowMessage(L"\t当前页面无主视图\t");
@@ -92,33 +85,23 @@ std::optional<Scales> DifferingScales(const Sheet& sheet) {
     const auto of_sheet =
         solid != nullptr ? SheetScale(sheet.drawing, solid, sheet.number) : std::nullopt;
     if (!of_view || !of_sheet) return std::nullopt;
-    if (DifferentScales(*of_view, *of_sheet)) return Scales{view, solid, *of_view, *of_sheet};
+    if (DifferentScales(*of_view, *of_sheet)) {
+      return MainViewScales{sheet.drawing, sheet.number, view, solid, *of_view, *of_sheet};
+    }
   }
   ShowMessage(L"\t比例一致，无需更新\t");
   return std::nullopt;
 }
 
-ProError Update(const std::function<ProError(const Sheet&, const Scales&)>& set) {
+}  // namespace
+
+ProError AlignScales(const std::function<ProError(const MainViewScales&)>& set) {
   const auto sheet = CurrentSheet();
   if (!sheet) return PRO_TK_E_NOT_FOUND;
   const auto scales = DifferingScales(*sheet);
   if (!scales) return PRO_TK_NO_CHANGE;
-  const ProError status = set(*sheet, *scales);
+  const ProError status = set(*scales);
   return Ok(status) ? ProDwgSheetRegenerate(sheet->drawing, sheet->number) : status;
-}
-
-}  // namespace
-
-ProError QmUpdateSheetScale() {
-  return Update([](const Sheet& sheet, const Scales& scales) {
-    return ProDrawingScaleSet(sheet.drawing, scales.solid, sheet.number, scales.of_view);
-  });
-}
-
-ProError QmUpdateMainViewScale() {
-  return Update([](const Sheet& sheet, const Scales& scales) {
-    return ProDrawingViewScaleSet(sheet.drawing, scales.view, scales.of_sheet);
-  });
 }
 
 }  // namespace qm
