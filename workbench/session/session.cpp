@@ -21,7 +21,10 @@ std::string Key(const ModelName& name) {
 FolderIndex::FolderIndex(const std::filesystem::path& folder) {
   std::error_code error;
   for (const auto& item : std::filesystem::directory_iterator(folder, error)) {
-    const auto name = ParseFileName(PathToUtf8(item.path().filename()));
+    const std::string text = PathToUtf8(item.path().filename());
+    auto name = ParseFileName(text);
+    // A file without a version, as other programs copy it, is older than all that have one.
+    if (const auto plain = name ? std::nullopt : ParseModelName(text)) name = {*plain, 0};
     if (!name) continue;
     auto [at, fresh] =
         entries_.try_emplace(Key(name->model), Entry{name->model, name->version, item.path()});

@@ -21,6 +21,14 @@ std::optional<std::wstring> Line(std::string_view button, const std::wstring& ty
   return NewDimLine(Button(button), typed, present);
 }
 
+// A letter of the host's symbol font in a text.
+std::wstring Symbol(wchar_t letter) {
+  std::wstring text(3, letter);
+  text.front() = L'\x01';
+  text.back() = L'\x02';
+  return text;
+}
+
 TEST(DimModifyRules, FortyNineButtonsEachOnce) {
   std::set<std::string_view> names;
   for (const DimButton& button : DimButtons()) names.insert(button.button);
@@ -29,14 +37,14 @@ TEST(DimModifyRules, FortyNineButtonsEachOnce) {
 
 TEST(DimModifyRules, APrefixIsTheWholeNewText) {
   const std::wstring value = L"@D";
-  const std::wstring diameter = {1, L'n', 2};
+  const std::wstring diameter = Symbol(L'n');
   EXPECT_EQ(Line("preBt1", {}, L"old"), L"R@D");
   EXPECT_EQ(Line("preBt2"), diameter + value);
   EXPECT_EQ(Line("preBt4"), L"S" + diameter + value);
   EXPECT_EQ(Line("preBt7"), L"(@D)");
-  EXPECT_EQ(Line("preBt8"), (std::wstring{1, L'o', 2} + value));
-  EXPECT_EQ(Line("preBt9"), (std::wstring{1, L'w', 2} + value));
-  EXPECT_EQ(Line("preBt10"), (std::wstring{1, L'v', 2} + value));
+  EXPECT_EQ(Line("preBt8"), (Symbol(L'o') + value));
+  EXPECT_EQ(Line("preBt9"), (Symbol(L'w') + value));
+  EXPECT_EQ(Line("preBt10"), (Symbol(L'v') + value));
 }
 
 TEST(DimModifyRules, QuantitySpacingAndDepthStandAroundThePresentText) {
@@ -44,8 +52,8 @@ TEST(DimModifyRules, QuantitySpacingAndDepthStandAroundThePresentText) {
   EXPECT_EQ(Line("preBt11", L"4"), L"4×@D");
   EXPECT_EQ(Line("sufBt1", {}, L"4×@D"), L"4×@DEQS");
   EXPECT_EQ(Line("sufBt1"), L"@DEQS");
-  EXPECT_EQ(Line("sufBt2", L"12", L"M@D"), (L"M@D" + std::wstring{1, L'x', 2} + L"12"));
-  EXPECT_EQ(Line("sufBt2", L"12", L""), (std::wstring{1, L'x', 2} + L"12"));
+  EXPECT_EQ(Line("sufBt2", L"12", L"M@D"), (L"M@D" + Symbol(L'x') + L"12"));
+  EXPECT_EQ(Line("sufBt2", L"12", std::wstring()), (Symbol(L'x') + L"12"));
   EXPECT_EQ(Line("sufBt1", {}, std::wstring(77, L'a')), std::wstring(77, L'a') + L"EQS");
   EXPECT_EQ(Line("sufBt1", {}, std::wstring(78, L'a')), std::nullopt);  // never cut
 }
