@@ -149,9 +149,9 @@ struct FactTraits<std::array<double, Size>> {
     if (numbers == nullptr || numbers->size() != Size) {
       RefuseFact(value, std::to_string(Size) + " numbers");
     }
-    std::array<double, Size> held;
+    std::array<double, Size> held{};
     std::copy(numbers->begin(), numbers->end(), held.begin());
-    return held;
+    return held{};
   }
 };
 // Matrices: row by row.
