@@ -151,7 +151,7 @@ struct FactTraits<std::array<double, Size>> {
     }
     std::array<double, Size> held{};
     std::copy(numbers->begin(), numbers->end(), held.begin());
-    return held{};
+    return held;
   }
 };
 // Matrices: row by row.
