@@ -15,6 +15,7 @@ class DrawingsMade : public DrawingContract {
     std::filesystem::create_directories(folder_ / "tp");
     WriteModelFile(pattern, folder_ / "tp" / "qm.drw.1");
     content.template_errors = 2;
+    pattern.id.name = "bad";
     WriteModelFile(pattern, folder_ / "bad.drw.1");
     EXPECT_EQ(ProMdlDataGet(plate_->handle, &record_), PRO_TK_NO_ERROR);
   }
