@@ -26,8 +26,8 @@ std::wstring ConfigPath(const wchar_t* file);
 // Path of a file or folder of the installation, beside the plug-in; the same holds for it.
 std::wstring InstalledPath(const wchar_t* name);
 
-// The path of a settings file, starting from the text folder that the host registered for the plug-in; the plug-in's
-// own folder when the host does not tell.
+// The path of a settings file, starting from the text folder that the host registered for the
+// plug-in; the plug-in's own folder when the host does not tell.
 std::wstring TextFolderConfigPath(const wchar_t* file);
 
 // At most 254 characters; longer values are cut. Nothing when the file is there and cannot be read,
