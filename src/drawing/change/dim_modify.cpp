@@ -75,6 +75,7 @@ ProError Change(const DialogView& dialog, const DimButton& button) {
   if (!Ok(status) || place.drawing == nullptr) return PRO_TK_E_NOT_FOUND;
   status = ProDrawingCurrentSheetGet(place.drawing, &place.sheet);
   if (!Ok(status)) return status;
+  if (place.sheet < kFirstSheet) return PRO_TK_GENERAL_ERROR;
   const auto typed = TypedText(dialog, button.change);
   if (!typed) return PRO_TK_GENERAL_ERROR;
   const DimensionChange change(button, *typed);

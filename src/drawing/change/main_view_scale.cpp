@@ -27,6 +27,7 @@ std::optional<Sheet> CurrentSheet() {
   Sheet sheet = {};
   if (!Ok(ProMdlCurrentGet(&sheet.drawing)) || sheet.drawing == nullptr) return std::nullopt;
   if (!Ok(ProDrawingCurrentSheetGet(sheet.drawing, &sheet.number))) return std::nullopt;
+  if (sheet.number < kFirstSheet) return std::nullopt;
   return sheet;
 }
 

@@ -1,6 +1,8 @@
 // Makes drawings of templates.
 #include "drawing/create/template_drawing.h"
 
+#include <algorithm>
+
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/host_name.h"
@@ -21,6 +23,10 @@ NewDrawing MakeDrawing(const std::wstring& name, ProMdl model, std::wstring temp
   auto host_name = HostName::From(name);
   ProMdldata data = {};
   if (!host_name || !Ok(ProMdlDataGet(model, &data))) return made;
+  if (std::ranges::all_of(data.texts, [](wchar_t c) { return c == L'\0'; })) {
+    LogEvent("ProMdlDataGet answered success and gave no record of " + ToUtf8(name));
+    return made;
+  }
   ProDwgcreateErrs errors = nullptr;
   made.status = ProDrawingFromTmpltCreate(host_name->name, template_name.data(), &data,
                                           PRO_DWGCREATE_DISPLAY_DRAWING, &made.drawing, &errors);

@@ -1,6 +1,7 @@
 // Leaves the working directory and comes back.
 #include "frame/folders/working_directory.h"
 
+#include "frame/messages/message_area.h"
 #include "frame/messages/run_log.h"
 #include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
@@ -25,14 +26,23 @@ ProError WorkingDirectory::Enter(const std::wstring& folder) {
   return status;
 }
 
+// An answer that says nothing is no reason to doubt the change.
+bool WorkingDirectory::IsBack() const {
+  ProPath current = {};
+  return !Ok(ProDirectoryCurrentGet(current)) || FixedText(current) == FixedText(remembered_);
+}
+
 void WorkingDirectory::Return() {
   if (!is_away_) return;
   is_away_ = false;
-  const ProError status = ProDirectoryChange(remembered_);
-  if (!Ok(status)) {
-    LogEvent("ProDirectoryChange back to " + ToUtf8(FixedText(remembered_)) + " answered " +
-             StatusName(status));
-  }
+  // Twice, since all that the user does next would happen in the wrong folder.
+  ProError status = ProDirectoryChange(remembered_);
+  if (Ok(status) && IsBack()) return;
+  status = ProDirectoryChange(remembered_);
+  if (Ok(status) && IsBack()) return;
+  LogEvent("ProDirectoryChange back to " + ToUtf8(FixedText(remembered_)) + " answered " +
+           StatusName(status));
+  DisplayNote("The working directory could not be changed back to %0w", remembered_);
 }
 
 }  // namespace qm

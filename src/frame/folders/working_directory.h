@@ -22,6 +22,8 @@ class WorkingDirectory {
   void Return();
 
  private:
+  bool IsBack() const;
+
   ProPath remembered_ = {};
   bool is_known_ = false;
   bool is_away_ = false;
