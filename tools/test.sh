@@ -31,6 +31,17 @@ count() {
   echo "$name: $line"
 }
 
+# The sanitizers report leaks behind the closing line, and tell by the exit code.
+count_native() {
+  local log=$1 code=$2
+  count "native" "$log"
+  if [ "$code" -ne 0 ] && grep -qE '^[0-9]+ passed, 0 failed$' "$log"; then
+    failed=$((failed + 1))
+    echo "native: ended with $code behind its closing line:"
+    sed -n '/^[0-9]* passed, 0 failed$/,$p' "$log" | head -n 60
+  fi
+}
+
 # One check by a tool: quiet when it passes.
 check() {
   local name=$1
@@ -65,11 +76,14 @@ prepare_wine
 second=$build/wine-second
 prepare_second_wine "$second"
 "$native/native_tests" >"$build/native.log" 2>&1 &
+native_run=$!
 LC_ALL=zh_CN.UTF-8 run_windows "$cross/quillmax_tests.exe" >"$build/windows-936.log" 2>&1 &
 WINEPREFIX=$second LC_ALL=en_US.UTF-8 run_windows "$cross/quillmax_tests.exe" \
   >"$build/windows-1252.log" 2>&1 &
+native_code=0
+wait "$native_run" || native_code=$?
 wait
-count "native" "$build/native.log"
+count_native "$build/native.log" "$native_code"
 count "windows, code page 936" "$build/windows-936.log"
 count "windows, code page 1252" "$build/windows-1252.log"
 

@@ -2,6 +2,9 @@
 #include "workbench/host/call.h"
 
 #include <mutex>
+#include <string_view>
+
+#include "workbench/host/family_clock.h"
 
 namespace wb {
 namespace {
@@ -44,6 +47,21 @@ std::string DescribeArgument(const ProModelitem* item) {
   if (item == nullptr) return "null";
   return "item type " + std::to_string(static_cast<int>(item->type)) + " id " +
          std::to_string(item->id) + " of " + TheHost().DescribeHandle(item->owner);
+}
+
+FamilyClock& TheFamilyClock() {
+  static FamilyClock clock;
+  return clock;
+}
+
+CrossingBase::CrossingBase(const char* function) : host_(TheHost()), function_(function) {
+  const char* const family = TheFamilyClock().family;
+  is_clocked_ = family != nullptr && std::string_view(function).starts_with(family);
+  if (is_clocked_) since_ = std::chrono::steady_clock::now();
+}
+
+CrossingBase::~CrossingBase() {
+  if (is_clocked_) TheFamilyClock().spent += std::chrono::steady_clock::now() - since_;
 }
 
 bool CrossingBase::Begin() {

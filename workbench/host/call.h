@@ -9,6 +9,7 @@
 // no status has succeeded. One that wants more of the host takes a `const Call&` first.
 #pragma once
 
+#include <chrono>
 #include <cstring>
 #include <tuple>
 #include <type_traits>
@@ -120,13 +121,15 @@ class CrossingBase {
   // Names the exception in flight.
   ProError Caught() const;
 
-  explicit CrossingBase(const char* function) : host_(TheHost()), function_(function) {}
-  ~CrossingBase() = default;
+  explicit CrossingBase(const char* function);
+  ~CrossingBase();
 
   Host& host_;
   const char* function_;
   long call_ = 0;
   const FaultPlan* fault_ = nullptr;
+  bool is_clocked_ = false;
+  std::chrono::steady_clock::time_point since_;
   bool user_acted_ = false;  // between the plug-in's call and its being carried out
 };
 

@@ -54,6 +54,16 @@ std::optional<std::string> ReadProfile(const std::filesystem::path& file,
   return FromWide(text);
 }
 
+std::vector<std::string> ProfileSections(const std::filesystem::path& file) {
+  std::vector<wchar_t> buffer(kProfileBuffer);
+  ::GetPrivateProfileSectionNamesW(buffer.data(), kProfileBuffer, file.wstring().c_str());
+  std::vector<std::string> names;
+  for (const wchar_t* name = buffer.data(); *name != L'\0'; name += std::wcslen(name) + 1) {
+    names.push_back(FromWide(name));
+  }
+  return names;
+}
+
 void FlushProfile(const std::filesystem::path& file) {
   ::WritePrivateProfileStringW(nullptr, nullptr, nullptr, file.wstring().c_str());
 }

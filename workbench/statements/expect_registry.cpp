@@ -180,6 +180,15 @@ void ExpectMenuButton(ScriptRun& run, const Statement& statement) {
                 statement.Text("COMMAND"), got);
 }
 
+// As the plug-in has named them, which no user sees.
+void ExpectMenuNames(ScriptRun& run, const Statement& statement) {
+  const Menu& menu = MenuAt(run, statement);
+  std::vector<std::string> names;
+  for (const MenuButton& button : menu.buttons) names.push_back(button.name);
+  run.CheckText(statement, menu.name + " buttons", Join(" ", statement.Texts("BUTTON")),
+                Join(" ", names));
+}
+
 void ExpectNotification(ScriptRun& run, const Statement& statement) {
   run.EnsureStarted();
   const auto& set = run.host.commands.notifications;
@@ -211,6 +220,7 @@ constexpr StatementForm kForms[] = {
     {"expect menu NAME missing",                                  kTopPlace, &ExpectMenuMissing},
     {"expect menu NAME buttons N",                                kTopPlace, &ExpectMenuCount},
     {"expect menu NAME button NTH is COMMAND",                    kTopPlace, &ExpectMenuButton},
+    {"expect menu NAME names BUTTON...",                          kTopPlace, &ExpectMenuNames},
     {"expect notification popup_create STATE:registered|missing", kTopPlace, &ExpectNotification},
 };
 // clang-format on

@@ -60,6 +60,18 @@ class HeldFile {
   DWORD error_;
 };
 
+// A new file in UTF-16, as the shipped ones are: one that Windows itself makes is in the code page,
+// and holds question marks for all that the code page lacks.
+void CreateWhereMissing(const std::wstring& path) {
+  constexpr wchar_t kByteOrderMark = 0xFEFF;
+  const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return;
+  DWORD written = 0;
+  ::WriteFile(file, &kByteOrderMark, sizeof(kByteOrderMark), &written, nullptr);
+  ::CloseHandle(file);
+}
+
 }  // namespace
 
 namespace {
@@ -110,6 +122,7 @@ std::wstring ReadSetting(const wchar_t* section, const wchar_t* key, const std::
 
 bool WriteSetting(const wchar_t* section, const wchar_t* key, const std::wstring& value,
                   const std::wstring& path) {
+  CreateWhereMissing(path);
   return ::WritePrivateProfileStringW(section, key, value.c_str(), path.c_str()) != FALSE;
 }
 

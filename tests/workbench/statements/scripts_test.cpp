@@ -310,6 +310,17 @@ TEST(FirstRuns, CountAProcessThatDiesAndOneThatDoesWrong) {
   fs::remove(file);
 }
 
+// The plug-in looks each function up once, so that in one process the first script would decide.
+TEST(ScriptRunner, FunctionsAreWithheldFromOneScriptAlone) {
+  const fs::path scripts = kSource / "tests" / "scripts";
+  const std::string withholds = PathToUtf8(scripts / "entry" / "missing_function.qms");
+  const std::string output =
+      OutputOf(TestBinaryFolder() / "workbench.exe",
+               {"run", withholds, PathToUtf8(scripts / "frame" / "set_directory.qms"), withholds})
+          .value_or("it cannot be started");
+  EXPECT_TRUE(Trimmed(output).ends_with(" passed, 0 failed")) << output;
+}
+
 TEST(ScriptRunner, NothingRunsOfAScriptWithErrors) {
   EXPECT_EQ(FailuresOf("run QmIsolate\nopne bolt\n"),
             "scripts_test.qms:2: unknown statement \"opne\"; did you mean \"open\"?\n");
