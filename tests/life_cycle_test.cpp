@@ -1,12 +1,12 @@
 // Starts, stops, loads and unloads of the plug-in, a great many of them and disturbed ones.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <fstream>
 #include <functional>
+#include <set>
 
 #include "tests/plugin_host.h"
 #include "workbench/bench/bench_heap.h"
-#include "workbench/windows/windows_hooks.h"
 
 #include <psapi.h>
 
@@ -69,68 +69,101 @@ TEST_F(LifeCycle, TwoThousandLoadsAndUnloadsWithoutAStart) {
   EXPECT_EQ(TakeBreaches(), Lines());
 }
 
-// Makes the plug-in's own allocations fail: the n-th one once, counted from the order on.
-class ShortMemory {
- public:
-  explicit ShortMemory(const std::filesystem::path& dll)
-      : module_(::GetModuleHandleW(dll.c_str())) {
-    const Hook hook{"malloc", reinterpret_cast<void*>(&Allocate)};
-    const Interception done = InterceptImports(module_, std::span(&hook, 1));
-    EXPECT_EQ(done.replaced.size(), 1u);
+// All functions of the host by their plain names.
+std::set<std::string> HostFunctions() {
+  std::set<std::string> names;
+  std::ifstream notes(std::filesystem::path(QM_SOURCE_DIR) / "docs" / "host-api-notes.txt");
+  for (std::string line; std::getline(notes, line);) {
+    if (line.starts_with("Pro")) names.insert(line.substr(0, line.find(' ')));
   }
-  ~ShortMemory() {
-    const Hook hook{"malloc", reinterpret_cast<void*>(&std::malloc)};
-    InterceptImports(module_, std::span(&hook, 1));
+  return names;
+}
+
+// Under a name of its own: what was looked up once is never looked up again.
+TEST_F(LifeCycle, AProcessThatOffersNothingAtAllIsRefusedWithASentence) {
+  const std::filesystem::path dll = Installed().tree() / "foreign.dll";
+  std::filesystem::copy_file(Installed().dll(), dll,
+                             std::filesystem::copy_options::overwrite_existing);
+  Plugin plugin(dll);
+  host_.windows.withheld = HostFunctions();
+  ASSERT_GT(host_.windows.withheld.size(), 100u);
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_NE(plugin.Start(), 0);
+    EXPECT_EQ(
+        plugin.refusal(),
+        "羽石工具箱未能启动：在宿主程序中找不到任何接口函数，请检查插件与宿主的版本是否一致。");
   }
-  ShortMemory(const ShortMemory&) = delete;
-  ShortMemory& operator=(const ShortMemory&) = delete;
+  for (const auto& [function, count] : host_.trace.Counts()) {
+    EXPECT_FALSE(function.starts_with("Pro")) << function;
+  }
+  EXPECT_TRUE(host_.windows.timers.empty());
+  EXPECT_EQ(TakeBreaches(), Lines());
+  // One that offers anything is told apart, and what is missing is named as ever.
+  host_.windows.withheld.erase("ProMdlCurrentGet");
+  EXPECT_EQ(plugin.Start(), 0);
+}
 
-  void FailOnce(int nth) { left_ = nth; }
-  // Ends the order; true when the failure has happened.
-  bool TakeStruck() { return std::exchange(left_, 0) == 0; }
-
- private:
-  static void* Allocate(size_t size) {
-    if (left_ > 0 && --left_ == 0) return nullptr;
-    return std::malloc(size);
+// A start with the n-th of the plug-in's own allocations failed.
+class ShortMemory : public LifeCycle {
+ protected:
+  // Started whole, or refused whole with the reason. True when the failure has happened.
+  bool StartShort(Plugin& plugin, long nth, bool from_then_on) {
+    FaultPlan plan;
+    plan.kind = FaultKind::kNoMemory;
+    plan.nth = nth;
+    plan.from_then_on = from_then_on;
+    host_.faults.Order(plan);
+    const int answer = plugin.Start();
+    const bool struck = host_.faults.struck() > 0;
+    host_.faults.Clear();
+    EXPECT_EQ(plugin.refusal(), answer == 0 ? "" : kRefusal) << "allocation " << nth;
+    EXPECT_EQ(host_.commands.commands.size(), answer == 0 ? 55u : 0u) << "allocation " << nth;
+    EXPECT_TRUE(answer == 0 || host_.windows.timers.empty());
+    if (answer == 0) plugin.Stop();
+    EXPECT_EQ(TakeBreaches(), Lines()) << "allocation " << nth;
+    host_.trace.Restart();
+    return struck;
   }
 
-  static inline int left_ = 0;
-  HMODULE module_;
+  static constexpr const char* kRefusal = "羽石工具箱未能启动：内存不足，请关闭其他程序后重试。";
 };
 
 // Each loading and unloading of a library that throws costs the process a thread-local slot, and
 // there are about a thousand: a started plug-in stays loaded.
-TEST_F(LifeCycle, TwoThousandLoadsAndUnloadsWithExceptionsInside) {
+TEST_F(ShortMemory, TwoThousandLoadsAndUnloadsWithExceptionsInside) {
   Plugin first(Installed().dll());
-  ShortMemory memory(Installed().dll());
   int struck = 0;
   for (int i = 0; i < 2000; ++i) {
     Plugin plugin(Installed().dll());
-    if (i % 10 != 0) continue;
-    memory.FailOnce(1 + i / 10 % 20);
-    ASSERT_EQ(plugin.Start(), 0) << i;
-    struck += memory.TakeStruck() ? 1 : 0;
-    plugin.Stop();
-    ASSERT_EQ(TakeBreaches(), Lines()) << i;
-    host_.trace.Restart();
+    if (i % 10 == 0 && StartShort(plugin, 1 + i / 10 % 4, false)) ++struck;
   }
   EXPECT_GT(struck, 100);
 }
 
-TEST_F(LifeCycle, AStartThatRunsOutOfMemoryAtAnyAllocationStillAnswers) {
+TEST_F(ShortMemory, AStartIsWholeOrRefusedWhicheverAllocationFails) {
   Plugin plugin(Installed().dll());
-  ShortMemory memory(Installed().dll());
-  int nth = 0;
-  for (bool struck = true; struck;) {
-    memory.FailOnce(++nth);
-    ASSERT_EQ(plugin.Start(), 0) << "allocation " << nth;
-    struck = memory.TakeStruck();
-    plugin.Stop();
-    ASSERT_EQ(TakeBreaches(), Lines()) << "allocation " << nth;
-    host_.trace.Restart();
+  for (const bool from_then_on : {false, true}) {
+    long nth = 1;
+    while (StartShort(plugin, nth, from_then_on)) ++nth;
+    EXPECT_GT(nth, 3);
   }
-  EXPECT_GT(nth, 10);
+}
+
+// Each under a name of its own, so that the run-time inside it has made nothing yet: its state on
+// the thread is what the first allocations are for.
+TEST_F(ShortMemory, AFirstStartLivesWhicheverAllocationFails) {
+  for (const bool from_then_on : {false, true}) {
+    long nth = 0;
+    for (bool struck = true; struck;) {
+      const std::filesystem::path dll =
+          Installed().tree() / (std::to_string(++nth) + (from_then_on ? " on.dll" : " once.dll"));
+      std::filesystem::copy_file(Installed().dll(), dll);
+      Plugin plugin(dll);
+      struck = StartShort(plugin, nth, from_then_on);
+      EXPECT_EQ(plugin.Start(), 0) << "after a failure at allocation " << nth;
+    }
+    EXPECT_GT(nth, 10);
+  }
 }
 
 // Faults of every kind, at each call in turn until none is left to fail.

@@ -17,6 +17,9 @@ configure() {
 configure "$cross" -DCMAKE_TOOLCHAIN_FILE="$root/cmake/mingw.cmake" -DCMAKE_BUILD_TYPE=Release
 cmake --build "$cross" -- ${QUILLMAX_TARGETS:-all}
 "$here/install_tree.sh" "$cross/quillmax5.1C3.dll" "$tree"
+# Imports run natively: under Wine the file system takes minutes over thousands of models.
+configure "$programs" -DCMAKE_BUILD_TYPE=Release
+cmake --build "$programs" --target workbench-import
 if [ "${1:-}" = --native ]; then
   configure "$native" -DCMAKE_BUILD_TYPE=Debug -DQM_SANITIZE=ON
   cmake --build "$native"

@@ -1,24 +1,51 @@
 #!/usr/bin/env bash
 # The package as a user meets it: unzipped into a folder with blanks and Chinese characters in its
-# name, registered by its own script, loaded, one command run.
+# name, over an older one with settings of the user's own, registered by its own script, loaded,
+# one command run.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 . "$here/environment.sh"
 prepare_locale
 prepare_wine
 
+fail() {
+  echo "$(basename "$0"): $*" >&2
+  exit 1
+}
+
+work=$build/package_check
 zip=$("$here/package.sh" "$cross" | tail -n 1)
-place=$build/package_check/'羽石 工具箱'
-rm -rf "$build/package_check"
+place=$work/'羽石 工具箱'
+rm -rf "$work"
 mkdir -p "$place"
 unzip -q "$zip" -d "$place"
-tree=$(dirname "$(find "$place" -name install.cmd)")
-(cd "$tree" && run_windows cmd /c install.cmd </dev/null >"$build/package_check/install.log" 2>&1)
-# The file is in the system's code page: compared as bytes.
-LC_ALL=C grep -aq '^EXEC_FILE .*quillmax5.1C3.dll' "$tree/protk.dat"
-LC_ALL=C grep -aq '^STARTUP *dll' "$tree/protk.dat"
+script=$(find "$place" -name install.cmd)
+[ -n "$script" ] || fail "the package holds no install.cmd"
+tree=$(dirname "$script")
 
-cat >"$build/package_check/run.qms" <<'S'
+settings=$tree/QMconfig
+[ -z "$(find "$settings" -maxdepth 1 -type f)" ] || fail "the package would overwrite settings"
+diff -r "$tree/text/resource" "$tree/resource" >&2 || fail "the two resource folders differ"
+for dialog in "$tree"/resource/*.res; do
+  [ "$(head -c 3 "$dialog")" = $'\xef\xbb\xbf' ] || fail "$dialog lacks its byte order mark"
+done
+
+# An older version was used here: one settings file is the user's own, the others are missing.
+printf '[tableCols_sum]\r\ncontent=own\r\n' >"$settings/QmBom.ini"
+unzip -qo "$zip" -d "$place"
+(cd "$tree" && run_windows cmd /c install.cmd </dev/null >"$work/install.log" 2>&1) ||
+  fail "install.cmd ended with $?; see $work/install.log"
+grep -q '^content=own' "$settings/QmBom.ini" || fail "install.cmd overwrote a user's settings"
+for shipped in "$settings"/defaults/*; do
+  name=$(basename "$shipped")
+  [ "$name" = QmBom.ini ] || cmp "$shipped" "$settings/$name" || fail "$name was not put in place"
+done
+# The file is in the system's code page: compared as bytes.
+for line in 'EXEC_FILE .*quillmax5.1C3.dll' 'STARTUP dll' 'UNICODE_ENCODING FALSE'; do
+  LC_ALL=C grep -aq "^$line" "$tree/protk.dat" || fail "protk.dat has no line $line"
+done
+
+cat >"$work/run.qms" <<'S'
 folder temp
 part bolt
 assembly pump
@@ -27,6 +54,6 @@ open pump.asm
 run QmShowAllComp
 expect shown bolt
 S
-run_windows "$cross/workbench.exe" run "$build/package_check/run.qms" \
-  --plugin "$tree/quillmax5.1C3.dll" | tr -d '\r' | tee "$build/package_check/run.log"
-grep -qE '^[0-9]+ passed, 0 failed$' "$build/package_check/run.log"
+run_windows "$cross/workbench.exe" run "$work/run.qms" --plugin "$tree/quillmax5.1C3.dll" |
+  tr -d '\r' | tee "$work/run.log"
+grep -qE '^[0-9]+ passed, 0 failed$' "$work/run.log" || fail "the packaged plug-in does not run"

@@ -4,6 +4,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build=${QUILLMAX_BUILD:-$root/build}
 cross=$build/cross
 native=$build/native
+programs=$build/programs
 tree=$cross/quillmax-5.1-C3
 
 export WINEPREFIX=$build/wine WINEDEBUG=-all WINEARCH=win64

@@ -1,17 +1,19 @@
 #!/usr/bin/env python3
-"""Writes docs/host-api.md and the README's command table from the sources they describe.
+"""Writes docs/host-api.md from the headers, the command tables of both READMEs from what
+`workbench commands` says of the built plug-in, and what install/README.txt says to be built.
 
 With --check nothing is written; the exit code is 1 when a document is out of date.
 """
 import pathlib
 import re
+import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TOOLKIT = ROOT / "src" / "toolkit"
 FAMILIES = ["array", "model", "feature", "assembly", "selection", "parameter", "geometry",
-            "view", "drawing",
-            "drawing_view", "drawing_table", "dimension", "file", "export", "window", "message", "command", "ui", "ui_table"]
+            "view", "drawing", "drawing_view", "drawing_table", "dimension", "file", "export",
+            "macro", "window", "message", "command", "ui", "ui_table"]
 
 
 def functions(family):
@@ -75,36 +77,70 @@ def host_api():
     return "\n".join(lines) + "\n"
 
 
-def menu_texts(language):
-    text = (ROOT / "install" / "text" / language / "qmMenu.txt").read_text(encoding="utf-8-sig")
-    records = text.split("\n")
-    return {records[i]: (records[i + 1], records[i + 2]) for i in range(0, len(records) - 2, 4)}
-
-
-def command_table():
+def command_actions():
+    """Name and action of each command, in the menu's order."""
     source = (ROOT / "src" / "entry" / "command_table.cpp").read_text(encoding="utf-8")
-    row = re.compile(r'\{"(\w+)",\s*"(\w+)",\s*"([\w.]+)",\s*&(\w+),\s*k(\w+),\s*(true|false)\}')
-    chinese = menu_texts("chinese_cn")
-    lines = ["| # | command | label | what it does | available in | built |", "|---|---|---|---|---|---|"]
-    for number, (name, help_key, _, action, rule, _) in enumerate(row.findall(source), 1):
-        built = "" if action == "NotInBuild" else "yes"
-        lines.append(f"| {number} | `{name}` | {chinese[name][1]} | {chinese[help_key][0]} | "
-                     f"{rule} | {built} |")
-    return "\n".join(lines) + "\n"
+    return re.findall(r'\{"(\w+)",\s*"\w+",\s*"[\w.]+",\s*&(\w+),', source)
 
 
-def readme():
-    path = ROOT / "README.md"
+def command_table(language):
+    """The rows as the workbench prints them; it picks every command to see whether it is built."""
+    run = subprocess.run([ROOT / "tools" / "workbench.sh", "commands", "--markdown", language],
+                         capture_output=True, encoding="utf-8", errors="replace")
+    table = run.stdout.replace("\r", "")
+    rows = re.findall(r"^\| \d+ \| `(\w+)` \|.*\| (yes|是|) \|$", table, re.M)
+    actions = command_actions()
+    if [name for name, _ in rows] != [name for name, _ in actions]:
+        sys.exit(f"workbench commands lists other commands than the sources:\n{table}{run.stderr}")
+    for (name, built), (_, action) in zip(rows, actions):
+        if bool(built) == (action == "NotInBuild"):
+            sys.exit(f"{name}: the built plug-in is not that of these sources; run tools/build.sh")
+    return table
+
+
+def readme(name, language):
+    path = ROOT / name
     text = path.read_text(encoding="utf-8")
     begin, end = "<!-- commands -->\n", "<!-- end of commands -->\n"
     head, rest = text.split(begin)
-    return head + begin + command_table() + end + rest.split(end)[1]
+    return path, head + begin + command_table(language) + end + rest.split(end)[1]
+
+
+def menu_texts():
+    path = ROOT / "install" / "text" / "chinese_cn" / "qmMenu.txt"
+    records = path.read_text(encoding="utf-8-sig").split("\n")
+    return {records[i]: (records[i + 1], records[i + 2]) for i in range(0, len(records) - 2, 4)}
+
+
+def built_commands(texts, column, separator, width):
+    """The labels of the built commands, filled to lines of `width` characters."""
+    labels = [texts[name][column] for name, action in command_actions() if action != "NotInBuild"]
+    lines = [""]
+    for number, label in enumerate(labels, 1):
+        piece = label + (separator if number < len(labels) else "")
+        if len(lines[-1]) + len(piece.rstrip()) > width:
+            lines.append("")
+        lines[-1] += piece
+    return "\n".join("  " + line.rstrip() for line in lines)
+
+
+def package_readme():
+    """A paragraph ends at its blank line; those two that follow the marks below are ours."""
+    text = (ROOT / "install" / "README.txt").read_text(encoding="utf-8")
+    texts = menu_texts()
+    for mark, column, separator, width in (("已实现的命令：\n", 1, "、", 42),
+                                           ("Built are:\n", 0, ", ", 82)):
+        head, rest = text.split(mark)
+        text = head + mark + built_commands(texts, column, separator, width) + rest[rest.index("\n\n"):]
+    return text
 
 
 def main():
     check = "--check" in sys.argv[1:]
     stale = []
-    for path, wanted in ((ROOT / "docs" / "host-api.md", host_api()), (ROOT / "README.md", readme())):
+    for path, wanted in ((ROOT / "docs" / "host-api.md", host_api()),
+                         readme("README.md", "english"), readme("README.zh.md", "chinese"),
+                         (ROOT / "install" / "README.txt", package_readme())):
         if path.exists() and path.read_text(encoding="utf-8") == wanted:
             continue
         stale.append(str(path.relative_to(ROOT)))

@@ -4,9 +4,14 @@
 # RSVG is the icon renderer (default rsvg-convert). Icons that are up to date are not drawn again.
 #
 # Encodings in OUT_DIR: settings are UTF-16LE with a byte order mark, so that they read the same on
-# every code page; install.cmd is GB2312 (see there); the README files are UTF-8 with a byte order
-# mark. All of these have CRLF line ends. Message files and dialog resources are copied as they
-# stand, with LF: a carriage return would become part of a message key.
+# every code page; install.cmd is GB2312 (see there); the README files and other texts are UTF-8 with
+# a byte order mark. All of these have CRLF line ends. Message files and dialog resources are UTF-8 with a byte
+# order mark, without which the host takes them for the system's code page, and with LF: a carriage
+# return would become part of a message key.
+#
+# Settings lie in QMconfig/defaults: install.cmd copies those that a user does not have yet, so that
+# a package unpacked over an older one overwrites none. Dialogs and icons lie in text/resource and
+# in resource: hosts differ in where they look below the registered folder.
 set -eu
 
 usage="usage: $0 BUILD_DLL OUT_DIR [RSVG]"
@@ -22,15 +27,22 @@ with_crlf() { sed 's/\r*$/\r/' "$1"; }
 utf16_file() { { printf '\377\376'; with_crlf "$1" | iconv -f UTF-8 -t UTF-16LE; } >"$2"; }
 gb2312_file() { with_crlf "$1" | iconv -f UTF-8 -t GB2312 >"$2"; }
 readme_file() { { printf '\357\273\277'; with_crlf "$1"; } >"$2"; }
+dialog_file() { { printf '\357\273\277'; cat "$1"; } >"$2"; }
 
-mkdir -p "$out/text" "$out/QMconfig" "$out/tp"
+mkdir -p "$out/text/resource" "$out/QMconfig/defaults" "$out/tp"
 cp "$dll" "$out/quillmax5.1C3.dll"
 cp -R "$source/text/." "$out/text/"
 gb2312_file "$source/install.cmd" "$out/install.cmd"
 readme_file "$source/README.txt" "$out/README.txt"
 readme_file "$source/tp/README.txt" "$out/tp/README.txt"
 for ini in "$source"/QMconfig/*.ini; do
-  utf16_file "$ini" "$out/QMconfig/$(basename "$ini")"
+  utf16_file "$ini" "$out/QMconfig/defaults/$(basename "$ini")"
+done
+for text in "$source"/QMconfig/*.txt; do
+  readme_file "$text" "$out/QMconfig/defaults/$(basename "$text")"
+done
+for dialog in "$source"/text/resource/*.res; do
+  dialog_file "$dialog" "$out/text/resource/$(basename "$dialog")"
 done
 
 # One call draws both sizes of one icon; xargs keeps all processors busy.
@@ -45,3 +57,6 @@ find "$source/icons" -name '*.svg' -print0 | xargs -0 -n 8 -P "$(nproc)" sh -c '
       "$RSVG" -w "${target#*:}" -h "${target#*:}" "$svg" -o "$png" || exit 255
     done
   done' sh
+
+rm -rf "$out/resource"
+cp -R "$out/text/resource" "$out/resource"

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Builds everything and runs all tests: the pure parts natively under the sanitizers, and the
 # plug-in in the workbench under Wine, with both code pages; then the checks of sources, documents
-# and package. Ends with "N passed, N failed".
+# and package. With --long every allocation of every built command is failed instead of a sample.
+# Ends with "N passed, N failed".
 set -uo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 . "$here/environment.sh"
@@ -72,10 +73,24 @@ count "native" "$build/native.log"
 count "windows, code page 936" "$build/windows-936.log"
 count "windows, code page 1252" "$build/windows-1252.log"
 
+# Commands run for the first time, each in a fresh process with one allocation failed.
+cd "$root"
+memory=tests/scripts/memory.qms
+every=()
+if [ "${1:-}" = --long ]; then
+  every=(--all)
+  run_windows "$cross/workbench.exe" run "$memory" --all-allocations >"$build/memory-warm.log" 2>&1
+  count "every allocation, warm" "$build/memory-warm.log"
+fi
+run_windows "$cross/workbench.exe" memory "$memory" "${every[@]}" >"$build/memory.log" 2>&1
+count "allocations at first runs" "$build/memory.log"
+
 check "rooms" python3 "$here/check_rooms.py"
 check "format" "$here/check_format.sh"
 check "tidy" "$here/check_tidy.sh"
 check "documents are up to date" python3 "$here/generate_docs.py" --check
+check "both READMEs say the same" python3 "$here/check_readmes.py"
 check "the library's file" "$here/check_dll.sh" "$cross/quillmax5.1C3.dll"
+check "import" "$here/check_import.sh"
 check "package" "$here/check_package.sh"
 finish

@@ -13,7 +13,8 @@ namespace {
 // text has not. Kept as it stands.
 constexpr wchar_t kNoComponentsHere[] = L"当前模型中没有合适的子零/ 组件";
 
-void ReversePart(ProFeature* part) {
+// False when the host does not tell, and the part stays as it is.
+bool ReversePart(ProFeature* part) {
   // Neither, should the host answer success without a state.
   auto hidden = static_cast<ProBoolean>(-1);
   const ProError status = ProModelitemIsHidden(part, &hidden);
@@ -22,17 +23,22 @@ void ReversePart(ProFeature* part) {
   } else if (Ok(status) && hidden == PRO_B_FALSE) {
     HideComponent(part);
   } else {
-    LogFailure(part->owner, "ProModelitemIsHidden", status);
+    LogLeftOut(*part, "ProModelitemIsHidden", status);
+    return false;
   }
+  return true;
 }
 
-void Reverse(const ComponentList& components) {
+// Gives how many were left as they are.
+long long Reverse(const ComponentList& components) {
+  long long left_out = 0;
   for (int i = 0; i < components.size(); ++i) {
     // Reversed twice, a part would stay as it is.
     if (components.repeated(i)) continue;
     if (components.type(i) == PRO_MDL_ASSEMBLY) ShowComponent(components.feature(i));
-    if (components.type(i) == PRO_MDL_PART) ReversePart(components.feature(i));
+    if (components.type(i) == PRO_MDL_PART && !ReversePart(components.feature(i))) ++left_out;
   }
+  return left_out;
 }
 
 }  // namespace
@@ -40,7 +46,7 @@ void Reverse(const ComponentList& components) {
 ProError QmHideReverse() {
   Opening opening = OpenCurrentAssembly(ComponentsOf(ComponentKind::kAll), kNoComponentsHere);
   if (opening.components.empty()) return opening.status;
-  Reverse(opening.components);
+  opening.left_out += Reverse(opening.components);
   RefreshDisplay(&opening);
   return PRO_TK_NO_ERROR;
 }

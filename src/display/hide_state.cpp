@@ -1,6 +1,7 @@
 // Hide state of components.
 #include "display/hide_state.h"
 
+#include "frame/messages/message_area.h"
 #include "frame/messages/run_log.h"
 #include "toolkit/window.h"
 
@@ -29,6 +30,7 @@ void RefreshDisplay(Opening* opening) {
   opening->components = ComponentList();
   ProWindowRepaint(kAllWindows);
   ProTreetoolRefresh(opening->root);
+  NoteLeftOut(opening->left_out);
 }
 
 }  // namespace qm

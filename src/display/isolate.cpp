@@ -4,10 +4,13 @@
 #include "display/isolate.h"
 
 #include <optional>
+#include <set>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "display/hide_state.h"
+#include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/current_assembly.h"
@@ -36,10 +39,13 @@ ProMdl ModelAt(ProMdl root, ProAsmcomppath& whole, int count) {
   return Ok(ProAsmcomppathMdlGet(&path, &model)) ? model : nullptr;
 }
 
-bool IsComponentFeature(ProModelitem& item) {
-  ProFeattype type = 0;
-  return item.type == PRO_FEATURE && Ok(ProFeatureTypeGet(&item, &type)) &&
-         type == PRO_FEAT_COMPONENT;
+// Whether an item can be a component at all. Nothing when the host does not tell.
+std::optional<bool> MayBeComponent(ProModelitem& item) {
+  if (item.type == PRO_PART || item.type == PRO_ASSEMBLY) return true;
+  if (item.type != PRO_FEATURE) return false;
+  ProFeattype type = 0;  // none of the host's
+  if (!Ok(ProFeatureTypeGet(&item, &type)) || type == 0) return std::nullopt;
+  return type == PRO_FEAT_COMPONENT;
 }
 
 // The component features along the path and the model at its end; null in `model` when a level is
@@ -54,21 +60,18 @@ SelectedComponent FollowPath(ProMdl root, ProAsmcomppath& path) {
   return selected;
 }
 
-// Nothing for what is no component: a feature, surface or edge, or a model of another type.
-std::optional<SelectedComponent> ReadSelection(ProMdl root, ProSelection selection) {
-  auto item = ItemOf(selection);
-  if (!item) return std::nullopt;
-  const bool is_model = item->type == PRO_PART || item->type == PRO_ASSEMBLY;
-  if (!is_model && !IsComponentFeature(*item)) return std::nullopt;
+// The component that was picked as `item`. Nothing when the host does not tell.
+std::optional<SelectedComponent> ReadComponent(ProMdl root, ProSelection selection,
+                                               ProModelitem& item) {
   ProAsmcomppath path{};
   if (!Ok(ProSelectionAsmcomppathGet(selection, &path))) return std::nullopt;
   if (path.table_num < 0 || path.table_num > PRO_MAX_ASSEM_LEVEL) return std::nullopt;
 
   SelectedComponent selected = FollowPath(root, path);
   // A component picked as a feature may come with the path of the assembly it lies in.
-  if (!is_model && selected.model == item->owner) {
-    selected.levels.push_back(*item);
-    if (!Ok(ProAsmcompMdlGet(&*item, &selected.model))) return std::nullopt;
+  if (item.type == PRO_FEATURE && selected.model == item.owner) {
+    selected.levels.push_back(item);
+    if (!Ok(ProAsmcompMdlGet(&item, &selected.model))) return std::nullopt;
   }
   if (selected.model == nullptr) return std::nullopt;
   if (!Ok(ProMdlTypeGet(selected.model, &selected.type))) return std::nullopt;
@@ -76,16 +79,32 @@ std::optional<SelectedComponent> ReadSelection(ProMdl root, ProSelection selecti
   return selected;
 }
 
-// Empty when nothing fit is preselected.
-std::vector<SelectedComponent> PreselectedComponents(ProMdl root) {
+struct Preselection {
   std::vector<SelectedComponent> components;
+  long long left_out = 0;  // items that cannot be read
+};
+
+// What is no component is passed over: a feature, surface or edge.
+void ReadSelection(ProMdl root, ProSelection selection, Preselection* preselection) {
+  auto item = ItemOf(selection);
+  const auto may_be = item ? MayBeComponent(*item) : std::nullopt;
+  if (may_be == false) return;
+  auto component = may_be ? ReadComponent(root, selection, *item) : std::nullopt;
+  if (component) {
+    preselection->components.push_back(std::move(*component));
+  } else {
+    ++preselection->left_out;
+    LogEvent("a preselected item left out: it cannot be read");
+  }
+}
+
+// Empty when nothing fit is preselected.
+Preselection PreselectedComponents(ProMdl root) {
+  Preselection preselection;
   const auto selections = ReadPreselection();
   const int count = selections ? selections->size() : 0;
-  for (int i = 0; i < count; ++i) {
-    auto component = ReadSelection(root, (*selections)[i]);
-    if (component) components.push_back(std::move(*component));
-  }
-  return components;
+  for (int i = 0; i < count; ++i) ReadSelection(root, (*selections)[i], &preselection);
+  return preselection;
 }
 
 void HideParts(const ComponentList& components) {
@@ -109,6 +128,20 @@ ProError CollectInside(const std::vector<SelectedComponent>& selected,
   return PRO_TK_NO_ERROR;
 }
 
+// How many components are left out by any of the lists. Those inside the selected assemblies are
+// among all of the root's, so that most stand in two lists.
+long long CountLeftOut(const ComponentList& all, const std::vector<ComponentList>& inside) {
+  std::set<std::pair<ProMdl, int>> left_out;
+  const auto add = [&](const ComponentList& list) {
+    for (const ProFeature& component : list.left_out()) {
+      left_out.emplace(component.owner, component.id);
+    }
+  };
+  add(all);
+  for (const ComponentList& list : inside) add(list);
+  return static_cast<long long>(left_out.size());
+}
+
 void Show(std::vector<SelectedComponent>& selected, const std::vector<ComponentList>& inside) {
   for (SelectedComponent& component : selected) {
     for (ProFeature& level : component.levels) ShowComponent(&level);
@@ -123,24 +156,31 @@ ProError QmIsolate() {
   int window = 0;
   ProWindowCurrentGet(&window);
   const auto root = CurrentAssembly();
-  if (!root) return PRO_TK_NO_ERROR;
-
-  std::vector<SelectedComponent> selected = PreselectedComponents(*root);
-  if (selected.empty()) {
+  if (!root) {
+    LogOutcome("nothing done, no current assembly");
+    return PRO_TK_NO_ERROR;
+  }
+  Preselection selected = PreselectedComponents(*root);
+  if (selected.components.empty()) {
     ShowMessage(kNothingSelected);
+    NoteLeftOut(selected.left_out);
     return PRO_TK_NO_ERROR;
   }
   std::vector<ComponentList> inside;
   const auto collect = [&](ProSolid assembly, ComponentList* all) {
     const ProError status = CollectComponents(assembly, ComponentKind::kAll, all);
-    return Ok(status) ? CollectInside(selected, &inside) : status;
+    return Ok(status) ? CollectInside(selected.components, &inside) : status;
   };
   Opening opening = OpenAssembly(*root, collect, kNoComponents);
-  if (opening.components.empty()) return opening.status;
-  LogCount("selected", static_cast<long long>(selected.size()));
+  if (opening.components.empty()) {
+    NoteLeftOut(selected.left_out);
+    return opening.status;
+  }
+  opening.left_out = selected.left_out + CountLeftOut(opening.components, inside);
+  LogCount("selected", static_cast<long long>(selected.components.size()));
   HideParts(opening.components);
   opening.components = ComponentList();
-  Show(selected, inside);
+  Show(selected.components, inside);
   RefreshDisplay(&opening);
   return PRO_TK_NO_ERROR;
 }

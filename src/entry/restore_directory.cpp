@@ -48,9 +48,8 @@ void RestoreLastDirectory() {
   const std::string bytes = FileBytes(ConfigPath(kLastDirectoryFile));
   // The text ends at the first zero, as any C text does.
   const std::wstring folder = FromAnsi(bytes.c_str());
-  if (folder.empty() || folder.size() >= PRO_PATH_SIZE) return;
   ProPath path = {};
-  FillFixedText(folder, path);
+  if (folder.empty() || !FillFixedText(folder, path)) return;
   const ProError status = ProDirectoryChange(path);
   if (!Ok(status)) LogEvent("last working directory not restored: " + ToUtf8(folder));
 }

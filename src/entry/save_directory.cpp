@@ -6,8 +6,11 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
+#include <new>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "frame/messages/run_log.h"
 #include "frame/settings/config.h"
@@ -38,33 +41,58 @@ class CharacterLocale {
   bool is_set_;
 };
 
+// Nothing when the locale lacks a character of `folder`, or has only a similar one for it: a name
+// that is not read back as it was is another folder's.
+std::optional<std::string> InLocale(const std::wstring& folder) {
+  char bytes[2 * PRO_PATH_SIZE];
+  const std::size_t length = std::wcstombs(bytes, folder.c_str(), sizeof(bytes));
+  if (length >= sizeof(bytes)) return std::nullopt;
+  wchar_t again[2 * PRO_PATH_SIZE];
+  const std::size_t count = std::mbstowcs(again, bytes, std::size(again));
+  if (count >= std::size(again) || folder != std::wstring_view(again, count)) return std::nullopt;
+  return std::string(bytes, length);
+}
+
 // `folder` in the code page of Chinese Windows, so that Chinese folder names survive; in the
 // system's own where the C runtime lacks that locale.
 std::optional<std::string> Encoded(const std::wstring& folder) {
   const CharacterLocale chinese("chs");
-  if (!chinese.is_set()) return ToAnsiExactly(folder);
-  char bytes[2 * PRO_PATH_SIZE];
-  const std::size_t length = std::wcstombs(bytes, folder.c_str(), sizeof(bytes));
-  if (length >= sizeof(bytes)) return std::nullopt;
-  return std::string(bytes, length);
+  return chinese.is_set() ? InLocale(folder) : ToAnsiExactly(folder);
+}
+
+// Nothing when it cannot be told whole, for want of memory, too.
+std::optional<std::string> CurrentDirectory() try {
+  ProPath buffer = {};
+  const ProError status = ProDirectoryCurrentGet(buffer);
+  if (!Ok(status)) {
+    LogEvent(std::string("working directory not saved, the host answered ") + StatusName(status));
+    return std::nullopt;
+  }
+  const std::wstring folder(FixedText(buffer));
+  auto line = Encoded(folder);
+  if (!line) LogEvent("working directory not saved, its name cannot be written: " + ToUtf8(folder));
+  return line;
+} catch (const std::bad_alloc&) {
+  LogEvent("working directory not saved, no memory");
+  return std::nullopt;
+}
+
+bool WriteFile(const std::wstring& path, const std::string& text) {
+  std::FILE* const file = ::_wfopen(path.c_str(), L"w");
+  if (file == nullptr) return false;
+  const bool is_put = std::fputs(text.c_str(), file) >= 0;
+  return std::fclose(file) == 0 && is_put;
 }
 
 }  // namespace
 
 void SaveWorkingDirectory() {
-  ProPath buffer = {};
-  if (!Ok(ProDirectoryCurrentGet(buffer))) return;
-  const std::wstring folder(FixedText(buffer));
-  if (folder.empty()) return;
-  const std::optional<std::string> line = Encoded(folder);
-  if (!line) {
-    LogEvent("working directory not saved, its name cannot be written: " + ToUtf8(folder));
-    return;
-  }
-  std::FILE* const file = ::_wfopen(ConfigPath(kLastDirectoryFile).c_str(), L"w");
-  if (file == nullptr) return;
-  std::fputs(line->c_str(), file);
-  std::fclose(file);
+  const std::wstring path = ConfigPath(kLastDirectoryFile);
+  const std::optional<std::string> line = CurrentDirectory();
+  if (line && WriteFile(path, *line)) return;
+  // Empty rather than with an older directory, or with the beginning of one: the next start would
+  // go to a folder that the user has left long ago.
+  if (!WriteFile(path, {})) LogEvent("the file of the last working directory cannot be written");
 }
 
 }  // namespace qm

@@ -2,12 +2,12 @@
 // parameter.
 #pragma once
 
-#include "frame/dialogs/dialog.h"
+#include "frame/dialogs/stored_fields.h"
 
 namespace qm {
 
 // Each model is measured from its own surfaces. An assembly usually has none, and a model without
 // surfaces is left alone: the sizes of an assembly's components are not combined.
-void WriteOutlines(const DialogView& dialog);
+void WriteOutlines(const DialogView& dialog, StoredFields& fields);
 
 }  // namespace qm

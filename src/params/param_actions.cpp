@@ -29,8 +29,9 @@ constexpr ParamAction kDelete = {"Delete", nullptr, &Delete};
 std::optional<ParamValue> AskValue(const DialogView& dialog, const ParamAction& action) {
   if (action.to_value == nullptr) return ParamValue();
   const auto text = dialog.TryInputValue("ParaValue");
+  const auto type = dialog.TryOptionValue("PtypeOption");
   const ValueOrRefusal value =
-      text ? action.to_value(dialog.OptionValue("PtypeOption"), *text) : Refusal{kUnreadableField};
+      text && type ? action.to_value(*type, *text) : Refusal{kUnreadableField};
   if (const auto* const refusal = std::get_if<Refusal>(&value)) {
     ShowShortMessage(refusal->message);
     return std::nullopt;
@@ -38,33 +39,36 @@ std::optional<ParamValue> AskValue(const DialogView& dialog, const ParamAction& 
   return std::get<ParamValue>(value);
 }
 
-void Run(const DialogView& dialog, const ParamAction& action) {
+void Run(const DialogView& dialog, const StoredFields& fields, const ParamAction& action) {
+  CommandLog log(action.log_name);
   // First, so that the user's fields survive even when the action then stops.
-  SaveParamSettings(dialog);
+  SaveParamSettings(dialog, fields);
   const auto top = CurrentModelOrAssembly();
   auto value = AskValue(dialog, action);
   if (!value) return;
-  const auto same_for_all = [&](const ParamTarget&) { return value; };
+  const auto same_for_all = [&](const ParamTarget&) { return ValueForModel{value}; };
   // A model that cannot be changed, such as one that has the parameter already, is passed over with
   // a line in the log.
   const auto change = [&](const PlannedParam& param, HostName& name) {
-    const auto [function, status] = action.change(param.target.owner, name, HostValue(param.value));
+    const auto host_value = HostValue(param.value);
+    const auto [function, status] =
+        host_value ? action.change(param.target.owner, name, *host_value) : kTextTooLong;
     if (!Ok(status)) LogFailure(param.target.name, function, status);
     return Ok(status);
   };
-  RunBatch(dialog, top, {action.log_name, kParameterFields, same_for_all, change});
+  RunBatch(dialog, fields, top, {kParameterFields, same_for_all, change});
 }
 
 }  // namespace
 
-void AddParameters(const DialogView& dialog) {
-  Run(dialog, kAdd);
+void AddParameters(const DialogView& dialog, StoredFields& fields) {
+  Run(dialog, fields, kAdd);
 }
-void UpdateParameters(const DialogView& dialog) {
-  Run(dialog, kUpdate);
+void UpdateParameters(const DialogView& dialog, StoredFields& fields) {
+  Run(dialog, fields, kUpdate);
 }
-void DeleteParameters(const DialogView& dialog) {
-  Run(dialog, kDelete);
+void DeleteParameters(const DialogView& dialog, StoredFields& fields) {
+  Run(dialog, fields, kDelete);
 }
 
 }  // namespace qm

@@ -2,16 +2,16 @@
 // chosen class. They leave the dialog open and report only what stops them.
 #pragma once
 
-#include "frame/dialogs/dialog.h"
+#include "frame/dialogs/stored_fields.h"
 
 namespace qm {
 
 // Models that have the parameter already are left as they are.
-void AddParameters(const DialogView& dialog);
+void AddParameters(const DialogView& dialog, StoredFields& fields);
 
 // Models without the parameter are left as they are.
-void UpdateParameters(const DialogView& dialog);
+void UpdateParameters(const DialogView& dialog, StoredFields& fields);
 
-void DeleteParameters(const DialogView& dialog);
+void DeleteParameters(const DialogView& dialog, StoredFields& fields);
 
 }  // namespace qm

@@ -3,11 +3,12 @@
 
 #include <vector>
 
+#include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
+#include "frame/models/model_name.h"
 #include "frame/models/opening.h"
 #include "frame/models/target_list.h"
-#include "frame/text/fixed_text.h"
 #include "frame/text/keyword_filter.h"
 #include "params/param_value_rules.h"
 #include "toolkit/status.h"
@@ -18,11 +19,11 @@ namespace {
 
 constexpr wchar_t kNoComponents[] = L"当前模型中没有合适的子零件/组件";
 
-// What the user wants, as the fields say it.
+// What the user wants, as the fields say it; nothing where one cannot be read.
 struct ParamWishes {
-  std::string class_name;
-  std::optional<std::wstring> param_name;    // nothing: the host does not tell
-  std::optional<std::wstring> keyword_list;  // the same
+  std::string class_name;  // the group always has a selection: empty, it cannot be read
+  std::optional<std::wstring> param_name;
+  std::optional<std::wstring> keyword_list;
 };
 
 struct ParamPlan {
@@ -30,11 +31,13 @@ struct ParamPlan {
   std::vector<PlannedParam> params;  // in the order of the targets
   int component_count;
   size_t model_count;
+  long long left_out;  // components and models that cannot be read
 };
 
-ParamWishes AskWishes(const DialogView& dialog, const BatchFields& fields) {
-  return {dialog.RadioValue(fields.class_radio), dialog.TryInputValue(fields.name_input),
-          dialog.TryInputValue(fields.keywords_input)};
+ParamWishes AskWishes(const DialogView& dialog, const StoredFields& fields,
+                      const BatchFields& asked) {
+  return {dialog.TryRadioValue(asked.class_radio).value_or(std::string()),
+          fields.Value(dialog, asked.name), fields.Value(dialog, asked.keywords)};
 }
 
 // Nothing, after the message, when there is nothing to work on. A top model alone is not enough.
@@ -43,7 +46,9 @@ std::optional<TargetList> FindTargets(const std::optional<CurrentModel>& top,
   auto targets = top ? CollectTargets(*top, class_name) : TargetList();
   std::optional<int> count;
   if (targets) count = targets->component_count;
-  return HasComponents(count, kNoComponents) ? targets : std::nullopt;
+  if (HasComponents(count, kNoComponents)) return targets;
+  if (targets) NoteLeftOut(targets->left_out);
+  return std::nullopt;
 }
 
 // Why the wishes cannot be fulfilled; null when they can.
@@ -54,27 +59,35 @@ const wchar_t* RefusalOf(const ParamWishes& wishes) {
   return wishes.keyword_list ? nullptr : kUnreadableField;
 }
 
-// Nothing, after a line in the log, when the model is excluded or cannot be read. A model whose
-// name is not known might be an excluded one, so it is left alone.
-std::optional<ParamTarget> ReadTarget(ProMdl model, const KeywordFilter& keywords) {
-  ProName buffer{};
-  ProError status = ProMdlNameGet(model, buffer);
-  if (!Ok(status)) {
-    LogFailure(model, "ProMdlNameGet", status);
-    return std::nullopt;
+// Adds the model with its value, unless it is excluded or left alone, or, after a line in the log,
+// cannot be read. A model whose name is not known might be an excluded one.
+void PlanModel(ProMdl model, const KeywordFilter& keywords, const ParamBatch& batch,
+               ParamPlan* plan) {
+  auto name = ModelName(model);
+  if (!name) {
+    ++plan->left_out;
+    return;
   }
-  const std::wstring_view name = FixedText(buffer);
-  if (keywords.Excludes(name)) return std::nullopt;
-  ParamTarget target{model, std::wstring(name), {}};
-  status = ProMdlToModelitem(model, &target.owner);
-  if (Ok(status) && target.owner.owner != nullptr) return target;
-  LogFailure(model, "ProMdlToModelitem", status);
-  return std::nullopt;
+  if (keywords.Excludes(*name)) return;
+  ParamTarget target{model, std::move(*name), {}};
+  const ProError status = ProMdlToModelitem(model, &target.owner);
+  if (!Ok(status) || target.owner.owner == nullptr) {
+    LogFailure(target.name, "ProMdlToModelitem", status);
+    ++plan->left_out;
+    return;
+  }
+  auto [value, is_known] = batch.value_for(target);
+  if (!is_known) ++plan->left_out;
+  if (value) plan->params.push_back({std::move(target), std::move(*value)});
 }
 
 // Nothing, after the message, when there is nothing to plan.
 std::optional<ParamPlan> MakePlan(const ParamWishes& wishes, const std::optional<CurrentModel>& top,
                                   const ParamBatch& batch) {
+  if (wishes.class_name.empty()) {
+    ShowShortMessage(kUnreadableField);
+    return std::nullopt;
+  }
   const auto targets = FindTargets(top, wishes.class_name);
   if (!targets) return std::nullopt;
   // After the search: a name is of no account where there is nothing to name it in.
@@ -83,14 +96,14 @@ std::optional<ParamPlan> MakePlan(const ParamWishes& wishes, const std::optional
     return std::nullopt;
   }
   const KeywordFilter keywords(*wishes.keyword_list);
-  ParamPlan plan{
-      HostName(*wishes.param_name), {}, targets->component_count, targets->models.size()};
+  // An overlong name has been refused.
+  ParamPlan plan{HostName::From(*wishes.param_name).value(),
+                 {},
+                 targets->component_count,
+                 targets->models.size(),
+                 targets->left_out};
   plan.params.reserve(targets->models.size());
-  for (const ProMdl model : targets->models) {
-    auto target = ReadTarget(model, keywords);
-    auto value = target ? batch.value_for(*target) : std::nullopt;
-    if (value) plan.params.push_back({std::move(*target), std::move(*value)});
-  }
+  for (const ProMdl model : targets->models) PlanModel(model, keywords, batch, &plan);
   return plan;
 }
 
@@ -108,23 +121,25 @@ void Apply(ParamPlan& plan, const ParamBatch& batch) {
   LogCount("models", static_cast<long long>(plan.model_count));
   LogCount("worked on", applied);
   RefreshModelTree();
+  NoteLeftOut(plan.left_out);
 }
 
 }  // namespace
 
-void RunBatch(const DialogView& dialog, const std::optional<CurrentModel>& top,
-              const ParamBatch& batch) {
-  CommandLog log(batch.log_name);
-  const ParamWishes wishes = AskWishes(dialog, batch.fields);
+void RunBatch(const DialogView& dialog, const StoredFields& fields,
+              const std::optional<CurrentModel>& top, const ParamBatch& batch) {
+  const ParamWishes wishes = AskWishes(dialog, fields, batch.fields);
   auto plan = MakePlan(wishes, top, batch);
   if (plan) Apply(*plan, batch);
 }
 
 bool WriteText(const PlannedParam& param, HostName& param_name) {
   const ProModelitem& owner = param.target.owner;
-  const auto [function, status] = SetOrCreateParameter(owner, param_name, HostValue(param.value));
-  if (!Ok(status)) LogFailure(owner.owner, function, status);
-  return true;
+  const auto value = HostValue(param.value);
+  const auto [function, status] =
+      value ? SetOrCreateParameter(owner, param_name, *value) : kTextTooLong;
+  if (!Ok(status)) LogFailure(param.target.name, function, status);
+  return Ok(status);
 }
 
 }  // namespace qm

@@ -6,9 +6,10 @@
 #include <optional>
 #include <string>
 
-#include "frame/dialogs/dialog.h"
+#include "frame/dialogs/stored_fields.h"
 #include "frame/models/current_assembly.h"
 #include "frame/models/parameters.h"
+#include "params/param_settings.h"
 #include "toolkit/types.h"
 
 namespace qm {
@@ -16,12 +17,14 @@ namespace qm {
 // The dialog's fields that choose the targets and the parameter.
 struct BatchFields {
   const char* class_radio;
-  const char* keywords_input;
-  const char* name_input;
+  StoredField keywords;
+  StoredField name;
 };
-inline constexpr BatchFields kParameterFields = {"TypeRadio", "InputKeyWords", "ParaName"};
-inline constexpr BatchFields kOutlineFields = {"TypeRadio2", "InputKeyWords2", "outlinePname"};
-inline constexpr BatchFields kSheetSizeFields = {"TypeRadio2", "InputKeyWords2", "shSizePname"};
+// The parameter's name is typed anew each time.
+inline constexpr BatchFields kParameterFields = {
+    "TypeRadio", kKeywords, {"ParaName", FieldKind::kInput, nullptr}};
+inline constexpr BatchFields kOutlineFields = {"TypeRadio2", kToolKeywords, kOutlineName};
+inline constexpr BatchFields kSheetSizeFields = {"TypeRadio2", kToolKeywords, kSheetSizeName};
 
 // One model to work on.
 struct ParamTarget {
@@ -36,24 +39,33 @@ struct PlannedParam {
   ParamValue value;
 };
 
+// The value for a model; nothing leaves the model alone.
+struct ValueForModel {
+  std::optional<ParamValue> value;
+  bool is_known = true;  // false: the model is left alone since it cannot be read
+};
+inline ValueForModel UnreadModel() {
+  return {std::nullopt, false};
+}
+
 // What tells the buttons apart.
 struct ParamBatch {
-  const char* log_name;
   BatchFields fields;
-  // Plan: the value for a model; nothing leaves the model alone.
-  std::function<std::optional<ParamValue>(const ParamTarget&)> value_for;
-  // Apply: true when it counts as worked on in the run log.
+  // Plan: what a model is to get.
+  std::function<ValueForModel(const ParamTarget&)> value_for;
+  // Apply: true when it was written, and counts as worked on in the run log.
   std::function<bool(const PlannedParam&, HostName& param_name)> apply;
 };
 
 // Runs the batch under `top`: targets are the models of the chosen class whose own names begin with
-// no exclusion keyword. Shows a message and changes nothing when no component is found or the typed
-// name cannot be a parameter's, in this order. Refreshes the model tree at the end.
-void RunBatch(const DialogView& dialog, const std::optional<CurrentModel>& top,
-              const ParamBatch& batch);
+// no exclusion keyword. Shows a message and changes nothing when the class cannot be read, no
+// component is found, the typed name cannot be a parameter's or a field cannot be read, in this
+// order. Refreshes the model tree at the end, and tells how many models it could not work on.
+void RunBatch(const DialogView& dialog, const StoredFields& fields,
+              const std::optional<CurrentModel>& top, const ParamBatch& batch);
 
 // For batches of texts: sets the string parameter or creates it. A failure is passed over and
-// logged, and counts as worked on.
+// logged.
 bool WriteText(const PlannedParam& param, HostName& param_name);
 
 }  // namespace qm

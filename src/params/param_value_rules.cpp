@@ -12,11 +12,11 @@
 namespace qm {
 namespace {
 
-constexpr wchar_t kEmptyName[] = L"请输入参数名称!";
-constexpr wchar_t kLongName[] = L"参数名称不能超过31个字符,请重新输入!";
-constexpr wchar_t kLongText[] = L"字符串参数值不能超过80个字符,请重新输入!";
-constexpr wchar_t kUnknownType[] = L"请选择参数类型:整数、实数、字符串或是/否!";
-constexpr wchar_t kHugeReal[] = L"实数参数值超出范围,请重新输入!";
+constexpr wchar_t kEmptyName[] = L"请输入参数名称！";
+constexpr wchar_t kLongName[] = L"参数名称不能超过31个字符，请重新输入！";
+constexpr wchar_t kLongText[] = L"字符串参数值不能超过80个字符，请重新输入！";
+constexpr wchar_t kUnknownType[] = L"请选择参数类型：整数、实数、字符串或是/否！";
+constexpr wchar_t kHugeReal[] = L"实数参数值超出范围，请重新输入！";
 constexpr wchar_t kNoBoolean[] = L"布尔类型参数值不能为空,请输入'YES'或'NO'!";
 constexpr wchar_t kBadBoolean[] = L"布尔类型参数值只可为'YES'或'NO',请重新输入!";
 
@@ -68,10 +68,13 @@ const TypeRow* FindType(std::wstring_view name) {
   return nullptr;
 }
 
-// What the C library's wide conversions skip: the narrow blanks, the no-break and the full-width
-// space.
+// What the C library's wide conversions skip: the narrow blanks and those of other scripts, the
+// no-break and the full-width space among them.
 bool IsBlank(wchar_t c) {
-  return (c >= L'\t' && c <= L'\r') || c == L' ' || c == 0x00A0 || c == 0x3000;
+  if (c >= 0x2000 && c <= 0x200A) return true;
+  constexpr std::wstring_view kBlanks =
+      L"\t\n\v\f\r \u0085\u00A0\u1680\u2028\u2029\u202F\u205F\u3000";
+  return kBlanks.find(c) != std::wstring_view::npos;
 }
 
 std::wstring_view WithoutLeadingBlanks(std::wstring_view text) {
@@ -87,6 +90,22 @@ bool IsDigit(wchar_t c) {
 }
 bool IsExponentMark(wchar_t c) {
   return c == L'e' || c == L'E' || c == L'd' || c == L'D';
+}
+
+// Zeros of the digits that the C library counts in whole numbers besides the plain ones: of the
+// Arabic, Indic and other scripts, and the full-width ones. In real numbers it counts none of them.
+constexpr wchar_t kOtherZeros[] = {
+    0x0660, 0x06F0, 0x0966, 0x09E6, 0x0A66, 0x0AE6, 0x0B66, 0x0C66, 0x0CE6,
+    0x0D66, 0x0E50, 0x0ED0, 0x0F20, 0x1040, 0x17E0, 0x1810, 0xFF10,
+};
+
+// -1 for what is no digit of a whole number.
+int DigitOf(wchar_t c) {
+  if (IsDigit(c)) return c - L'0';
+  for (const wchar_t zero : kOtherZeros) {
+    if (c >= zero && c <= zero + 9) return c - zero;
+  }
+  return -1;
 }
 
 // The longest number at the start of a text, as plain ASCII without a leading "+".
@@ -181,8 +200,8 @@ int LeadingInteger(std::wstring_view text) {
   if (!text.empty() && IsSign(text.front())) text.remove_prefix(1);
   using Limits = std::numeric_limits<int>;
   int64_t value = 0;
-  for (; !text.empty() && IsDigit(text.front()); text.remove_prefix(1)) {
-    value = value * 10 + (text.front() - L'0');
+  for (; !text.empty() && DigitOf(text.front()) >= 0; text.remove_prefix(1)) {
+    value = value * 10 + DigitOf(text.front());
     if (value > Limits::max()) return negative ? Limits::min() : Limits::max();
   }
   return static_cast<int>(negative ? -value : value);

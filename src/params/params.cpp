@@ -10,12 +10,12 @@
 namespace qm {
 namespace {
 
-void Bind(const Dialog& dialog) {
-  dialog.BindButton<&AddParameters>("Add");
-  dialog.BindButton<&UpdateParameters>("Update");
-  dialog.BindButton<&DeleteParameters>("Delete");
-  dialog.BindButton<&WriteOutlines>("QmOutline");
-  dialog.BindButton<&WriteSheetSizes>("QmSheetSize");
+void Bind(const Dialog& dialog, StoredFields& fields) {
+  dialog.BindButton<&AddParameters>("Add", fields);
+  dialog.BindButton<&UpdateParameters>("Update", fields);
+  dialog.BindButton<&DeleteParameters>("Delete", fields);
+  dialog.BindButton<&WriteOutlines>("QmOutline", fields);
+  dialog.BindButton<&WriteSheetSizes>("QmSheetSize", fields);
   dialog.BindCloseButton();
   dialog.BindClose();
 }
@@ -23,9 +23,10 @@ void Bind(const Dialog& dialog) {
 }  // namespace
 
 ProError QmParams() {
-  return RunDialog("QmParams", [](const Dialog& dialog) {
-    Bind(dialog);
-    LoadParamSettings(dialog);
+  StoredFields fields;
+  return RunDialog("QmParams", [&](const Dialog& dialog) {
+    Bind(dialog, fields);
+    LoadParamSettings(dialog, &fields);
     return PRO_TK_NO_ERROR;
   });
 }

@@ -13,31 +13,35 @@ namespace {
 
 constexpr int kFirstSheet = 1;
 
-// Nothing when there is no such drawing or its sheet cannot be read.
-std::optional<ParamValue> SheetSize(const ParamTarget& target) {
-  HostName name(target.name);
+ValueForModel SheetSize(const ParamTarget& target) {
+  auto name = HostName::From(target.name);
   ProMdl drawing = nullptr;
-  ProError status = ProMdlRetrieve(name.name, PRO_MDL_DRAWING, &drawing);
+  ProError status =
+      name ? ProMdlRetrieve(name->name, PRO_MDL_DRAWING, &drawing) : PRO_TK_LINE_TOO_LONG;
+  // Most models have no drawing; anything else is a failure.
+  if (status == PRO_TK_E_NOT_FOUND) return {};
   if (!Ok(status) || drawing == nullptr) {
-    // Most models have no drawing; anything else is a failure.
-    if (status != PRO_TK_E_NOT_FOUND) LogFailure(target.model, "ProMdlRetrieve", status);
-    return std::nullopt;
+    LogFailure(target.name, "ProMdlRetrieve", status);
+    return UnreadModel();
   }
   ProName buffer{};
   ProMatrix transform{};
   status = ProDrawingSheetTrfGet(drawing, kFirstSheet, buffer, transform);
-  if (!Ok(status)) LogFailure(target.model, "ProDrawingSheetTrfGet", status);
   const std::wstring_view size = FixedText(buffer);
-  if (!Ok(status) || size.empty()) return std::nullopt;
-  return std::wstring(size);
+  if (!Ok(status) || size.empty()) {
+    LogFailure(target.name, "ProDrawingSheetTrfGet", status);
+    return UnreadModel();
+  }
+  return {std::wstring(size)};
 }
 
 }  // namespace
 
-void WriteSheetSizes(const DialogView& dialog) {
-  SaveParamSettings(dialog);
+void WriteSheetSizes(const DialogView& dialog, StoredFields& fields) {
+  CommandLog log("QmSheetSize");
+  SaveParamSettings(dialog, fields);
   const auto top = CurrentModelOrAssembly();
-  RunBatch(dialog, top, {"QmSheetSize", kSheetSizeFields, &SheetSize, &WriteText});
+  RunBatch(dialog, fields, top, {kSheetSizeFields, &SheetSize, &WriteText});
 }
 
 }  // namespace qm

@@ -2,12 +2,12 @@
 // into a string parameter.
 #pragma once
 
-#include "frame/dialogs/dialog.h"
+#include "frame/dialogs/stored_fields.h"
 
 namespace qm {
 
 // The drawing is the one of the model's name, its sheet the first. A model without such a drawing
 // is left alone. Drawings that are loaded for this stay in the session.
-void WriteSheetSizes(const DialogView& dialog);
+void WriteSheetSizes(const DialogView& dialog, StoredFields& fields);
 
 }  // namespace qm

@@ -27,12 +27,26 @@
 #define PRO_FUNCTION(result, name, ...) \
   extern "C" __declspec(dllexport) result name(__VA_ARGS__) __asm__(#name QM_HOST_NAME_SUFFIX)
 
+#elif defined(QM_LIST_FUNCTIONS)
+
+// For declared_functions.cpp alone.
+#define PRO_FUNCTION(result, name, ...)                                      \
+  template <>                                                                \
+  inline constexpr const char* kDeclaredName<__COUNTER__ - kBeforeFirst> = { \
+      #name QM_HOST_NAME_SUFFIX}
+
 #else
 
 namespace qm {
 
 // Address of `versioned_name` in the host process, or null. Defined in host_function.cpp.
 void* FindHostFunction(const char* versioned_name);
+
+// How many functions are declared in all, called yet or not. Defined in declared_functions.cpp, as
+// is the next one.
+int DeclaredFunctions();
+// Whether the host offers any of them. Binds none.
+bool IsAnyFunctionOffered();
 
 // Receives the plain name of a host function that could not be found, once per function.
 using MissingFunctionReporter = void (*)(const char* name);

@@ -43,6 +43,15 @@ TEST(ParamValue, IntegersAreTheLeadingDigits) {
       {L"99999999999999999999999", INT_MAX},
       {L"-2147483649", INT_MIN},
       {L"-99999999999999999999999", INT_MIN},
+      {L"１２", 12},  // full-width digits, alone and among others
+      {L"\u3000-１2３mm", -123},
+      {L"\u00A0\u2003\u20287", 7},
+      {L"１２．５", 12},
+      {L"－５", 0},  // the full-width sign is none
+      {L"٤٢", 42},
+      {L"９９９９９９９９９９９", INT_MAX},
+      {L"①", 0},
+      {L"一二", 0},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(ValueOf<int>(ValueToAdd(L"整数", c.text)), c.value) << (&c - cases);
@@ -76,6 +85,9 @@ TEST(ParamValue, RealNumbersAreTheLongestLeadingNumber) {
       {L"inf", 0.0},
       {L"0e999999999", 0.0},
       {L"1e-99999999999999999999", 0.0},
+      {L"\u3000\u20032.5", 2.5},
+      {L"１２", 0.0},  // plain digits only
+      {L"1２", 1.0},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(ValueOf<double>(ValueToAdd(L"实数", c.text)), c.value) << (&c - cases);

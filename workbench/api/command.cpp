@@ -140,9 +140,9 @@ ProError ProCmdIconSet(uiCmdCmdId command, const char* icon_file) {
   return Crossing(__func__, CommandIn{command},
                   NarrowIn{icon_file, "icon file", PRO_FILE_NAME_SIZE})
       .Run([](const Call& call, Command& target, const std::string& file) {
-        const std::filesystem::path path =
-            call.host.install_folder / "text" / "resource" / PathFromUtf8(file);
-        if (!std::filesystem::is_regular_file(path)) return PRO_TK_E_NOT_FOUND;
+        if (!std::filesystem::is_regular_file(call.host.ResourceFile(PathFromUtf8(file)))) {
+          return PRO_TK_E_NOT_FOUND;
+        }
         target.icon = file;
         return PRO_TK_NO_ERROR;
       });

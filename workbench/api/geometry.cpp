@@ -23,6 +23,9 @@ ProSurface HandleOf(const Call& call, Model& model, const Surface& surface) {
       call.host.handles.GiveInside(HandleKind::kSurface, &model, surface.id));
 }
 
+// Where the orientation stands when a host puts something else in its place: no orientation.
+constexpr auto kNoOrientation = static_cast<ProSurfaceOrient>(120);
+
 // One block: the item's record and, behind it, the surface's.
 struct SurfaceRecord {
   ProGeomitemdata item;
@@ -70,6 +73,9 @@ ProError ProSurfaceDataGet(ProSurface surface, ProGeomitemdata** data) {
   return Crossing(__func__, SurfaceIn{surface}, Out(data, "data place"))
       .Run([](const Call& call, const Surface& from, ProGeomitemdata*& place) {
         place = NewSurfaceRecord(from.box);
+        if (call.host.habits.surface_data_has_unknown_order) {
+          place->data.p_surface_data->orient = kNoOrientation;
+        }
         call.Give(place, Resource::kGeometryData);
       });
 }

@@ -77,20 +77,30 @@ struct HeldParameter {
   Parameter* parameter;  // null: gone since the record was made
 };
 
+// The name in a record, which stands in its reserve in a host whose record is longer than ours.
+wchar_t* NameIn(const Call& call, ProParameter& record) {
+  static_assert(sizeof(record.reserve) >= sizeof(record.id));
+  return call.host.habits.parameter_record_has_unknown_order
+             ? reinterpret_cast<wchar_t*>(record.reserve)
+             : record.id;
+}
+
 struct ParameterIn {
   const ProParameter* record;
   std::string Describe() const { return DescribeArgument(static_cast<const void*>(record)); }
   HeldParameter Look(const Call& call) const {
     if (record == nullptr) call.Fail("null parameter");
     Model& model = OwnerAt(call, &record->owner.who.item);
-    return {model, model.FindParameter(call.Text(record->id, PRO_NAME_SIZE, "parameter name"))};
+    ProParameter copy = *record;
+    const wchar_t* const name = NameIn(call, copy);
+    return {model, model.FindParameter(call.Text(name, PRO_NAME_SIZE, "parameter name"))};
   }
 };
 
 ProParameter RecordOf(const Call& call, const ProModelitem& owner, const std::string& name) {
   ProParameter record = {};
   record.type = PRO_TYPE_UNUSED;
-  call.CopyText(record.id, PRO_NAME_SIZE, name);
+  call.CopyText(NameIn(call, record), PRO_NAME_SIZE, name);
   record.owner.type = PRO_PARAM_OWNER_ITEM;
   record.owner.who.item = owner;
   return record;

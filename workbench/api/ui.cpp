@@ -8,7 +8,7 @@ namespace {
 ProError CreateDialog(const Call& call, const std::string& name, const std::string& resource) {
   Host& host = call.host;
   if (host.dialogs.Find(name) != nullptr) return PRO_TK_E_FOUND;
-  const auto file = host.install_folder / "text" / "resource" / (resource + ".res");
+  const auto file = host.ResourceFile(resource + ".res");
   if (!std::filesystem::exists(file)) return PRO_TK_E_NOT_FOUND;
   try {
     auto dialog = std::make_unique<LiveDialog>(name, LoadDialogResource(file));

@@ -11,6 +11,9 @@ namespace wb {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
+// Workbooks need ten; more would only cost memory.
+constexpr size_t kDeepestNesting = 256;
+constexpr size_t kMostAttributes = 256;
 
 std::string_view LocalName(std::string_view name) {
   const size_t colon = name.find(':');
@@ -170,6 +173,9 @@ XmlReader::Piece XmlReader::StartTag() {
   if (closes_itself_) ++at_;
   if (!StartsWith(">")) Fail("the tag of \"" + std::string(name) + "\" has no end");
   ++at_;
+  if (open_.size() == kDeepestNesting) {
+    Fail("elements are nested more than " + std::to_string(kDeepestNesting) + " deep");
+  }
   full_open_.push_back(name);
   open_.push_back(LocalName(name));
   return Piece::kStart;
@@ -205,6 +211,9 @@ void XmlReader::ReadAttributes() {
   attributes_.clear();
   for (PassBlanks(); at_ < text_.size() && !StartsWith("/") && !StartsWith(">"); PassBlanks()) {
     const std::string_view name = NameToken();
+    if (attributes_.size() == kMostAttributes) {
+      Fail("an element has more than " + std::to_string(kMostAttributes) + " attributes");
+    }
     PassBlanks();
     if (!StartsWith("=")) Fail("attribute \"" + std::string(name) + "\" has no value");
     ++at_;

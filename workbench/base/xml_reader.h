@@ -15,7 +15,7 @@ namespace wb {
 class XmlReader {
  public:
   // `text` must outlive the reader; `name` is what errors name. Throws LineError for a document
-  // that is not well formed, not UTF-8, or declares a document type.
+  // that is not well formed, not UTF-8, declares a document type, or is nested beyond reason.
   XmlReader(std::string_view text, std::string name);
 
   // Enters the root element.

@@ -3,6 +3,8 @@
 
 #include <zlib.h>
 
+#include <algorithm>
+
 namespace wb {
 namespace {
 
@@ -18,8 +20,14 @@ constexpr unsigned kVersion = 20;
 constexpr unsigned kUtf8Names = 0x800;
 constexpr unsigned kEncrypted = 0x1;
 constexpr unsigned kFirstOfJanuary1980 = 0x21;
-// Far beyond any workbook; a damaged length must not take all memory.
-constexpr std::uint32_t kLargestEntry = 1u << 30;
+// No deflate stream holds more than so many times its bytes; a damaged length must not take memory.
+constexpr std::uint64_t kHighestRatio = 1032;
+constexpr std::uint64_t kMegabyte = 1u << 20;
+// Of all that is read from an archive, far beyond any workbook.
+constexpr std::uint64_t kMostUnpacked = 512 * kMegabyte;
+// Workbooks pack ten or twenty to one; what packs like this is made to fill the memory.
+constexpr std::uint64_t kHighestArchiveRatio = 200;
+constexpr std::uint64_t kFreeOfRatio = 16 * kMegabyte;
 constexpr int kRawDeflate = -MAX_WBITS;
 
 void Put(std::string& bytes, std::uint32_t value, int width) {
@@ -160,13 +168,26 @@ std::string_view ZipReader::Packed(const std::string& name, const Entry& entry) 
   return std::string_view(bytes_).substr(start, entry.packed);
 }
 
+void ZipReader::CountUnpacked(const std::string& name, std::uint64_t size) const {
+  const std::uint64_t most =
+      std::min(kMostUnpacked, kFreeOfRatio + kHighestArchiveRatio * bytes_.size());
+  unpacked_ += size;
+  if (unpacked_ <= most) return;
+  throw ZipError(name + ": the archive of " + std::to_string(bytes_.size()) +
+                 " bytes unpacks to more than " + std::to_string(most / kMegabyte) + " MB");
+}
+
 std::string ZipReader::Read(const std::string& name) const {
   const auto found = entries_.find(name);
   if (found == entries_.end()) throw ZipError(name + ": not in the archive");
   const Entry& entry = found->second;
   if ((entry.flags & kEncrypted) != 0) throw ZipError(name + ": encrypted");
-  if (entry.size > kLargestEntry) throw ZipError(name + ": too large");
   const std::string_view packed = Packed(name, entry);
+  if (entry.size / kHighestRatio > packed.size()) {
+    throw ZipError(name + ": said to unpack to " + std::to_string(entry.size) + " bytes, which " +
+                   std::to_string(packed.size()) + " cannot hold");
+  }
+  CountUnpacked(name, entry.size);
   std::string content;
   if (entry.method == kDeflated) {
     content = Inflated(packed, entry.size);

@@ -34,7 +34,8 @@ class ZipReader {
   explicit ZipReader(std::string bytes);
 
   bool Has(const std::string& name) const { return entries_.contains(name); }
-  // Throws ZipError for an entry that is missing, damaged or packed in another way.
+  // Throws ZipError for an entry that is missing, damaged or packed in another way, and when the
+  // archive unpacks to more than a workbook of its size would.
   std::string Read(const std::string& name) const;
 
  private:
@@ -43,9 +44,11 @@ class ZipReader {
     std::uint32_t crc = 0, packed = 0, size = 0, offset = 0;
   };
   std::string_view Packed(const std::string& name, const Entry& entry) const;
+  void CountUnpacked(const std::string& name, std::uint64_t size) const;
 
   std::string bytes_;
   std::map<std::string, Entry> entries_;
+  mutable std::uint64_t unpacked_ = 0;  // by all reads so far
 };
 
 }  // namespace wb

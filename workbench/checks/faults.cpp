@@ -3,13 +3,22 @@
 
 namespace wb {
 
-const FaultPlan* Faults::Strike(const char* function) {
-  if (!plan_ || plan_->nth == 0) return nullptr;
-  if (!plan_->function.empty() && plan_->function != function) return nullptr;
+// Counts one more that the plan could fail.
+bool Faults::Reaches() {
   ++seen_;
-  if (seen_ != plan_->nth && !(plan_->from_then_on && seen_ > plan_->nth)) return nullptr;
+  if (seen_ != plan_->nth && !(plan_->from_then_on && seen_ > plan_->nth)) return false;
   ++struck_;
-  return &*plan_;
+  return true;
+}
+
+const FaultPlan* Faults::Strike(const char* function) {
+  if (!plan_ || plan_->nth == 0 || plan_->kind == FaultKind::kNoMemory) return nullptr;
+  if (!plan_->function.empty() && plan_->function != function) return nullptr;
+  return Reaches() ? &*plan_ : nullptr;
+}
+
+bool Faults::StrikeAllocation() {
+  return plan_ && plan_->nth != 0 && plan_->kind == FaultKind::kNoMemory && Reaches();
 }
 
 const FaultPlan* Faults::StrikeWindows(const char* function) {

@@ -1,4 +1,5 @@
-// Faults on order: fail the n-th crossing, or the n-th call of one function, once or from then on.
+// Faults on order: fail the n-th crossing, the n-th call of one function, or the n-th allocation of
+// the plug-in's own, once or from then on.
 #pragma once
 
 #include <optional>
@@ -9,6 +10,7 @@ namespace wb {
 enum class FaultKind {
   kStatus,        // the call answers with a failing status and does nothing
   kEmptySuccess,  // the call claims success, gives nothing and does nothing
+  kNoMemory,      // no call is struck but the plug-in's own allocations, which give nothing
 };
 
 struct FaultPlan {
@@ -29,12 +31,18 @@ class Faults {
   // The same for an intercepted Windows call: unless the plan names it, it counts only where the
   // plan says so. It fails in the way natural to it, whatever status the plan has.
   const FaultPlan* StrikeWindows(const char* function);
+  // Whether this allocation of the plug-in is to give nothing.
+  bool StrikeAllocation();
   // Whether the calls it strikes claim success.
   bool claims_success() const { return plan_ && plan_->kind == FaultKind::kEmptySuccess; }
-  // How many calls the current plan has failed.
+  // How many calls or allocations the current plan has failed.
   long struck() const { return struck_; }
+  // How many it could have failed so far.
+  long seen() const { return seen_; }
 
  private:
+  bool Reaches();
+
   std::optional<FaultPlan> plan_;
   long seen_ = 0;
   long struck_ = 0;

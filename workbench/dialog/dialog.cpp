@@ -34,7 +34,9 @@ std::string SelectionRefusal(UiStatus status, const std::vector<std::string>& na
 }  // namespace
 
 Dialog::Dialog(DialogResource resource)
-    : resource_(std::move(resource)), title_(resource_.dialog.Text("Label")) {
+    : resource_(std::move(resource)),
+      title_(resource_.dialog.Text("Label")),
+      captions_(CaptionsOf(resource_)) {
   components_.reserve(resource_.components.size());
   for (const FieldResource& component : resource_.components) {
     index_.emplace(component.name, components_.size());
@@ -155,7 +157,7 @@ UserOutcome Dialog::UserSelect(std::string_view component, const std::vector<std
   if (!outcome.Done()) return outcome;
   Field& target = *Lookup(component);
   if (auto* choice = std::get_if<ChoiceState>(&target.state)) {
-    const UiStatus status = choice->Select(names);
+    const UiStatus status = choice->Select(choice->NamesOf(names));
     if (status == UiStatus::kOk) return Fires(UiEvent::kSelect);
     return Refuse(target, SelectionRefusal(status, names, choice->Names(), "item"));
   }
@@ -209,19 +211,6 @@ UserOutcome Dialog::UserFocusCell(std::string_view table, const std::string& row
   }
   model->SelectRows({row});
   return Fires(UiEvent::kArm);
-}
-
-std::string Dialog::DescribeComponents() const {
-  std::string text;
-  for (const Field& component : components_) {
-    text += std::string(KindName(component.kind)) + " " + component.name;
-    const std::string value = ValueText(component);
-    if (!value.empty()) text += ": " + value;
-    if (!IsShown(component)) text += " (hidden)";
-    if (!IsUsable(component)) text += " (greyed)";
-    text += "\n";
-  }
-  return text;
 }
 
 }  // namespace wb

@@ -8,6 +8,7 @@
 #include <variant>
 #include <vector>
 
+#include "workbench/dialog/captions.h"
 #include "workbench/dialog/dialog_resource.h"
 #include "workbench/dialog/field_state.h"
 #include "workbench/dialog/ui_status.h"
@@ -76,8 +77,17 @@ class Dialog {
   bool IsShown(const Field& component) const;
   bool IsUsable(const Field& component) const;
 
-  // A line a component: kind, name, state, and whether it is greyed or hidden.
-  std::string DescribeComponents() const;
+  // --- What a user reads.
+  // The field's own label, or that of the label beside or above it; "" when it has neither.
+  std::string LabelOf(const Field& field) const;
+  // The same behind the label of the group around it, which tells fields of one label apart:
+  // "参数对象/模型类型".
+  std::string FullLabelOf(const Field& field) const;
+  // The field of this name, or else all that have this label. A colon at a label's end is no part
+  // of it.
+  std::vector<const Field*> FieldsCalled(std::string_view text) const;
+  // Whether it is a label that belongs to another field.
+  bool IsCaption(const Field& field) const;
 
  private:
   const Field* Lookup(std::string_view name) const;
@@ -89,6 +99,7 @@ class Dialog {
   std::string title_;
   std::vector<Field> components_;
   std::unordered_map<std::string, std::size_t> index_;
+  Captions captions_;
 };
 
 }  // namespace wb

@@ -21,20 +21,27 @@ constexpr ColorRow kColors[] = {
     {17, "#e6f2b8"},  // the rows of assemblies in bills
 };
 
-// A pale tone of its own for a colour that the table does not know, so that it is still told apart.
-std::string CssColor(int number) {
+// A tone of its own for a colour that the table does not know, so that it is still told apart: pale
+// under a text, dark as the colour of one.
+std::string CssColor(int number, const char* lightness) {
+  return "hsl(" + std::to_string(number * 47 % 360) + ",55%," + lightness + ")";
+}
+
+std::string GroundColor(int number) {
   for (const ColorRow& row : kColors) {
     if (row.number == number) return row.css;
   }
-  return "hsl(" + std::to_string(number * 47 % 360) + ",55%,80%)";
+  return CssColor(number, "80%");
 }
 
+// Ground and text always together: the page's own may be light on dark.
 std::string CellStyle(const TableCell* cell) {
-  if (!cell) return {};
-  std::string style;
-  if (cell->background != kNoCellColor) style += "background:" + CssColor(cell->background) + ";";
-  if (cell->foreground != kNoCellColor) style += "color:" + CssColor(cell->foreground) + ";";
-  return style.empty() ? style : " style=\"" + style + "\"";
+  if (!cell || (cell->background == kNoCellColor && cell->foreground == kNoCellColor)) return {};
+  const std::string ground =
+      cell->background == kNoCellColor ? "#ffffff" : GroundColor(cell->background);
+  const std::string text =
+      cell->foreground == kNoCellColor ? "#1b1f24" : CssColor(cell->foreground, "15%");
+  return " style=\"background:" + ground + ";color:" + text + ";\"";
 }
 
 class DialogPainter {
@@ -64,7 +71,8 @@ class DialogPainter {
     html_ += "\">";
     for (const LayoutCell& cell : grid.cells) {
       html_ += "<div style=\"grid-area:" + std::to_string(cell.row + 1) + "/" +
-               std::to_string(cell.column + 1) + "\">";
+               std::to_string(cell.column + 1) + (FillsRow(cell) ? ";align-self:stretch" : "") +
+               "\">";
       if (cell.nested.empty()) {
         PaintComponent(*live_.at(cell.component));
       } else {
@@ -73,6 +81,12 @@ class DialogPainter {
       html_ += "</div>";
     }
     html_ += "</div>";
+  }
+
+  bool FillsRow(const LayoutCell& cell) const {
+    if (!cell.nested.empty()) return false;
+    const FieldResource& resource = *dialog_.Resource().Find(cell.component);
+    return resource.Flag("AttachTop", false) && resource.Flag("AttachBottom", false);
   }
 
   void PaintComponent(const Field& component) {

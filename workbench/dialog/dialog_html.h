@@ -7,7 +7,8 @@
 
 namespace wb {
 
-// Style sheet that the fragments need once a page. All its rules begin with ".dlg".
+// Style sheet that the fragments need once a page. All its rules begin with ".dlg"; the page names
+// the colours.
 extern const char* const kDialogCss;
 
 // One <div class="dlg"> with title bar, laid-out components and their live values. Hidden

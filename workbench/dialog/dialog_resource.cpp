@@ -1,6 +1,7 @@
 // Turns the bracket grammar of a resource file into a DialogResource.
 #include "workbench/dialog/dialog_resource.h"
 
+#include <algorithm>
 #include <charconv>
 #include <optional>
 #include <unordered_map>
@@ -291,6 +292,12 @@ DialogResource LoadDialogResource(const std::filesystem::path& path) {
   const std::string file = PathToUtf8(path);
   const std::optional<std::string> text = ReadFileBytes(path);
   if (!text) throw ResourceError(file, 0, "the dialog resource cannot be read");
+  if (std::ranges::any_of(*text, [](char c) { return static_cast<unsigned char>(c) >= 0x80; }) &&
+      WithoutBom(*text).size() == text->size()) {
+    throw ResourceError(file, 1,
+                        "the file holds other than plain characters and has no byte order mark: "
+                        "the host would read it in the system's code page");
+  }
   DialogResource resource = ParseDialogResource(*text, file);
   if (path.stem() != resource.name) {
     throw ResourceError(file, resource.dialog.line,

@@ -15,12 +15,6 @@ bool Contains(const std::vector<std::string>& names, std::string_view name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-std::string OnOneLine(const std::string& text) {
-  std::string line;
-  for (const char c : text) line += c == '\n' ? std::string("\\n") : std::string(1, c);
-  return line;
-}
-
 TableModel InitialTable(const FieldResource& resource) {
   TableModel table;
   table.InsertColumns("", resource.Texts("ColumnNames"));
@@ -72,6 +66,16 @@ std::string ChoiceState::LabelOf(std::string_view name) const {
   if (found == names_.end()) return {};
   if (labels_.empty()) return *found;
   return labels_[static_cast<std::size_t>(found - names_.begin())];
+}
+
+std::vector<std::string> ChoiceState::NamesOf(const std::vector<std::string>& items) const {
+  std::vector<std::string> names = items;
+  for (std::string& item : names) {
+    const auto labelled = std::find(labels_.begin(), labels_.end(), item);
+    if (Contains(names_, item) || labelled == labels_.end()) continue;
+    item = names_[static_cast<std::size_t>(labelled - labels_.begin())];
+  }
+  return names;
 }
 
 bool ChoiceState::IsSelected(std::string_view name) const {
@@ -130,23 +134,6 @@ Field::Field(const FieldResource& resource)
       visible(resource.Flag("Visible", true)),
       state(InitialState(resource)) {
   if (FindAttributeRule(kind, "Label") != nullptr) label = resource.Text("Label");
-}
-
-std::string ValueText(const Field& component) {
-  if (const auto* choice = std::get_if<ChoiceState>(&component.state)) {
-    return Join(", ", choice->Selected()) + " of " + Join(", ", choice->Names());
-  }
-  if (const auto* text = std::get_if<TextState>(&component.state)) {
-    return "\"" + OnOneLine(text->Value()) + "\"";
-  }
-  if (const auto* check = std::get_if<CheckState>(&component.state)) {
-    return check->set ? "set" : "unset";
-  }
-  if (const auto* table = std::get_if<TableModel>(&component.state)) {
-    return std::to_string(table->Rows().size()) + " rows x " +
-           std::to_string(table->Columns().size()) + " columns";
-  }
-  return component.label.empty() ? std::string() : "\"" + component.label + "\"";
 }
 
 }  // namespace wb

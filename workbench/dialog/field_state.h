@@ -25,6 +25,8 @@ class ChoiceState {
   const std::vector<std::string>& Selected() const { return selected_; }
   // Label of item `name`, its name when it has no label, "" when there is no such item.
   std::string LabelOf(std::string_view name) const;
+  // Items by name or by label, as names; what is neither stays.
+  std::vector<std::string> NamesOf(const std::vector<std::string>& items) const;
   bool IsSelected(std::string_view name) const;
   SelectionPolicy Policy() const { return policy_; }
 
@@ -84,9 +86,5 @@ struct Field {
   bool visible;
   FieldState state;
 };
-
-// One phrase that tells the component's state: what is selected of what, the typed text, set or
-// unset, the size of a table, or else its label.
-std::string ValueText(const Field& component);
 
 }  // namespace wb

@@ -29,6 +29,9 @@ struct Habits {
   bool untouched_dimension_has_no_lines = false;     // instead of "@D"
   bool untouched_dimension_text_fails = false;       // with "not found", instead of "@D"
   bool tolerances_are_taken_for_numbers = false;     // which then are anything, instead of places
+  bool resources_lie_beside_text = false;            // in `resource`, instead of `text/resource`
+  bool surface_data_has_unknown_order = false;
+  bool parameter_record_has_unknown_order = false;
 };
 
 struct HabitRow {

@@ -27,6 +27,11 @@ Host::~Host() {
   current_host = nullptr;
 }
 
+std::filesystem::path Host::ResourceFile(const std::filesystem::path& name) const {
+  const auto folder = habits.resources_lie_beside_text ? install_folder : install_folder / "text";
+  return folder / "resource" / name;
+}
+
 void Host::Forget(Model& model) {
   handles.End(model.handle);
   handles.EndAllInside(&model);

@@ -42,8 +42,8 @@ struct Host {
   AutomationProgram* automation = nullptr;  // null: no program is registered
   User* user = nullptr;
 
-  std::filesystem::path install_folder;                     // holds the DLL, text/ and QMconfig/
-  std::string language = "chinese_cn";                      // folder of the message files
+  std::filesystem::path install_folder;  // holds the DLL, text/, resource/ and QMconfig/
+  std::string language = "chinese_cn";   // folder of the message files
   std::map<std::string, std::vector<std::string>> options;  // configuration options, lower case
   Habits habits;
   int forced_mode = -1;  // mode to report; -1: by the current model
@@ -60,6 +60,8 @@ struct Host {
   bool LetUserIn(const char* function);
   // Ends every handle to a model that leaves the session and to what is inside it.
   void Forget(Model& model);
+  // Where a dialog's resource or an icon lies.
+  std::filesystem::path ResourceFile(const std::filesystem::path& name) const;
   // What a handle stands for, for traces: "part bolt".
   std::string DescribeHandle(const void* handle) const;
 };

@@ -14,6 +14,7 @@
 #include "toolkit/feature.h"
 #include "toolkit/file.h"
 #include "toolkit/geometry.h"
+#include "toolkit/macro.h"
 #include "toolkit/message.h"
 #include "toolkit/model.h"
 #include "toolkit/parameter.h"

@@ -1,10 +1,10 @@
 // workbench.exe: tries the plug-in without a CAD seat.
 #include <cstdio>
-#include <exception>
 
 #include "workbench/base/text.h"
 #include "workbench/base/windows_headers.h"
 #include "workbench/bench/bench.h"
+#include "workbench/main/guarded.h"
 #include "workbench/main/subcommands.h"
 
 namespace wb {
@@ -24,11 +24,16 @@ constexpr Subcommand kSubcommands[] = {
                  "    reads a STEP file and writes its models into DIR; with --force as next versions\n"
                  "    beside models of the same names", &ImportCommand},
     {"run",      "run SCRIPT... [--out DIR] [--report FILE.html] [--trace FILE] [--plugin DLL]\n"
-                 "    [--install DIR] [--fault FUNCTION:NTH:STATUS[:from_then_on]]\n"
+                 "    [--install DIR] [--fault FUNCTION:NTH:STATUS[:from_then_on]] [--all-allocations]\n"
+                 "    [--first-run LINE:NTH[:from_then_on]]\n"
                  "    runs scripts on copies of the install tree and closes with \"N passed, N failed\"",
                  &RunScriptsCommand},
-    {"commands", "commands [--english] [--plugin DLL] [--install DIR]\n"
-                 "    lists the plug-in's menu and where each command is available", &ListCommandsCommand},
+    {"memory",   "memory SCRIPT... [--all] [--plugin DLL] [--install DIR]\n"
+                 "    runs the commands whose allocations a script sweeps for the first time, each time in\n"
+                 "    a process of its own with another allocation failed", &MemoryCommand},
+    {"commands", "commands [--english] [--markdown english|chinese] [--plugin DLL] [--install DIR]\n"
+                 "    lists the plug-in's menu, which commands are built and where each is available;\n"
+                 "    with --markdown as the table of a README", &ListCommandsCommand},
     {"bench",    "bench [options]\n"
                  "    measures how the commands grow with the assembly; see bench --help", &BenchCommand},
     {"help",     "help\n"
@@ -54,18 +59,6 @@ int Run(const CommandArguments& arguments) {
   throw UsageError("unknown command \"" + arguments[0] + "\"");
 }
 
-int RunGuarded(const CommandArguments& arguments) {
-  try {
-    return Run(arguments);
-  } catch (const UsageError& error) {
-    std::fprintf(stderr, "workbench: %s; \"workbench help\" lists the commands\n", error.what());
-    return 2;
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "workbench: %s\n", error.what());
-    return 1;
-  }
-}
-
 }  // namespace
 }  // namespace wb
 
@@ -73,5 +66,5 @@ int wmain(int argc, wchar_t** argv) {
   ::SetConsoleOutputCP(CP_UTF8);
   wb::CommandArguments arguments;
   for (int i = 1; i < argc; ++i) arguments.push_back(wb::FromWide(argv[i]));
-  return wb::RunGuarded(arguments);
+  return wb::RunGuarded(&wb::Run, arguments);
 }

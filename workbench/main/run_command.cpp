@@ -1,12 +1,14 @@
 // `workbench run`: runs scripts, says what failed, and closes with "N passed, N failed".
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <sstream>
 
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
 #include "workbench/main/subcommands.h"
 #include "workbench/plugin/install_tree.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/report/report.h"
 #include "workbench/script/script_watch.h"
 #include "workbench/script/script_windows.h"
@@ -19,6 +21,7 @@ namespace {
 
 // A batch command on a large assembly may be at work for minutes between two statements.
 constexpr unsigned kHangSeconds = 600;
+constexpr unsigned kFirstRunHangSeconds = 60;
 
 void PrintFailures(const RunRecord& record, size_t from) {
   for (size_t i = from; i < record.failures.size(); ++i) {
@@ -32,15 +35,15 @@ void PrintFailures(const RunRecord& record, size_t from) {
 void RunOne(const std::string& script, const ScriptOptions& options, RunRecord& record,
             bool* readable) {
   const size_t failures = record.failures.size();
+  const std::string name = OwnPath(PathFromUtf8(script));
   const ScriptOutcome outcome = RunScriptFile(PathFromUtf8(script), options, record);
   PrintFailures(record, failures);
   *readable = *readable && outcome.readable;
   if (outcome.skipped.empty()) {
-    std::printf("%s: %d checks passed, %d failed\n", script.c_str(), outcome.passed,
-                outcome.failed);
+    std::printf("%s: %d checks passed, %d failed\n", name.c_str(), outcome.passed, outcome.failed);
   } else {
-    std::printf("%s: skipped, since %s\n", script.c_str(), outcome.skipped.c_str());
-    record.facts.emplace_back("Skipped", script + ": " + outcome.skipped);
+    std::printf("%s: skipped, since %s\n", name.c_str(), outcome.skipped.c_str());
+    record.facts.emplace_back("Skipped", name + ": " + outcome.skipped);
   }
   std::fflush(stdout);
 }
@@ -83,27 +86,46 @@ void RunApart(const std::string& script, const CommandLine& line, RunRecord& rec
   TakeOver(script, OutputOf(ProgramFile(), arguments).value_or(""), record);
 }
 
+// "LINE[:NTH[:from_then_on]]".
+MemorySweepOptions FirstRunOption(const std::string& text) {
+  MemorySweepOptions options;
+  if (text.empty()) return options;
+  const size_t colon = std::min(text.find(':'), text.size());
+  options.first_run_line = std::atoi(text.substr(0, colon).c_str());
+  if (options.first_run_line <= 0) throw UsageError("--first-run wants LINE[:NTH[:from_then_on]]");
+  if (colon == text.size()) return options;
+  const FaultPlan plan = FaultOption("allocation" + text.substr(colon));
+  options.nth = plan.nth;
+  options.from_then_on = plan.from_then_on;
+  return options;
+}
+
 }  // namespace
 
 int RunScriptsCommand(const CommandArguments& arguments) {
-  const CommandLine line(arguments, {},
-                         {"--out", "--report", "--trace", "--plugin", "--install", "--fault"});
+  const CommandLine line(
+      arguments, {"--all-allocations"},
+      {"--out", "--report", "--trace", "--plugin", "--install", "--fault", "--first-run"});
   if (line.words().empty()) throw UsageError("run wants one script or more");
   ScriptOptions options;
   options.install = InstallTree(line);
   options.plugin = line.Path("--plugin");
   options.out = line.Path("--out");
   options.trace = line.Path("--trace");
-  options.record = line.Has("--report");
+  options.report = line.Path("--report");
   options.fault = FaultOption(line.Value("--fault"));
+  options.memory = FirstRunOption(line.Value("--first-run"));
+  options.memory.all = line.Has("--all-allocations");
   if (!options.trace.empty()) std::filesystem::remove(options.trace);
 
   RunRecord record;
-  record.script = Join(", ", line.words());
+  std::vector<std::string> scripts;
+  for (const std::string& script : line.words()) scripts.push_back(OwnPath(PathFromUtf8(script)));
+  record.script = Join(", ", scripts);
   record.facts.emplace_back("Plug-in",
-                            PathToUtf8(options.plugin.empty() ? options.install : options.plugin));
+                            OwnPath(options.plugin.empty() ? options.install : options.plugin));
   record.facts.emplace_back("Code page", std::to_string(AnsiCodePage()));
-  WatchForHangs(kHangSeconds);
+  WatchForHangs(line.Has("--first-run") ? kFirstRunHangSeconds : kHangSeconds);
   bool readable = true;
   const bool alone = line.words().size() == 1;
   for (const std::string& script : line.words()) {
@@ -113,9 +135,9 @@ int RunScriptsCommand(const CommandArguments& arguments) {
       RunOne(script, options, record, &readable);
     }
   }
-  if (options.record) {
-    WriteReport(line.Path("--report"), record);
-    std::printf("report: %s\n", PathToUtf8(line.Path("--report")).c_str());
+  if (!options.report.empty()) {
+    WriteReport(options.report, record);
+    std::printf("report: %s\n", OwnPath(options.report).c_str());
   }
   std::printf("%d passed, %d failed\n", record.passed, record.failed);
   if (!readable) return 2;

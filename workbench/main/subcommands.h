@@ -8,6 +8,7 @@ namespace wb {
 
 int ImportCommand(const CommandArguments& arguments);
 int RunScriptsCommand(const CommandArguments& arguments);
+int MemoryCommand(const CommandArguments& arguments);
 int ListCommandsCommand(const CommandArguments& arguments);
 
 }  // namespace wb

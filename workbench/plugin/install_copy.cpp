@@ -4,8 +4,9 @@
 #include <cstdlib>
 #include <vector>
 
+#include "workbench/base/process.h"
+#include "workbench/base/temporary_place.h"
 #include "workbench/base/text.h"
-#include "workbench/base/windows_headers.h"
 
 namespace wb {
 
@@ -13,12 +14,19 @@ namespace fs = std::filesystem;
 
 InstallCopy::InstallCopy(const fs::path& tree, const std::string& purpose)
     : prefix_("workbench " + purpose + " "),
-      top_(fs::temp_directory_path() / (prefix_ + std::to_string(::GetCurrentProcessId()))),
+      top_(TemporaryPlace() / (prefix_ + std::to_string(OwnProcessId()))),
       tree_(top_ / "quillmax"),
       work_(top_ / "work") {
   RemoveLeftovers();
   fs::create_directories(work_);
   fs::copy(tree, tree_, fs::copy_options::recursive | fs::copy_options::skip_existing);
+  // What install.cmd does with the settings.
+  const fs::path shipped = tree_ / "QMconfig" / "defaults";
+  std::error_code none_are_shipped;
+  for (const auto& file : fs::directory_iterator(shipped, none_are_shipped)) {
+    const fs::path own = tree_ / "QMconfig" / file.path().filename();
+    if (!fs::exists(own)) fs::copy_file(file.path(), own);
+  }
 }
 
 InstallCopy::~InstallCopy() {
@@ -33,13 +41,8 @@ namespace {
 
 // Whether a process other than this one still works in the folder, by the number at its name's end.
 bool IsInUse(const std::string& name, size_t prefix_length) {
-  const auto process = static_cast<DWORD>(std::strtoul(name.c_str() + prefix_length, nullptr, 10));
-  if (process == ::GetCurrentProcessId()) return false;
-  const HANDLE handle = ::OpenProcess(SYNCHRONIZE, FALSE, process);
-  if (handle == nullptr) return false;
-  const bool runs = ::WaitForSingleObject(handle, 0) == WAIT_TIMEOUT;
-  ::CloseHandle(handle);
-  return runs;
+  const long process = std::strtol(name.c_str() + prefix_length, nullptr, 10);
+  return process != OwnProcessId() && ProcessRuns(process);
 }
 
 // All but the files that are in use.

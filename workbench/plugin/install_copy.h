@@ -9,8 +9,8 @@ namespace wb {
 
 class InstallCopy {
  public:
-  // Copies `tree`. `purpose` is part of the folder's name, which is this process's own. Throws
-  // std::filesystem::filesystem_error.
+  // Copies `tree` and puts the shipped settings in place. `purpose` is part of the folder's name,
+  // which is this process's own. Throws std::filesystem::filesystem_error.
   InstallCopy(const std::filesystem::path& tree, const std::string& purpose);
   // Removes it. The library file outlives this when the plug-in was started, since it then stays
   // loaded; the next copy for the same purpose removes what is left of earlier processes.

@@ -83,11 +83,12 @@ int Plugin::Start() {
   char version[] = "30";
   char build[] = "C000";
   char* arguments[] = {path.data(), nullptr};
-  wchar_t reason[PRO_LINE_SIZE] = {};
+  constexpr size_t kReasonSize = 80;
+  wchar_t reason[kReasonSize] = {};
   int answer = PRO_TK_GENERAL_ERROR;
   const auto entry = reinterpret_cast<InitializeEntry>(EntryOf(module_, kInitialize));
   EnterPluginAndSettle(kInitialize, [&] { answer = entry(1, arguments, version, build, reason); });
-  reason[PRO_LINE_SIZE - 1] = L'\0';
+  reason[kReasonSize - 1] = L'\0';
   refusal_ = FromWide(reason);
   started_ = answer == 0;
   if (!started_) DropRegistrations();

@@ -63,7 +63,8 @@ std::string DrawHeader(const RunRecord& record) {
                      " failed</span></header>";
   if (record.script.empty() && record.facts.empty()) return html;
   html += "<dl>";
-  if (!record.script.empty()) html += "<dt>Script</dt><dd>" + EscapeHtml(record.script) + "</dd>";
+  if (!record.script.empty())
+    html += "<dt>Script</dt><dd class=\"t\">" + EscapeHtml(record.script) + "</dd>";
   for (const auto& [what, value] : record.facts) {
     html += "<dt>" + EscapeHtml(what) + "</dt><dd class=\"t\">" + ShownText(value) + "</dd>";
   }
@@ -82,7 +83,8 @@ std::string DrawAllFailures(const RunRecord& record, const std::vector<Section>&
 std::string DrawContents(const std::vector<Section>& sections) {
   if (sections.empty()) return {};
   std::string html =
-      "<h3>Commands</h3><table class=\"list\"><thead><tr><th>Command</th><th>Label</th><th>Script "
+      "<h3>Commands</h3><div class=\"scroll\"><table "
+      "class=\"list\"><thead><tr><th>Command</th><th>Label</th><th>Script "
       "line</th><th>Outcome</th><th>Shown and changed</th></tr></thead><tbody>";
   for (const auto& [command, anchor, failures] : sections) {
     const std::string name = EscapeHtml(command->name);
@@ -94,7 +96,7 @@ std::string DrawContents(const std::vector<Section>& sections) {
     }
     html += "</td><td>" + CommandInShort(*command) + "</td></tr>";
   }
-  return html + "</tbody></table>";
+  return html + "</tbody></table></div>";
 }
 
 }  // namespace
@@ -104,6 +106,8 @@ std::string RenderReport(const RunRecord& record) {
   const TreeLimits limits = LimitsFor(sections.size());
   std::string html =
       "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">"
+      "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">"
+      "<meta name=\"color-scheme\" content=\"light dark\">"
       "<title>Workbench run</title>\n<style>";
   html += kReportCss;
   html += kDialogCss;
@@ -124,6 +128,8 @@ std::string RenderReport(const RunRecord& record) {
 }
 
 void WriteReport(const std::filesystem::path& file, const RunRecord& record) {
+  std::error_code no_matter;  // whether it can be written there shows next
+  std::filesystem::create_directories(file.parent_path(), no_matter);
   std::ofstream out(file, std::ios::binary);
   out << RenderReport(record);
   out.close();

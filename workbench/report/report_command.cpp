@@ -34,13 +34,13 @@ std::string DrawTable(const std::string& heading, const std::vector<std::string>
                          ? "<details class=\"fold\"><summary>" + heading + " <small>" +
                                Counted(list.size(), noun) + "</small></summary>"
                          : "<div><h3>" + heading + "</h3>";
-  html += "<table class=\"list\"><thead><tr>";
+  html += "<div class=\"scroll\"><table class=\"list\"><thead><tr>";
   for (const std::string& column : columns) html += "<th>" + column + "</th>";
   html += "</tr></thead><tbody>";
   for (std::size_t i = 0; i < std::min(kMostLines, list.size()); ++i) {
     html += "<tr>" + draw_cells(list[i]) + "</tr>";
   }
-  html += "</tbody></table>" + MoreLine(list.size(), kMostLines, noun);
+  html += "</tbody></table></div>" + MoreLine(list.size(), kMostLines, noun);
   return html + (list.size() > kMostLinesUnfolded ? "</details>" : "</div>");
 }
 
@@ -63,7 +63,11 @@ std::string DrawDialogs(const CommandRecord& command) {
                     const ShownDialog& dialog = command.dialogs[i];
                     const std::string before =
                         dialog.before.empty() ? "" : ", before " + dialog.before;
-                    return "<figure><figcaption>" + EscapeHtml(dialog.name + before) +
+                    const std::string trouble =
+                        dialog.trouble.empty()
+                            ? ""
+                            : ": <b class=\"bad\">" + EscapeHtml(dialog.trouble) + "</b>";
+                    return "<figure><figcaption>" + EscapeHtml(dialog.name + before) + trouble +
                            "</figcaption><div class=\"scroll\">" + dialog.html + "</div></figure>";
                   }) +
          "</div>";
@@ -129,9 +133,40 @@ std::string DrawDrawings(const CommandRecord& command) {
          "</div>";
 }
 
+std::string FileCells(const WrittenFile& file) {
+  const std::string path = file.link.empty() ? ShownText(file.path)
+                                             : "<a href=\"" + EscapeHtml(file.link) + "\">" +
+                                                   ShownText(file.path) + "</a>";
+  std::string what = ShownText(file.what);
+  if (!file.no_copy.empty()) what += " <small>no copy: " + ShownText(file.no_copy) + "</small>";
+  return "<td class=\"t\">" + path + "</td><td class=\"t\">" + what + "</td>";
+}
+
 std::string DrawFiles(const CommandRecord& command) {
-  return DrawTable("Files written", {"File", "What"}, command.files, "file",
-                   [](const WrittenFile& file) { return Cell(file.path) + Cell(file.what); });
+  return DrawTable("Files written", {"File", "What"}, command.files, "file", &FileCells);
+}
+
+std::string DrawWorkbooks(const CommandRecord& command) {
+  if (command.workbooks.empty()) return {};
+  return "<h3>Workbooks</h3><div class=\"shown\">" +
+         DrawSome(command.workbooks, kMostShown, "workbook",
+                  [&](std::size_t i) {
+                    const WorkbookPicture& book = command.workbooks[i];
+                    return "<figure><figcaption>" + EscapeHtml(book.path) +
+                           "</figcaption><div class=\"scroll\">" + book.html + "</div></figure>";
+                  }) +
+         "</div>";
+}
+
+std::string DrawPrograms(const CommandRecord& command) {
+  return DrawTable(
+      "Programs and folders opened", {"Opened", "With"}, command.programs, "program",
+      [](const OpenedProgram& opened) { return Cell(opened.program) + Cell(opened.parameters); });
+}
+
+std::string DrawClipboard(const CommandRecord& command) {
+  if (!command.clipboard) return {};
+  return "<h3>Clipboard</h3><div class=\"clip t\">" + ShownText(*command.clipboard) + "</div>";
 }
 
 std::string DrawCalls(const CommandRecord& command) {
@@ -149,8 +184,9 @@ std::string DrawCalls(const CommandRecord& command) {
   }
   return "<details class=\"fold\"><summary>Host calls <small>" +
          Counted(static_cast<std::uint64_t>(sum), "call") + " of " +
-         Counted(counts.size(), "function") + "</small></summary><table class=\"list\">" + rows +
-         "</table></details>";
+         Counted(counts.size(), "function") +
+         "</small></summary><div class=\"scroll\"><table class=\"list\">" + rows +
+         "</table></div></details>";
 }
 
 std::string PlaceText(const std::string& file, int line) {
@@ -171,21 +207,29 @@ const char* OutcomeText(Outcome outcome) {
   return "";
 }
 
+// Of a failure of many lines the first says what it is; the others stand where its command is.
+std::string FailureItem(const FailureLine& line) {
+  const std::string& text = line.failure->text;
+  const std::size_t first = std::min(text.find('\n'), text.size());
+  std::string place = PlaceText(line.failure->file, line.failure->line);
+  std::string rest;
+  if (!line.anchor.empty()) {
+    place = "<a href=\"#" + line.anchor + "\">" + place + "</a>";
+    if (first < text.size()) rest = " …";
+  } else if (first < text.size()) {
+    rest = "<pre>" + EscapeHtml(text.substr(first + 1)) + "</pre>";
+  }
+  return "<li class=\"t\">" + place + (place.empty() ? "" : ": ") +
+         ShownText(text.substr(0, first)) + rest + "</li>";
+}
+
 }  // namespace
 
 std::string DrawFailures(const std::string& heading, const std::vector<FailureLine>& failures) {
   if (failures.empty()) return {};
   return "<div class=\"fails\"><h3>" + EscapeHtml(heading) + "</h3><ul>" +
          DrawSome(failures, kMostLines, "failure",
-                  [&](std::size_t i) {
-                    const RunFailure& failure = *failures[i].failure;
-                    std::string place = PlaceText(failure.file, failure.line);
-                    if (!failures[i].anchor.empty()) {
-                      place = "<a href=\"#" + failures[i].anchor + "\">" + place + "</a>";
-                    }
-                    return "<li class=\"t\">" + place + (place.empty() ? "" : ": ") +
-                           ShownText(failure.text) + "</li>";
-                  }) +
+                  [&](std::size_t i) { return FailureItem(failures[i]); }) +
          "</ul></div>";
 }
 
@@ -205,12 +249,13 @@ std::string CommandInShort(const CommandRecord& command) {
       {command.dialogs.size(), "dialog"},       {command.boxes.size(), "message"},
       {command.notes.size(), "note"},           {command.states.size(), "feature state"},
       {command.parameters.size(), "parameter"}, {command.facts.size(), "other fact"},
-      {command.files.size(), "file"},
+      {command.files.size(), "file"},           {command.programs.size(), "program"},
   };
   std::vector<std::string> words;
   for (const auto& [count, noun] : counts) {
     if (count > 0) words.push_back(Counted(count, noun));
   }
+  if (command.clipboard) words.push_back("clipboard");
   return Join(", ", words);
 }
 
@@ -224,8 +269,8 @@ std::string DrawCommand(const CommandRecord& command, const std::string& anchor,
     html += draw(command);
   }
   html += DrawTrees(command, limits);
-  for (const auto draw :
-       {&DrawStates, &DrawParameters, &DrawFacts, &DrawDrawings, &DrawFiles, &DrawCalls}) {
+  for (const auto draw : {&DrawStates, &DrawParameters, &DrawFacts, &DrawDrawings, &DrawFiles,
+                          &DrawWorkbooks, &DrawPrograms, &DrawClipboard, &DrawCalls}) {
     html += draw(command);
   }
   return html + "</section>\n";

@@ -86,8 +86,10 @@ std::vector<bool> HoldsMark(const std::vector<RowMark>& marks,
 
 class TreePainter {
  public:
-  TreePainter(const ModelTree& tree, const std::vector<RowMark>& marks, const TreeLimits& limits)
+  TreePainter(const ModelTree& tree, const std::vector<RowMark>& marks, const TreeLimits& limits,
+              const ModelTree* before)
       : tree_(tree),
+        before_(before),
         marks_(marks),
         limits_(limits),
         parents_(ParentsOf(tree)),
@@ -151,24 +153,38 @@ class TreePainter {
              (row.suppressed ? " sup" : "") + "\">";
     const std::string mark = MarkClass(marks_[i]);
     if (!HasRows(i)) {
-      html_ += "<div class=\"row" + mark + "\">" + RowContent(row, marks_[i]) + "</div></li>";
+      html_ += "<div class=\"row" + mark + "\">" + RowContent(i) + "</div></li>";
       return;
     }
     const bool unfold = row.depth == 0 || holds_mark_[i] || tree_.rows.size() <= kMostRowsUnfolded;
     html_ += unfold ? "<details open>" : "<details>";
-    html_ += "<summary class=\"row" + mark + "\">" + RowContent(row, marks_[i]) + "</summary><ul>";
+    html_ += "<summary class=\"row" + mark + "\">" + RowContent(i) + "</summary><ul>";
     ++open_;
   }
 
-  static std::string RowContent(const TreeRow& row, RowMark mark) {
+  std::string RowContent(std::size_t i) const {
+    const TreeRow& row = tree_.rows[i];
+    const RowMark mark = marks_[i];
     std::string html = std::string("<svg class=\"i\"><use href=\"#i-") + SymbolOf(row.icon) +
                        "\"/></svg><span class=\"n\">" + EscapeHtml(row.name) + "</span>";
     if (row.hidden) html += "<small>hidden</small>";
     if (row.suppressed) html += "<small>suppressed</small>";
     if (row.missing) html += "<small class=\"bad\">not in session</small>";
+    if (before_ != nullptr) html += WhatWas(before_->rows[i], row);
     if (mark == RowMark::kTouched) html += "<small>parameters</small>";
     if (mark == RowMark::kAdded) html += "<small>new</small>";
     if (mark == RowMark::kRemoved) html += "<small>removed</small>";
+    return html;
+  }
+
+  static std::string WhatWas(const TreeRow& was, const TreeRow& is) {
+    std::string html;
+    const auto tell = [&](bool before, bool now, const char* yes, const char* no) {
+      if (before != now) html += std::string("<small>was ") + (before ? yes : no) + "</small>";
+    };
+    tell(was.hidden, is.hidden, "hidden", "shown");
+    tell(was.suppressed, is.suppressed, "suppressed", "active");
+    tell(was.missing, is.missing, "not in session", "in session");
     return html;
   }
 
@@ -184,6 +200,7 @@ class TreePainter {
   }
 
   const ModelTree& tree_;
+  const ModelTree* const before_;
   const std::vector<RowMark>& marks_;
   const TreeLimits limits_;
   const std::vector<std::size_t> parents_;
@@ -194,6 +211,10 @@ class TreePainter {
   std::uint64_t gap_ = 0;
   int gap_depth_ = 0;
 };
+
+constexpr const char* kLegend =
+    "<p class=\"legend\"><span class=\"hid\">grey</span> hidden · <s>struck</s> suppressed · "
+    "<mark>yellow</mark> changed · <span class=\"touched\">blue</span> parameters changed</p>";
 
 std::string SizeOf(const ModelTree& tree) {
   return " <small>" + Counted(tree.rows.size() + tree.left_out, "row") + "</small>";
@@ -209,8 +230,8 @@ std::string Column(const char* caption, const ModelTree& tree, const std::vector
 }  // namespace
 
 std::string DrawTree(const ModelTree& tree, const std::vector<RowMark>& marks,
-                     const TreeLimits& limits) {
-  return TreePainter(tree, marks, limits).Paint();
+                     const TreeLimits& limits, const ModelTree* before) {
+  return TreePainter(tree, marks, limits, before).Paint();
 }
 
 std::string DrawTrees(const CommandRecord& command, const TreeLimits& limits) {
@@ -224,11 +245,13 @@ std::string DrawTrees(const CommandRecord& command, const TreeLimits& limits) {
     return "<details class=\"fold\"><summary>Model tree, the same before and after" +
            SizeOf(after) + "</summary>" + DrawTree(after, marks.after, limits) + "</details>";
   }
-  return "<h3>Model tree</h3><p class=\"legend\"><span class=\"hid\">grey</span> hidden · "
-         "<s>struck</s> suppressed · <mark>yellow</mark> changed · "
-         "<span class=\"touched\">blue</span> parameters changed</p><div class=\"sides\">" +
-         Column("Before", before, marks.before, limits) +
-         Column("After", after, marks.after, limits) + "</div>";
+  std::string html = std::string("<h3>Model tree</h3>") + kLegend;
+  if (HaveSameRows(before, after)) {
+    return html + "<div class=\"sides one\"><div><h4>Before and after" + SizeOf(after) + "</h4>" +
+           DrawTree(after, marks.after, limits, &before) + "</div></div>";
+  }
+  html += "<div class=\"sides\">" + Column("Before", before, marks.before, limits);
+  return html + Column("After", after, marks.after, limits) + "</div>";
 }
 
 }  // namespace wb

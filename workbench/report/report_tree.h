@@ -1,4 +1,5 @@
-// Model trees of a report: before and after side by side, changed rows marked.
+// Model trees of a report with changed rows marked: one where the rows are the same before and
+// after, both side by side where they are not.
 #pragma once
 
 #include <string>
@@ -15,11 +16,13 @@ struct TreeLimits {
   int depth = 24;  // levels
 };
 
-// A nested list of the tree. `marks` has one entry a row. Linear in the rows, without recursion.
+// A nested list of the tree. `marks` has one entry a row. Changed rows say what they were in
+// `before`, a tree of the same rows. Linear in the rows, without recursion.
 std::string DrawTree(const ModelTree& tree, const std::vector<RowMark>& marks,
-                     const TreeLimits& limits);
+                     const TreeLimits& limits, const ModelTree* before = nullptr);
 
-// Both trees side by side, or one, folded, when nothing differs. Empty when there is neither.
+// Both trees side by side, one where only marks differ, folded when nothing does. Empty when there
+// is neither.
 std::string DrawTrees(const CommandRecord& command, const TreeLimits& limits);
 
 }  // namespace wb

@@ -64,8 +64,9 @@ struct DrawingPicture {
 
 struct ShownDialog {
   std::string name;
-  std::string before;  // the user's deed that follows, as the script writes it
-  std::string html;    // as DrawDialog gives it
+  std::string before;   // the user's deed that follows, as the script writes it
+  std::string html;     // as DrawDialog gives it
+  std::string trouble;  // "nobody answered it"; empty: none
 };
 
 struct ShownBox {
@@ -82,7 +83,21 @@ struct Question {
 
 struct WrittenFile {
   std::string path;
-  std::string what;  // "new", "changed", "deleted"
+  std::string what;     // "new", "changed", "deleted"
+  std::string link;     // to its copy, from the page's folder; empty: there is none
+  std::string no_copy;  // why, where there should be one
+};
+
+// A workbook among the files written, as it was when the command ended.
+struct WorkbookPicture {
+  std::string path;
+  std::string html;  // as DrawWorkbookFile gives it
+};
+
+// What the plug-in had Windows start or open.
+struct OpenedProgram {
+  std::string program;
+  std::string parameters;
 };
 
 struct CallCount {
@@ -118,6 +133,9 @@ struct CommandRecord {
   std::vector<DrawingPicture> drawings;  // the current one, and those that changed
 
   std::vector<WrittenFile> files;
+  std::vector<WorkbookPicture> workbooks;
+  std::vector<OpenedProgram> programs;
+  std::optional<std::string> clipboard;  // what was put into it; no value: nothing was
   std::vector<CallCount> calls;
 };
 

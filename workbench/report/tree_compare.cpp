@@ -95,4 +95,13 @@ TreeMarks CompareTrees(const ModelTree& before, const ModelTree& after,
   return marks;
 }
 
+bool HaveSameRows(const ModelTree& before, const ModelTree& after) {
+  const auto same = [](const TreeRow& a, const TreeRow& b) {
+    return a.depth == b.depth && a.id == b.id && a.name == b.name && a.icon == b.icon;
+  };
+  return before.left_out == after.left_out &&
+         std::equal(before.rows.begin(), before.rows.end(), after.rows.begin(), after.rows.end(),
+                    same);
+}
+
 }  // namespace wb

@@ -33,4 +33,7 @@ struct TreeMarks {
 TreeMarks CompareTrees(const ModelTree& before, const ModelTree& after,
                        const std::set<std::string>& touched_models);
 
+// Whether both trees have the same rows, so that one drawing with marks shows both.
+bool HaveSameRows(const ModelTree& before, const ModelTree& after);
+
 }  // namespace wb

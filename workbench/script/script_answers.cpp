@@ -1,5 +1,6 @@
 // Answers of the scripted user: dialogs, picks, files, prompts and message boxes.
 #include "workbench/base/text.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/script/script_calls.h"
 #include "workbench/script/script_paths.h"
 #include "workbench/script/script_runner.h"
@@ -171,7 +172,7 @@ std::optional<std::vector<PickedItem>> ScriptUser::Pick(const PickRequest& reque
 
 std::optional<std::string> ScriptUser::ChooseFile(const FileRequest& request) {
   const auto file = AnswerFile(request);
-  NoteQuestion("file", request.title, file);
+  NoteQuestion("file", request.title, file ? std::optional(WithOwnPath(*file)) : std::nullopt);
   return file;
 }
 

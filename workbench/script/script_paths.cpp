@@ -1,6 +1,8 @@
 // Ways through an assembly by names.
 #include "workbench/script/script_paths.h"
 
+#include <map>
+
 #include "workbench/base/text.h"
 #include "workbench/language/script_words.h"
 #include "workbench/script/script_runner.h"
@@ -14,7 +16,41 @@ bool IsNamed(const Feature& feature, const std::string& name) {
   return EqualFolded(model.name, name) || EqualFolded(model.Text(), name);
 }
 
-Feature& ComponentOf(Model& parent, const std::string& step) {
+// More paths than these are only counted.
+constexpr size_t kMostOffered = 20;
+
+// The components of `parent` as steps of a path: names, counted where they repeat.
+std::vector<std::string> StepsOf(const Model& parent) {
+  std::vector<std::string> steps;
+  std::map<std::string, int> seen;
+  for (const Feature& feature : FeaturesOf(parent)) {
+    if (!feature.component) continue;
+    const std::string& name = feature.component->link.name.name;
+    const int number = ++seen[FoldCase(name)];
+    steps.push_back(number == 1 ? name : name + "#" + std::to_string(number));
+  }
+  return steps;
+}
+
+// What may stand after `above`, the part of the path that holds ("" or "rotor/").
+std::string OfferedPaths(const Model& parent, const std::string& above, const std::string& step) {
+  std::vector<std::string> paths = StepsOf(parent);
+  if (paths.empty()) return "; it has none at all";
+  const std::string meant = NearestWord(step, paths);
+  const size_t count = paths.size();
+  paths.resize(std::min(count, kMostOffered));
+  for (std::string& path : paths) path = above + path;
+  std::string text = meant.empty() ? "" : "; did you mean " + above + meant + "?";
+  text += "; paths offered: " + Join(", ", paths);
+  if (count > kMostOffered) text += " and " + std::to_string(count - kMostOffered) + " more";
+  return text;
+}
+
+// The last step of `path`, below `parent`.
+Feature& ComponentOf(Model& parent, const std::string& path) {
+  const size_t slash = path.rfind('/');
+  const std::string above = slash == std::string::npos ? "" : path.substr(0, slash + 1);
+  const std::string step = path.substr(above.size());
   const size_t mark = step.find_last_of("#@");
   const std::string name = step.substr(0, mark);
   const int number = mark == std::string::npos ? 1 : WholeNumber(step.substr(mark + 1)).value_or(0);
@@ -26,7 +62,8 @@ Feature& ComponentOf(Model& parent, const std::string& step) {
       return *parent.FindFeature(feature.id);
     }
   }
-  throw ScriptError(parent.id.Text() + " has no component \"" + step + "\"");
+  throw ScriptError(parent.id.Text() + " has no component \"" + step + "\"" +
+                    OfferedPaths(parent, above, step));
 }
 
 PickedItem PickOf(Model& root, const std::string& path) {
@@ -64,7 +101,7 @@ ComponentSpot FindComponentSpot(Model& root, const std::string& path) {
       throw ScriptError("\"" + path.substr(0, at - 1) + "\" is not in session");
     }
     spot.owner = parent;
-    spot.feature = &ComponentOf(*parent, path.substr(at, slash - at));
+    spot.feature = &ComponentOf(*parent, path.substr(0, slash));
     spot.ids.push_back(spot.feature->id);
     parent = spot.feature->ComponentModel();
     at = slash + 1;

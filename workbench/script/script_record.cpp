@@ -3,11 +3,19 @@
 
 #include <algorithm>
 
+#include "workbench/base/text.h"
 #include "workbench/language/script_words.h"
+#include "workbench/reasons/own_path.h"
+#include "workbench/report/kept_files.h"
+#include "workbench/report/workbook_picture.h"
 #include "workbench/script/script_runner.h"
+#include "workbench/script/script_windows.h"
 
 namespace wb {
 namespace {
+
+// As many as the report shows of one command.
+constexpr size_t kMostFilesKept = 500;
 
 std::string LabelOf(Host& host, const std::string& command) {
   for (const Menu& menu : host.commands.menus) {
@@ -29,7 +37,7 @@ Outcome OutcomeOf(const CommandRun& result) {
 }  // namespace
 
 CommandRecorder::CommandRecorder(ScriptRun& run, const Statement& statement) : run_(run) {
-  if (!run.options.record) return;
+  if (run.options.report.empty()) return;
   run.recording = static_cast<int>(run.record().commands.size());
   CommandRecord& command = run.record().commands.emplace_back();
   command.name = statement.Text("COMMAND");
@@ -37,8 +45,11 @@ CommandRecorder::CommandRecorder(ScriptRun& run, const Statement& statement) : r
   command.file = statement.file;
   command.line = statement.line;
   before_ = TakePicture(run.host.session);
-  folders_.emplace_back(run.folders.work);
-  folders_.emplace_back(run.Installed() / "QMconfig");
+  Watch("folder", run.folders.work);
+  Watch("desktop", run.folders.desktop);
+  Watch("QMconfig", run.Installed() / "QMconfig");
+  Watch("directory", run.host.session.working_directory());
+  clipboard_before_ = ClipboardNumber();
   run.user.StartNoting(&command);
 }
 
@@ -58,8 +69,52 @@ void CommandRecorder::Note(const CommandRun& result) {
   NoteShown();
   NoteCalls();
   NoteChanges(*before_, TakePicture(run_.host.session), record());
-  for (const FolderSnapshot& folder : folders_) {
-    for (const auto& [path, what] : folder.Differences()) record().files.push_back({path, what});
+  NoteFiles();
+  NoteOpened();
+}
+
+// A folder inside one that is watched already is not watched again.
+void CommandRecorder::Watch(const char* name, const std::filesystem::path& folder) {
+  for (const Watched& watched : watched_) {
+    const std::string below = PathToUtf8(folder.lexically_relative(watched.folder));
+    if (!below.empty() && !below.starts_with("..")) return;
+  }
+  watched_.push_back({name, folder, FolderSnapshot(folder)});
+}
+
+void CommandRecorder::NoteFiles() {
+  for (const Watched& watched : watched_) {
+    for (const auto& [path, what] : watched.before.Differences()) {
+      NoteFile(watched, PathFromUtf8(path), what);
+    }
+  }
+}
+
+void CommandRecorder::NoteFile(const Watched& watched, const std::filesystem::path& file,
+                               const std::string& what) {
+  WrittenFile& written = record().files.emplace_back();
+  written = {OwnPath(file), what, "", ""};
+  if (what == "deleted") return;
+  if (record().files.size() > kMostFilesKept) {
+    written.no_copy = "it is one of too many";
+    return;
+  }
+  std::u8string below = file.lexically_relative(watched.folder).generic_u8string();
+  const std::string name = watched.name + "/" + std::string(below.begin(), below.end());
+  const KeptFile kept = KeepFile(run_.options.report, run_.recording + 1, name, file);
+  written.link = kept.link;
+  written.no_copy = kept.trouble;
+  if (EqualFolded(PathToUtf8(file.extension()), ".xlsx")) {
+    record().workbooks.push_back({written.path, DrawWorkbookFile(file)});
+  }
+}
+
+void CommandRecorder::NoteOpened() {
+  for (const ShellCall& call : run_.host.events.Since<ShellCall>(run_.marks.begin)) {
+    record().programs.push_back({WithOwnPath(call.program), WithOwnPath(call.parameters)});
+  }
+  if (ClipboardNumber() != clipboard_before_) {
+    record().clipboard = ClipboardText().value_or("(no text)");
   }
 }
 

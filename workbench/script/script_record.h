@@ -14,7 +14,7 @@ namespace wb {
 class ScriptRun;
 struct Statement;
 
-// Lives around the run of a command; does nothing unless the run is to be recorded.
+// Lives around the run of a command; does nothing unless the run is to be reported.
 class CommandRecorder {
  public:
   CommandRecorder(ScriptRun& run, const Statement& statement);
@@ -26,13 +26,25 @@ class CommandRecorder {
   void Note(const CommandRun& result);
 
  private:
+  // A folder that commands write into, and the name under which copies of its files are kept.
+  struct Watched {
+    std::string name;
+    std::filesystem::path folder;
+    FolderSnapshot before;
+  };
+
   CommandRecord& record() const;
+  void Watch(const char* name, const std::filesystem::path& folder);
   void NoteShown();
   void NoteCalls();
+  void NoteFiles();
+  void NoteFile(const Watched& watched, const std::filesystem::path& file, const std::string& what);
+  void NoteOpened();
 
   ScriptRun& run_;
   std::optional<SessionPicture> before_;
-  std::vector<FolderSnapshot> folders_;
+  std::vector<Watched> watched_;
+  unsigned clipboard_before_ = 0;
 };
 
 }  // namespace wb

@@ -7,6 +7,7 @@
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
 #include "workbench/language/script_words.h"
+#include "workbench/reasons/missing_model.h"
 #include "workbench/script/script_watch.h"
 
 namespace wb {
@@ -249,8 +250,9 @@ Model* ScriptRun::FindModel(const std::string& name) {
 
 Model& ScriptRun::ModelNamed(const std::string& name) {
   Model* const model = FindModel(name);
-  if (model == nullptr) throw ScriptError("there is no model \"" + name + "\" in session");
-  return *model;
+  if (model != nullptr) return *model;
+  throw ScriptError("there is no model \"" + name + "\" in session" +
+                    WhatIsInSession(host.session, name));
 }
 
 Model& ScriptRun::Root() {

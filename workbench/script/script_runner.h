@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -21,13 +22,24 @@
 
 namespace wb {
 
+// What sweeps of allocations do in this process.
+struct MemorySweepOptions {
+  bool all = false;  // fails every allocation instead of a sample
+  // The sweep in this line, and no other, runs its command for the first time with one fault, and
+  // then without any; 0: all sweeps run, warm.
+  int first_run_line = 0;
+  long nth = 0;  // 0: only counts
+  bool from_then_on = false;
+};
+
 struct ScriptOptions {
   std::filesystem::path install;  // the install tree; every script works on a copy of its own
   std::filesystem::path plugin;   // a DLL to run instead of the tree's; empty: the tree's
   std::filesystem::path out;      // keeps each script's folders below here; empty: they are removed
   std::filesystem::path trace;    // file that takes the calls of every action; empty: none
-  bool record = false;            // collects what a report shows
+  std::filesystem::path report;   // page to collect for, with files beside it; empty: none
   FaultPlan fault;                // met by every action without one of its own; nth 0: none
+  MemorySweepOptions memory;
 };
 
 // A statement that cannot be carried out; the script ends there.
@@ -127,6 +139,7 @@ class ScriptRun {
   int status = 0;                    // of the last command
   int recording = -1;                // index of the record of the command at work
   std::unique_ptr<ClipboardHolder> clipboard_holder;
+  std::map<std::filesystem::path, std::unique_ptr<FileHolder>> held_files;
   bool lenient = false;  // boxes and answers left over are no failures
 
   RunRecord& record() { return record_; }

@@ -81,6 +81,14 @@ std::vector<std::pair<std::string, std::string>> FolderSnapshot::Differences() c
   return differences;
 }
 
+std::string FolderSnapshot::TextNow() const {
+  std::string text;
+  for (const auto& [file, what] : Differences()) {
+    text += what + " " + file + "\n" + Content(PathFromUtf8(file)) + "\n";
+  }
+  return text;
+}
+
 void FolderSnapshot::Restore() const {
   for (const auto& [name, what] : Differences()) {
     const fs::path file = PathFromUtf8(name);

@@ -18,6 +18,8 @@ class FolderSnapshot {
   void Restore() const;
   // What differs now: path and "new", "changed" or "deleted".
   std::vector<std::pair<std::string, std::string>> Differences() const;
+  // All that differs now as one text, with the contents.
+  std::string TextNow() const;
 
  private:
   std::filesystem::path folder_;

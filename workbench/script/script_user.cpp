@@ -2,9 +2,24 @@
 #include "workbench/script/script_user.h"
 
 #include "workbench/dialog/dialog_html.h"
+#include "workbench/dialog/dialog_text.h"
+#include "workbench/script/dialog_stub.h"
 #include "workbench/script/script_runner.h"
 
 namespace wb {
+namespace {
+
+std::string Indented(const std::string& lines) {
+  std::string text;
+  for (size_t at = 0; at < lines.size();) {
+    const size_t end = std::min(lines.find('\n', at), lines.size() - 1) + 1;
+    text += "  " + lines.substr(at, end - at);
+    at = end;
+  }
+  return text;
+}
+
+}  // namespace
 
 void ScriptUser::Answering(const Statement& asked_at, const std::vector<Statement>& answers,
                            const std::function<void()>& action) {
@@ -104,7 +119,13 @@ void ScriptUser::Fire(LiveDialog& dialog, const std::string& component, const st
 // A user who is at a loss closes the window; a dialog that does not close then is ended by force,
 // so that no run hangs.
 void ScriptUser::CloseForUser(LiveDialog& dialog) {
-  dialog.Fire("", kCloseEvent);
+  const bool has_way_out =
+      dialog.Fire("", kCloseEvent) || dialog.ended || dialog.Fire("Close", kActivateEvent);
+  // A binding that only claims to have succeeded cannot be known by the plug-in.
+  if (!has_way_out && !run_.host.faults.claims_success()) {
+    run_.host.ReportBreach("ProUIDialogActivate",
+                           "the dialog " + dialog.name + " gives the user no way out");
+  }
   dialog.ended = true;
 }
 
@@ -135,18 +156,22 @@ void ScriptUser::Perform(const Statement& opened_at, const std::vector<Statement
 void ScriptUser::WorkDialog(LiveDialog& dialog) {
   const Statement* const answer = Take("dialog");
   if (answer == nullptr || answer->Text("NAME") != dialog.name) {
+    NoteDialog(dialog, "nobody answered it");
     Unanswered("dialog " + dialog.name + " opened and nobody answers it; it has\n" +
-               dialog.state.DescribeComponents());
+               DescribeFields(dialog.state) + HowToAnswer(dialog));
     CloseForUser(dialog);
     return;
   }
   dialogs_.push_back(&dialog);
   Perform(*answer, answer->block, &dialog);
   if (!dialog.ended) {
+    NoteDialog(dialog, "still open after the last answer");
     if (!run_.lenient) {
       run_.Fail(*answer, "dialog " + dialog.name +
                              " is still open after the last answer; it has\n" +
-                             dialog.state.DescribeComponents());
+                             DescribeFields(dialog.state) +
+                             "to go on with it, put some of these lines before its \"end\":\n" +
+                             DialogStub(dialog));
     }
     CloseForUser(dialog);
   }
@@ -160,12 +185,28 @@ std::string ScriptUser::Deed() const {
   return "line " + std::to_string(statement.line) + ": " + statement.text;
 }
 
-// As it looked before each press; a dialog that looks as before is not drawn again.
-void ScriptUser::NoteDialog(const LiveDialog& dialog) {
+// The stub of an answer, and where in the script it belongs.
+std::string ScriptUser::HowToAnswer(const LiveDialog& dialog) const {
+  if (levels_.empty()) return {};
+  const Level& level = levels_.back();
+  const Statement& asked_at = *level.opened_at;
+  const std::string stub = DialogStub(dialog);
+  if (asked_at.Is("run") && asked_at.block.empty()) {
+    return "to answer it, write in place of line " + std::to_string(asked_at.line) + ":\nrun " +
+           asked_at.Text("COMMAND") + " with\n" + Indented(stub) + "end\n";
+  }
+  const int line = level.next == 0 ? asked_at.line : (*level.statements)[level.next - 1].line;
+  return "to answer it, put below line " + std::to_string(line) + ":\n" + stub;
+}
+
+// As it looked before each press, or when it was left alone with `trouble`; a dialog that looks as
+// before is not drawn again.
+void ScriptUser::NoteDialog(const LiveDialog& dialog, const std::string& trouble) {
   if (noting_ == nullptr) return;
   const std::string html = DrawDialog(dialog.state);
-  if (!noting_->dialogs.empty() && noting_->dialogs.back().html == html) return;
-  noting_->dialogs.push_back({dialog.name, Deed(), html});
+  const bool as_before = !noting_->dialogs.empty() && noting_->dialogs.back().html == html;
+  if (as_before && trouble.empty()) return;
+  noting_->dialogs.push_back({dialog.name, trouble.empty() ? Deed() : "", html, trouble});
 }
 
 }  // namespace wb

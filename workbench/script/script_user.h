@@ -72,7 +72,8 @@ class ScriptUser : public User {
   void CloseForUser(LiveDialog& dialog);
   void CheckFileRequest(const Statement& answer, const FileRequest& request);
 
-  void NoteDialog(const LiveDialog& dialog);
+  std::string HowToAnswer(const LiveDialog& dialog) const;
+  void NoteDialog(const LiveDialog& dialog, const std::string& trouble = "");
   void NoteQuestion(const char* kind, const std::string& asked,
                     const std::optional<std::string>& answer);
 

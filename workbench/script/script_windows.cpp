@@ -4,6 +4,7 @@
 #include <cstring>
 #include <vector>
 
+#include "workbench/base/temporary_place.h"
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
 #include "workbench/base/windows_headers.h"
@@ -114,6 +115,18 @@ ClipboardHolder::~ClipboardHolder() {
   }
 }
 
+FileHolder::FileHolder(const std::filesystem::path& file)
+    : file_(::CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                          FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+
+FileHolder::~FileHolder() {
+  if (holds()) ::CloseHandle(file_);
+}
+
+bool FileHolder::holds() const {
+  return file_ != INVALID_HANDLE_VALUE;
+}
+
 namespace {
 
 // A file that a started program writes its output into; gone when this is. What the program starts
@@ -122,9 +135,8 @@ class OutputFile {
  public:
   OutputFile() {
     static int count = 0;
-    path_ = std::filesystem::temp_directory_path() /
-            ("workbench output " + std::to_string(::GetCurrentProcessId()) + " " +
-             std::to_string(++count) + ".txt");
+    path_ = TemporaryPlace() / ("workbench output " + std::to_string(::GetCurrentProcessId()) +
+                                " " + std::to_string(++count) + ".txt");
     SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};
     handle_ = ::CreateFileW(path_.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE,
                             &inherited, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -174,6 +186,10 @@ std::optional<std::string> OutputOf(const std::filesystem::path& program,
   ::CloseHandle(process.hThread);
   ::CloseHandle(process.hProcess);
   return output.Content();
+}
+
+unsigned ClipboardNumber() {
+  return ::GetClipboardSequenceNumber();
 }
 
 unsigned AnsiCodePage() {

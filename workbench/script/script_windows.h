@@ -34,10 +34,36 @@ class ClipboardHolder {
   std::unique_ptr<Thread> thread_;
 };
 
+// Keeps a file open, so that nobody else can open it.
+class FileHolder {
+ public:
+  explicit FileHolder(const std::filesystem::path& file);
+  ~FileHolder();
+  FileHolder(const FileHolder&) = delete;
+  FileHolder& operator=(const FileHolder&) = delete;
+
+  bool holds() const;
+
+ private:
+  void* file_;
+};
+
 // Runs a program to its end and gives what it printed; no text when it cannot be started.
 // Arguments are quoted by blanks only, so they must hold no quotes.
 std::optional<std::string> OutputOf(const std::filesystem::path& program,
                                     const std::vector<std::string>& arguments);
+
+// Changes with everything that is put into the clipboard.
+unsigned ClipboardNumber();
+
+// A path as the user's own machine writes it: where Windows programs run on another system, that
+// system's. Relative paths stay.
+std::string OwnPath(const std::filesystem::path& path);
+// The same for the path inside a text, "notepad.exe C:\\a.ini", if there is one.
+std::string WithOwnPath(const std::string& text);
+
+// Another one after everything that is put into the clipboard.
+unsigned ClipboardNumber();
 
 unsigned AnsiCodePage();
 unsigned ProcessId();

@@ -20,6 +20,9 @@ using Json = nlohmann::ordered_json;
 constexpr int kFormat = 2;
 constexpr int kFormatOfBareSurfaces = 1;
 
+// Model files need six levels. Reading spends stack on each.
+constexpr int kDeepestNesting = 32;
+
 // Where in a document something stands: keys, and numbers of list items from 0.
 using DocumentPath = std::vector<std::string>;
 
@@ -48,6 +51,14 @@ Json ToJson(const FactValue& value) {
       value);
 }
 
+std::optional<int> IntOf(const Json& json) {
+  if (!json.is_number_integer()) return std::nullopt;
+  const auto number = json.get<double>();  // whatever its size
+  const bool fits =
+      number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
+  return fits ? std::optional(json.get<int>()) : std::nullopt;
+}
+
 // Numbers of lists inside lists one after another.
 void CollectNumbers(const Json& json, std::vector<double>& numbers) {
   if (json.is_number()) {
@@ -62,10 +73,8 @@ void CollectNumbers(const Json& json, std::vector<double>& numbers) {
 FactValue FromJson(const Json& json) {
   if (json.is_boolean()) return json.get<bool>();
   if (json.is_number_integer()) {
-    const auto number = json.get<long long>();
-    const bool fits =
-        number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
-    return fits ? FactValue(static_cast<int>(number)) : FactValue(static_cast<double>(number));
+    if (const auto number = IntOf(json)) return *number;
+    return json.get<double>();
   }
   if (json.is_number()) return json.get<double>();
   if (json.is_string()) return json.get<std::string>();
@@ -194,7 +203,7 @@ void NumberBareSurfaces(Json& json) {
 
 int FormatOf(const Json& json) {
   const Json format = json.is_object() ? json.value("format", Json()) : Json();
-  const int number = format.is_number_integer() ? format.get<int>() : 0;
+  const int number = IntOf(format).value_or(0);
   if (number >= 1 && number <= kFormat) return number;
   throw EntryError({"format"}, "unknown format number " + format.dump() + " (1 to " +
                                    std::to_string(kFormat) + " are known)");
@@ -202,7 +211,8 @@ int FormatOf(const Json& json) {
 
 Model ModelFromJson(Json json) {
   if (FormatOf(json) == kFormatOfBareSurfaces) NumberBareSurfaces(json);
-  const std::string text = json.value("model", "");
+  const Json entry = json.value("model", Json(""));
+  const std::string text = entry.is_string() ? entry.get<std::string>() : entry.dump();
   const auto name = ParseModelName(text);
   if (!name) {
     throw EntryError({"model"}, "\"" + text + "\" is no model name such as \"bolt.prt\"");
@@ -216,6 +226,7 @@ Model ModelFromJson(Json json) {
 }
 
 std::string ReadText(const std::filesystem::path& file) {
+  if (std::filesystem::is_directory(file)) Fail(file, "is a folder");
   std::ifstream in(file, std::ios::binary);
   if (!in) Fail(file, "cannot be opened");
   std::ostringstream text;
@@ -228,6 +239,21 @@ int LineOfByte(const std::string& text, size_t byte) {
   const size_t end = std::min(byte, text.size());
   return 1 +
          static_cast<int>(std::count(text.begin(), text.begin() + static_cast<long>(end), '\n'));
+}
+
+// The place of the first bracket that opens beyond the deepest level; none: the text's size.
+size_t TooDeep(const std::string& text) {
+  int depth = 0;
+  bool quoted = false;
+  for (size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    if (c == '"') quoted = !quoted;
+    if (quoted && c == '\\') ++i;
+    if (quoted) continue;
+    if (c == ']' || c == '}') --depth;
+    if ((c == '[' || c == '{') && ++depth > kDeepestNesting) return i;
+  }
+  return text.size();
 }
 
 // Reads a document entry by entry and finds the line of the first one that `matches` accepts by its
@@ -299,6 +325,20 @@ int LineNaming(const std::string& text, const ModelName& under) {
   return std::max(LineSearch(text, names).Line(), 1);
 }
 
+void RefuseDeepNesting(const std::filesystem::path& file, const std::string& text) {
+  const size_t place = TooDeep(text);
+  if (place == text.size()) return;
+  Fail(file, "line " + std::to_string(LineOfByte(text, place)) + ": entries are nested more than " +
+                 std::to_string(kDeepestNesting) + " deep");
+}
+
+// A file that holds another model would be read again at each look for its own.
+void CheckName(const Model& model, const VersionedName& file) {
+  if (EqualFolded(model.id.Text(), file.model.Text())) return;
+  throw EntryError({"model"}, "the file holds the model " + model.id.Text() + ", not " +
+                                  file.model.Text() + " as its name says");
+}
+
 Json ModelJson(const Model& model) {
   Json json;
   json["format"] = kFormat;
@@ -313,13 +353,19 @@ Json ModelJson(const Model& model) {
 
 Model ReadModelFile(const std::filesystem::path& file) {
   const std::string text = ReadText(file);
+  RefuseDeepNesting(file, text);
   try {
     Model model = ModelFromJson(Json::parse(text));
     model.folder = file.parent_path();
-    if (const auto name = ParseFileName(PathToUtf8(file.filename()))) model.version = name->version;
+    if (const auto name = ParseFileName(PathToUtf8(file.filename()))) {
+      CheckName(model, *name);
+      model.version = name->version;
+    }
     return model;
   } catch (const nlohmann::json::parse_error& error) {
     Fail(file, "line " + std::to_string(LineOfByte(text, error.byte)) + ": not valid JSON");
+  } catch (const nlohmann::json::out_of_range&) {
+    Fail(file, "it holds a number that is too large");
   } catch (const EntryError& error) {
     Fail(file, "line " + std::to_string(LineOf(text, error.path)) + ": " + error.what());
   } catch (const std::exception& error) {
@@ -352,15 +398,17 @@ std::string ModelDocument(const Model& model) {
   return out + "\n}\n";
 }
 
+void WriteNewModelFile(const Model& model, const std::filesystem::path& file) {
+  std::ofstream out(file, std::ios::binary | std::ios::trunc);
+  out << ModelDocument(model);
+  out.flush();
+  if (!out) Fail(file, "cannot be written");
+}
+
 void WriteModelFile(const Model& model, const std::filesystem::path& file) {
   std::filesystem::path neighbour = file;
   neighbour += ".new";
-  {
-    std::ofstream out(neighbour, std::ios::binary | std::ios::trunc);
-    out << ModelDocument(model);
-    out.flush();
-    if (!out) Fail(neighbour, "cannot be written");
-  }
+  WriteNewModelFile(model, neighbour);
   std::error_code error;
   std::filesystem::rename(neighbour, file, error);
   if (error) Fail(file, "cannot be written (" + error.message() + ")");

@@ -23,6 +23,9 @@ Model ReadModelFile(const std::filesystem::path& file);
 // was there. Throws ModelFileError.
 void WriteModelFile(const Model& model, const std::filesystem::path& file);
 
+// The same into a place that nobody reads yet, without the neighbour.
+void WriteNewModelFile(const Model& model, const std::filesystem::path& file);
+
 // Refuses what `file` says of `under`, a component or the assembly of a manufacturing model: throws
 // ModelFileError with the line that names it.
 [[noreturn]] void RefuseModelUnder(const std::filesystem::path& file, const ModelName& under,

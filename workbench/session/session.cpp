@@ -92,23 +92,37 @@ Model* Session::RetrieveFile(const std::filesystem::path& file, ModelKind kind) 
 }
 
 Model* Session::RetrieveTree(const ModelName& name, const FolderIndex& folder) {
-  Model* const top = Load(name, folder);
   std::vector<Model*> loaded;
+  try {
+    LoadTree(name, folder, loaded);
+    RefuseCycle(loaded, folder);
+  } catch (const ModelFileError&) {
+    for (Model* const model : loaded) Erase(*model);
+    throw;
+  }
+  for (Model* const model : loaded) Complete(*model);
+  return loaded.empty() ? nullptr : loaded.front();
+}
+
+// The model and those under it. Those that were loaded before a failure are in `loaded` too.
+void Session::LoadTree(const ModelName& name, const FolderIndex& folder,
+                       std::vector<Model*>& loaded) {
   std::vector<Model*> pending;
-  if (top != nullptr) pending.push_back(top);
+  const auto load = [&](const ModelName& wanted) {
+    Model* const found = Load(wanted, folder);
+    if (found == nullptr) return;
+    loaded.push_back(found);
+    pending.push_back(found);
+  };
+  load(name);
   while (!pending.empty()) {
     Model* const model = pending.back();
     pending.pop_back();
-    loaded.push_back(model);
     ForEachLink(*model, [&](const ModelLink& link) {
-      if (Find(link.name) != nullptr) return;
-      if (Model* const found = Load(link.name, folder)) pending.push_back(found);
+      if (Find(link.name) == nullptr) load(link.name);
     });
     Resolve(*model);
   }
-  RefuseCycle(loaded, folder);
-  for (Model* const model : loaded) Complete(*model);
-  return top;
 }
 
 std::optional<Model> Session::Template(const std::filesystem::path& file) {
@@ -134,7 +148,6 @@ void Session::RefuseCycle(const std::vector<Model*>& loaded, const FolderIndex& 
   const std::filesystem::path file = folder.Newest(cycle[cycle.size() - 2]->id);
   const ModelName under = cycle.back()->id;
   const std::string why = under.Text() + " would hold itself: " + CycleText(cycle);
-  for (Model* const model : loaded) Erase(*model);
   RefuseModelUnder(file, under, why);
 }
 

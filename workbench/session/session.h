@@ -106,6 +106,7 @@ class Session {
 
  private:
   Model* RetrieveTree(const ModelName& name, const FolderIndex& folder);
+  void LoadTree(const ModelName& name, const FolderIndex& folder, std::vector<Model*>& loaded);
   void RefuseCycle(const std::vector<Model*>& loaded, const FolderIndex& folder);
   Model* Load(const ModelName& name, const FolderIndex& folder);
   Model& Enter(Model model);

@@ -63,8 +63,8 @@ void TakeFlag(const Invocation& invocation) {
 
 // A program that was busy only for a while should have been asked again.
 void CheckNothingAsked(const SpreadsheetServer& server, const OpenWorkbook& book, const char* by) {
-  const bool still_busy = book.saving_rejected && server.orders().busy > 0;
-  if (!book.open || book.saved || book.saving_failed || still_busy) return;
+  const bool still_busy = book.closing_rejected && server.orders().busy > 0;
+  if (!book.open || book.saved || book.closing_failed || still_busy) return;
   server.host().ReportBreach("Excel",
                              std::string(by) + " asks the user whether to save the workbook");
 }

@@ -130,14 +130,17 @@ void CheckAlive(const AutomationObject& object) {
   }
 }
 
-// What the plug-in could not do for no fault of its own is not held against it later.
-void Excuse(const AutomationObject& object, const SpreadsheetMember* member, HRESULT result) {
+// What the plug-in could not do for no fault of its own is not held against it later. A workbook
+// that it could not mark as saved it can still close without saving, unless the program `claims` to
+// have marked it.
+void Excuse(const AutomationObject& object, const SpreadsheetMember* member, HRESULT result,
+            bool claims) {
   const std::string_view name = member == nullptr ? kNoMember : member->name;
   const bool rejected = std::ranges::find(kBusyResults, result) != std::end(kBusyResults);
   if (name == "Excel.Application.Quit") {
     (rejected ? object.place.program->quit_rejected : object.place.program->quit_failed) = true;
-  } else if (name == "Excel.Workbook.Saved=" || name == "Excel.Workbook.Close") {
-    (rejected ? object.place.book->saving_rejected : object.place.book->saving_failed) = true;
+  } else if (name == "Excel.Workbook.Close" || (claims && name == "Excel.Workbook.Saved=")) {
+    (rejected ? object.place.book->closing_rejected : object.place.book->closing_failed) = true;
   }
 }
 
@@ -221,8 +224,9 @@ STDMETHODIMP AutomationObject::Invoke(DISPID id, REFIID reserved, LCID, WORD cal
           return Raise(exception, error.description);
         }
       });
-  if (FAILED(answer) && ours) Excuse(*this, member, answer);
-  return faults.struck() > struck && faults.claims_success() ? S_OK : answer;
+  const bool claims = faults.struck() > struck && faults.claims_success();
+  if (FAILED(answer) && ours) Excuse(*this, member, answer, claims);
+  return claims ? S_OK : answer;
 }
 
 std::string AutomationObject::Describe() const {

@@ -32,9 +32,9 @@ struct SpreadsheetOrders {
 
 struct OpenWorkbook {
   Workbook book;
-  bool saved = true;             // closing it asks nothing
-  bool saving_failed = false;    // an order or fault kept the plug-in from marking it as saved
-  bool saving_rejected = false;  // it was busy when it was to be marked
+  bool saved = true;              // closing it asks nothing
+  bool closing_failed = false;    // an order or fault kept the plug-in from closing it
+  bool closing_rejected = false;  // it was busy when it was to be closed
   bool open = true;
 };
 

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "workbench/base/text.h"
+#include "workbench/dialog/dialog_text.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/statements/statement_families.h"
 
@@ -23,40 +24,51 @@ const char* EventName(UiEvent event) {
   }
 }
 
+Dialog& State(ScriptRun& run) {
+  return run.user.dialog().state;
+}
+
+// The one field that the statement names, by its name or by its label.
+const Field& FieldAt(ScriptRun& run, const Statement& statement) {
+  const std::string& called = statement.Text("COMPONENT");
+  const Dialog& dialog = State(run);
+  const std::vector<const Field*> fields = dialog.FieldsCalled(called);
+  if (fields.size() == 1) return *fields.front();
+  if (fields.empty()) {
+    throw ScriptError("dialog " + run.user.dialog().name + " has no component " + called +
+                      "; it has\n" + DescribeFields(dialog));
+  }
+  std::vector<std::string> names;
+  for (const Field* const field : fields) {
+    names.push_back(field->name + " (\"" + dialog.FullLabelOf(*field) + "\")");
+  }
+  throw ScriptError("the label " + Quoted(called) + " is that of " + Join(", ", names) +
+                    "; say which");
+}
+
+const std::string& NameAt(ScriptRun& run, const Statement& statement) {
+  return FieldAt(run, statement).name;
+}
+
 // Fires what the deed sets off; a refused one is the script's failure.
 void Deed(ScriptRun& run, const Statement& statement, const UserOutcome& outcome) {
   if (!outcome.Done()) {
     if (!run.lenient) run.Fail(statement, outcome.refusal);
     return;
   }
-  run.user.Fire(run.user.dialog(), statement.Text("COMPONENT"), EventName(outcome.event));
-}
-
-Dialog& State(ScriptRun& run) {
-  return run.user.dialog().state;
+  run.user.Fire(run.user.dialog(), NameAt(run, statement), EventName(outcome.event));
 }
 
 void Set(ScriptRun& run, const Statement& statement) {
-  Deed(run, statement,
-       State(run).UserSetField(statement.Text("COMPONENT"), statement.Text("TEXT")));
+  Deed(run, statement, State(run).UserSetField(NameAt(run, statement), statement.Text("TEXT")));
 }
 
 void Choose(ScriptRun& run, const Statement& statement) {
-  Deed(run, statement,
-       State(run).UserSelect(statement.Text("COMPONENT"), statement.Texts("ITEM_NAME")));
+  Deed(run, statement, State(run).UserSelect(NameAt(run, statement), statement.Texts("ITEM_NAME")));
 }
 
 void Rows(ScriptRun& run, const Statement& statement) {
-  Deed(run, statement, State(run).UserSelect(statement.Text("COMPONENT"), statement.Texts("ROW")));
-}
-
-const Field& FieldAt(ScriptRun& run, const Statement& statement) {
-  const std::string& name = statement.Text("COMPONENT");
-  for (const Field& component : State(run).Fields()) {
-    if (component.name == name) return component;
-  }
-  throw ScriptError("dialog " + run.user.dialog().name + " has no component " + name +
-                    "; it has\n" + State(run).DescribeComponents());
+  Deed(run, statement, State(run).UserSelect(NameAt(run, statement), statement.Texts("ROW")));
 }
 
 template <typename T>
@@ -72,22 +84,21 @@ const T& StateOf(ScriptRun& run, const Statement& statement) {
 void SetCheck(ScriptRun& run, const Statement& statement) {
   const bool wanted = statement.Has("check");
   if (StateOf<CheckState>(run, statement).set == wanted) return;
-  Deed(run, statement, State(run).UserToggle(statement.Text("COMPONENT")));
+  Deed(run, statement, State(run).UserToggle(NameAt(run, statement)));
 }
 
 void DoubleClick(ScriptRun& run, const Statement& statement) {
-  Deed(run, statement,
-       State(run).UserDoubleClick(statement.Text("COMPONENT"), statement.Text("ROW")));
+  Deed(run, statement, State(run).UserDoubleClick(NameAt(run, statement), statement.Text("ROW")));
 }
 
 void Focus(ScriptRun& run, const Statement& statement) {
   Deed(run, statement,
-       State(run).UserFocusCell(statement.Text("COMPONENT"), statement.Text("ROW"),
+       State(run).UserFocusCell(NameAt(run, statement), statement.Text("ROW"),
                                 statement.Text("COLUMN")));
 }
 
 void Press(ScriptRun& run, const Statement& statement) {
-  Deed(run, statement, State(run).UserPress(statement.Text("COMPONENT")));
+  Deed(run, statement, State(run).UserPress(NameAt(run, statement)));
 }
 
 void Close(ScriptRun& run, const Statement&) {
@@ -113,13 +124,14 @@ void CheckNames(ScriptRun& run, const Statement& statement, const std::string& w
 }
 
 void ExpectChoice(ScriptRun& run, const Statement& statement) {
-  CheckNames(run, statement, "choice", statement.Texts("ITEM_NAME"),
-             StateOf<ChoiceState>(run, statement).Selected());
+  const auto& choice = StateOf<ChoiceState>(run, statement);
+  CheckNames(run, statement, "choice", choice.NamesOf(statement.Texts("ITEM_NAME")),
+             choice.Selected());
 }
 
 void ExpectItems(ScriptRun& run, const Statement& statement) {
-  CheckNames(run, statement, "items", statement.Texts("ITEM_NAME"),
-             StateOf<ChoiceState>(run, statement).Names());
+  const auto& choice = StateOf<ChoiceState>(run, statement);
+  CheckNames(run, statement, "items", choice.NamesOf(statement.Texts("ITEM_NAME")), choice.Names());
 }
 
 void ExpectRows(ScriptRun& run, const Statement& statement) {
@@ -148,7 +160,7 @@ void ExpectVisible(ScriptRun& run, const Statement& statement) {
 
 void ExpectLabel(ScriptRun& run, const Statement& statement) {
   run.CheckText(statement, "label of " + statement.Text("COMPONENT"), statement.Text("TEXT"),
-                FieldAt(run, statement).label);
+                State(run).LabelOf(FieldAt(run, statement)));
 }
 
 void NoSuchCell(ScriptRun& run, const Statement& statement) {

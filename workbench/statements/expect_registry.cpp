@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "workbench/base/text.h"
+#include "workbench/reasons/access_reason.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/statements/statement_families.h"
 
@@ -16,7 +17,8 @@ Command* FindCommand(ScriptRun& run, const Statement& statement) {
 Command& CommandAt(ScriptRun& run, const Statement& statement) {
   Command* const command = FindCommand(run, statement);
   if (command != nullptr) return *command;
-  throw ScriptError("the plug-in has registered no command " + statement.Text("NAME"));
+  throw ScriptError("the plug-in has registered no command " + statement.Text("NAME") +
+                    CommandMeant(run.host, statement.Text("NAME")));
 }
 
 const char* StateWord(int state) {
@@ -27,9 +29,12 @@ const char* StateWord(int state) {
 void ExpectAccess(ScriptRun& run, const Statement& statement) {
   run.EnsureStarted();
   const int state = AskAccess(statement.Text("COMMAND"));
-  const std::string got = state < 0 ? "no such command" : StateWord(state);
-  run.Check(statement, got == statement.Text("STATE"), statement.Text("COMMAND"),
-            statement.Text("STATE"), got);
+  const std::string& command = statement.Text("COMMAND");
+  std::string got = state < 0 ? "no such command" : StateWord(state);
+  const bool holds = got == statement.Text("STATE");
+  if (!holds)
+    got += state < 0 ? CommandMeant(run.host, command) : ": " + WhyUnavailable(run.host, command);
+  run.Check(statement, holds, command, statement.Text("STATE"), got);
   for (const std::string& complaint : run.TakeComplaints()) run.Fail(statement, complaint);
 }
 

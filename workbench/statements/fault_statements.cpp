@@ -12,6 +12,7 @@
 namespace wb {
 namespace {
 
+constexpr const char* kAllocationPattern = "fault allocation NTH [from_then_on]";
 constexpr const char* kEmptyPattern = "fault FUNCTION NTH empty [from_then_on]";
 constexpr const char* kStatusPattern = "fault FUNCTION NTH status STATUS [from_then_on]";
 
@@ -30,6 +31,14 @@ FaultPlan FaultOf(const Statement& statement) {
   return plan;
 }
 
+FaultPlan AllocationFaultOf(const Statement& statement) {
+  FaultPlan plan;
+  plan.kind = FaultKind::kNoMemory;
+  plan.nth = statement.Number("NTH");
+  plan.from_then_on = statement.Has("from_then_on");
+  return plan;
+}
+
 void FaultNone(ScriptRun& run, const Statement&) {
   run.fault = {};
 }
@@ -38,18 +47,29 @@ void OrderFault(ScriptRun& run, const Statement& statement) {
   run.fault = FaultOf(statement);
 }
 
+void OrderAllocationFault(ScriptRun& run, const Statement& statement) {
+  run.fault = AllocationFaultOf(statement);
+}
+
 // clang-format off
 constexpr StatementForm kForms[] = {
-    {"fault none",   kTopPlace, &FaultNone},
-    {kEmptyPattern,  kTopPlace, &OrderFault},
-    {kStatusPattern, kTopPlace, &OrderFault},
+    {"fault none",       kTopPlace, &FaultNone},
+    {kAllocationPattern, kTopPlace, &OrderAllocationFault},
+    {kEmptyPattern,      kTopPlace, &OrderFault},
+    {kStatusPattern,     kTopPlace, &OrderFault},
 };
 // clang-format on
 
 [[noreturn]] void Refuse(const std::string& text, const std::string& why) {
-  throw UsageError("--fault " + text + ": " + why +
-                   "; it wants FUNCTION:NTH:STATUS, for example ProMdlNameGet:2:general_error or, "
-                   "with any function, an empty success and no end, any:5:empty:from_then_on");
+  throw UsageError(
+      "--fault " + text + ": " + why +
+      "; it wants FUNCTION:NTH:STATUS, for example ProMdlNameGet:2:general_error or, "
+      "with any function, an empty success and no end, any:5:empty:from_then_on, or, for "
+      "the plug-in's own memory, allocation:5[:from_then_on]");
+}
+
+bool IsOfAllocations(const std::vector<ScriptWord>& words) {
+  return words.size() > 1 && words[1].text == "allocation";
 }
 
 // "A:2:empty" as the words of "fault A 2 empty"; before another status than "empty" the statement
@@ -63,13 +83,15 @@ std::vector<ScriptWord> StatementWords(const std::string& text) {
   }
   constexpr size_t kStatusPlace = 3;
   const bool is_cut_short = words.size() < kStatusPlace;
-  if (!is_cut_short && (words.size() == kStatusPlace || words[kStatusPlace].text != "empty")) {
+  if (!is_cut_short && !IsOfAllocations(words) &&
+      (words.size() == kStatusPlace || words[kStatusPlace].text != "empty")) {
     words.insert(words.begin() + kStatusPlace, {"status"});
   }
   return words;
 }
 
 const char* PatternFor(const std::vector<ScriptWord>& words) {
+  if (IsOfAllocations(words)) return kAllocationPattern;
   const bool empty = words.back().text == "empty" || words[words.size() - 2].text == "empty";
   return empty ? kEmptyPattern : kStatusPattern;
 }
@@ -87,6 +109,7 @@ FaultPlan FaultOption(const std::string& text) {
   if (!match.matched) Refuse(text, match.problem);
   Statement statement;
   statement.arguments = std::move(match.arguments);
+  if (IsOfAllocations(words)) return AllocationFaultOf(statement);
   try {
     return FaultOf(statement);
   } catch (const ScriptError& error) {

@@ -1,4 +1,5 @@
 // Statements on folders, files and the installation; the folders of a script's run.
+#include "workbench/base/temporary_place.h"
 #include "workbench/base/text.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/script/script_windows.h"
@@ -111,7 +112,8 @@ ScriptFolders::ScriptFolders(const fs::path& kept_below, const std::string& scri
     : kept(!kept_below.empty()) {
   const fs::path file = fs::absolute(PathFromUtf8(script_file));
   script = file.parent_path();
-  const fs::path below = kept ? fs::absolute(kept_below) : fs::temp_directory_path() / "workbench";
+  const fs::path below = kept ? fs::absolute(kept_below) : TemporaryPlace() / "workbench";
+  if (kept) RefuseLongPlace(below, "--out");
   const std::string stem = PathToUtf8(file.stem());
   top = FreshFolder(below, kept ? stem : stem + "-" + std::to_string(ProcessId()));
   top.make_preferred();

@@ -1,5 +1,7 @@
 // Statements on the plug-in's life and on commands.
 #include "workbench/plugin/timers.h"
+#include "workbench/reasons/access_reason.h"
+#include "workbench/script/memory_sweep.h"
 #include "workbench/script/script_calls.h"
 #include "workbench/script/script_record.h"
 #include "workbench/script/script_runner.h"
@@ -31,9 +33,10 @@ void ReportRun(ScriptRun& run, const Statement& statement, const CommandRun& res
   const std::string& command = statement.Text("COMMAND");
   run.status = result.status;
   if (!result.known) {
-    run.Fail(statement, "the plug-in has registered no command " + command);
+    run.Fail(statement,
+             "the plug-in has registered no command " + command + CommandMeant(run.host, command));
   } else if (!result.available) {
-    run.Fail(statement, command + " is not available here");
+    run.Fail(statement, command + " is not available here: " + WhyUnavailable(run.host, command));
   }
   for (const std::string& left : result.left_out) {
     run.Fail(statement, command + " left out " + left);
@@ -65,6 +68,13 @@ void SweepFaults(ScriptRun& run, const Statement& statement) {
   Sweep(run, statement).Run();
 }
 
+void SweepAllocations(ScriptRun& run, const Statement& statement) {
+  const MemorySweepOptions& options = run.options.memory;
+  if (options.first_run_line != 0 && options.first_run_line != statement.line) return;
+  run.EnsureStarted();
+  MemorySweep(run, statement).Run(options);
+}
+
 void Withhold(ScriptRun& run, const Statement& statement) {
   CheckFunctions(statement);
   for (const std::string& function : statement.Texts("FUNCTION")) {
@@ -84,6 +94,8 @@ constexpr StatementForm kForms[] = {
     {"popup NAME",           kTopPlace,    &CreatePopup},
     {"run COMMAND with",     kTopOrDialog, &Run, kAnswerPlace},
     {"run COMMAND",          kTopOrDialog, &Run},
+    {"sweep allocations of COMMAND with", kTopPlace, &SweepAllocations, kAnswerPlace},
+    {"sweep allocations of COMMAND", kTopPlace, &SweepAllocations},
     {"sweep COMMAND with",   kTopPlace,    &SweepFaults, kAnswerPlace},
     {"sweep COMMAND",        kTopPlace,    &SweepFaults},
     {"withhold FUNCTION...", kTopPlace,    &Withhold},

@@ -4,6 +4,8 @@
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
 #include "workbench/language/script_words.h"
+#include "workbench/reasons/missing_model.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/script/script_arguments.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/session/bench_shapes.h"
@@ -186,7 +188,8 @@ Model& Retrieved(ScriptRun& run, const std::string& name) {
     if (Model* const model = session.Retrieve(wanted)) return *model;
   }
   throw ScriptError("there is no model \"" + name + "\" in session or in " +
-                    PathToUtf8(session.working_directory()));
+                    OwnPath(session.working_directory()) +
+                    WhatLiesIn(session.working_directory(), name));
 }
 
 void Retrieve(ScriptRun& run, const Statement& statement) {

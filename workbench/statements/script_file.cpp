@@ -3,6 +3,7 @@
 
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/statements/statement_families.h"
 
 namespace wb {
@@ -19,7 +20,7 @@ ScriptOutcome RunScriptFile(const std::filesystem::path& file, const ScriptOptio
                             RunRecord& record) {
   const int passed_before = record.passed;
   const int failed_before = record.failed;
-  const std::string name = PathToUtf8(file);
+  const std::string name = OwnPath(file);
   ScriptOutcome outcome;
   ParsedScript script;
   const auto text = ReadFileBytes(file);
@@ -31,7 +32,7 @@ ScriptOutcome RunScriptFile(const std::filesystem::path& file, const ScriptOptio
   }
   outcome.readable = record.failed == failed_before;
   if (outcome.readable) {
-    outcome.skipped = ScriptRun(name, options, record).RunAll(script.statements);
+    outcome.skipped = ScriptRun(PathToUtf8(file), options, record).RunAll(script.statements);
   }
   if (outcome.skipped.empty() && record.passed == passed_before && record.failed == failed_before) {
     FailWhole(name, 0, "checks nothing; it needs a \"run\" or an \"expect\" at least", record);

@@ -41,6 +41,17 @@ void ConfigFileMissing(ScriptRun& run, const Statement& statement) {
   std::filesystem::remove(file);
 }
 
+// Another program has it open and lets nobody else in.
+void ConfigFileHeld(ScriptRun& run, const Statement& statement) {
+  const std::filesystem::path file = run.ConfigFile(statement.Text("FILE"));
+  FlushProfile(file);
+  run.held_files.erase(file);
+  if (statement.Text("STATE") == "free") return;
+  auto held = std::make_unique<FileHolder>(file);
+  if (!held->holds()) throw ScriptError(PathToUtf8(file) + " cannot be held");
+  run.held_files.emplace(file, std::move(held));
+}
+
 void ConfigFolderMissing(ScriptRun& run, const Statement&) {
   std::filesystem::remove_all(run.Installed() / "QMconfig");
 }
@@ -90,6 +101,7 @@ constexpr StatementForm kForms[] = {
     {"setting FILE SECTION KEY TEXT",                 kTopPlace, &Setting},
     {"config_folder missing",                         kTopPlace, &ConfigFolderMissing},
     {"config_file FILE missing",                      kTopPlace, &ConfigFileMissing},
+    {"config_file FILE STATE:held|free",              kTopOrDialog, &ConfigFileHeld},
     {"habit NAME STATE:on|off",                       kTopPlace, &Habit},
     {"mode MODE",                                     kTopPlace, &Mode},
     {"language LANGUAGE:chinese|english",             kTopPlace, &Language},

@@ -2,12 +2,15 @@
 #include "workbench/step/import.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 #include <map>
 #include <stdexcept>
 
 #include "workbench/base/utf8_text.h"
 #include "workbench/session/model_file.h"
 #include "workbench/session/session.h"
+#include "workbench/step/import_staging.h"
 #include "workbench/step/step_names.h"
 #include "workbench/step/step_product.h"
 
@@ -70,35 +73,6 @@ std::vector<ModelName> NamesOf(const StepAssembly& step, std::vector<std::string
   return full;
 }
 
-// The folder that takes the files until all are written.
-class Neighbour {
- public:
-  explicit Neighbour(const fs::path& target) : folder_(target) {
-    // What lies there already is somebody's.
-    do {
-      folder_ += ".import";
-    } while (fs::exists(folder_));
-    fs::create_directories(folder_);
-  }
-  ~Neighbour() {
-    std::error_code error;
-    fs::remove_all(folder_, error);
-  }
-  Neighbour(const Neighbour&) = delete;
-  Neighbour& operator=(const Neighbour&) = delete;
-
-  void MoveTo(const fs::path& target) const {
-    fs::create_directories(target);
-    for (const auto& item : fs::directory_iterator(folder_)) {
-      fs::rename(item.path(), target / item.path().filename());
-    }
-  }
-  const fs::path& folder() const { return folder_; }
-
- private:
-  fs::path folder_;
-};
-
 // A file in the way of `folder`, or of a folder above it.
 void RefuseFileInTheWay(const fs::path& folder) {
   fs::path at = fs::absolute(folder);
@@ -132,17 +106,46 @@ std::vector<const Model*> FromTheTop(const ImportedModels& imported) {
   return order;
 }
 
+// Assemblies of assemblies of assemblies hold more than any number tells; it stays at this.
+constexpr std::uint64_t kUncounted = std::numeric_limits<std::uint64_t>::max();
+
+std::uint64_t Sum(std::uint64_t a, std::uint64_t b) {
+  return a > kUncounted - b ? kUncounted : a + b;
+}
+
+std::string CountText(std::uint64_t count) {
+  return count < kUncounted ? std::to_string(count) : "over " + std::to_string(kUncounted - 1);
+}
+
 // How often each model occurs under the tops, those themselves once.
-std::map<std::string, long> OccurrencesBelow(const ImportedModels& imported) {
-  std::map<std::string, long> totals;
+std::map<std::string, std::uint64_t> OccurrencesBelow(const ImportedModels& imported) {
+  std::map<std::string, std::uint64_t> totals;
   for (const Model& model : imported.models) totals[model.id.Text()] = 0;
   for (const ModelName& top : imported.tops) totals[top.Text()] = 1;
   for (const Model* const model : FromTheTop(imported)) {
+    const std::uint64_t above = totals[model->id.Text()];
     for (const Feature& feature : model->solid().features) {
-      totals[PlacedName(feature)] += totals[model->id.Text()];
+      std::uint64_t& total = totals[PlacedName(feature)];
+      total = Sum(total, above);
     }
   }
   return totals;
+}
+
+std::string LengthUnits(const std::vector<std::string>& units) {
+  if (units.empty()) return "millimetre, assumed, since the file names none";
+  return Join(", ", units);
+}
+
+// A path as it stands between the quotes of a script.
+std::string Quotable(const fs::path& path) {
+  std::string text;
+  const std::u8string generic = path.generic_u8string();
+  for (const char8_t c : generic) {
+    if (c == u8'"' || c == u8'\\') text += '\\';
+    text += static_cast<char>(c);
+  }
+  return text;
 }
 
 std::string Padded(std::string text, size_t width) {
@@ -155,7 +158,7 @@ std::string Padded(std::string text, size_t width) {
 
 ImportedModels ReadStepModels(const fs::path& file) {
   const StepAssembly step = ReadStepAssembly(file);
-  ImportedModels imported{{}, {}, step.notes};
+  ImportedModels imported{{}, {}, step.notes, LengthUnits(step.length_units)};
   const std::vector<ModelName> names = NamesOf(step, imported.notes);
   for (size_t i = 0; i < step.models.size(); ++i) {
     Model model(names[i]);
@@ -176,6 +179,7 @@ ImportedModels ReadStepModels(const fs::path& file) {
 
 void WriteModels(const ImportedModels& imported, const fs::path& folder, bool force) {
   RefuseFileInTheWay(folder);
+  UndoDeadImports(folder);
   const FolderIndex present(folder);
   for (const Model& model : imported.models) {
     if (force || present.NewestVersion(model.id) == 0) continue;
@@ -183,24 +187,24 @@ void WriteModels(const ImportedModels& imported, const fs::path& folder, bool fo
                              " already; import into another folder, or add --force to write "
                              "next versions");
   }
-  const Neighbour neighbour(folder);
+  const ImportStaging staging(folder);
   for (const Model& model : imported.models) {
     const int version = present.NewestVersion(model.id) + 1;
     const fs::path file =
-        neighbour.folder() / PathFromUtf8(model.id.Text() + "." + std::to_string(version));
+        staging.folder() / PathFromUtf8(model.id.Text() + "." + std::to_string(version));
     // The file system may take more names for one than we do.
     if (fs::exists(file)) {
       throw std::runtime_error("two models would share the file " + PathToUtf8(file.filename()) +
                                "; rename one of the products");
     }
-    WriteModelFile(model, file);
+    WriteNewModelFile(model, file);
   }
-  neighbour.MoveTo(folder);
+  staging.Deliver();
 }
 
 std::string ModelTable(const ImportedModels& imported) {
-  const std::map<std::string, long> totals = OccurrencesBelow(imported);
-  std::map<std::string, int> placed;
+  const std::map<std::string, std::uint64_t> totals = OccurrencesBelow(imported);
+  std::map<std::string, std::size_t> placed;
   size_t width = 5;
   for (const Model& model : imported.models) {
     width = std::max(width, WideLength(model.id.Text()));
@@ -209,12 +213,21 @@ std::string ModelTable(const ImportedModels& imported) {
   std::string table = Padded("model", width) + "  components  surfaces  placed  in all\n";
   for (const Model& model : imported.models) {
     const std::string name = model.id.Text();
-    table +=
-        Padded(name, width) + "  " + Padded(std::to_string(model.solid().features.size()), 10) +
-        "  " + Padded(std::to_string(model.solid().surfaces.size()), 8) + "  " +
-        Padded(std::to_string(placed[name]), 6) + "  " + std::to_string(totals.at(name)) + "\n";
+    table += Padded(name, width) + "  " +
+             Padded(std::to_string(model.solid().features.size()), 10) + "  " +
+             Padded(std::to_string(model.solid().surfaces.size()), 8) + "  " +
+             Padded(std::to_string(placed[name]), 6) + "  " + CountText(totals.at(name)) + "\n";
   }
   return table;
+}
+
+std::vector<std::string> NextScript(const ImportedModels& imported, const fs::path& folder) {
+  const auto assembly = std::ranges::find(imported.tops, ModelKind::kAssembly,
+                                          [](const auto& top) { return top.kind; });
+  const bool has_one = assembly != imported.tops.end();
+  const ModelName& top = has_one ? *assembly : imported.tops.front();
+  return {"folder copy \"" + Quotable(folder) + "\"", "open " + top.Text(),
+          has_one ? "run QmShowAllComp" : "run QmOpenDir"};
 }
 
 }  // namespace wb

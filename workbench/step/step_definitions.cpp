@@ -3,8 +3,8 @@
 #include "workbench/step/step_definitions.h"
 
 #include <algorithm>
-#include <unordered_set>
 
+#include "workbench/base/text.h"
 #include "workbench/step/step_documents.h"
 
 namespace wb {
@@ -30,7 +30,7 @@ StepDefinitions::StepDefinitions(const StepFile& file, const StepCatalog& catalo
                         (file.schema().empty() ? "not named" : file.schema()) + ")",
                     "export it from the CAD system as STEP AP203, AP214 or AP242");
   }
-  MarkDocuments();
+  MarkOthers();
   ReadShapes();
   SpreadShapes();
   NoteDocuments();
@@ -55,14 +55,11 @@ void StepDefinitions::ReadDefinitions() {
   }
 }
 
-// Documents are products too; their context or category tells.
-void StepDefinitions::MarkDocuments() {
-  std::unordered_set<const StepRecord*> documents;
-  for (const StepRecord* category : catalog_.Of("PRODUCT_RELATED_PRODUCT_CATEGORY")) {
-    const StepArguments values = file_.Arguments(*category);
-    if (values.OptionalText(0) != "document") continue;
-    for (const StepRecord* product : values.References(2)) documents.insert(product);
-  }
+// Documents and raw material are products too; their category, or for a document its context,
+// tells.
+void StepDefinitions::MarkOthers() {
+  const auto documents = ProductsOf("document");
+  const auto materials = ProductsOf("raw material");
   for (StepDefinition& definition : definitions_) {
     const StepRecord* context =
         file_.Arguments(*definition.record, kDefinition).OptionalReference(3);
@@ -71,7 +68,20 @@ void StepDefinitions::MarkDocuments() {
                                   : file_.Arguments(*context).OptionalText(0);
     definition.document = documents.count(definition.product) > 0 ||
                           stage.find("document definition") != std::string::npos;
+    definition.raw_material = materials.count(definition.product) > 0;
   }
+}
+
+std::unordered_set<const StepRecord*> StepDefinitions::ProductsOf(std::string_view wanted) const {
+  std::unordered_set<const StepRecord*> products;
+  for (const StepRecord* category : catalog_.Of("PRODUCT_RELATED_PRODUCT_CATEGORY")) {
+    const StepArguments values = file_.Arguments(*category);
+    std::string name = FoldCase(values.OptionalText(0));
+    std::ranges::replace(name, '_', ' ');
+    if (name != wanted) continue;
+    for (const StepRecord* product : values.References(2)) products.insert(product);
+  }
+  return products;
 }
 
 const StepRecord* StepDefinitions::SubjectOf(const StepRecord& shape) const {
@@ -193,7 +203,7 @@ std::vector<int> StepDefinitions::Models() const {
   for (int i = 0; i < static_cast<int>(definitions_.size()); ++i) {
     const StepDefinition& definition = definitions_[i];
     const bool counts = definition.used || !definition.representations.empty();
-    if (!definition.used && definition.document) continue;
+    if (!definition.used && (definition.document || definition.raw_material)) continue;
     if (counts || chosen[definition.product]++ == 0) models.push_back(i);
   }
   return models;

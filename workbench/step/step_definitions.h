@@ -4,6 +4,7 @@
 
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "workbench/step/file/step_catalog.h"
@@ -18,6 +19,7 @@ struct StepDefinition {
   std::vector<const StepRecord*> representations;  // its own ones first, then those that equal them
   bool used = false;                               // named by an occurrence
   bool document = false;                           // stands for a drawing or another file
+  bool raw_material = false;                       // what a part is made from
 };
 
 class StepDefinitions {
@@ -39,7 +41,7 @@ class StepDefinitions {
   // The occurrence or definition that a PRODUCT_DEFINITION_SHAPE speaks of, or null.
   const StepRecord* SubjectOf(const StepRecord& shape) const;
   // Definitions that become models: used ones, ones with a shape, and else the product's first;
-  // documents never unless used.
+  // documents and raw material never unless used.
   std::vector<int> Models() const;
   const std::vector<std::string>& notes() const { return notes_; }
 
@@ -47,7 +49,9 @@ class StepDefinitions {
   using Records = std::vector<const StepRecord*>;
 
   void ReadDefinitions();
-  void MarkDocuments();
+  void MarkOthers();
+  // Those of a category.
+  std::unordered_set<const StepRecord*> ProductsOf(std::string_view category) const;
   void ReadShapes();
   void SpreadShapes();
   void NoteDocuments();

@@ -32,6 +32,9 @@ constexpr IndirectUsage kIndirectUsages[] = {
     {"MULTI_LEVEL_REFERENCE_DESIGNATOR", "they single out components of lower assemblies"},
 };
 
+// A line with a quantity must not take all memory.
+constexpr std::size_t kMostByQuantity = 100'000;
+
 struct Usage {
   const StepRecord* record;  // of the usage, or of the mapped item that shows the component
   int parent, child;         // definitions
@@ -137,7 +140,12 @@ void ProductReader::ReadUsage(const StepRecord& record) {
               {}};
   if (usage.name.empty()) usage.name = values.OptionalText(0);
   usage.placement = placements_.OfUsage(record, usage.parent, usage.child);
-  usages_.insert(usages_.end(), QuantityOf(usage), usage);
+  const std::size_t quantity = QuantityOf(usage);
+  if (quantity > 1 && usages_.size() + quantity > kMostByQuantity) {
+    file_.Fail(record, "with this quantity the file has more than " +
+                           std::to_string(kMostByQuantity) + " components");
+  }
+  usages_.insert(usages_.end(), quantity, usage);
 }
 
 // How many components a usage stands for. They all lie in its one place, unless mapped items have
@@ -198,6 +206,11 @@ void ProductReader::MakeModels() {
   for (const Usage& usage : usages_) {
     definitions_.all()[usage.parent].used = true;
     definitions_.all()[usage.child].used = true;
+  }
+  const auto left_out = std::ranges::count_if(
+      definitions_.all(), [](const StepDefinition& d) { return d.raw_material && !d.used; });
+  if (left_out > 0) {
+    Note(std::to_string(left_out) + " products left out: they are raw material, no parts");
   }
   model_of_.assign(definitions_.all().size(), -1);
   for (const int definition : definitions_.Models()) {
@@ -285,13 +298,14 @@ void ProductReader::AddShapes() {
 
 void ProductReader::Finish() {
   assembly_.schema = file_.schema();
+  assembly_.length_units = units_.names();
   if (units_.guessed()) Note("a length unit is missing; millimetres are assumed");
   auto& notes = assembly_.notes;
   notes.insert(notes.begin(), definitions_.notes().begin(), definitions_.notes().end());
   std::unordered_set<std::string> told;
   std::erase_if(notes, [&](const std::string& note) { return !told.insert(note).second; });
   if (assembly_.models.empty()) {
-    throw StepError(file_.file_name(), 0, "the file holds documents but no product");
+    throw StepError(file_.file_name(), 0, "the file holds documents or raw material, but no part");
   }
 }
 

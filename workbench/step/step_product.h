@@ -34,6 +34,7 @@ struct StepAssembly {
   std::vector<int> tops;           // models that are nobody's component; never empty
   std::string schema;              // "AUTOMOTIVE_DESIGN { ... }"
   std::vector<std::string> notes;  // what the file mentions but the models lack, for the user
+  std::vector<std::string> length_units;  // "inch (25.4 mm)"; empty: the file names none
 };
 
 // Throws StepError, with file and line, on a file that cannot be read, is no complete STEP file,

@@ -30,7 +30,9 @@ Hook HookRow(const char* name, std::type_identity_t<Function>* replacement,
   FAMILY(FolderHooks)            \
   FAMILY(ComHooks)               \
   FAMILY(FileDialogHooks)        \
-  FAMILY(ModuleHooks)
+  FAMILY(SettingsHooks)          \
+  FAMILY(ModuleHooks)            \
+  FAMILY(HeapHooks)
 
 #define WB_DECLARE_FAMILY(Family) HookRows Family();
 WB_HOOK_FAMILIES(WB_DECLARE_FAMILY)

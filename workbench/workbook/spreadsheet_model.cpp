@@ -11,7 +11,6 @@
 namespace wb {
 namespace {
 
-constexpr size_t kLongestText = 32767;  // in 16-bit characters
 constexpr double kWidestColumn = 255;
 constexpr double kColumnPadding = 2;
 constexpr double kLineHeight = 1.3;  // of the font's size
@@ -164,7 +163,7 @@ Worksheet::Cell& Worksheet::At(CellPosition cell) {
 }
 
 Entered Worksheet::EnterText(const CellArea& area, const std::string& text) {
-  if (WideLength(text) > kLongestText) return Entered::kTooLong;
+  if (WideLength(text) > kLongestCellText) return Entered::kTooLong;
   const bool marked = text.starts_with('\'');
   const std::string shown = marked ? text.substr(1) : text;
   const auto reading_in = [&](CellPosition cell) {

@@ -14,6 +14,7 @@ namespace wb {
 
 inline constexpr int kSheetRows = 1048576;
 inline constexpr int kSheetColumns = 16384;
+inline constexpr size_t kLongestCellText = 32767;  // in 16-bit characters
 
 struct CellPosition {
   int row = 1;  // from 1

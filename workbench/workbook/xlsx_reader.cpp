@@ -47,6 +47,33 @@ std::string WithControls(const std::string& text) {
   return plain;
 }
 
+// What one workbook may hold; a small file can ask for far more than memory has.
+constexpr size_t kMostCells = 2'000'000;
+constexpr size_t kMostText = 128u << 20;  // bytes, in all cells
+constexpr size_t kMostMerges = 10'000;
+constexpr size_t kMostSheets = 1'000;
+
+struct ReadSoFar {
+  size_t cells = 0;
+  size_t text = 0;
+  size_t merges = 0;
+};
+
+void Count(const XmlReader& xml, size_t& count, size_t added, size_t most, const char* what) {
+  count += added;
+  if (count <= most) return;
+  xml.Fail("the workbook has more than " + std::to_string(most) + " " + what);
+}
+
+std::string RunText(XmlReader& xml) {
+  std::string text;
+  xml.EachChild([&] {
+    if (xml.Is("r")) xml.Fail("a run of text stands inside another one");
+    if (xml.Is("t")) text += xml.Text();
+  });
+  return text;
+}
+
 // A text made of runs, without the reading aids that stand beside some of them.
 std::string RichText(XmlReader& xml) {
   std::string text;
@@ -54,17 +81,23 @@ std::string RichText(XmlReader& xml) {
     if (xml.Is("t")) {
       text += xml.Text();
     } else if (xml.Is("r")) {
-      text += RichText(xml);
+      text += RunText(xml);
     }
   });
   return text;
 }
 
+std::string CellTextOf(const XmlReader& xml, const std::string& raw) {
+  std::string text = WithControls(raw);
+  if (WideLength(text) <= kLongestCellText) return text;
+  xml.Fail("a text of more than " + std::to_string(kLongestCellText) + " characters");
+}
+
 class SheetReader {
  public:
   SheetReader(XmlReader& xml, Worksheet& sheet, const std::vector<std::string>& texts,
-              const std::vector<CellFormat>& formats)
-      : xml_(xml), sheet_(sheet), texts_(texts), formats_(formats) {}
+              const std::vector<CellFormat>& formats, ReadSoFar& read)
+      : xml_(xml), sheet_(sheet), texts_(texts), formats_(formats), read_(read) {}
 
   void Read() {
     xml_.EachChild([&] {
@@ -99,6 +132,7 @@ class SheetReader {
     const int first = Whole("min", 0);
     const int last = Whole("max", 0);
     if (first < 1 || last > kSheetColumns) xml_.Fail("column out of range");
+    Count(xml_, columns_, 1, kSheetColumns, "descriptions of columns in a sheet");
     const CellFormat& format = FormatNumber("style");
     const std::string width = xml_.Attribute("width");
     if (last == kSheetColumns && format == CellFormat()) return;
@@ -133,13 +167,22 @@ class SheetReader {
       if (xml_.Is("v")) {
         value = Value(type, xml_.Text());
       } else if (xml_.Is("is")) {
-        value = WithControls(RichText(xml_));
+        value = CellTextOf(xml_, RichText(xml_));
       }
     });
     // A plain empty cell says nothing.
     if (std::holds_alternative<std::monostate>(value) && format == CellFormat()) return;
+    CountCell(value, format);
     sheet_.SetValue(at_, std::move(value));
     sheet_.SetFormat(at_, format);
+  }
+
+  // Every cell has a copy of its texts.
+  void CountCell(const CellValue& value, const CellFormat& format) {
+    Count(xml_, read_.cells, 1, kMostCells, "cells");
+    const auto* const text = std::get_if<std::string>(&value);
+    const size_t bytes = format.number_format.size() + (text == nullptr ? 0 : text->size());
+    Count(xml_, read_.text, bytes, kMostText, "bytes of text in cells");
   }
 
   CellValue Value(const std::string& type, const std::string& text) const {
@@ -149,7 +192,7 @@ class SheetReader {
       return texts_[number];
     }
     if (type == "b") return text == "1";
-    if (type == "str" || type == "e" || type == "d") return WithControls(text);
+    if (type == "str" || type == "e" || type == "d") return CellTextOf(xml_, text);
     if (text.empty()) return {};  // of a formula that was never worked out
     char* end = nullptr;
     const double number = std::strtod(text.c_str(), &end);
@@ -160,6 +203,7 @@ class SheetReader {
   void ReadMerge() {
     const auto area = ParseAreaAddress(xml_.Attribute("ref"));
     if (!area) xml_.Fail("\"" + xml_.Attribute("ref") + "\" is no block of cells");
+    Count(xml_, read_.merges, 1, kMostMerges, "merged areas");
     sheet_.Merge(*area);
   }
 
@@ -167,6 +211,8 @@ class SheetReader {
   Worksheet& sheet_;
   const std::vector<std::string>& texts_;
   const std::vector<CellFormat>& formats_;
+  ReadSoFar& read_;
+  size_t columns_ = 0;
   CellPosition at_ = {0, 0};
 };
 
@@ -234,7 +280,7 @@ class BookReader {
     const std::string document = zip_.Read(part);
     XmlReader xml(document, Name(part));
     xml.EnterRoot();
-    xml.EachChild([&] { texts_.push_back(WithControls(RichText(xml))); });
+    xml.EachChild([&] { texts_.push_back(CellTextOf(xml, RichText(xml))); });
   }
 
   void ReadSheet(const XmlReader& entry, const std::map<std::string, Relationship>& relations,
@@ -244,16 +290,20 @@ class BookReader {
     if (relation->second.type != "worksheet") return;  // charts
     const std::string document = zip_.Read(relation->second.part);
     XmlReader xml(document, Name(relation->second.part));
+    if (book.sheets.size() == kMostSheets) {
+      entry.Fail("the workbook has more than " + std::to_string(kMostSheets) + " sheets");
+    }
     Worksheet& sheet = book.sheets.emplace_back();
     sheet.name = entry.Attribute("name");
     xml.EnterRoot();
-    SheetReader(xml, sheet, texts_, formats_).Read();
+    SheetReader(xml, sheet, texts_, formats_, read_).Read();
   }
 
   const ZipReader& zip_;
   const std::string file_;
   std::vector<std::string> texts_;
   std::vector<CellFormat> formats_;
+  ReadSoFar read_;
 };
 
 }  // namespace

@@ -14,7 +14,9 @@ namespace wb {
 namespace {
 
 constexpr int kTextFormatNumber = 49;
-constexpr int kFirstOwnFormat = 164;  // smaller ones have a meaning of their own
+constexpr size_t kLongestFormatCode = 1024;
+constexpr size_t kMostFormats = 65490;  // as the program itself takes
+constexpr int kFirstOwnFormat = 164;    // smaller ones have a meaning of their own
 // Those that mean the same in every country.
 const std::map<int, std::string> kBuiltInFormats = {
     {0, "General"},      {1, "0"},         {2, "0.00"},
@@ -99,6 +101,13 @@ int Whole(const XmlReader& xml, const char* attribute) {
 
 bool IsYes(const std::string& flag) {
   return flag == "1" || flag == "true";
+}
+
+// Every format has a copy of it.
+std::string FormatCode(const XmlReader& xml) {
+  std::string code = xml.Attribute("formatCode");
+  if (code.size() <= kLongestFormatCode) return code;
+  xml.Fail("a number format of more than " + std::to_string(kLongestFormatCode) + " bytes");
 }
 
 CellFormat ReadFont(XmlReader& xml) {
@@ -225,13 +234,18 @@ std::vector<CellFormat> ReadXlsxStyles(std::string_view document, const std::str
   xml.EnterRoot();
   each([&] {
     if (xml.Is("numFmts")) {
-      each([&] { parts.number_formats[Whole(xml, "numFmtId")] = xml.Attribute("formatCode"); });
+      each([&] { parts.number_formats[Whole(xml, "numFmtId")] = FormatCode(xml); });
     } else if (xml.Is("fonts")) {
       each([&] { parts.fonts.push_back(ReadFont(xml)); });
     } else if (xml.Is("fills")) {
       each([&] { parts.fills.push_back(ReadFill(xml)); });
     } else if (xml.Is("cellXfs")) {
-      each([&] { parts.formats.push_back(ReadCellFormat(xml, parts)); });
+      each([&] {
+        if (parts.formats.size() == kMostFormats) {
+          xml.Fail("more than " + std::to_string(kMostFormats) + " cell formats");
+        }
+        parts.formats.push_back(ReadCellFormat(xml, parts));
+      });
     }
   });
   return parts.formats;

@@ -7,6 +7,7 @@
 #include "export/spreadsheet/dispatch.h"
 #include "export/spreadsheet/excel_writer.h"
 #include "export/spreadsheet/workbook_file.h"
+#include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/model_name.h"
@@ -24,12 +25,23 @@ std::optional<std::wstring> CurrentModelName() {
   return ModelName(model);
 }
 
-WorkbookCell ReadCell(const DialogTable& table, const std::string& row, const std::string& column) {
-  return {table.Label(row, column), table.Color(row, column) == kAssemblyColor};
+// Nothing when the cell cannot be read, or is blank where a bill never is: a blank quantity in a
+// workbook that looks finished would be believed.
+std::optional<WorkbookCell> ReadCell(const DialogTable& table, const std::string& row,
+                                     const std::string& column, const std::wstring& label) {
+  auto text = table.Label(row, column);
+  const auto color = table.Color(row, column);
+  if (!text || !color) return std::nullopt;
+  if (text->empty() && !MayBeBlank(column, label)) {
+    LogEvent("row " + row + ", column " + column + " is blank, which it never is");
+    return std::nullopt;
+  }
+  return WorkbookCell{std::move(*text), *color == kAssemblyColor};
 }
 
-// Nothing when the table cannot be read.
-std::optional<WorkbookTable> ReadTable(const DialogTable& table, std::wstring title) {
+// Nothing when the table cannot be read, down to its last cell; `unread` receives how many cells.
+std::optional<WorkbookTable> ReadTable(const DialogTable& table, std::wstring title,
+                                       long long* unread) {
   auto labels = table.ColumnLabels();
   const auto columns = table.ColumnNames();
   const auto rows = table.RowNames();
@@ -43,8 +55,13 @@ std::optional<WorkbookTable> ReadTable(const DialogTable& table, std::wstring ti
   for (const std::string& row : *rows) {
     std::vector<WorkbookCell>& cells = result.rows.emplace_back();
     cells.reserve(columns->size());
-    for (const std::string& column : *columns) cells.push_back(ReadCell(table, row, column));
+    for (size_t i = 0; i < columns->size(); ++i) {
+      auto cell = ReadCell(table, row, (*columns)[i], result.labels[i]);
+      if (!cell) ++*unread;
+      cells.push_back(std::move(cell).value_or(WorkbookCell()));
+    }
   }
+  if (*unread > 0) return std::nullopt;
   return result;
 }
 
@@ -59,10 +76,13 @@ void ExportBill(const DialogView& dialog) {
   }
   const ComScope com;
   const auto path = ChooseWorkbookToWrite();
-  if (!path || !IsFreeToWrite(*path, OldFile::kDelete)) return;
-  const auto table = ReadTable(DialogTable(dialog, kBillTable), *name + L" BOM");
+  if (!path) LogOutcome("cancelled");
+  if (!path || !IsFreeToWrite(*path)) return;
+  long long unread = 0;
+  const auto table = ReadTable(DialogTable(dialog, kBillTable), *name + L" BOM", &unread);
   if (!table) {
     ShowMessage(kUnreadableField);
+    NoteLeftOut(unread);
     return;
   }
   LogCount("rows", static_cast<long long>(table->rows.size()));

@@ -1,6 +1,8 @@
 // Reading of an assembly's structure and of its models' parameters.
 #include "export/bill/bill_source.h"
 
+#include <algorithm>
+
 #include "frame/messages/run_log.h"
 #include "frame/models/component_list.h"
 #include "frame/models/handle_index.h"
@@ -60,29 +62,47 @@ bool IsSkeleton(ProMdl model) {
   return Ok(status) && is_skeleton == PRO_B_TRUE;
 }
 
-std::optional<BillStructure> ReadStructure(ProMdl assembly) {
+// False when the components cannot be collected.
+bool ReadStructure(ProMdl assembly, BillPlan* plan) {
   ComponentList components;
-  if (!Ok(CollectComponents(assembly, ComponentKind::kAll, &components))) return std::nullopt;
-  BillStructure structure;
-  StructureReader(components, &structure).Read(assembly);
-  return structure;
+  if (!Ok(CollectComponents(assembly, ComponentKind::kAll, &components))) return false;
+  StructureReader(components, &plan->structure).Read(assembly);
+  plan->left_out = static_cast<long long>(components.left_out().size());
+  return true;
 }
 
 BillTexts ReadTexts(const BillModel& model, const std::vector<std::wstring>& parameters) {
   if (model.name.empty()) return {};
   const ProMdl handle = RetrieveModel(model.name, model.type);
-  if (handle == nullptr || IsSkeleton(handle)) return {};
-  if (parameters.empty()) return {true, {}};
-  return {true, ParameterTexts(handle, parameters)};
+  if (handle == nullptr) return {};
+  if (IsSkeleton(handle)) return {Listing::kSkeleton, {}};
+  if (parameters.empty()) return {Listing::kListed, {}};
+  return {Listing::kListed, ParameterTexts(handle, parameters)};
+}
+
+// A component whose model's type is not known was counted when it was collected.
+bool LacksNameOnly(const BillModel& model) {
+  return model.name.empty() && (model.type == PRO_MDL_PART || model.type == PRO_MDL_ASSEMBLY);
+}
+
+// How many rows are missing. The summary has none at all for models without a name.
+long long CountUnreadRows(const BillPlan& plan, BillKind kind) {
+  long long count = std::ranges::count_if(plan.rows, [&](const BillRow& row) {
+    const BillModel& model = plan.structure.models[row.model];
+    return plan.texts[row.model].listing == Listing::kUnread &&
+           (!model.name.empty() || LacksNameOnly(model));
+  });
+  if (kind == BillKind::kLevels) return count;
+  const std::vector<BillModel>& models = plan.structure.models;
+  return count + std::count_if(models.begin() + 1, models.end(), &LacksNameOnly);
 }
 
 }  // namespace
 
 std::optional<BillPlan> PlanBill(ProMdl assembly, BillKind kind, int depth,
                                  const std::vector<std::wstring>& parameters) {
-  auto structure = ReadStructure(assembly);
-  if (!structure) return std::nullopt;
-  BillPlan plan{std::move(*structure), {}, {}};
+  BillPlan plan;
+  if (!ReadStructure(assembly, &plan)) return std::nullopt;
   plan.rows =
       kind == BillKind::kSummary ? SummaryBill(plan.structure) : LevelBill(plan.structure, depth);
   plan.texts.resize(plan.structure.models.size());
@@ -92,6 +112,7 @@ std::optional<BillPlan> PlanBill(ProMdl assembly, BillKind kind, int depth,
     read[row.model] = true;
     plan.texts[row.model] = ReadTexts(plan.structure.models[row.model], parameters);
   }
+  plan.left_out += CountUnreadRows(plan, kind);
   return plan;
 }
 

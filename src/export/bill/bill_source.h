@@ -11,12 +11,18 @@
 
 namespace qm {
 
+enum class Listing {
+  kListed,
+  kSkeleton,  // has no row
+  kUnread,    // has none since its name is not known or it cannot be retrieved
+};
+
 // What the rows of one model show.
 struct BillTexts {
-  // False for skeleton models, and for models that cannot be retrieved or have no name.
-  bool listed = false;
-  // One for each parameter; empty where the model has none or one of another type.
-  std::vector<std::wstring> parameters;
+  Listing listing = Listing::kUnread;
+  // One for each parameter; empty where the model has none or one of another type, nothing where it
+  // cannot be read.
+  std::vector<std::optional<std::wstring>> parameters;
 };
 
 // A bill that is read in full and shown nowhere yet.
@@ -24,6 +30,7 @@ struct BillPlan {
   BillStructure structure;
   std::vector<BillRow> rows;     // those of models that are not listed as well
   std::vector<BillTexts> texts;  // beside the structure's models
+  long long left_out = 0;        // components and rows that are not known
 };
 
 // Reads the bill of `assembly` and retrieves its models, in the order of the rows. `depth` counts

@@ -2,8 +2,10 @@
 #include "export/bill/bill_table.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "export/bill/bill_source.h"
+#include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/opening.h"
@@ -15,6 +17,9 @@ namespace {
 
 constexpr char kNumberColumn[] = "num";
 constexpr wchar_t kNumberLabel[] = L"序号";
+constexpr wchar_t kQuantityLabel[] = L"模型数量";
+constexpr wchar_t kPositionLabel[] = L"层级1";
+constexpr wchar_t kLevelLabel[] = L"层级2";
 
 enum class ColumnSource { kParameter, kNumber, kName, kQuantity, kPosition, kLevel };
 
@@ -25,9 +30,9 @@ struct FixedLabel {
 };
 constexpr FixedLabel kFixedLabels[] = {
     {kNameLabel, ColumnSource::kName, false},
-    {L"模型数量", ColumnSource::kQuantity, false},
-    {L"层级1", ColumnSource::kPosition, true},
-    {L"层级2", ColumnSource::kLevel, true},
+    {kQuantityLabel, ColumnSource::kQuantity, false},
+    {kPositionLabel, ColumnSource::kPosition, true},
+    {kLevelLabel, ColumnSource::kLevel, true},
 };
 
 struct BillColumn {
@@ -73,24 +78,35 @@ class RowWriter {
 
   void Write(const BillRow& row) {
     const std::wstring& position = position_.Of(row);
-    if (!plan_.texts[row.model].listed) return;
+    if (plan_.texts[row.model].listing != Listing::kListed) return;
     std::string name = std::to_string(count_ + 1);
-    if (!table_.InsertRow(last_row_, name)) return;
+    if (!table_.InsertRow(last_row_, name)) {
+      ++left_out_;
+      return;
+    }
     ++count_;
     last_row_ = std::move(name);
     const bool is_assembly = plan_.structure.models[row.model].type == PRO_MDL_ASSEMBLY;
     for (const BillColumn& column : columns_) {
-      std::wstring text = Text(row, column, position);
-      if (!text.empty()) table_.SetLabel(last_row_, column.name, std::move(text));
-      if (is_assembly) table_.SetColor(last_row_, column.name, kAssemblyColor);
+      if (!WriteText(column, Text(row, column, position))) ++left_out_;
+      if (is_assembly && !table_.SetColor(last_row_, column.name, kAssemblyColor)) ++left_out_;
     }
   }
 
   long long count() const { return count_; }
+  // Rows and cells.
+  long long left_out() const { return left_out_; }
 
  private:
-  std::wstring Text(const BillRow& row, const BillColumn& column,
-                    const std::wstring& position) const {
+  // False when the cell stays blank although it should not.
+  bool WriteText(const BillColumn& column, std::optional<std::wstring> text) const {
+    if (!text) return false;
+    return text->empty() || table_.SetLabel(last_row_, column.name, std::move(*text));
+  }
+
+  // Nothing when it cannot be read.
+  std::optional<std::wstring> Text(const BillRow& row, const BillColumn& column,
+                                   const std::wstring& position) const {
     switch (column.source) {
       case ColumnSource::kNumber:
         return std::to_wstring(count_);
@@ -114,29 +130,40 @@ class RowWriter {
   PositionNumber position_;
   std::string last_row_;
   long long count_ = 0;
+  long long left_out_ = 0;
 };
 
 }  // namespace
 
-void SetBillColumns(const DialogTable& table, BillKind kind) {
+bool MayBeBlank(const std::string& column, const std::wstring& label) {
+  constexpr const wchar_t* kNeverBlank[] = {kNameLabel, kQuantityLabel, kPositionLabel,
+                                            kLevelLabel};
+  return column != kNumberColumn && std::ranges::find(kNeverBlank, label) == std::end(kNeverBlank);
+}
+
+long long SetBillColumns(const DialogTable& table, BillKind kind) {
   const wchar_t* const section = kind == BillKind::kSummary ? L"tableCols_sum" : L"tableCols_level";
-  std::vector<std::wstring> labels =
-      SplitNames(ReadSetting(section, kContentKey, ConfigPath(kBillFile)));
+  const auto setting = TryReadSetting(section, kContentKey, ConfigPath(kBillFile));
+  if (!setting) LogEvent("the columns of the bill cannot be read from their settings file");
+  std::vector<std::wstring> labels = SplitNames(setting.value_or(std::wstring()));
   auto old_columns = table.ColumnNames();
   if (!table.DeleteAllRows() || !old_columns) {
     ShowMessage(kUnreadableField);
-    return;
+    return 0;
   }
   std::erase(*old_columns, kNumberColumn);
-  table.DeleteColumns(std::move(*old_columns));
+  bool is_whole = table.DeleteColumns(std::move(*old_columns));
   std::vector<std::string> names;
   for (size_t i = 1; i <= labels.size(); ++i) names.push_back("param" + std::to_string(i));
-  table.InsertColumns(kNumberColumn, std::move(names));
+  is_whole = table.InsertColumns(kNumberColumn, std::move(names)) && is_whole;
   labels.insert(labels.begin(), kNumberLabel);
-  table.SetColumnLabels(std::move(labels));
+  const auto count = static_cast<long long>(labels.size());
+  is_whole = table.SetColumnLabels(std::move(labels)) && is_whole;
+  return is_whole && setting ? 0 : count;
 }
 
-void FillBill(const DialogTable& table, ProMdl assembly, BillKind kind, int depth) {
+void FillBill(const DialogTable& table, ProMdl assembly, BillKind kind, int depth,
+              long long left_out) {
   const auto columns = ReadColumns(table, kind);
   if (!columns || !table.DeleteAllRows()) {
     ShowMessage(kUnreadableField);
@@ -151,6 +178,7 @@ void FillBill(const DialogTable& table, ProMdl assembly, BillKind kind, int dept
   for (const BillRow& row : plan->rows) writer.Write(row);
   LogCount("components", static_cast<long long>(plan->structure.occurrences.size()));
   LogCount("rows", writer.count());
+  NoteLeftOut(left_out + plan->left_out + writer.left_out());
 }
 
 }  // namespace qm

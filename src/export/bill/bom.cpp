@@ -5,6 +5,7 @@
 
 #include "export/bill/bill_export.h"
 #include "export/bill/bill_table.h"
+#include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/current_assembly.h"
@@ -35,15 +36,22 @@ std::optional<BillKind> ChosenKind(const DialogView& dialog) {
   return std::nullopt;
 }
 
+// 0 when the host does not tell.
+int ChosenDepth(const DialogView& dialog) {
+  const auto item = dialog.TryOptionValue(kDepthMenu);
+  return item ? DepthOf(*item) : 0;
+}
+
 // Switches the columns to the chosen bill. The rows stay empty until the user loads them.
 void PrepareChosenBill(const DialogView& dialog) {
+  CommandLog log("QmUpdateBomIni");
   const auto kind = ChosenKind(dialog);
   if (!kind) {
     ShowMessage(kUnreadableField);
     return;
   }
   dialog.EnableOption(kDepthMenu, *kind == BillKind::kLevels);
-  SetBillColumns(TableOf(dialog), *kind);
+  NoteLeftOut(SetBillColumns(TableOf(dialog), *kind));
 }
 
 void LoadBill(const DialogView& dialog) {
@@ -59,7 +67,7 @@ void LoadBill(const DialogView& dialog) {
   }
   const auto kind = ChosenKind(dialog);
   int depth = 0;
-  if (kind == BillKind::kLevels) depth = DepthOf(dialog.OptionValue(kDepthMenu));
+  if (kind == BillKind::kLevels) depth = ChosenDepth(dialog);
   if (!kind || (kind == BillKind::kLevels && depth == 0)) {
     ShowMessage(kUnreadableField);
     return;
@@ -76,21 +84,29 @@ void DrawNothing(const DialogView&) {}
 
 // Shows the model of the row that was double-clicked. Only its colour tells the model's type.
 void ShowRowModel(const DialogView& dialog) {
+  CommandLog log(kBillTable);
   dialog.KeepAboveActiveWindow();
   const DialogTable table = TableOf(dialog);
   const auto names = table.ColumnNames();
   const auto labels = table.ColumnLabels();
   const auto rows = table.SelectedRows();
-  if (!names || !labels || !rows || rows->empty()) return;
+  if (!names || !labels || !rows || rows->empty()) return LogOutcome("nothing shown");
   const auto column = static_cast<size_t>(std::ranges::find(*labels, kNameLabel) - labels->begin());
-  if (column >= std::min(labels->size(), names->size())) return;
-  const std::wstring name = table.Label(rows->front(), (*names)[column]);
-  if (name.empty()) return;
-  const bool is_assembly = table.Color(rows->front(), (*names)[column]) == kAssemblyColor;
-  const ProMdl model = RetrieveModel(name, is_assembly ? PRO_MDL_ASSEMBLY : PRO_MDL_PART);
-  if (model == nullptr) return;
+  if (column >= std::min(labels->size(), names->size())) return LogOutcome("nothing shown");
+  const auto name = table.Label(rows->front(), (*names)[column]);
+  const auto color = table.Color(rows->front(), (*names)[column]);
+  // Without its colour an assembly would be taken for a part of the same name.
+  if (!name || name->empty() || !color) {
+    ShowMessage(kUnreadableField);
+    return;
+  }
+  const ProMdlType type = *color == kAssemblyColor ? PRO_MDL_ASSEMBLY : PRO_MDL_PART;
+  const ProMdl model = RetrieveModel(*name, type);
+  if (model == nullptr) return LogOutcome("nothing shown");
   const ProError status = ProMdlDisplay(model);
-  if (!Ok(status)) LogFailure(model, "ProMdlDisplay", status);
+  if (Ok(status)) return;
+  LogFailure(model, "ProMdlDisplay", status);
+  LogOutcome("nothing shown");
 }
 
 // What was shown before the dialog. By name, since the user may erase it meanwhile, unless the host
@@ -124,13 +140,13 @@ void Bind(const Dialog& dialog) {
 
 ProError Prepare(const Dialog& dialog, const std::optional<CurrentModel>& current) {
   Bind(dialog);
-  SetBillColumns(TableOf(dialog), BillKind::kSummary);
+  const long long left_out = SetBillColumns(TableOf(dialog), BillKind::kSummary);
   const auto assembly = AssemblyOf(current);
   if (!assembly) {
     ShowShortMessage(kAssembliesOnly);
     return PRO_TK_BAD_CONTEXT;
   }
-  FillBill(TableOf(dialog), *assembly, BillKind::kSummary, 0);
+  FillBill(TableOf(dialog), *assembly, BillKind::kSummary, 0, left_out);
   if (ChosenKind(dialog) == BillKind::kSummary) dialog.EnableOption(kDepthMenu, false);
   dialog.BindDrawingArea<&DrawNothing>("DrawingArea");
   return PRO_TK_NO_ERROR;

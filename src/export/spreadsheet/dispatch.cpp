@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <vector>
+#include <iterator>
 
 #include "frame/text/text.h"
 
@@ -16,6 +16,9 @@ namespace {
 // in one language on a system in another refuses calls in the system's.
 constexpr LCID kCallLocale = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
 
+// More than any member that is used takes.
+constexpr std::size_t kMostArguments = 8;
+
 // The program is in the middle of something of its user's, such as the typing of a cell.
 constexpr auto kInterrupted = static_cast<HRESULT>(0x800AC472);
 
@@ -24,22 +27,19 @@ bool IsBusy(HRESULT result) {
          result == kInterrupted;
 }
 
-struct KnownResult {
-  HRESULT result;
-  const wchar_t* text;
+constexpr HRESULT kGoneResults[] = {
+    RPC_E_SERVERFAULT, RPC_E_DISCONNECTED,
+    static_cast<HRESULT>(0x800706BA),  // RPC_S_SERVER_UNAVAILABLE
 };
-constexpr KnownResult kKnownResults[] = {
-    {RPC_E_SERVERFAULT, L"程序已意外退出"},
-    {RPC_E_DISCONNECTED, L"程序已意外退出"},
-    {static_cast<HRESULT>(0x800706BA), L"程序已意外退出"},  // RPC_S_SERVER_UNAVAILABLE
-};
+
+bool IsGone(HRESULT result) {
+  return std::ranges::find(kGoneResults, result) != std::end(kGoneResults);
+}
 
 // The system's own text, where it has any, is rarely of help to users.
 std::wstring ResultText(HRESULT result) {
   if (IsBusy(result)) return L"程序正忙，没有应答";
-  for (const KnownResult& known : kKnownResults) {
-    if (known.result == result) return known.text;
-  }
+  if (IsGone(result)) return L"程序已意外退出";
   wchar_t text[512] = {};
   DWORD length = ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
                                   nullptr, static_cast<DWORD>(result), 0, text,
@@ -133,6 +133,10 @@ bool AutomationError::is_busy() const {
   return IsBusy(result_);
 }
 
+bool AutomationError::is_gone() const {
+  return IsGone(result_);
+}
+
 std::wstring AutomationError::Reason() const {
   wchar_t number[16];
   std::swprintf(number, std::size(number), L"(0x%08X)", static_cast<unsigned>(result_));
@@ -172,14 +176,16 @@ Dispatch Dispatch::Create(const wchar_t* program_id) {
 Variant Dispatch::Invoke(const Member& member, WORD kind, Arguments arguments,
                          Patience patience) const {
   if (object_ == nullptr) throw AutomationError(member.name, E_POINTER, {});
-  // The call wants the last argument first. The values stay ours.
-  std::vector<VARIANTARG> reversed;
-  for (const Variant* const argument : arguments)
-    reversed.insert(reversed.begin(), argument->get());
+  if (arguments.size() > kMostArguments) throw AutomationError(member.name, E_INVALIDARG, {});
+  // The call wants the last argument first. The values stay ours. Without an allocation: the way
+  // out after one that failed leads through here.
+  VARIANTARG reversed[kMostArguments] = {};
+  std::transform(std::rbegin(arguments), std::rend(arguments), reversed,
+                 [](const Variant* argument) { return argument->get(); });
   DISPID named = DISPID_PROPERTYPUT;
   const bool puts = kind == DISPATCH_PROPERTYPUT;
-  DISPPARAMS parameters = {reversed.data(), puts ? &named : nullptr,
-                           static_cast<UINT>(reversed.size()), puts ? 1u : 0u};
+  DISPPARAMS parameters = {reversed, puts ? &named : nullptr, static_cast<UINT>(arguments.size()),
+                           puts ? 1u : 0u};
   BusyWait busy(patience);
   ExceptionInfo exception;
   for (;;) {

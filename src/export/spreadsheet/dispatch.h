@@ -28,9 +28,10 @@ class AutomationError : public std::exception {
   // The member that was called, with the place where it was.
   const std::wstring& step() const { return step_; }
   void set_place(const std::wstring& place);
-  HRESULT result() const { return result_; }
   // The server would not take the call, and was asked again for as long as the patience lasted.
   bool is_busy() const;
+  // There is no server any more.
+  bool is_gone() const;
   // What the other program says, or the system's text for the result, and the result's number.
   std::wstring Reason() const;
 

@@ -57,31 +57,23 @@ SheetTexts ReadSheet(const Dispatch& workbook, size_t columns) {
   return rows;
 }
 
-// Throws AutomationError. Nothing when the program cannot be started; it has ended when this
-// returns, in whatever way.
-std::optional<SheetTexts> Read(const std::wstring& path, size_t columns) {
-  std::optional<ExcelSession> excel = ExcelSession::Start();
-  if (!excel) return std::nullopt;
-  return excel->Do([&] {
-    excel->OpenWorkbook(path);
-    SheetTexts rows = ReadSheet(excel->workbook(), columns);
-    excel->CloseWorkbook();
-    excel->Quit();
-    return rows;
-  });
+SheetTexts Read(ExcelSession& excel, const std::wstring& path, size_t columns) {
+  excel.OpenWorkbook(path);
+  SheetTexts rows = ReadSheet(excel.workbook(), columns);
+  excel.CloseWorkbook();
+  excel.Quit();
+  return rows;
 }
 
 }  // namespace
 
 std::optional<SheetTexts> ReadWorkbook(const std::wstring& path, size_t columns) {
-  try {
-    auto rows = Read(path, columns);
-    if (!rows) ShowShortMessage(kNoExcel);
-    return rows;
-  } catch (const AutomationError& error) {
-    ShowExcelFailure(kFailed, error);
-    return std::nullopt;
-  }
+  std::optional<SheetTexts> rows;
+  const ExcelRun run = RunExcel([&](ExcelSession& excel) { rows = Read(excel, path, columns); });
+  if (!run.is_started) ShowShortMessage(kNoExcel);
+  if (run.failure) ShowExcelFailure(kFailed, *run.failure);
+  TellWhetherEnded(run);
+  return rows;
 }
 
 }  // namespace qm

@@ -10,14 +10,23 @@ namespace qm {
 namespace {
 
 constexpr wchar_t kProgram[] = L"Excel.Application";
+constexpr wchar_t kNotEnded[] = L"\tExcel没有退出，请在任务管理器中结束该进程。\t";
+
+enum class StepResult { kDone, kFailed, kBusy, kGone };
 
 // A step of the clean-up after a failure: another failure must not end the clean-up.
 template <typename Step>
-void Try(Step step) noexcept {
+StepResult Try(Step step) noexcept {
   try {
     step();
+    return StepResult::kDone;
+  } catch (const AutomationError& error) {
+    LogException("ending of the spreadsheet program");
+    if (error.is_gone()) return StepResult::kGone;
+    return error.is_busy() ? StepResult::kBusy : StepResult::kFailed;
   } catch (...) {
     LogException("ending of the spreadsheet program");
+    return StepResult::kFailed;
   }
 }
 
@@ -29,12 +38,21 @@ std::optional<ExcelSession> ExcelSession::Start() {
   return ExcelSession(std::move(application));
 }
 
-ExcelSession::~ExcelSession() {
-  if (!application_) return;
+bool ExcelSession::End(Patience patience) noexcept {
+  if (!application_) return true;
+  StepResult result = StepResult::kDone;
   if (workbook_) {
-    Try([&] { Do([&] { workbook_.Put(excel::kSaved, Variant(true), ending_); }); });
+    // What would not be closed is at least not asked about.
+    result = Try([&] { CloseWorkbook(patience); });
+    if (result == StepResult::kBusy) patience = Patience::kShort;
+    if (result == StepResult::kFailed) {
+      Try([&] { workbook_.Put(excel::kSaved, Variant(true), patience); });
+    }
   }
-  Try([&] { application_.Call(excel::kQuit, {}, ending_); });
+  result = Try([&] { application_.Call(excel::kQuit, {}, patience); });
+  workbook_.reset();
+  application_.reset();
+  return result == StepResult::kDone || result == StepResult::kGone;
 }
 
 void ExcelSession::AddWorkbook() {
@@ -46,10 +64,10 @@ void ExcelSession::OpenWorkbook(const std::wstring& path) {
   workbook_ = application_.Get(excel::kWorkbooks).CallForObject(excel::kOpen, {&file});
 }
 
-void ExcelSession::CloseWorkbook() {
-  // Opening an older file may have changed it, and the program would ask whether to save that.
+void ExcelSession::CloseWorkbook(Patience patience) {
+  // Without saving: opening an older file may have changed it, and the program would ask.
   const Variant saves(false);
-  workbook_.Call(excel::kClose, {&saves});
+  workbook_.Call(excel::kClose, {&saves}, patience);
   workbook_.reset();
 }
 
@@ -59,10 +77,33 @@ void ExcelSession::Quit() {
   application_.reset();
 }
 
+ExcelRun RunExcel(const std::function<void(ExcelSession&)>& work) {
+  ExcelRun run;
+  std::optional<ExcelSession> excel = ExcelSession::Start();
+  run.is_started = excel.has_value();
+  if (!excel) return run;
+  try {
+    work(*excel);
+  } catch (const AutomationError& error) {
+    run.failure = error;
+  } catch (...) {
+    run.is_ended = excel->End(Patience::kShort);
+    TellWhetherEnded(run);
+    throw;
+  }
+  const bool is_busy = run.failure && run.failure->is_busy();
+  run.is_ended = excel->End(is_busy ? Patience::kShort : Patience::kFull);
+  return run;
+}
+
 void ShowExcelFailure(const std::wstring& outcome, const AutomationError& error) {
   LogEvent(error.what());
   ShowMessage(L"\t" + outcome + L"\t\n\t步骤：" + error.step() + L"\t\n\t原因：" + error.Reason() +
               L"\t");
+}
+
+void TellWhetherEnded(const ExcelRun& run) {
+  if (!run.is_ended) ShowMessage(kNotEnded);
 }
 
 }  // namespace qm

@@ -5,8 +5,10 @@
 #include "export/spreadsheet/excel_session.h"
 #include "export/spreadsheet/new_file.h"
 #include "export/spreadsheet/sheet_rules.h"
+#include "export/spreadsheet/workbook_file.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
 
 namespace qm {
 namespace {
@@ -15,6 +17,7 @@ constexpr wchar_t kNoExcel[] = L"创建Excel失败";
 constexpr wchar_t kTooWide[] = L"bom表格列数不得大于26列";
 constexpr wchar_t kFailed[] = L"导出Excel失败，未生成文件。";
 constexpr wchar_t kUnfinished[] = L"导出Excel失败，未完成的文件无法删除，请手动删除：";
+constexpr wchar_t kOldFile[] = L"\t\n\t原有文件已保留为：";
 
 constexpr char kProgressNote[] = "Rows written to Excel: %0w";
 constexpr size_t kRowsANote = 100;
@@ -108,49 +111,66 @@ class SheetWriter {
   std::wstring last_range_;  // tells the user how far it came
 };
 
-void Save(ExcelSession& excel, const std::wstring& path) {
-  excel.application().Put(excel::kVisible, Variant(false));
-  excel.application().Put(excel::kUserControl, Variant(false));
+enum class Outcome { kFinished, kRefusedWidth, kHeldOpen };
+
+AutomationError SavingError(DWORD error, const wchar_t* description) {
+  return AutomationError(excel::kSaveCopyAs.name, HRESULT_FROM_WIN32(error), description);
+}
+
+// From here on the file stays, whatever becomes of the program.
+Outcome Save(const ExcelSession& excel, const std::wstring& path, NewFile& file) {
+  if (const DWORD error = file.Begin(); error != ERROR_SUCCESS) {
+    if (IsHeldOpen(error)) return Outcome::kHeldOpen;
+    throw SavingError(error, L"原有文件无法移开");
+  }
   const Variant target(path);
   excel.workbook().Call(excel::kSaveCopyAs, {&target});
+  if (!file.Finish()) throw SavingError(ERROR_FILE_NOT_FOUND, L"文件没有生成");
+  return Outcome::kFinished;
+}
+
+// Throws AutomationError.
+Outcome Write(ExcelSession& excel, const WorkbookTable& table, const std::wstring& path,
+              NewFile& file) {
+  excel.AddWorkbook();
+  const Variant first(1);
+  const Dispatch sheet = excel.workbook().Get(excel::kSheets).Get(excel::kItem, {&first});
+  if (table.labels.size() > kMaxColumns) return Outcome::kRefusedWidth;
+  SheetWriter(sheet, table).Write();
+  excel.application().Put(excel::kVisible, Variant(false));
+  excel.application().Put(excel::kUserControl, Variant(false));
+  const Outcome outcome = Save(excel, path, file);
+  if (outcome != Outcome::kFinished) return outcome;
   // Quitting would ask about the workbook otherwise.
   excel.workbook().Put(excel::kSaved, Variant(true));
   excel.Quit();
+  return outcome;
 }
 
-enum class Outcome { kWritten, kNotStarted, kRefused };
-
-// Throws AutomationError. The program has ended when it returns, in whatever way.
-Outcome Write(const WorkbookTable& table, const std::wstring& path) {
-  std::optional<ExcelSession> excel = ExcelSession::Start();
-  if (!excel) return Outcome::kNotStarted;
-  return excel->Do([&] {
-    excel->AddWorkbook();
-    const Variant first(1);
-    const Dispatch sheet = excel->workbook().Get(excel::kSheets).Get(excel::kItem, {&first});
-    if (table.labels.size() > kMaxColumns) return Outcome::kRefused;
-    SheetWriter(sheet, table).Write();
-    Save(*excel, path);
-    return Outcome::kWritten;
-  });
+void ShowFailure(const AutomationError& error, const std::wstring& path, NewFile& file) {
+  const NewFile::Leftovers left = file.Discard();
+  std::wstring outcome = left.unfinished ? kUnfinished + path : kFailed;
+  if (!left.old_file.empty()) outcome += kOldFile + left.old_file;
+  ShowExcelFailure(outcome, error);
 }
 
 }  // namespace
 
 bool WriteWorkbook(const WorkbookTable& table, const std::wstring& path) {
   NewFile file(path);
-  try {
-    const Outcome outcome = Write(table, path);
-    if (outcome == Outcome::kNotStarted) ShowShortWarning(kNoExcel);
-    if (outcome == Outcome::kRefused) ShowMessage(kTooWide);
-    if (outcome != Outcome::kWritten) return false;
-    if (file.Finish()) return true;
-    throw AutomationError(excel::kSaveCopyAs.name, HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND),
-                          L"文件没有生成");
-  } catch (const AutomationError& error) {
-    ShowExcelFailure(file.Discard() ? std::wstring(kFailed) : kUnfinished + path, error);
-    return false;
+  Outcome outcome = Outcome::kFinished;
+  const ExcelRun run =
+      RunExcel([&](ExcelSession& excel) { outcome = Write(excel, table, path, file); });
+  if (!run.is_started) ShowShortWarning(kNoExcel);
+  if (outcome == Outcome::kRefusedWidth) ShowMessage(kTooWide);
+  if (outcome == Outcome::kHeldOpen) ShowHeldOpen(path);
+  if (run.failure && file.is_finished()) {
+    LogEvent(run.failure->what());
+  } else if (run.failure) {
+    ShowFailure(*run.failure, path, file);
   }
+  TellWhetherEnded(run);
+  return file.is_finished();
 }
 
 }  // namespace qm

@@ -6,7 +6,6 @@
 #include <commdlg.h>
 #include <shellapi.h>
 #include <shlobj.h>
-#include <shlwapi.h>
 
 #include <array>
 #include <iterator>
@@ -59,6 +58,22 @@ std::optional<std::wstring> Choose(BOOL(WINAPI* ask)(OPENFILENAMEW*), OPENFILENA
   return path.data();
 }
 
+// Told by its attribute, too: not every file system keeps an administrator from a protected file.
+bool IsProtected(const std::wstring& path) {
+  const DWORD attributes = ::GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
+// Windows' answer; where it is an error, normally that there is no such file.
+DWORD TryToReplace(const std::wstring& path) {
+  if (IsProtected(path)) return ERROR_ACCESS_DENIED;
+  const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_ALL, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return ::GetLastError();
+  ::CloseHandle(file);
+  return ERROR_SUCCESS;
+}
+
 }  // namespace
 
 std::optional<std::wstring> ChooseWorkbookToWrite() {
@@ -81,20 +96,19 @@ std::optional<std::wstring> ChooseWorkbookToRead() {
   return Choose(&::GetOpenFileNameW, dialog);
 }
 
-bool IsFreeToWrite(const std::wstring& path, OldFile old_file) {
-  // That it cannot be deleted shows when it is opened.
-  if (old_file == OldFile::kDelete && ::PathFileExistsW(path.c_str())) ::DeleteFileW(path.c_str());
-  const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_ALL, FILE_SHARE_READ, nullptr,
-                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (file != INVALID_HANDLE_VALUE) {
-    ::CloseHandle(file);
-    return true;
-  }
-  const DWORD error = ::GetLastError();
-  // Any other failure, normally that there is no such file, does not stand in the way.
-  if (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION) return true;
-  ShowMessage(path + kHeldOpen);
+bool IsFreeToWrite(const std::wstring& path) {
+  // Any other failure does not stand in the way.
+  if (!IsHeldOpen(TryToReplace(path))) return true;
+  ShowHeldOpen(path);
   return false;
+}
+
+bool IsHeldOpen(unsigned long error) {
+  return error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION;
+}
+
+void ShowHeldOpen(const std::wstring& path) {
+  ShowMessage(path + kHeldOpen);
 }
 
 void OpenWorkbookFile(const std::wstring& path) {

@@ -12,11 +12,13 @@ namespace qm {
 std::optional<std::wstring> ChooseWorkbookToWrite();
 std::optional<std::wstring> ChooseWorkbookToRead();
 
-enum class OldFile { kDelete, kKeep };
+// Whether the file, where there is one, can be replaced: no program holds it open, and it is not
+// protected. Nothing is changed. False after a message.
+bool IsFreeToWrite(const std::wstring& path);
 
-// Deletes an old file if asked to, then checks that no program holds one open. False after a
-// message.
-bool IsFreeToWrite(const std::wstring& path, OldFile old_file);
+// For a file of which that shows only later: Windows' errors that say so, and the message.
+bool IsHeldOpen(unsigned long error);
+void ShowHeldOpen(const std::wstring& path);
 
 // Shows the file in the program that the user has for it.
 void OpenWorkbookFile(const std::wstring& path);

@@ -8,11 +8,10 @@
 #include <string_view>
 
 #include "frame/dialogs/dialog.h"
+#include "frame/dialogs/file_choice.h"
+#include "frame/dialogs/stored_fields.h"
+#include "frame/messages/run_log.h"
 #include "frame/settings/config.h"
-#include "frame/text/fixed_text.h"
-#include "frame/text/text.h"
-#include "toolkit/owners.h"
-#include "toolkit/window.h"
 
 namespace qm {
 namespace {
@@ -62,77 +61,49 @@ constexpr TemplateRow kTemplates[] = {
 };
 // clang-format on
 
-std::wstring Section(const char* component) {
-  return FromAnsi(component);
+StoredField Option(const char* option) {
+  return {option, FieldKind::kRadio, kValueKey};
+}
+StoredField Template(const TemplateRow& row) {
+  return {row.panel, FieldKind::kInput, kPathKey};
 }
 
-// A group without a selection, or one that the host does not tell, keeps its stored value; a new
-// file gets its section all the same.
-void SaveOption(const DialogView& dialog, const char* option, const std::wstring& path) {
-  const std::wstring section = Section(option);
-  const auto button = dialog.TryRadioValue(option);
-  WriteSetting(section.c_str(), kValueKey,
-               button ? FromAnsi(*button) : ReadSetting(section.c_str(), kValueKey, path), path);
-}
-
-// Paths that the host does not tell keep their stored value.
-void Save(const DialogView& dialog) {
+void Save(const DialogView& dialog, StoredFields& fields) {
+  CommandLog log("save");
   const std::wstring path = ConfigPath(kConfigFile);
-  for (const char* const option : kOptionsAsSaved) SaveOption(dialog, option, path);
-  for (const TemplateRow& row : kTemplates) {
-    if (const auto text = dialog.TryInputValue(row.panel)) {
-      WriteSetting(Section(row.panel).c_str(), kPathKey, *text, path);
-    }
+  SaveTally tally;
+  for (const char* const option : kOptionsAsSaved) {
+    fields.Save(dialog, Option(option), path, &tally);
   }
+  for (const TemplateRow& row : kTemplates) fields.Save(dialog, Template(row), path, &tally);
+  NoteSaved(tally, path);
 }
 
-// Folder of the drawing formats, where the user most likely keeps templates; empty when not set.
-std::wstring FormatFolder() {
-  ProName option = L"pro_format_dir";
-  HostArray<ProPath> folders;
-  if (!Ok(ProConfigoptArrayGet(option, folders.put())) || folders.size() < 1) return {};
-  return std::wstring(FixedText(folders[0]));
+void PickTemplate(const DialogView&, const TemplateRow& row) {
+  const auto path = PickDrawingFile(row.title, L"*.drw");
+  if (path) DialogView(kDialog).SetInputValue(row.panel, *path);
 }
 
-// `data` is the row of the pressed button.
-void PickTemplate(const DialogView&, ProAppData data) {
-  const TemplateRow& row = *static_cast<const TemplateRow*>(data);
-  std::wstring title = row.title;
-  std::wstring filter = L"*.drw";
-  std::wstring folder = FormatFolder();
-  ProPath chosen = {};
-  const ProError status = ProFileOpen(title.data(), filter.data(), nullptr, nullptr,
-                                      folder.empty() ? nullptr : folder.data(), nullptr, chosen);
-  const std::wstring path(FixedText(chosen));
-  if (Ok(status) && !path.empty()) DialogView(kDialog).SetInputValue(row.panel, path);
-}
-
-void Bind(const Dialog& dialog) {
-  dialog.BindButton<&Save>("save");
-  for (const TemplateRow& row : kTemplates) {
-    dialog.BindButton<&PickTemplate>(row.button, const_cast<TemplateRow*>(&row));
-  }
+void Bind(const Dialog& dialog, StoredFields& fields) {
+  dialog.BindButton<&Save>("save", fields);
+  for (const TemplateRow& row : kTemplates) dialog.BindButton<&PickTemplate>(row.button, row);
   dialog.BindClose();
 }
 
-void Fill(const Dialog& dialog) {
+// An empty value selects no button.
+void Fill(const Dialog& dialog, StoredFields& fields) {
   const std::wstring path = ConfigPath(kConfigFile);
-  for (const char* const option : kOptions) {
-    // An empty value selects no button.
-    const std::wstring value = ReadSetting(Section(option).c_str(), kValueKey, path);
-    dialog.SetRadioValue(option, ToAnsi(value));
-  }
-  for (const TemplateRow& row : kTemplates) {
-    dialog.SetInputValue(row.panel, ReadSetting(Section(row.panel).c_str(), kPathKey, path));
-  }
+  for (const char* const option : kOptions) fields.Fill(dialog, Option(option), path);
+  for (const TemplateRow& row : kTemplates) fields.Fill(dialog, Template(row), path);
 }
 
 }  // namespace
 
 ProError QmConfig() {
-  return RunDialog(kDialog, [](const Dialog& dialog) {
-    Bind(dialog);
-    Fill(dialog);
+  StoredFields fields;
+  return RunDialog(kDialog, [&](const Dialog& dialog) {
+    Bind(dialog, fields);
+    Fill(dialog, fields);
     return PRO_TK_NO_ERROR;
   });
 }

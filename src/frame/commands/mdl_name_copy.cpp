@@ -6,6 +6,7 @@
 #include "frame/commands/clipboard.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
 #include "frame/models/preselection.h"
 #include "frame/text/fixed_text.h"
 #include "toolkit/model.h"
@@ -55,7 +56,11 @@ ProError QmMdlNameCopy() {
   const std::wstring name(FixedText(buffer));
   // An empty name would only empty the clipboard.
   if (name.empty()) return PRO_TK_E_NOT_FOUND;
-  if (CopyToClipboard(name)) DisplayNote("The model name has been copied");
+  if (CopyToClipboard(name)) {
+    DisplayNote("The model name has been copied");
+  } else {
+    LogOutcome("the clipboard has not taken the name");
+  }
   return PRO_TK_NO_ERROR;
 }
 

@@ -2,6 +2,7 @@
 #include "frame/commands/open_drw.h"
 
 #include "frame/messages/message_box.h"
+#include "frame/models/drawing_window.h"
 #include "frame/models/host_name.h"
 #include "frame/models/preselection.h"
 #include "frame/text/fixed_text.h"
@@ -22,16 +23,6 @@ ProMdl PreselectedModel() {
   return Ok(ProModelitemMdlGet(&*item, &model)) ? model : nullptr;
 }
 
-ProError ShowInWindow(ProMdl drawing, HostName& name) {
-  int window = -1;
-  ProError status = ProObjectwindowCreate(name.name, PRO_DRAWING, &window);
-  if (!Ok(status)) return status;
-  if (window < 0) return PRO_TK_GENERAL_ERROR;
-  status = ProMdlDisplay(drawing);
-  if (!Ok(status)) return status;
-  return ProWindowActivate(window);
-}
-
 }  // namespace
 
 ProError QmOpenDrw() {
@@ -40,14 +31,14 @@ ProError QmOpenDrw() {
   ProName buffer = {};
   ProError status = ProMdlNameGet(model, buffer);
   if (!Ok(status)) return status;
-  HostName name(FixedText(buffer));
+  auto name = HostName::From(FixedText(buffer));
   ProMdl drawing = nullptr;
-  status = ProMdlRetrieve(name.name, PRO_MDL_DRAWING, &drawing);
+  status = name ? ProMdlRetrieve(name->name, PRO_MDL_DRAWING, &drawing) : PRO_TK_LINE_TOO_LONG;
   if (!Ok(status) || drawing == nullptr) {
     ShowMessage(L"\t同名工程图打开失败，请确认该模型工程图在当前工作目录是否存在。\t");
     return PRO_TK_E_NOT_FOUND;
   }
-  return ShowInWindow(drawing, name);
+  return DisplayDrawing(drawing, FixedText(buffer));
 }
 
 }  // namespace qm

@@ -1,8 +1,8 @@
 // QmSetDirectory: the current model's folder becomes the working directory.
 #include "frame/commands/set_directory.h"
 
+#include "frame/folders/model_folder.h"
 #include "frame/messages/message_area.h"
-#include "frame/models/model_folder.h"
 #include "frame/text/fixed_text.h"
 #include "toolkit/model.h"
 #include "toolkit/status.h"
@@ -16,9 +16,8 @@ ProError QmSetDirectory() {
   if (!Ok(status)) return status;
   if (model == nullptr) return PRO_TK_E_NOT_FOUND;
   const auto folder = FolderOf(model);
-  if (!folder || folder->empty() || folder->size() >= PRO_PATH_SIZE) return PRO_TK_INVALID_DIR;
   ProPath path = {};
-  FillFixedText(*folder, path);
+  if (!folder || folder->empty() || !FillFixedText(*folder, path)) return PRO_TK_INVALID_DIR;
   status = ProDirectoryChange(path);
   if (Ok(status)) DisplayNote("Directory has changed to:%0w", path);
   return status;

@@ -16,9 +16,10 @@ constexpr std::size_t kMaxNamedFunctions = 10;
 
 std::wstring BindingText(const HostBinding& binding) {
   if (binding.by_vendor_library) return L"\t宿主接口：已由厂商库绑定\t";
-  std::wstring text = L"\t宿主接口：已查找 " + std::to_wstring(binding.looked_up) +
-                      L" 个函数，已绑定 " + std::to_wstring(binding.bound) + L" 个，缺失 " +
-                      std::to_wstring(binding.missing.size()) + L" 个\t";
+  std::wstring text = L"\t宿主接口：共 " + std::to_wstring(binding.declared) + L" 个函数，已绑定 " +
+                      std::to_wstring(binding.bound) + L" 个，缺失 " +
+                      std::to_wstring(binding.missing.size()) + L" 个，尚未使用 " +
+                      std::to_wstring(binding.declared - binding.looked_up) + L" 个\t";
   const std::size_t named = std::min(binding.missing.size(), kMaxNamedFunctions);
   for (std::size_t i = 0; i < named; ++i) text += L"\n\t　" + FromAnsi(binding.missing[i]) + L"\t";
   if (named < binding.missing.size()) text += L"\n\t　…\t";

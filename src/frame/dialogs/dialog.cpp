@@ -24,29 +24,22 @@ std::optional<std::wstring> DialogView::TryInputValue(const char* component) con
   return Taken(status, text);
 }
 
-void DialogView::SetInputValue(const char* component, std::wstring value) const {
-  ProUIInputpanelValueSet(name(), component, value.data());
-}
-
-std::string DialogView::RadioValue(const char* component) const {
-  return TryRadioValue(component).value_or(std::string());
+ProError DialogView::SetInputValue(const char* component, std::wstring value) const {
+  return ProUIInputpanelValueSet(name(), component, value.data());
 }
 
 std::optional<std::string> DialogView::TryRadioValue(const char* component) const {
   NameList names;
   const ProError status =
       ProUIRadiogroupSelectednamesGet(name(), component, names.put_count(), names.put_texts());
-  if (!Ok(status)) return std::nullopt;
+  // A group without a selection may be told in either way.
+  if (!Ok(status) && status != PRO_TK_E_NOT_FOUND) return std::nullopt;
   return names.size() > 0 ? std::string(names[0]) : std::string();
 }
 
-void DialogView::SetRadioValue(const char* component, std::string button) const {
+ProError DialogView::SetRadioValue(const char* component, std::string button) const {
   char* names[] = {button.data()};
-  ProUIRadiogroupSelectednamesSet(name(), component, 1, names);
-}
-
-std::wstring DialogView::OptionValue(const char* component) const {
-  return TryOptionValue(component).value_or(std::wstring());
+  return ProUIRadiogroupSelectednamesSet(name(), component, 1, names);
 }
 
 std::optional<std::wstring> DialogView::TryOptionValue(const char* component) const {
@@ -55,8 +48,8 @@ std::optional<std::wstring> DialogView::TryOptionValue(const char* component) co
   return Taken(status, text);
 }
 
-void DialogView::SetOptionValue(const char* component, std::wstring value) const {
-  ProUIOptionmenuValueSet(name(), component, value.data());
+ProError DialogView::SetOptionValue(const char* component, std::wstring value) const {
+  return ProUIOptionmenuValueSet(name(), component, value.data());
 }
 
 void DialogView::EnableOption(const char* component, bool enabled) const {
@@ -75,12 +68,9 @@ std::optional<bool> DialogView::CheckState(const char* component) const {
   return state == PRO_B_TRUE;
 }
 
-void DialogView::SetCheck(const char* component, bool checked) const {
-  if (checked) {
-    ProUICheckbuttonSet(name(), component);
-  } else {
-    ProUICheckbuttonUnset(name(), component);
-  }
+ProError DialogView::SetCheck(const char* component, bool checked) const {
+  return checked ? ProUICheckbuttonSet(name(), component)
+                 : ProUICheckbuttonUnset(name(), component);
 }
 
 void DialogView::KeepAboveActiveWindow() const {
@@ -98,16 +88,18 @@ bool Dialog::Create() {
 }
 
 void Dialog::BindClose() const {
-  ProUIDialogCloseActionSet(name(), &DialogAction<&CloseDialog>::Call, nullptr);
+  if (Ok(ProUIDialogCloseActionSet(name(), &DialogAction<&CloseDialog>::Call, nullptr))) {
+    has_way_out_ = true;
+  }
 }
 
 void Dialog::BindCloseButton(const char* component) const {
-  BindButton<&CloseDialog>(component);
+  if (Ok(BindButton<&CloseDialog>(component))) has_way_out_ = true;
 }
 
 bool Dialog::Activate() const {
   int exit_status = 0;
-  const bool activated = Ok(ProUIDialogActivate(name(), &exit_status));
+  const bool activated = has_way_out_ && Ok(ProUIDialogActivate(name(), &exit_status));
   if (!activated) ShowShortMessage(L"UIDialog Activate error!");
   return activated;
 }

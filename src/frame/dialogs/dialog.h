@@ -13,31 +13,28 @@
 namespace qm {
 
 // Shown when a field cannot be read: an empty text in its place could change every model wrongly.
-inline constexpr wchar_t kUnreadableField[] = L"无法读取对话框中的内容,操作已停止!";
+inline constexpr wchar_t kUnreadableField[] = L"无法读取对话框中的内容，操作已停止！";
 
 // A dialog by its name, which need not stay in memory: what actions work on. Owns nothing.
-// A field that cannot be read gives an empty text; a failed set is not reported.
 class DialogView {
  public:
   explicit DialogView(std::string name) : name_(std::move(name)) {}
 
   const char* name() const { return name_.c_str(); }
 
-  void SetInputValue(const char* component, std::wstring value) const;
-  // Name of the first selected button.
-  std::string RadioValue(const char* component) const;
-  void SetRadioValue(const char* component, std::string button) const;
-  std::wstring OptionValue(const char* component) const;
-  void SetOptionValue(const char* component, std::wstring value) const;
-  void EnableOption(const char* component, bool enabled) const;
-  // Nothing when the host does not tell.
-  std::optional<bool> CheckState(const char* component) const;
-  void SetCheck(const char* component, bool checked) const;
-
   // Nothing when the host does not tell, which differs from an empty field.
   std::optional<std::wstring> TryInputValue(const char* component) const;
+  // Name of the first selected button; empty when none is.
   std::optional<std::string> TryRadioValue(const char* component) const;
   std::optional<std::wstring> TryOptionValue(const char* component) const;
+  std::optional<bool> CheckState(const char* component) const;
+
+  // The host's answer, which is no proof that the field shows the value.
+  ProError SetInputValue(const char* component, std::wstring value) const;
+  ProError SetRadioValue(const char* component, std::string button) const;
+  ProError SetOptionValue(const char* component, std::wstring value) const;
+  ProError SetCheck(const char* component, bool checked) const;
+  void EnableOption(const char* component, bool enabled) const;
 
   // Over the window that a command brings up, which would cover the dialog otherwise.
   void KeepAboveActiveWindow() const;
@@ -50,15 +47,15 @@ class DialogView {
 };
 
 // Wraps a dialog action for the host. The action is `void(const DialogView&)`, or
-// `void(const DialogView&, ProAppData)` when it was bound with data.
-template <auto Action>
+// `void(const DialogView&, Data&)` when it was bound with data.
+template <auto Action, typename Data = void>
 struct DialogAction {
   static void Call(char* dialog, char* component, ProAppData data) noexcept {
     try {
-      if constexpr (std::is_invocable_v<decltype(Action), DialogView, ProAppData>) {
-        Action(DialogView(dialog != nullptr ? dialog : ""), data);
-      } else {
+      if constexpr (std::is_void_v<Data>) {
         Action(DialogView(dialog != nullptr ? dialog : ""));
+      } else {
+        Action(DialogView(dialog != nullptr ? dialog : ""), *static_cast<Data*>(data));
       }
     } catch (...) {
       ReportException(component != nullptr ? component : "dialog action");
@@ -73,7 +70,8 @@ using PrepareDialog = std::function<ProError(const Dialog&)>;
 
 // Runs a dialog: created, prepared, shown until the user closes it, destroyed. `name` is also its
 // resource's. A failure of the first, third or last step is shown; one that keeps the dialog from
-// being shown is also the answer. `finish` follows the end of a dialog that was prepared.
+// being shown is also the answer, and so is a dialog that nothing bound could close: the user would
+// never get out of it. `finish` follows the end of a dialog that was prepared.
 ProError RunDialog(
     const char* name, const PrepareDialog& prepare, const std::function<void()>& finish = [] {});
 
@@ -86,8 +84,15 @@ class Dialog : public DialogView {
   ~Dialog() { Destroy(); }
 
   template <auto Action>
-  void BindButton(const char* component, ProAppData data = nullptr) const {
-    ProUIPushbuttonActivateActionSet(name(), component, &DialogAction<Action>::Call, data);
+  ProError BindButton(const char* component) const {
+    return ProUIPushbuttonActivateActionSet(name(), component, &DialogAction<Action>::Call,
+                                            nullptr);
+  }
+  // `data` outlives the dialog.
+  template <auto Action, typename Data>
+  void BindButton(const char* component, Data& data) const {
+    ProUIPushbuttonActivateActionSet(name(), component, &DialogAction<Action, Data>::Call,
+                                     const_cast<std::remove_const_t<Data>*>(&data));
   }
   // The user chose another button of the group.
   template <auto Action>
@@ -120,6 +125,8 @@ class Dialog : public DialogView {
   void Destroy();
 
   bool created_ = false;
+  // Whether the user can end the dialog: noted by the binding of its ways out.
+  mutable bool has_way_out_ = false;
 };
 
 }  // namespace qm

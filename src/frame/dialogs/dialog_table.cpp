@@ -2,6 +2,7 @@
 #include "frame/dialogs/dialog_table.h"
 
 #include "frame/messages/run_log.h"
+#include "frame/text/text.h"
 #include "toolkit/owners.h"
 
 namespace qm {
@@ -37,6 +38,11 @@ auto PointersTo(std::vector<Text>& texts) {
 // Logged here, since a table's user goes on with the next cell.
 bool Done(const char* function, ProError status) {
   if (!Ok(status)) LogFailure(nullptr, function, status);
+  return Ok(status);
+}
+bool CellDone(const std::string& row, const std::string& column, const char* function,
+              ProError status) {
+  if (!Ok(status)) LogFailure(FromAnsi("row " + row + ", column " + column), function, status);
   return Ok(status);
 }
 
@@ -112,20 +118,27 @@ bool DialogTable::SetColumnLabels(std::vector<std::wstring> labels) const {
                                 PointersTo(labels).data()));
 }
 
-std::wstring DialogTable::Label(const std::string& row, const std::string& column) const {
+std::optional<std::wstring> DialogTable::Label(const std::string& row,
+                                               const std::string& column) const {
   WideText label;
-  const ProError status = ProUITableCellLabelGet(dialog_.name(), component_.c_str(), row.c_str(),
-                                                 column.c_str(), label.put());
+  const auto ask = [&] {
+    return ProUITableCellLabelGet(dialog_.name(), component_.c_str(), row.c_str(), column.c_str(),
+                                  label.put());
+  };
+  ProError status = ask();
+  // A host may give no text for a blank cell; but then it gives none again.
+  if (Ok(status) && !label) status = ask();
   if (Ok(status) && label) return label.get();
-  if (status != PRO_TK_E_NOT_FOUND) Done("ProUITableCellLabelGet", status);
-  return {};
+  if (Ok(status) || status == PRO_TK_E_NOT_FOUND) return std::wstring();
+  CellDone(row, column, "ProUITableCellLabelGet", status);
+  return std::nullopt;
 }
 
 bool DialogTable::SetLabel(const std::string& row, const std::string& column,
                            std::wstring label) const {
-  return Done("ProUITableCellLabelSet",
-              ProUITableCellLabelSet(dialog_.name(), component_.c_str(), row.c_str(),
-                                     column.c_str(), label.data()));
+  return CellDone(row, column, "ProUITableCellLabelSet",
+                  ProUITableCellLabelSet(dialog_.name(), component_.c_str(), row.c_str(),
+                                         column.c_str(), label.data()));
 }
 
 std::optional<ProUIColorType> DialogTable::Color(const std::string& row,
@@ -133,15 +146,17 @@ std::optional<ProUIColorType> DialogTable::Color(const std::string& row,
   ProUIColorType color = kNoColor;
   const ProError status = ProUITableCellBackgroundColorGet(dialog_.name(), component_.c_str(),
                                                            row.c_str(), column.c_str(), &color);
-  if (!Ok(status) || color == kNoColor) return std::nullopt;
-  return color;
+  if (Ok(status)) return color;
+  if (status == PRO_TK_E_NOT_FOUND) return kNoColor;
+  CellDone(row, column, "ProUITableCellBackgroundColorGet", status);
+  return std::nullopt;
 }
 
 bool DialogTable::SetColor(const std::string& row, const std::string& column,
                            ProUIColorType color) const {
-  return Done("ProUITableCellBackgroundColorSet",
-              ProUITableCellBackgroundColorSet(dialog_.name(), component_.c_str(), row.c_str(),
-                                               column.c_str(), color));
+  return CellDone(row, column, "ProUITableCellBackgroundColorSet",
+                  ProUITableCellBackgroundColorSet(dialog_.name(), component_.c_str(), row.c_str(),
+                                                   column.c_str(), color));
 }
 
 }  // namespace qm

@@ -35,10 +35,11 @@ class DialogTable {
   // One label for each column, in their order.
   bool SetColumnLabels(std::vector<std::wstring> labels) const;
 
-  // Empty when nothing was written to the cell, or when it cannot be read, which is logged.
-  std::wstring Label(const std::string& row, const std::string& column) const;
+  // Empty when nothing was written to the cell; nothing, after a line in the run log, when it
+  // cannot be read.
+  std::optional<std::wstring> Label(const std::string& row, const std::string& column) const;
   bool SetLabel(const std::string& row, const std::string& column, std::wstring label) const;
-  // Nothing for a cell that was not coloured.
+  // A negative number for a cell that was not coloured; nothing as above.
   std::optional<ProUIColorType> Color(const std::string& row, const std::string& column) const;
   bool SetColor(const std::string& row, const std::string& column, ProUIColorType color) const;
 

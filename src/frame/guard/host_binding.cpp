@@ -13,6 +13,9 @@ void ReportMissingFunctions() {}
 HostBinding CurrentHostBinding() {
   return {.by_vendor_library = true};
 }
+bool IsForeignHost() {
+  return false;
+}
 
 #else
 
@@ -42,6 +45,7 @@ void ReportMissingFunctions() {
 
 HostBinding CurrentHostBinding() {
   HostBinding binding;
+  binding.declared = DeclaredFunctions();
   for (const HostEntry* entry = HostEntry::first(); entry != nullptr; entry = entry->next()) {
     ++binding.looked_up;
     if (entry->bound()) {
@@ -51,6 +55,10 @@ HostBinding CurrentHostBinding() {
     }
   }
   return binding;
+}
+
+bool IsForeignHost() {
+  return !IsAnyFunctionOffered();
 }
 
 #endif

@@ -12,11 +12,15 @@ void ReportMissingFunctions();
 
 struct HostBinding {
   bool by_vendor_library = false;  // then the loader has bound everything and nothing is counted
+  int declared = 0;                // all that the plug-in may call
   int looked_up = 0;
   int bound = 0;
   std::vector<std::string> missing;
 };
 
 HostBinding CurrentHostBinding();
+
+// Whether the process offers none of the functions: it is no host that the plug-in could serve.
+bool IsForeignHost();
 
 }  // namespace qm

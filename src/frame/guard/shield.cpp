@@ -2,11 +2,11 @@
 #include "frame/guard/shield.h"
 
 #include <exception>
-#include <string>
 
 #include "frame/guard/busy.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
+#include "frame/text/fixed_line.h"
 
 namespace qm {
 namespace {
@@ -21,7 +21,13 @@ void LogException(const char* where) noexcept {
     try {
       throw;
     } catch (const std::exception& error) {
-      LogEvent("internal error in " + std::string(where) + ": " + error.what());
+      // Memory may be what has run out.
+      FixedLine<512> line;
+      line += "internal error in ";
+      line += where;
+      line += ": ";
+      line += error.what();
+      LogEvent(line.text());
     }
   } catch (...) {
     LogEvent("internal error");
@@ -36,7 +42,9 @@ void ReportException(const char* where) noexcept {
 int RunCommand(const char* name, ProError (*action)()) noexcept {
   const BusyScope busy;
   if (!busy.taken()) {
-    LogEvent("another command was refused while this one runs");
+    // In a line of its own: the box is not what came of the command that runs.
+    CommandLog refused(name);
+    refused.set_status(PRO_TK_E_IN_USE);
     ShowMessage(kBusyText);
     return PRO_TK_E_IN_USE;
   }

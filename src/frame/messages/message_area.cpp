@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "frame/messages/run_log.h"
+
 namespace qm {
 
 void DisplayNote(const char* key, const wchar_t* argument) {
@@ -13,6 +15,12 @@ void DisplayNote(const char* key, const wchar_t* argument) {
   } else {
     ProMessageDisplay(file_name.data(), key);
   }
+}
+
+void NoteLeftOut(long long count) {
+  if (count <= 0) return;
+  LogLeftOutCount(count);
+  DisplayNote("Left out: %0w", std::to_wstring(count).c_str());
 }
 
 }  // namespace qm

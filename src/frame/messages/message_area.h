@@ -11,4 +11,8 @@ inline constexpr wchar_t kNoteFile[] = L"qmmsg_display.txt";
 // is never a reason to stop.
 void DisplayNote(const char* key, const wchar_t* argument = nullptr);
 
+// Says how many components, rows or cells a command could not work on, and that the run log has the
+// reasons; nothing when it has worked on all. Once, at a command's end.
+void NoteLeftOut(long long count);
+
 }  // namespace qm

@@ -3,17 +3,22 @@
 
 #include <windows.h>
 
+#include "frame/messages/run_log.h"
+
 namespace qm {
 
 void ShowMessage(const wchar_t* text) noexcept {
+  LogBox(text);
   ::MessageBoxW(nullptr, text, kCaption, MB_OK | MB_TOPMOST);
 }
 
 void ShowShortMessage(const wchar_t* text) noexcept {
+  LogBox(text);
   ::MessageBoxW(::GetActiveWindow(), text, kApplicationTitle, MB_OK);
 }
 
 void ShowShortWarning(const wchar_t* text) noexcept {
+  LogBox(text);
   ::MessageBoxW(::GetActiveWindow(), text, kApplicationTitle, MB_OK | MB_ICONEXCLAMATION);
 }
 

@@ -5,8 +5,10 @@
 
 #include <shlobj.h>
 
-#include <cstdio>
+#include <cwchar>
 #include <exception>
+#include <iterator>
+#include <string>
 
 #include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
@@ -22,38 +24,48 @@ constexpr long long kMaxFailureLines = 1000;
 
 constinit CommandLog* running_command = nullptr;
 
-// Path of `file` in the log's folder, which is made when it is missing; empty without a folder.
-std::wstring LogPath(const wchar_t* file) {
-  wchar_t folder[MAX_PATH] = {};
-  if (FAILED(::SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA | CSIDL_FLAG_CREATE, nullptr, 0,
-                                folder))) {
-    return {};
+// Lines that are not written yet, those of all running commands: the destructors and the shield's
+// way out must be able to log when there is no memory left.
+constinit FixedLine<kMaxPendingBytes> pending;
+
+// The path of a file in the log's folder; empty when there is no such folder.
+struct LogPath {
+  explicit LogPath(const wchar_t* file);
+  wchar_t path[MAX_PATH + 32] = {};
+};
+
+// The folder is made when it is missing.
+LogPath::LogPath(const wchar_t* file) {
+  if (FAILED(
+          ::SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA | CSIDL_FLAG_CREATE, nullptr, 0, path))) {
+    path[0] = L'\0';
+    return;
   }
-  const std::wstring log_folder = std::wstring(folder) + L"\\Quillmax";
-  ::CreateDirectoryW(log_folder.c_str(), nullptr);
-  return log_folder + L"\\" + file;
+  std::wcscat(path, L"\\Quillmax");
+  ::CreateDirectoryW(path, nullptr);
+  std::wcscat(path, file);
 }
 
-HANDLE OpenToAppend(const std::wstring& path) {
-  return ::CreateFileW(path.c_str(), FILE_APPEND_DATA | FILE_READ_ATTRIBUTES,
+HANDLE OpenToAppend(const LogPath& file) {
+  return ::CreateFileW(file.path, FILE_APPEND_DATA | FILE_READ_ATTRIBUTES,
                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
                        FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
 // The log file, opened so that `bytes` more fit below its bound.
 HANDLE OpenWithRoomFor(std::size_t bytes) {
-  const std::wstring path = LogPath(L"quillmax.log");
-  if (path.empty()) return INVALID_HANDLE_VALUE;
-  const HANDLE file = OpenToAppend(path);
+  const LogPath log(L"\\quillmax.log");
+  if (log.path[0] == L'\0') return INVALID_HANDLE_VALUE;
+  const HANDLE file = OpenToAppend(log);
   LARGE_INTEGER size = {};
   if (file == INVALID_HANDLE_VALUE || !::GetFileSizeEx(file, &size)) return file;
   if (size.QuadPart + static_cast<long long>(bytes) <= kMaxFileBytes) return file;
   ::CloseHandle(file);
-  ::MoveFileExW(path.c_str(), LogPath(L"quillmax.old.log").c_str(), MOVEFILE_REPLACE_EXISTING);
-  return OpenToAppend(path);
+  ::MoveFileExW(log.path, LogPath(L"\\quillmax.old.log").path, MOVEFILE_REPLACE_EXISTING);
+  return OpenToAppend(log);
 }
 
-void WriteLines(const std::string& lines) {
+void WriteLines(std::string_view lines) {
   if (lines.empty()) return;
   const HANDLE file = OpenWithRoomFor(lines.size());
   if (file == INVALID_HANDLE_VALUE) return;
@@ -62,16 +74,46 @@ void WriteLines(const std::string& lines) {
   ::CloseHandle(file);
 }
 
-std::string Stamped(std::string_view text) {
+void WritePending() {
+  WriteLines(pending.text());
+  pending.clear();
+}
+
+// A text that no buffer could hold is written in parts.
+void Add(std::string_view text) {
+  if (text.size() > pending.room()) WritePending();
+  if (text.size() > pending.room()) {
+    WriteLines(text);
+  } else {
+    pending += text;
+  }
+}
+
+using Stamp = FixedLine<32>;
+
+Stamp StampOfNow() {
   SYSTEMTIME now;
   ::GetLocalTime(&now);
-  char stamp[64];
-  std::snprintf(stamp, sizeof(stamp), "%04d-%02d-%02d %02d:%02d:%02d.%03d  ", now.wYear, now.wMonth,
-                now.wDay, now.wHour, now.wMinute, now.wSecond, now.wMilliseconds);
-  std::string line = stamp;
-  line += text;
-  line += "\r\n";
-  return line;
+  Stamp stamp;
+  stamp.AddNumber(now.wYear, 4) += "-";
+  stamp.AddNumber(now.wMonth, 2) += "-";
+  stamp.AddNumber(now.wDay, 2) += " ";
+  stamp.AddNumber(now.wHour, 2) += ":";
+  stamp.AddNumber(now.wMinute, 2) += ":";
+  stamp.AddNumber(now.wSecond, 2) += ".";
+  stamp.AddNumber(now.wMilliseconds, 3) += "  ";
+  return stamp;
+}
+
+// A line of up to three pieces, all of it in one file where that can be.
+void AddLine(std::string_view name, std::string_view separator, std::string_view text) {
+  constexpr std::string_view kEnd = "\r\n";
+  const Stamp stamp = StampOfNow();
+  const std::string_view pieces[] = {stamp.text(), name, separator, text, kEnd};
+  std::size_t size = 0;
+  for (const std::string_view piece : pieces) size += piece.size();
+  if (size > pending.room()) WritePending();
+  for (const std::string_view piece : pieces) Add(piece);
 }
 
 std::string LoggedName(ProMdl model) {
@@ -83,14 +125,11 @@ std::string LoggedName(ProMdl model) {
 }  // namespace
 
 void LogEvent(std::string_view text) noexcept {
-  try {
-    if (running_command != nullptr) {
-      running_command->AddLine(text);
-    } else {
-      WriteLines(Stamped(text));
-    }
-  } catch (...) {
-    // A line that cannot be logged is lost; the command goes on.
+  if (running_command != nullptr) {
+    AddLine(running_command->name_, ": ", text);
+  } else {
+    AddLine("", "", text);
+    WritePending();
   }
 }
 
@@ -106,7 +145,7 @@ void LogFailure(ProMdl model, const char* function, ProError status) noexcept {
     const ProMdl named = status == PRO_TK_BAD_INPUTS ? nullptr : model;
     LogEvent(LoggedName(named) + ": " + function + " answered " + StatusName(status));
   } catch (...) {
-    // As above; the failure stays counted.
+    // Without memory for the line the failure stays counted.
   }
 }
 
@@ -115,17 +154,46 @@ void LogFailure(std::wstring_view model_name, const char* function, ProError sta
   try {
     LogEvent(ToUtf8(model_name) + ": " + function + " answered " + StatusName(status));
   } catch (...) {
-    // As above.
+    // As for the one above.
   }
+}
+
+void LogLeftOut(const ProFeature& component, const char* function, ProError status) noexcept {
+  if (!CountFailure()) return;
+  try {
+    const ProMdl owner = status == PRO_TK_BAD_INPUTS ? nullptr : component.owner;
+    LogEvent(LoggedName(owner) + ", component " + std::to_string(component.id) +
+             " left out: " + function + " answered " + StatusName(status));
+  } catch (...) {
+    // As for the one above.
+  }
+}
+
+void LogOutcome(const char* what) noexcept {
+  if (running_command != nullptr) running_command->outcome_ = what;
+}
+
+void LogBox(const wchar_t* text) noexcept {
+  if (running_command == nullptr) return;
+  wchar_t* place = running_command->box_;
+  const wchar_t* const end = std::end(running_command->box_) - 1;
+  // On one line, without the tabs around it.
+  while (*text == L'\t') ++text;
+  for (; *text != L'\0' && place != end; ++text) {
+    if (*text != L'\t') *place++ = *text == L'\n' ? L' ' : *text;
+  }
+  *place = L'\0';
+}
+
+void LogLeftOutCount(long long count) noexcept {
+  if (running_command != nullptr) running_command->left_out_ += count;
 }
 
 void LogCount(const char* what, long long count) noexcept {
   if (running_command == nullptr) return;
-  try {
-    running_command->counts_ += ", " + std::to_string(count) + " " + what;
-  } catch (...) {
-    // As above.
-  }
+  running_command->counts_ += ", ";
+  running_command->counts_.AddNumber(count) += " ";
+  running_command->counts_ += what;
 }
 
 CommandLog::CommandLog(const char* name) noexcept
@@ -135,31 +203,53 @@ CommandLog::CommandLog(const char* name) noexcept
 
 CommandLog::~CommandLog() {
   running_command = outer_;
-  if (std::uncaught_exceptions() > 0) status_ = PRO_TK_GENERAL_ERROR;
-  try {
-    pending_ += Stamped(ClosingLine());
-    WriteLines(pending_);
-  } catch (...) {
-    // As above.
+  if (std::uncaught_exceptions() > 0) {
+    status_ = PRO_TK_GENERAL_ERROR;
+    stopped_ = true;
   }
+  AddClosingLine();
+  WritePending();
 }
 
-void CommandLog::AddLine(std::string_view text) {
-  pending_ += Stamped(std::string(name_) + ": " + std::string(text));
-  if (pending_.size() < kMaxPendingBytes) return;
-  WriteLines(pending_);
-  pending_.clear();
-}
-
-std::string CommandLog::ClosingLine() const {
-  const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start_;
-  char seconds[32];
-  std::snprintf(seconds, sizeof(seconds), "%.3f", elapsed.count());
-  std::string line = std::string(name_) + " ended with " + StatusName(status_) + " after " +
-                     seconds + " s" + counts_;
-  if (failures_ > 0) line += ", " + std::to_string(failures_) + " failures passed over";
+void CommandLog::AddClosingLine() const {
+  constexpr int kMillisecondsInSecond = 1000;
+  const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(
+                           std::chrono::steady_clock::now() - start_)
+                           .count();
+  FixedLine<1024> line;
+  line += " ended with ";
+  line += StatusName(status_);
+  line += " after ";
+  line.AddNumber(elapsed / kMillisecondsInSecond) += ".";
+  line.AddNumber(elapsed % kMillisecondsInSecond, 3) += " s";
+  line += counts_.text();
+  if (left_out_ > 0) (line += ", ").AddNumber(left_out_) += " left out";
+  if (failures_ > 0) (line += ", ").AddNumber(failures_) += " failures passed over";
   if (failures_ > kMaxFailureLines) line += " (only the first 1000 listed)";
-  return line;
+  line += ": ";
+  AddOutcome(&line);
+  AddLine(name_, "", line.text());
+}
+
+// What came of the command. Its status alone does not tell: many refusals are no errors to the
+// host.
+void CommandLog::AddOutcome(FixedLine<1024>* line) const {
+  if (stopped_) {
+    *line += "stopped by an internal error";
+  } else if (outcome_ != nullptr) {
+    *line += outcome_;
+  } else if (box_[0] != L'\0') {
+    constexpr int kBytesInCharacter = 3;
+    char text[kBytesInCharacter * std::size(box_)] = {};
+    ::WideCharToMultiByte(CP_UTF8, 0, box_, -1, text, sizeof(text), nullptr, nullptr);
+    ((*line += "told \"") += text) += "\"";
+  } else if (status_ == PRO_TK_USER_ABORT) {
+    *line += "cancelled";
+  } else if (!Ok(status_)) {
+    *line += "failed";
+  } else {
+    *line += left_out_ > 0 || failures_ > 0 ? "done in part" : "done";
+  }
 }
 
 }  // namespace qm

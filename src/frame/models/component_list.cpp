@@ -4,6 +4,7 @@
 #include "frame/models/component_list.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "frame/guard/visit.h"
 #include "frame/messages/run_log.h"
@@ -15,6 +16,9 @@ namespace {
 // Status flags of a feature that is no component to work on, although its type says so.
 constexpr int kSkippedStatusFlags = 130;
 
+// No feature is of this type.
+constexpr ProFeattype kNoFeattype = 0;
+
 enum class LevelFilter { kComponents, kShowAll };
 
 bool AcceptsType(LevelFilter filter, ProFeattype type) {
@@ -23,19 +27,51 @@ bool AcceptsType(LevelFilter filter, ProFeattype type) {
          (type == PRO_FEAT_TOP_LEVEL_1104 || type == PRO_FEAT_TOP_LEVEL_1232);
 }
 
-// `type` receives the type of an accepted feature.
-bool Accepts(LevelFilter filter, ProFeature& feature, ProFeattype* type) {
-  int flags = 0;
-  if (!Ok(ProFeatureStatusflagsGet(&feature, &flags)) || flags == kSkippedStatusFlags) return false;
-  return Ok(ProFeatureTypeGet(&feature, type)) && AcceptsType(filter, *type);
+// How a question to the host ended that decides whether a component belongs to a list. A success
+// that fills nothing in is a failure.
+struct Answer {
+  const char* function = nullptr;
+  ProError status = PRO_TK_NO_ERROR;
+  bool is_known = true;
+};
+
+// What an answer is before the host fills it in; none of its own, of which -1 is one.
+constexpr int kNoAnswer = std::numeric_limits<int>::min();
+
+Answer AskFlags(ProFeature& feature, int* flags) {
+  const ProError status = ProFeatureStatusflagsGet(&feature, flags);
+  return {"ProFeatureStatusflagsGet", status, Ok(status)};
 }
 
-bool IsActiveAndVisible(ProFeature& feature) {
-  ProFeatStatus status = PRO_FEAT_INVALID;
-  ProBoolean visible = PRO_B_FALSE;
-  return Ok(ProFeatureStatusGet(&feature, &status)) &&
-         Ok(ProFeatureVisibilityGet(&feature, &visible)) && visible == PRO_B_TRUE &&
-         status == PRO_FEAT_ACTIVE;
+Answer AskType(ProFeature& feature, ProFeattype* type) {
+  *type = kNoFeattype;
+  const ProError status = ProFeatureTypeGet(&feature, type);
+  return {"ProFeatureTypeGet", status, Ok(status) && *type != kNoFeattype};
+}
+
+Answer AskStatus(ProFeature& feature, ProFeatStatus* feature_status) {
+  const ProError status = ProFeatureStatusGet(&feature, feature_status);
+  return {"ProFeatureStatusGet", status,
+          Ok(status) && *feature_status != static_cast<ProFeatStatus>(kNoAnswer)};
+}
+
+Answer AskVisibility(ProFeature& feature, ProBoolean* visible) {
+  const ProError status = ProFeatureVisibilityGet(&feature, visible);
+  return {"ProFeatureVisibilityGet", status,
+          Ok(status) && (*visible == PRO_B_TRUE || *visible == PRO_B_FALSE)};
+}
+
+// Nothing but a part or an assembly can be placed.
+Answer AskModelType(ProMdl model, ProMdlType* type) {
+  const ProError status = ProMdlTypeGet(model, type);
+  return {"ProMdlTypeGet", status,
+          Ok(status) && (*type == PRO_MDL_PART || *type == PRO_MDL_ASSEMBLY)};
+}
+
+Answer AskSubtype(ProMdl model, ProMdlsubtype* subtype) {
+  const ProError status = ProMdlSubtypeGet(model, subtype);
+  return {"ProMdlSubtypeGet", status,
+          Ok(status) && *subtype != static_cast<ProMdlsubtype>(kNoAnswer)};
 }
 
 // A model as met during one collection. Models are known by number, so that all of them, and the
@@ -44,6 +80,7 @@ struct Node {
   ProMdl model = nullptr;
   ProMdlType type = PRO_MDL_UNUSED;
   bool sheet_metal = false;
+  Answer answer = {};  // the first one that told nothing, if any
   bool level_read = false;
   bool entered = false;  // on the way from the root to where the walk is
   bool walked = false;   // its components stand in the list already
@@ -72,6 +109,9 @@ class ComponentCollector {
     ReadLevel(top, top_filter);
     Walk(top);
     list_.size_ = std::min(list_.features_.size(), static_cast<int>(list_.models_.size()));
+    if (static_cast<size_t>(list_.size_) < list_.models_.size()) {
+      LeaveOut(LevelOf(root), "ProArraySizeGet", PRO_TK_GENERAL_ERROR);
+    }
     return PRO_TK_NO_ERROR;
   }
 
@@ -117,10 +157,10 @@ class ComponentCollector {
     const auto begin = static_cast<uint32_t>(placements_.size());
     ProFeattype type = 0;
     const ProError status = VisitFeatures(
-        model, [&](ProFeature& feature) { return Accepts(filter, feature, &type); },
-        [&](ProFeature& feature) { return ReadPlacement(model, feature, type); });
+        model, [&](ProFeature& feature) { return IsAccepted(filter, feature, &type); },
+        [&](ProFeature& feature) { return ReadPlacement(feature, type); });
     if (!Ok(status) && status != PRO_TK_CONTINUE && status != PRO_TK_E_NOT_FOUND) {
-      LogFailure(model, "ProSolidFeatVisit", status);
+      LeaveOut(LevelOf(model), "ProSolidFeatVisit", status);
     }
     Node& node = nodes_[assembly];
     node.level_read = true;
@@ -128,7 +168,44 @@ class ComponentCollector {
     node.level_end = static_cast<uint32_t>(placements_.size());
   }
 
-  ProError ReadPlacement(ProMdl assembly, ProFeature& feature, ProFeattype type) {
+  // Stands for the components of an assembly that cannot be told one by one.
+  static ProFeature LevelOf(ProMdl assembly) { return {PRO_FEATURE, -1, assembly}; }
+
+  void LeaveOut(const ProFeature& component, const char* function, ProError status) {
+    LogLeftOut(component, function, status);
+    list_.left_out_.push_back(component);
+  }
+  void LeaveOut(const ProFeature& component, const Answer& answer) {
+    LeaveOut(component, answer.function, answer.status);
+  }
+
+  // `type` receives the type of an accepted feature.
+  bool IsAccepted(LevelFilter filter, ProFeature& feature, ProFeattype* type) {
+    int flags = 0;
+    const Answer flags_answer = AskFlags(feature, &flags);
+    if (flags_answer.is_known && flags == kSkippedStatusFlags) return false;
+    // Asked even when the flags are not known: a feature of another type is not missed.
+    const Answer type_answer = AskType(feature, type);
+    if (type_answer.is_known && !AcceptsType(filter, *type)) return false;
+    if (flags_answer.is_known && type_answer.is_known) return true;
+    LeaveOut(feature, flags_answer.is_known ? type_answer : flags_answer);
+    return false;
+  }
+
+  // One that is known to be inactive or invisible is not missed, whatever else is not known.
+  bool IsActiveAndVisible(ProFeature& feature) {
+    auto status = static_cast<ProFeatStatus>(kNoAnswer);
+    auto visible = static_cast<ProBoolean>(kNoAnswer);
+    const Answer status_answer = AskStatus(feature, &status);
+    const Answer visible_answer = AskVisibility(feature, &visible);
+    if (status_answer.is_known && status != PRO_FEAT_ACTIVE) return false;
+    if (visible_answer.is_known && visible != PRO_B_TRUE) return false;
+    if (status_answer.is_known && visible_answer.is_known) return true;
+    LeaveOut(feature, status_answer.is_known ? visible_answer : status_answer);
+    return false;
+  }
+
+  ProError ReadPlacement(ProFeature& feature, ProFeattype type) {
     if (!IsActiveAndVisible(feature)) return PRO_TK_NO_ERROR;
     placements_.push_back({feature, kNoNode});
     ProMdl model = nullptr;
@@ -136,11 +213,15 @@ class ComponentCollector {
     if (!Ok(status) || model == nullptr) {
       // The further types of the show-all command need not place a model: nothing is missing then.
       if (type != PRO_FEAT_COMPONENT) return PRO_TK_NO_ERROR;
-      LogFailure(assembly, "ProAsmcompMdlGet", status);
-      // As an action's answer this ends the level: what follows the missing model is not listed.
+      LeaveOut(feature, "ProAsmcompMdlGet", status);
+      // As an action's answer this ends the level: what follows the missing model is not listed,
+      // and how much that is nobody counts.
+      LogEvent("what stands behind it in the same assembly is left out, too");
       return PRO_TK_CONTINUE;
     }
-    placements_.back().node = NodeOf(model);
+    const NodeNumber node = NodeOf(model);
+    placements_.back().node = node;
+    if (!nodes_[node].answer.is_known) LeaveOut(feature, nodes_[node].answer);
     return PRO_TK_NO_ERROR;
   }
 
@@ -152,15 +233,14 @@ class ComponentCollector {
 
   Node ReadNode(ProMdl model) const {
     Node node{model};
-    const ProError status = ProMdlTypeGet(model, &node.type);
-    if (!Ok(status)) {
-      node.type = PRO_MDL_UNUSED;
-      LogFailure(model, "ProMdlTypeGet", status);
-    }
+    node.answer = AskModelType(model, &node.type);
+    if (!node.answer.is_known) node.type = PRO_MDL_UNUSED;
     if (kind_ == ComponentKind::kSheetMetal && node.type != PRO_MDL_ASSEMBLY) {
-      ProMdlsubtype subtype = PROMDLSTYPE_UNUSED;
-      node.sheet_metal =
-          Ok(ProMdlSubtypeGet(model, &subtype)) && subtype == PROMDLSTYPE_PART_SHEETMETAL;
+      auto subtype = static_cast<ProMdlsubtype>(kNoAnswer);
+      const Answer answer = AskSubtype(model, &subtype);
+      node.sheet_metal = answer.is_known && subtype == PROMDLSTYPE_PART_SHEETMETAL;
+      // A sheet-metal part is a part, whatever else is not known.
+      if (node.answer.is_known || node.sheet_metal) node.answer = answer;
     }
     return node;
   }
@@ -176,7 +256,7 @@ class ComponentCollector {
   void List(const Placement& placement, bool repeated) {
     const ProError status = list_.features_.Append(placement.feature);
     if (!Ok(status)) {
-      LogFailure(placement.feature.owner, "ProArrayObjectAdd", status);
+      LeaveOut(placement.feature, "ProArrayObjectAdd", status);
       return;
     }
     ComponentList::Model model{nullptr, PRO_MDL_UNUSED, repeated};

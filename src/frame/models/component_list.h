@@ -34,6 +34,10 @@ class ComponentList {
   // True when the same feature stands further up: its assembly is placed several times.
   bool repeated(int index) const { return models_[static_cast<size_t>(index)].repeated; }
 
+  // Components of which the host does not tell whether they belong here, each once, and assemblies
+  // whose levels could not be read: what is not in the list, or what they hold is not.
+  const std::vector<ProFeature>& left_out() const { return left_out_; }
+
  private:
   friend class ComponentCollector;
   struct Model {
@@ -44,12 +48,13 @@ class ComponentList {
 
   HostArray<ProFeature> features_;
   std::vector<Model> models_;  // beside each feature, so that nobody asks the host again
+  std::vector<ProFeature> left_out_;
   int size_ = 0;
 };
 
 // Fills `list` with the active, visible components of one kind under `root`. Subassemblies are
 // entered whatever the kind. A component whose model is not in session ends its level. Fails only
-// when the array cannot be allocated; what cannot be read is left out and logged.
+// when the array cannot be allocated; what cannot be read is left out, counted and logged.
 ProError CollectComponents(ProSolid root, ComponentKind kind, ComponentList* list);
 
 // All kinds, and on the top level also the further feature types that the show-all command accepts.

@@ -10,7 +10,8 @@ namespace qm {
 std::optional<std::wstring> ModelName(ProMdl model) {
   ProName name{};
   const ProError status = ProMdlNameGet(model, name);
-  if (!Ok(status)) {
+  // No model is without a name.
+  if (!Ok(status) || name[0] == L'\0') {
     LogFailure(nullptr, "ProMdlNameGet", status);
     return std::nullopt;
   }

@@ -1,6 +1,7 @@
 // Collection with its two refusals.
 #include "frame/models/opening.h"
 
+#include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/current_assembly.h"
@@ -15,13 +16,15 @@ Collect ComponentsOf(ComponentKind kind) {
 }
 
 Opening OpenAssembly(ProMdl root, const Collect& collect, const wchar_t* none) {
-  Opening opening{root, {}, PRO_TK_NO_ERROR};
+  Opening opening{root, {}, PRO_TK_NO_ERROR, 0};
   opening.status = collect(root, &opening.components);
+  opening.left_out = static_cast<long long>(opening.components.left_out().size());
   std::optional<int> count;
   if (Ok(opening.status)) count = opening.components.size();
   if (HasComponents(count, none)) {
     LogCount("components", opening.components.size());
   } else {
+    NoteLeftOut(opening.left_out);
     opening.components = ComponentList();
   }
   return opening;
@@ -29,7 +32,9 @@ Opening OpenAssembly(ProMdl root, const Collect& collect, const wchar_t* none) {
 
 Opening OpenCurrentAssembly(const Collect& collect, const wchar_t* none) {
   const auto root = CurrentAssembly();
-  return root ? OpenAssembly(*root, collect, none) : Opening();
+  if (root) return OpenAssembly(*root, collect, none);
+  LogOutcome("nothing done, no current assembly");
+  return Opening();
 }
 
 bool HasComponents(std::optional<int> count, const wchar_t* none) {

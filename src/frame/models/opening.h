@@ -17,6 +17,7 @@ struct Opening {
   ProMdl root = nullptr;
   ComponentList components;           // empty: there is nothing to work on, ...
   ProError status = PRO_TK_NO_ERROR;  // ... and this is the command's answer
+  long long left_out = 0;             // what the command tells when it has done its work
 };
 
 // The components under `root`. When there are none the user reads `none`.

@@ -24,18 +24,20 @@ std::wstring ValueText(const ProParamvalue& value) {
   }
 }
 
-std::wstring ParameterText(const ProModelitem& owner, const std::wstring& name) {
-  // A longer name would be cut and might then be another parameter's.
-  if (name.size() >= PRO_NAME_SIZE) return {};
-  HostName host_name(name);
-  const auto value = ReadParameter(owner, host_name);
-  return value ? ValueText(*value) : std::wstring();
+std::optional<std::wstring> ParameterText(const ProModelitem& owner, const std::wstring& name) {
+  auto host_name = HostName::From(name);
+  // No parameter has a longer name.
+  if (!host_name) return std::wstring();
+  const ReadValue read = ReadParameter(owner, *host_name);
+  if (!read.is_known) return std::nullopt;
+  return read.value ? ValueText(*read.value) : std::wstring();
 }
 
 }  // namespace
 
-std::vector<std::wstring> ParameterTexts(ProMdl model, const std::vector<std::wstring>& names) {
-  std::vector<std::wstring> texts(names.size());
+std::vector<std::optional<std::wstring>> ParameterTexts(ProMdl model,
+                                                        const std::vector<std::wstring>& names) {
+  std::vector<std::optional<std::wstring>> texts(names.size());
   ProModelitem item{};
   const ProError status = ProMdlToModelitem(model, &item);
   if (!Ok(status) || item.owner == nullptr) {

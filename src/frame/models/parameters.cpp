@@ -4,36 +4,56 @@
 #include <cstring>
 
 #include "frame/messages/run_log.h"
+#include "frame/text/letter_case.h"
 #include "toolkit/status.h"
 
 namespace qm {
 namespace {
 
+// False when the value does not fit.
 struct HostValueFiller {
   ProParamvalue& host;
-  void operator()(int value) const {
+  bool operator()(int value) const {
     host.type = PRO_PARAM_INTEGER;
     host.value.i_val = value;
+    return true;
   }
-  void operator()(double value) const {
+  bool operator()(double value) const {
     host.type = PRO_PARAM_DOUBLE;
     host.value.d_val = value;
+    return true;
   }
-  void operator()(const std::wstring& value) const {
+  bool operator()(const std::wstring& value) const {
     host.type = PRO_PARAM_STRING;
-    FillFixedText(value, host.value.s_val);
+    return FillFixedText(value, host.value.s_val);
   }
-  void operator()(bool value) const {
+  bool operator()(bool value) const {
     host.type = PRO_PARAM_BOOLEAN;
     host.value.l_val = value ? 1 : 0;
+    return true;
   }
 };
 
+constexpr ParameterResult kUnknownRecord = {
+    "ProParameterInit, whose record is in an order that is not known,", PRO_TK_INVALID_ITEM};
+
+// Whether a filled record is that of the asked name. If not, its members stand elsewhere than we
+// think, and what is done by it might be done to another parameter.
+bool IsNamed(const ProParameter& parameter, const HostName& name) {
+  return EqualIgnoringCase(FixedText(parameter.id), FixedText(name.name));
+}
+
+// For those who change the parameter.
+ParameterResult FindToChange(const ProModelitem& owner, HostName& name, ProParameter* parameter) {
+  const ParameterResult found = FindParameter(owner, name, parameter);
+  return !Ok(found.status) || IsNamed(*parameter, name) ? found : kUnknownRecord;
+}
+
 }  // namespace
 
-ProParamvalue HostValue(const ParamValue& value) {
+std::optional<ProParamvalue> HostValue(const ParamValue& value) {
   ProParamvalue host{};
-  std::visit(HostValueFiller{host}, value);
+  if (!std::visit(HostValueFiller{host}, value)) return std::nullopt;
   return host;
 }
 
@@ -53,14 +73,14 @@ ParameterResult CreateParameter(ProModelitem owner, HostName& name, ProParamvalu
 
 ParameterResult SetParameter(ProModelitem owner, HostName& name, ProParamvalue value) {
   ProParameter parameter{};
-  const ParameterResult found = FindParameter(owner, name, &parameter);
+  const ParameterResult found = FindToChange(owner, name, &parameter);
   if (!Ok(found.status)) return found;
   return {"ProParameterValueSet", ProParameterValueSet(&parameter, &value)};
 }
 
 ParameterResult DeleteParameter(ProModelitem owner, HostName& name) {
   ProParameter parameter{};
-  const ParameterResult found = FindParameter(owner, name, &parameter);
+  const ParameterResult found = FindToChange(owner, name, &parameter);
   if (!Ok(found.status)) return found;
   return {"ProParameterDelete", ProParameterDelete(&parameter)};
 }
@@ -70,23 +90,25 @@ ParameterResult SetOrCreateParameter(ProModelitem owner, HostName& name, ProPara
   if (!Ok(FindParameter(owner, name, &parameter).status)) {
     return CreateParameter(owner, name, value);
   }
+  if (!IsNamed(parameter, name)) return kUnknownRecord;
   return {"ProParameterValueSet", ProParameterValueSet(&parameter, &value)};
 }
 
-std::optional<ProParamvalue> ReadParameter(ProModelitem owner, HostName& name) {
+ReadValue ReadParameter(ProModelitem owner, HostName& name) {
   ProParameter parameter{};
   const ParameterResult found = FindParameter(owner, name, &parameter);
+  // Most models lack some of the parameters.
+  if (found.status == PRO_TK_E_NOT_FOUND) return {};
   if (!Ok(found.status)) {
-    // Most models lack some of the parameters.
-    if (found.status != PRO_TK_E_NOT_FOUND) LogFailure(owner.owner, found.function, found.status);
-    return std::nullopt;
+    LogFailure(owner.owner, found.function, found.status);
+    return {std::nullopt, false};
   }
   ProParamvalue value{};
-  value.type = PRO_PARAM_VOID;
   const ProError status = ProParameterValueGet(&parameter, &value);
-  if (Ok(status)) return value;
+  // No value is of type 0.
+  if (Ok(status) && static_cast<int>(value.type) != 0) return {value};
   LogFailure(owner.owner, "ProParameterValueGet", status);
-  return std::nullopt;
+  return {std::nullopt, false};
 }
 
 }  // namespace qm

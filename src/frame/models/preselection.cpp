@@ -14,7 +14,8 @@ std::optional<SelectionArray> ReadPreselection() {
 std::optional<ProModelitem> ItemOf(ProSelection selection) {
   ProModelitem item = {PRO_TYPE_INVALID, -1, nullptr};
   if (selection == nullptr || !Ok(ProSelectionModelitemGet(selection, &item))) return std::nullopt;
-  return item;
+  // An answer that filled nothing in is none.
+  return item.type != PRO_TYPE_INVALID ? std::optional(item) : std::nullopt;
 }
 
 ProMdl ComponentModelOf(ProSelection selection) {

@@ -11,9 +11,10 @@
 namespace qm {
 
 ProMdl RetrieveModel(std::wstring_view name, ProMdlType type) {
-  HostName host_name(name);
+  auto host_name = RetrievalName::From(name);
   ProMdl model = nullptr;
-  const ProError status = ProMdlRetrieve(host_name.name, type, &model);
+  const ProError status =
+      host_name ? ProMdlRetrieve(host_name->name, type, &model) : PRO_TK_LINE_TOO_LONG;
   if (Ok(status) && model != nullptr) return model;
   LogEvent("ProMdlRetrieve of " + ToUtf8(name) + " answered " + StatusName(status));
   return nullptr;

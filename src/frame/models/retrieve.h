@@ -7,8 +7,9 @@
 
 namespace qm {
 
-// The model in session, or loaded from the working directory. Null, after a line in the log, when
-// it cannot be had; a success without a model counts as that.
+// The model in session, or loaded from the working directory; or from the full path of its file.
+// Null, after a line in the log, when it cannot be had; a success without a model counts as that,
+// and a name that is too long for any.
 ProMdl RetrieveModel(std::wstring_view name, ProMdlType type);
 
 }  // namespace qm

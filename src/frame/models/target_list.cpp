@@ -38,6 +38,7 @@ std::optional<TargetList> CollectTargets(const CurrentModel& top, std::string_vi
   ComponentList components;
   if (!Ok(CollectComponents(top.model, target_class->components, &components))) return std::nullopt;
   targets.component_count = components.size();
+  targets.left_out = static_cast<long long>(components.left_out().size());
   if (target_class->with_top) targets.models.push_back(top.model);
   for (int i = 0; i < components.size(); ++i) {
     if (components.model(i) != nullptr) targets.models.push_back(components.model(i));

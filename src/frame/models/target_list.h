@@ -12,6 +12,7 @@ namespace qm {
 struct TargetList {
   int component_count = 0;     // components collected, repeated placements included
   std::vector<ProMdl> models;  // sorted by handle, each once
+  long long left_out = 0;      // components that could not be collected
 };
 
 // Collects the targets under `top`. `class_name` is the name of a radio button: "AsmAndPart" (every

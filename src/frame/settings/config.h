@@ -1,8 +1,9 @@
 // Settings in INI files of the folder "QMconfig" beside the plug-in. Nothing is kept in memory:
 // every reader asks the file at the moment it needs a value. A missing folder, file, section or key
-// reads as the empty text, and a failed write is not reported.
+// reads as the empty text.
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace qm {
@@ -22,14 +23,22 @@ inline constexpr wchar_t kContentKey[] = L"content";
 // name, a path that does not exist.
 std::wstring ConfigPath(const wchar_t* file);
 
-// The same, starting from the text folder that the host registered for the plug-in; the plug-in's
+// Path of a file or folder of the installation, beside the plug-in; the same holds for it.
+std::wstring InstalledPath(const wchar_t* name);
+
+// The path of a settings file, starting from the text folder that the host registered for the plug-in; the plug-in's
 // own folder when the host does not tell.
 std::wstring TextFolderConfigPath(const wchar_t* file);
 
-// At most 254 characters; longer values are cut.
+// At most 254 characters; longer values are cut. Nothing when the file is there and cannot be read,
+// as far as that can be told: for those who write the value back.
+std::optional<std::wstring> TryReadSetting(const wchar_t* section, const wchar_t* key,
+                                           const std::wstring& path);
+// The same; what cannot be read is empty as well.
 std::wstring ReadSetting(const wchar_t* section, const wchar_t* key, const std::wstring& path);
 
-void WriteSetting(const wchar_t* section, const wchar_t* key, const std::wstring& value,
+// False when the file has not taken it.
+bool WriteSetting(const wchar_t* section, const wchar_t* key, const std::wstring& value,
                   const std::wstring& path);
 
 }  // namespace qm

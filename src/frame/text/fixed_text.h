@@ -17,12 +17,15 @@ std::wstring_view FixedText(const wchar_t (&buffer)[Size]) {
   return {buffer, static_cast<std::size_t>(end - buffer)};
 }
 
-// Fills the buffer and closes it; what does not fit is cut.
+// Fills the buffer and closes it. False, and the buffer is empty, when the text does not fit: cut,
+// it would name something else.
 template <std::size_t Size>
-void FillFixedText(std::wstring_view text, wchar_t (&buffer)[Size]) {
-  const std::size_t length = std::min(text.size(), Size - 1);
+[[nodiscard]] bool FillFixedText(std::wstring_view text, wchar_t (&buffer)[Size]) {
+  const bool fits = text.size() < Size;
+  const std::size_t length = fits ? text.size() : 0;
   std::copy_n(text.begin(), length, buffer);
   std::fill(buffer + length, std::end(buffer), L'\0');
+  return fits;
 }
 
 }  // namespace qm

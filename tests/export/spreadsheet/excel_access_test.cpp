@@ -49,12 +49,18 @@ class ExcelAccess : public HostFixture {
     return FromWide(texts);
   }
 
-  // Text of the only box since the last call; "" when there was none.
-  std::string TakeBox() {
-    const auto boxes = host_.events.All<MessageBox>();
+  // Texts of the boxes since the last call.
+  Lines TakeBoxes() {
+    Lines texts;
+    for (const MessageBox& box : host_.events.All<MessageBox>()) texts.push_back(box.text);
     host_.events.Forget<MessageBox>();
-    EXPECT_LE(boxes.size(), 1u);
-    return boxes.empty() ? "" : boxes[0].text;
+    return texts;
+  }
+  // The same for the only one; "" when there was none.
+  std::string TakeBox() {
+    const Lines texts = TakeBoxes();
+    EXPECT_LE(texts.size(), 1u);
+    return texts.empty() ? "" : texts[0];
   }
   std::vector<std::string> ExcelCalls() const {
     std::vector<std::string> names;
@@ -89,8 +95,28 @@ class ExcelAccess : public HostFixture {
     host_.user = nullptr;
     return chosen ? FromWide(path) : "none";
   }
-  bool IsFree(const fs::path& file, bool deletes) const {
-    return Find<CheckProbe>("CheckFree")(file.c_str(), deletes);
+  bool IsFree(const fs::path& file) const { return Find<CheckProbe>("CheckFree")(file.c_str()); }
+  // Holds a file open, as a program does that shows it.
+  static HANDLE Hold(const fs::path& file) {
+    return ::CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                         FILE_ATTRIBUTE_NORMAL, nullptr);
+  }
+  // Orders the call that saves the file to fail. Shortly before, or so many calls before it,
+  // `action` happens: the program rejects a call once, to be asked again after a pause.
+  void FailSavingAfter(long calls_before, const std::function<void()>& action) {
+    spreadsheet_.Order({});
+    ASSERT_TRUE(Write());
+    const Lines calls = ExcelCalls();
+    const auto saving = std::ranges::find(calls, "Workbook.SaveCopyAs") - calls.begin();
+    host_.trace.Restart();
+    fs::remove(file_);
+    spreadsheet_.Order({.busy = 1,
+                        .busy_after = static_cast<long>(saving) - calls_before,
+                        .fail_at = 1,
+                        .fail_member = "Workbook.SaveCopyAs"});
+    host_.windows.in_pause = [action, done = false]() mutable {
+      if (!std::exchange(done, true)) action();
+    };
   }
   std::string Log() const {
     std::ifstream log(folder_ / "Quillmax" / "quillmax.log");
@@ -158,27 +184,41 @@ TEST_F(ExcelAccess, AFailureAtAnyCallOfTheReaderLeavesNothingRunning) {
   EXPECT_EQ(Breaches(), Lines());
 }
 
-TEST_F(ExcelAccess, AFailureAtAnyCallOfTheWriterLeavesNoFile) {
+// Up to the call that saves it; after that the file is there to stay.
+TEST_F(ExcelAccess, AFailureAtAnyCallOfTheWriterLeavesTheFileThatWasThere) {
   for (const FailureWay& way : kFailureWays) {
-    fs::remove(file_);
-    const auto check = [&](int nth) { EXPECT_FALSE(fs::exists(file_)) << nth; };
-    EXPECT_GT(FailEachCall(
-                  way, [&] { return Write(); }, check),
-              40)
-        << way.reason;
-    EXPECT_TRUE(fs::exists(file_));
+    for (const bool had_file : {false, true}) {
+      fs::remove(file_);
+      if (had_file) WriteFile("table.xlsx", "old");
+      const auto check = [&](int nth) {
+        ASSERT_EQ(fs::exists(file_), had_file) << nth;
+        EXPECT_EQ(had_file ? fs::file_size(file_) : 3u, 3u) << nth;
+      };
+      EXPECT_GT(FailEachCall(
+                    way, [&] { return Write(); }, check),
+                40)
+          << way.reason;
+      EXPECT_GT(fs::file_size(file_), 3u);
+      EXPECT_FALSE(fs::exists(folder_ / "table.old.xlsx"));
+    }
   }
   EXPECT_EQ(Breaches(), Lines());
 }
 
-TEST_F(ExcelAccess, AFileThatWasNotTouchedYetSurvivesAFailure) {
-  WriteFile("table.xlsx", "old");
-  SpreadsheetOrders orders;
-  orders.fail_at = 1;
-  orders.fail_member = "Range.Merge";
-  spreadsheet_.Order(orders);
-  EXPECT_FALSE(Write());
-  EXPECT_EQ(fs::file_size(file_), 3u);
+TEST_F(ExcelAccess, ASavedFileStaysWhicheverLaterCallFails) {
+  ASSERT_TRUE(Write());
+  const auto count = static_cast<long>(ExcelCalls().size());
+  for (const FailureWay& way : kFailureWays) {
+    for (const long nth : {count - 1, count}) {
+      fs::remove(file_);
+      spreadsheet_.Order(way.orders(nth));
+      EXPECT_TRUE(Write()) << nth;
+      EXPECT_TRUE(fs::exists(file_)) << nth;
+      EXPECT_TRUE(spreadsheet_.Gone()) << nth;
+      EXPECT_EQ(TakeBox(), "") << nth;
+    }
+  }
+  EXPECT_EQ(Breaches(), Lines());
 }
 
 // Not to be asked again for 30 seconds at each step of the clearing up, too.
@@ -187,7 +227,10 @@ TEST_F(ExcelAccess, AProgramThatIsBusyForGoodIsGivenUpAfterThirtySeconds) {
   orders.busy = 1'000'000;
   spreadsheet_.Order(orders);
   EXPECT_FALSE(Write());
-  EXPECT_NE(TakeBox().find("步骤：Workbooks\t\n\t原因：程序正忙，没有应答"), std::string::npos);
+  const Lines boxes = TakeBoxes();
+  ASSERT_EQ(boxes.size(), 2u);
+  EXPECT_NE(boxes[0].find("步骤：Workbooks\t\n\t原因：程序正忙，没有应答"), std::string::npos);
+  EXPECT_EQ(boxes[1], "\tExcel没有退出，请在任务管理器中结束该进程。\t");
   EXPECT_GE(host_.windows.slept_ms, 30'000u);
   EXPECT_LE(host_.windows.slept_ms, 34'000u);
   EXPECT_EQ(spreadsheet_.Settle(0), Lines()) << "no object is kept";
@@ -218,8 +261,7 @@ TEST_F(ExcelAccess, AnUnfinishedFileIsDeletedOnceItsHolderLetsGo) {
   const auto write_and_hold = [](void* data) {
     auto& to = *static_cast<Holder*>(data);
     std::ofstream(to.file) << "half";
-    to.handle = ::CreateFileW(to.file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                              OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    to.handle = Hold(to.file);
   };
   host_.windows.in_pause = [&] {
     if (host_.windows.slept_ms == 300) ::CloseHandle(holder.handle);
@@ -236,23 +278,36 @@ TEST_F(ExcelAccess, AnUnfinishedFileIsDeletedOnceItsHolderLetsGo) {
   ::CloseHandle(holder.handle);
 }
 
-TEST_F(ExcelAccess, AnUnfinishedFileThatStaysIsTold) {
-  EXPECT_TRUE(Write());
-  fs::remove(file_);
-  // Somebody takes hold of the file between its saving and the call that fails.
-  const auto saving = static_cast<long>(ExcelCalls().size()) - 2;
-  spreadsheet_.Order(
-      {.busy = 1, .busy_after = saving, .fail_at = 1, .fail_member = "Workbook.Saved="});
+TEST_F(ExcelAccess, WhatCannotBeClearedAwayIsToldWithItsPlace) {
+  for (const bool had_file : {false, true}) {
+    HANDLE held = INVALID_HANDLE_VALUE;
+    // Somebody takes hold of what is being saved.
+    FailSavingAfter(0, [&] {
+      WriteFile("table.xlsx", "half");
+      held = Hold(file_);
+    });
+    if (had_file) WriteFile("table.xlsx", "old");
+    EXPECT_FALSE(Write());
+    const std::string aside = PathToUtf8(folder_ / "table.old.xlsx");
+    EXPECT_TRUE(TakeBox().starts_with(
+        "\t导出Excel失败，未完成的文件无法删除，请手动删除：" + PathToUtf8(file_) +
+        (had_file ? "\t\n\t原有文件已保留为：" + aside : "") + "\t\n\t步骤：SaveCopyAs\t"));
+    EXPECT_EQ(fs::exists(folder_ / "table.old.xlsx"), had_file);
+    ::CloseHandle(held);
+    fs::remove(file_);
+  }
+}
+
+TEST_F(ExcelAccess, AFileThatIsOpenedMeanwhileIsReportedAndKept) {
   HANDLE held = INVALID_HANDLE_VALUE;
-  host_.windows.in_pause = [&] {
-    if (held != INVALID_HANDLE_VALUE) return;
-    held = ::CreateFileW(file_.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                         FILE_ATTRIBUTE_NORMAL, nullptr);
-  };
+  FailSavingAfter(1, [&] { held = Hold(file_); });
+  WriteFile("table.xlsx", "old");
   EXPECT_FALSE(Write());
-  EXPECT_TRUE(TakeBox().starts_with("\t导出Excel失败，未完成的文件无法删除，请手动删除：" +
-                                    PathToUtf8(file_) + "\t\n\t步骤：Saved\t"));
+  EXPECT_EQ(TakeBox(), PathToUtf8(file_) + "文件已在excel打开，请关闭后重试");
   ::CloseHandle(held);
+  EXPECT_EQ(fs::file_size(file_), 3u);
+  EXPECT_FALSE(fs::exists(folder_ / "table.old.xlsx"));
+  EXPECT_TRUE(spreadsheet_.Gone());
 }
 
 TEST_F(ExcelAccess, TheTableToReadIsAskedForInAnOpenDialog) {
@@ -276,21 +331,21 @@ TEST_F(ExcelAccess, AFileDialogThatFailsIsToldFromACancelInTheLog) {
   EXPECT_NE(Log().find("the file dialog failed with error 65535"), std::string::npos) << Log();
 }
 
-TEST_F(ExcelAccess, AFileHeldOpenIsReportedAndKept) {
+TEST_F(ExcelAccess, AFileThatCannotBeReplacedIsReportedAndTheCheckChangesNothing) {
   WriteFile("table.xlsx", "old");
-  const HANDLE held = ::CreateFileW(file_.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-  for (const bool deletes : {false, true}) {
-    EXPECT_FALSE(IsFree(file_, deletes));
-    EXPECT_EQ(TakeBox(), PathToUtf8(file_) + "文件已在excel打开，请关闭后重试");
-  }
+  const std::string refusal = PathToUtf8(file_) + "文件已在excel打开，请关闭后重试";
+  const HANDLE held = Hold(file_);
+  EXPECT_FALSE(IsFree(file_));
+  EXPECT_EQ(TakeBox(), refusal);
   ::CloseHandle(held);
-  EXPECT_TRUE(IsFree(file_, false));
-  EXPECT_EQ(fs::file_size(file_), 3u) << "the check alone deletes nothing";
-  EXPECT_TRUE(IsFree(file_, true));
-  EXPECT_FALSE(fs::exists(file_));
-  EXPECT_TRUE(IsFree(file_, true));
-  EXPECT_TRUE(IsFree(folder_ / "no folder" / "table.xlsx", false));
+  ::SetFileAttributesW(file_.c_str(), FILE_ATTRIBUTE_READONLY);
+  EXPECT_FALSE(IsFree(file_));
+  EXPECT_EQ(TakeBox(), refusal);
+  ::SetFileAttributesW(file_.c_str(), FILE_ATTRIBUTE_NORMAL);
+  EXPECT_TRUE(IsFree(file_));
+  EXPECT_EQ(fs::file_size(file_), 3u);
+  EXPECT_TRUE(IsFree(folder_ / "none.xlsx"));
+  EXPECT_TRUE(IsFree(folder_ / "no folder" / "table.xlsx"));
   EXPECT_EQ(TakeBox(), "");
 }
 

@@ -39,12 +39,12 @@ extern "C" __declspec(dllexport) bool ChooseTable(wchar_t* path, int size) {
   return choice.has_value();
 }
 
-extern "C" __declspec(dllexport) bool CheckFree(const wchar_t* path, bool deletes) {
-  return qm::IsFreeToWrite(path, deletes ? qm::OldFile::kDelete : qm::OldFile::kKeep);
+extern "C" __declspec(dllexport) bool CheckFree(const wchar_t* path) {
+  return qm::IsFreeToWrite(path);
 }
 
 extern "C" __declspec(dllexport) void BeginFile(const wchar_t* path, void (*write)(void*),
                                                 void* data) {
-  const qm::NewFile file(path);
-  write(data);
+  qm::NewFile file(path);
+  if (file.Begin() == ERROR_SUCCESS) write(data);
 }

@@ -14,8 +14,8 @@ using ReadProbe = bool (*)(const wchar_t* path, wchar_t* texts, int size);
 // The open dialog for a table; false when nothing was chosen.
 using ChooseProbe = bool (*)(wchar_t* path, int size);
 
-// Whether a file may be written; an old one is deleted first or kept.
-using CheckProbe = bool (*)(const wchar_t* path, bool deletes);
+// Whether a file may be written.
+using CheckProbe = bool (*)(const wchar_t* path);
 
 // Lets `write` begin a file that is then given up.
 using BeginProbe = void (*)(const wchar_t* path, void (*write)(void*), void* data);

@@ -34,6 +34,9 @@ TEST(KeywordFilter, ExcludesNamesThatBeginWithAKeyword) {
       {L"деталь", L"ДЕТАЛЬ-1", true},
       {L"ＧＢ", L"ｇｂ70", true},  // full-width letters
       {L"gb", L"ＧＢ70", false},
+      {L"ǆ", L"ǄEP", true},
+      {L"ǆ", L"ǅEP", true},
+      {L"Ș", L"șurub", true},  // with the comma below, behind the first two blocks of Latin letters
   };
   for (const Case& c : cases) {
     EXPECT_EQ(KeywordFilter(c.list).Excludes(c.name), c.excluded)
@@ -48,6 +51,7 @@ TEST(LowerCased, TurnsCapitalsOnlyAndKeepsTheLength) {
   EXPECT_EQ(LowerCased(L"ΆΈΌΏΑΡΣΫ"), L"άέόώαρσϋ");
   EXPECT_EQ(LowerCased(L"ЀЏАЯѠҀ"), L"ѐџаяѡҁ");
   EXPECT_EQ(LowerCased(L"ẞ零件Ⅳ"), L"ẞ零件ⅳ");
+  EXPECT_EQ(LowerCased(L"ƀƁƄƏǮǱǲǶǷȠȺȽɃɎ"), L"ƀɓƅəǯǳǳƕƿƞⱥƚƀɏ");
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ class OneDeed : public AbsentUser {
 class UiTable : public HostFixture {
  protected:
   UiTable() {
-    WriteFile("text/resource/Bill.res", kResource);
+    WriteFile("text/resource/Bill.res", std::string("\xEF\xBB\xBF") + kResource);
     EXPECT_EQ(ProUIDialogCreate(kDialog, kDialog), PRO_TK_NO_ERROR);
     host_.user = &user_;
   }

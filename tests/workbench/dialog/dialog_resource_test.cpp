@@ -171,14 +171,16 @@ INSTANTIATE_TEST_SUITE_P(Attributes, DialogResourceErrors, testing::ValuesIn(kBa
 INSTANTIATE_TEST_SUITE_P(Layouts, DialogResourceErrors, testing::ValuesIn(kBadLayouts), NameOf);
 INSTANTIATE_TEST_SUITE_P(Contents, DialogResourceErrors, testing::ValuesIn(kBadContents), NameOf);
 
-TEST(DialogResource, FileMustBeNamedAsItsDialog) {
+TEST(DialogResource, FileMustBeNamedAsItsDialogAndMarkedAsUtf8) {
   const TemporaryFolder temporary("dialog_resource_test");
   const std::filesystem::path& folder = temporary.path;
   for (const char* name : {"Sample.res", "Other.res"})
-    std::ofstream(folder / name) << kGoodResource;
+    std::ofstream(folder / name) << "\xEF\xBB\xBF" << kGoodResource;
   EXPECT_EQ(LoadDialogResource(folder / "Sample.res").name, "Sample");
   EXPECT_THROW(LoadDialogResource(folder / "Other.res"), ResourceError);
   EXPECT_THROW(LoadDialogResource(folder / "Missing.res"), ResourceError);
+  std::ofstream(folder / "Sample.res") << kGoodResource;  // read in the code page of the system
+  EXPECT_THROW(LoadDialogResource(folder / "Sample.res"), ResourceError);
 }
 
 }  // namespace

@@ -220,16 +220,5 @@ TEST_F(WorkbenchDialogTest, UserCannotDoWhatADialogDoesNotOffer) {
   EXPECT_EQ(Radio().Selected(), Names{"a"});
 }
 
-TEST_F(WorkbenchDialogTest, DescriptionListsEveryComponentWithItsState) {
-  dialog_.SetEnabled(FieldKind::kSubLayout, "Group", false);
-  Get<TextState>(FieldKind::kTextArea, "Area").SetValue("a\nb");
-  const std::string text = dialog_.DescribeComponents();
-  for (const char* line : {"RadioGroup Radio: a of a, b (greyed)\n", "InputPanel Field: \"x\"\n",
-                           "TextArea Area: \"a\\nb\"\n", "CheckButton Check: unset\n",
-                           "Table Bill: 0 rows x 3 columns\n"}) {
-    EXPECT_NE(text.find(line), std::string::npos) << line << "in\n" << text;
-  }
-}
-
 }  // namespace
 }  // namespace wb

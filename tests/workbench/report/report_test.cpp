@@ -45,7 +45,7 @@ struct Part {
 constexpr Part kParts[] = {
     {"Dialogs",
      [](CommandRecord& c) {
-       c.dialogs = {{"D", "line 7: press Ok", "<div class=\"dlg\"></div>"}};
+       c.dialogs = {{"D", "line 7: press Ok", "<div class=\"dlg\"></div>", ""}};
      }},
     {"Message boxes",
      [](CommandRecord& c) {
@@ -71,8 +71,17 @@ constexpr Part kParts[] = {
      }},
     {"Files written",
      [](CommandRecord& c) {
-       c.files = {{"a.prt.2", "new"}};
+       c.files = {{"a.prt.2", "new", "", ""}};
      }},
+    {"Workbooks",
+     [](CommandRecord& c) {
+       c.workbooks = {{"a.xlsx", "<div></div>"}};
+     }},
+    {"Programs and folders opened",
+     [](CommandRecord& c) {
+       c.programs = {{"explorer", "/work"}};
+     }},
+    {"Clipboard", [](CommandRecord& c) { c.clipboard = "bolt"; }},
     {"Host calls",
      [](CommandRecord& c) {
        c.calls = {{"ProMdlSave", 2}};
@@ -101,7 +110,7 @@ TEST(ReportTest, EveryTextIsEscaped) {
   record.failures = {{evil, 1, evil, 0}};
   CommandRecord command;
   command.name = command.label = command.file = command.status = evil;
-  command.dialogs = {{evil, evil, "<div></div>"}};
+  command.dialogs = {{evil, evil, "<div></div>", evil}};
   command.boxes = {{{evil, evil, 0}, 0}};
   command.notes = {evil};
   command.questions = {{evil, evil, evil}};
@@ -109,7 +118,10 @@ TEST(ReportTest, EveryTextIsEscaped) {
   command.states = {{evil, evil, evil, evil}};
   command.parameters = {{evil, evil, evil, evil}};
   command.drawings = {{evil, evil, {{evil, 1}}}};
-  command.files = {{evil, evil}};
+  command.files = {{evil, evil, evil, evil}};
+  command.workbooks = {{evil, "<div></div>"}};
+  command.programs = {{evil, evil}};
+  command.clipboard = evil;
   command.calls = {{evil, 1}};
   record.commands = {command};
   const std::string html = RenderReport(record);
@@ -120,10 +132,12 @@ TEST(ReportTest, EveryTextIsEscaped) {
 TEST(ReportTest, APictureOfADialogSaysWhatFollows) {
   RunRecord record;
   record.commands.resize(1);
-  record.commands[0].dialogs = {{"D", "line 7: press Ok", ""}, {"E", "", ""}};
+  record.commands[0].dialogs = {
+      {"D", "line 7: press Ok", "", ""}, {"E", "", "", ""}, {"F", "", "", "nobody answered it"}};
   const std::string html = RenderReport(record);
   EXPECT_TRUE(Shows(html, "<figcaption>D, before line 7: press Ok</figcaption>"));
   EXPECT_TRUE(Shows(html, "<figcaption>E</figcaption>"));
+  EXPECT_TRUE(Shows(html, "<figcaption>F: <b class=\"bad\">nobody answered it</b></figcaption>"));
 }
 
 TEST(ReportTest, TabsStayAndCanBeSeen) {
@@ -145,6 +159,16 @@ TEST(ReportTest, FailuresComeFirstAndLeadToTheirCommand) {
   EXPECT_TRUE(Shows(html, "<li class=\"t\">a.qms: no command"));
   EXPECT_LT(html.find("wrong"), html.find("<section id=\"c1\">"));
   EXPECT_LT(html.find("<section id=\"c2\">"), html.rfind("wrong"));
+}
+
+TEST(ReportTest, AFailureOfManyLinesIsToldWholeWhereItsCommandIs) {
+  RunRecord record;
+  record.commands.resize(1);
+  record.failures = {{"a.qms", 7, "wrong\n  <stub>", 0}, {"a.qms", 9, "early\nmore", -1}};
+  const std::string html = RenderReport(record);
+  EXPECT_TRUE(Shows(html, "<a href=\"#c1\">a.qms:7</a>: wrong …</li>"));
+  EXPECT_EQ(Count(html, "wrong<pre>  &lt;stub&gt;</pre></li>"), 1u);
+  EXPECT_TRUE(Shows(html, "early<pre>more</pre>"));
 }
 
 TEST(ReportTest, ParametersThatWereNotThereAndEmptyOnesAreToldApart) {
@@ -174,6 +198,29 @@ TEST(ReportTreeTest, RowsAreComparedByTheirPathOfComponents) {
   using enum RowMark;
   EXPECT_EQ(marks.before, (std::vector{kSame, kRemoved, kSame, kChanged, kTouched}));
   EXPECT_EQ(marks.after, (std::vector{kSame, kAdded, kSame, kChanged, kTouched}));
+}
+
+std::string TreesDrawn(const ModelTree& before, const ModelTree& after) {
+  CommandRecord command;
+  command.tree_before = before;
+  command.tree_after = after;
+  return DrawTrees(command, {});
+}
+
+TEST(ReportTreeTest, WhereOnlyMarksDifferThereIsOneTreeThatSaysWhatWas) {
+  ModelTree after = PumpTree();
+  after.rows[1].hidden = true;
+  after.rows[3].suppressed = true;
+  const std::string html = TreesDrawn(PumpTree(), after);
+  EXPECT_EQ(Count(html, "pump.asm"), 1u);
+  EXPECT_TRUE(Shows(html, "<small>hidden</small><small>was shown</small>"));
+  EXPECT_TRUE(Shows(html, "<small>suppressed</small><small>was active</small>"));
+  const std::string back = TreesDrawn(after, PumpTree());
+  EXPECT_TRUE(Shows(back, "<small>was hidden</small>"));
+  EXPECT_TRUE(Shows(back, "<small>was suppressed</small>"));
+
+  after.rows[1].id = 9;  // another component: rows differ, so both trees are there
+  EXPECT_EQ(Count(TreesDrawn(PumpTree(), after), "pump.asm"), 2u);
 }
 
 TEST(ReportTreeTest, TreesOfDifferentModelsAreNotCompared) {

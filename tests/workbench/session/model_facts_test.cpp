@@ -214,7 +214,7 @@ TEST_F(ModelFacts, NumbersAgreeThatDifferByRounding) {
 }
 
 TEST_F(ModelFacts, FilesOfTheFirstFormatAreRead) {
-  EXPECT_EQ(ErrorOf(R"({"format": 1, "model": "bolt.prt", "features": [
+  EXPECT_EQ(ErrorOf(R"({"format": 1, "model": "broken.prt", "features": [
     {"id": 3, "type": 911, "hidden": true}], "surfaces": [[[0,0,0],[1,2,3]], [[4,0,0],[5,2,3]]]})"),
             "read");
   const Model bolt = ReadModelFile(temporary_.path / "broken.prt.1");
@@ -255,6 +255,23 @@ TEST_F(ModelFacts, WhatAFileMayNotSayIsToldWithItsLine) {
   }
   EXPECT_EQ(ErrorOf("{\"format\": 99, \"model\": \"a.prt\"}"),
             "line 1: unknown format number 99 (1 to 2 are known)");
+  EXPECT_EQ(ErrorOf("{\"format\": 4294967298, \"model\": \"a.prt\"}"),
+            "line 1: unknown format number 4294967298 (1 to 2 are known)");
+  EXPECT_EQ(ErrorOf("{\"format\": 2,\n\"model\": 5}"),
+            "line 2: \"5\" is no model name such as \"bolt.prt\"");
+  // Each look for the model would read it again.
+  EXPECT_EQ(ErrorOf("{\"format\": 2,\n\"model\": \"nut.prt\"}"),
+            "line 2: the file holds the model nut.prt, not broken.prt as its name says");
+  EXPECT_EQ(ErrorOf("{\"format\": 2, \"model\": \"broken.prt\", \"note\": 1e999}"),
+            "it holds a number that is too large");
+  EXPECT_EQ(ErrorOf("{\"format\": 2, \"model\": \"broken.prt\",\n\"features\": [{\"id\": "
+                    "18446744073709551615}]}"),
+            "line 2: \"id\": \"18446744073709551616\" instead of a whole number");
+  // In a text brackets open nothing.
+  const std::string deep(100'000, '[');
+  EXPECT_EQ(ErrorOf("{\"format\":\n" + deep), "line 2: entries are nested more than 32 deep");
+  EXPECT_EQ(ErrorOf("{\"format\": 2, \"model\": \"broken.prt\", \"note\": \"\\\"" + deep + "\"}"),
+            "read");
   EXPECT_EQ(ErrorOf("{\"format\": 2,\n\"model\": \"a.step\"}"),
             "line 2: \"a.step\" is no model name such as \"bolt.prt\"");
 }

@@ -76,6 +76,21 @@ TEST_F(SessionFiles, SoIsOneThatHoldsItselfDirectlyOrAsItsManufacturingModel) {
                 ": line 4: pump.asm would hold itself: pump.asm > mill.mfg > pump.asm" + kWayOut);
 }
 
+TEST_F(SessionFiles, ABrokenFileIsNamedAndNoModelOfItsAssemblyComesIntoSession) {
+  WriteAssembly("pump.asm", {"bolt.prt", "rotor.asm"});
+  Write("bolt.prt", "\"note\": \"\"");
+  WriteAssembly("rotor.asm", {"nut.prt"});
+  Write("nut.prt", "\"note\" \"\"");
+  EXPECT_EQ(ErrorOf({"pump", ModelKind::kAssembly}),
+            PathToUtf8(folder_ / "nut.prt.1") + ": line 4: not valid JSON" + kWayOut);
+  EXPECT_TRUE(session_.models().empty());
+
+  fs::remove(folder_ / "nut.prt.1");
+  fs::create_directories(folder_ / "nut.prt.2");
+  EXPECT_EQ(ErrorOf({"pump", ModelKind::kAssembly}),
+            PathToUtf8(folder_ / "nut.prt.2") + ": is a folder" + kWayOut);
+}
+
 TEST_F(SessionFiles, AModelPlacedInSeveralAssembliesIsNoCycle) {
   WriteAssembly("top.asm", {"left.asm", "right.asm", "left.asm", "lost.asm"});
   WriteAssembly("left.asm", {"pair.asm"});

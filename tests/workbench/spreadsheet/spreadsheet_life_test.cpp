@@ -102,6 +102,21 @@ TEST_F(SpreadsheetLife, AWorkbookThatABusyProgramDidNotMarkIsAskedAbout) {
   }
 }
 
+TEST_F(SpreadsheetLife, AWorkbookThatCannotBeMarkedMustBeClosedBeforeTheEnd) {
+  for (const char* const refused : {"Workbook.Saved=", "Workbook.Close"}) {
+    Opened excel = OpenNew();
+    excel.Cell("A1").Put(kValue2, "a");
+    spreadsheet_.Order({.fail_at = 1, .fail_member = refused});
+    excel.book.Put(kSaved, true);
+    const bool marked = TestObject::result == S_OK;
+    if (marked) excel.Cell("A1").Put(kValue2, "b");
+    if (marked) excel.book.Call(kClose);
+    host_.events.Forget<Breach>();
+    excel.program.Call(kQuit);
+    EXPECT_EQ(Breaches().size(), marked ? 0u : 1u) << refused;
+  }
+}
+
 TEST_F(SpreadsheetLife, ThePluginsOwnCallsComeHere) {
   Plugin plugin(TestBinaryFolder() / "windows_caller.dll");
   plugin.Start();

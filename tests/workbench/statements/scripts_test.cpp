@@ -8,6 +8,7 @@
 #include "tests/workbench/test_paths.h"
 #include "workbench/base/command_line.h"
 #include "workbench/base/text.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/script/script_windows.h"
 #include "workbench/statements/fault_statements.h"
 
@@ -50,6 +51,11 @@ std::string Without(const std::string& what, std::string text) {
   return text;
 }
 
+// Between folders and files, as the user's own machine writes it.
+std::string FolderSlash() {
+  return OwnPath(fs::temp_directory_path()).starts_with("/") ? "/" : "\\";
+}
+
 // Runs a script text and gives its failures, "scripts_test.qms:LINE: REASON" a line.
 std::string FailuresOf(const std::string& text, const std::vector<std::string>& options = {}) {
   const fs::path file = fs::temp_directory_path() / "scripts_test.qms";
@@ -59,7 +65,8 @@ std::string FailuresOf(const std::string& text, const std::vector<std::string>& 
   const std::string output =
       OutputOf(TestBinaryFolder() / "workbench.exe", arguments).value_or("it cannot be started");
   fs::remove(file);
-  const std::string lines = Without(PathToUtf8(file.parent_path() / ""), Without("\r", output));
+  const std::string lines =
+      Without(OwnPath(file.parent_path()) + FolderSlash(), Without("\r", output));
   // The count closes it.
   return lines.substr(0, lines.rfind("scripts_test.qms: "));
 }
@@ -88,8 +95,10 @@ TEST(ScriptRunner, WhatNobodyAnswersFailsWithWhatWasAsked) {
        "7: nothing asked for this answer"},
       {"run QmIsolate with\nmessage plain other\nend",
        "6: message box, expected plain \"other\", got caption \"\\t请先选择"},
-      {"run QmParams with\ndialog QmParams\npress Nothing\nset Add x\nclose\nend\nend",
-       "7: dialog QmParams has no component Nothing\nscripts_test.qms:8: PushButton Add"},
+      {"run QmParams with\ndialog QmParams\nset Add x\nclose\nend\nend",
+       "7: PushButton Add is not a field to type into\n"},
+      {"run QmParams with\ndialog QmParams\npress Nothing\nclose\nend\nend",
+       "7: dialog QmParams has no component Nothing; it has\nInputPanel ParaName"},
       {"fault ProMdlNameGet 1 status general_error\nrun ForTest",
        "6: the fault ordered for it did not strike"},
       {"run ForTest\nfault any 1 empty", "6: no action followed the fault ordered"},
@@ -109,11 +118,31 @@ TEST(ScriptRunner, WhatNobodyAnswersFailsWithWhatWasAsked) {
        "8: no dialog is open\n"},
       {"run ForTest with\nat call 1 of any\nparameter bolt P missing\nend\nend",
        "7: bolt.prt has no parameter P\n"},
-      {"mode part\nrun QmIsolate", "6: QmIsolate is not available here"},
-      {"run Nothing", "5: the plug-in has registered no command Nothing"},
+      {"mode part\nrun QmIsolate",
+       "6: QmIsolate is not available here: the current model is pump.asm, in part mode by the "
+       "script; the command wants assembly or manufacturing mode\n"},
+      {"open bolt\nrun QmIsolate",
+       "6: QmIsolate is not available here: the current model is bolt.prt, in part mode; the "
+       "command wants assembly or manufacturing mode\n"},
+      {"close window\nexpect access SameScale is available",
+       "6: SameScale, expected available, got unavailable: no model is current; the command wants "
+       "drawing mode\n"},
+      {"run Nothing", "5: the plug-in has registered no command Nothing\n"},
+      {"run QmIsolte",
+       "5: the plug-in has registered no command QmIsolte; did you mean QmIsolate?\n"},
       {"erase bolt.drw\nrun ForTest",
-       "5: there is no model \"bolt.drw\" in session; the script ends here"},
-      {"select pump/bolt", "5: pump.asm has no component \"pump\"; the script ends here"},
+       "5: there is no model \"bolt.drw\" in session; did you mean \"bolt.prt\"?; in session: "
+       "bolt.prt, pump.asm; the script ends here"},
+      {"save bolt\nerase bolt\nselect .\nerase bolt",
+       "8: there is no model \"bolt\" in session; in session: pump.asm; its file lies in the "
+       "working "
+       "directory, \"retrieve bolt.prt\" brings it into session; the script ends here"},
+      {"select pump/bolt",
+       "5: pump.asm has no component \"pump\"; paths offered: bolt; the script ends here"},
+      {"assembly rotor\ncomponent pump <- rotor\ncomponent rotor <- bolt times 2\n"
+       "select rotor/blot",
+       "8: rotor.asm has no component \"blot\"; did you mean rotor/bolt?; paths offered: "
+       "rotor/bolt, rotor/bolt#2; the script ends here"},
       {"expect hidden bolt", "5: bolt, expected hidden, got shown"},
       {"component pump <- pump", "5: pump.asm would hold itself: pump.asm > pump.asm; the script"},
       {"assembly rotor\ncomponent pump <- rotor times 2\ncomponent rotor <- bolt\n"
@@ -122,12 +151,66 @@ TEST(ScriptRunner, WhatNobodyAnswersFailsWithWhatWasAsked) {
       {"manufacturing mill of pump\ncomponent pump <- mill",
        "6: pump.asm would hold itself: pump.asm > mill.mfg > pump.asm; the script ends here"},
       {"open nothing", "5: there is no model \"nothing\" in session or in "},
+      {"run QmParams with\ndialog QmParams\npress 模型类型\nclose\nend\nend",
+       "7: the label \"模型类型\" is that of TypeRadio (\"参数对象/模型类型\"), TypeRadio2 "
+       "(\"外形尺寸与图幅参数/模型类型\"); say which\n"},
   };
   for (const auto& item : cases) {
     const std::string failures = FailuresOf(std::string(kPump) + item.statements + "\n");
     EXPECT_EQ(failures.find("scripts_test.qms:" + std::string(item.failure)), 0u)
         << item.statements << "\n"
         << failures;
+  }
+}
+
+TEST(ScriptRunner, AModelThatIsNotThereIsToldWithWhatLiesInTheFolder) {
+  const struct {
+    const char* statements;
+    const char* reason;
+  } cases[] = {
+      {"open nothing", "; the folder is empty; the script ends here\n"},
+      {"write notes.txt x\nmake_folder old\nopen nothing",
+       "; the folder holds no models, but notes.txt, old/; the script ends here\n"},
+      {"save all\nsave all\nopen blot",
+       "; did you mean \"bolt\"?; the folder holds the models bolt.prt, pump.asm; the script ends "
+       "here\n"},
+  };
+  for (const auto& item : cases) {
+    const std::string failures = FailuresOf(std::string(kPump) + item.statements);
+    EXPECT_NE(failures.find(item.reason), std::string::npos) << item.statements << "\n" << failures;
+  }
+}
+
+// The lines of `text` between the line that begins with `before` and the first one that is `last`,
+// which is among them.
+std::string LinesBetween(const std::string& text, const std::string& before,
+                         const std::string& last) {
+  const size_t heading = text.find(before);
+  if (heading == std::string::npos) return {};
+  const size_t begin = text.find('\n', heading) + 1;
+  const size_t end = text.find("\n" + last + "\n", begin);
+  return end == std::string::npos ? "" : text.substr(begin, end + last.size() + 2 - begin);
+}
+
+TEST(ScriptRunner, TheStubOfADialogThatNobodyAnsweredAnswersItWhenPasted) {
+  for (const std::string command : {"QmQQGroup", "QmConfig", "QmParams", "QmBom"}) {
+    const std::string asked = FailuresOf(kPump + ("run " + command));
+    const std::string stub =
+        LinesBetween(asked, "to answer it, write in place of line 5:", "  end\nend");
+    EXPECT_EQ(stub.find("run " + command + " with\n  dialog " + command + "\n"), 0u) << asked;
+    EXPECT_EQ(FailuresOf(kPump + stub), "") << stub;
+  }
+}
+
+TEST(ScriptRunner, AStubTellsLabelsValuesAndChoices) {
+  const std::string asked = FailuresOf(std::string(kPump) + "run QmParams");
+  for (const char* const line :
+       {"InputPanel ParaName \"参数名称\": \"\"\n",
+        "RadioGroup TypeRadio \"模型类型\": AsmAndPart \"组件和零件\" of AsmAndPart",
+        "PushButton Add \"添加\"\n", "    set ParaName \"\"   # 参数名称\n",
+        "    choose TypeRadio AsmAndPart   # 模型类型: AsmAndPart 组件和零件, Part 零件,",
+        "    # press Add   # 添加\n"}) {
+    EXPECT_NE(asked.find(line), std::string::npos) << line << "in\n" << asked;
   }
 }
 
@@ -155,6 +238,8 @@ TEST(FaultOptions, AreReadAndRefusedAsTheStatementIs) {
       {"ProMdlNameGet:2", "STATUS is missing at its end; it wants"},
       {"ProMdlNameGet", "NTH is missing at its end; it wants"},
       {"any:1:empty:for_ever", "\"for_ever\" is one word too many; it wants"},
+      {"allocation:0", "\"0\" is not a count from 1; it wants"},
+      {"allocation:2:empty", "\"empty\" is one word too many; it wants"},
       {":1:empty", "neither the host nor the intercepted part of Windows has"},
   };
   for (const auto& item : cases) {
@@ -166,6 +251,8 @@ TEST(FaultOptions, AreReadAndRefusedAsTheStatementIs) {
   EXPECT_EQ(plan.nth, 3);
   EXPECT_EQ(plan.status, -10);
   EXPECT_TRUE(plan.from_then_on);
+  EXPECT_EQ(FaultOption("allocation:3:from_then_on").kind, FaultKind::kNoMemory);
+  EXPECT_TRUE(FaultOption("allocation:3:from_then_on").from_then_on);
   EXPECT_EQ(FaultOption("any:5:empty").function, "");
   EXPECT_EQ(FaultOption("any:5:empty").kind, FaultKind::kEmptySuccess);
 }
@@ -179,6 +266,48 @@ TEST(FaultOptions, ThatStrikeInNoActionFailTheScript) {
       FailuresOf(script, {"--fault", "ProMdlNameGet:9:general_error"}),
       "scripts_test.qms:7: the fault that the command line orders struck in no action of this "
       "script\n");
+}
+
+// Plug-ins that do wrong when an allocation fails lie beside this program.
+std::string WrongPlugin(const char* stem) {
+  return PathToUtf8(TestBinaryFolder() / (std::string("wrong_") + stem + ".dll"));
+}
+
+TEST(AllocationSweeps, TellSuccessWithoutTheWorkAndWithoutAWord) {
+  const std::string failures = FailuresOf(
+      "make_folder elsewhere\nsweep allocations of Wrong\nfault allocation 1\nrun Wrong\n"
+      "fault allocation 2\nrun Wrong\n",
+      {"--plugin", WrongPlugin("silent_memory")});
+  for (const char* told :
+       {"scripts_test.qms:2: fault allocation 1 (none was the last call): it answered success "
+        "without its work and without a word\n",
+        "scripts_test.qms:2: fault allocation 1 from_then_on",
+        "scripts_test.qms:6: the fault ordered for it did not strike\n"}) {
+    EXPECT_NE(failures.find(told), std::string::npos) << failures;
+  }
+  EXPECT_EQ(failures.find("qms:4: "), std::string::npos) << failures;
+}
+
+TEST(FirstRuns, CountAProcessThatDiesAndOneThatDoesWrong) {
+  const fs::path file = fs::temp_directory_path() / "first_runs.qms";
+  std::ofstream(file) << "make_folder elsewhere\nsweep allocations of Wrong\n";
+  const struct {
+    const char* plugin;
+    const char* told;
+    const char* count;
+  } cases[] = {
+      {"abort", "plug-in aborted in Wrong", "\n0 passed, 1 failed"},
+      {"silent_memory", "allocation 1:from_then_on:", "\n1 passed, 2 failed"},
+  };
+  for (const auto& item : cases) {
+    const std::string output =
+        OutputOf(TestBinaryFolder() / "workbench.exe",
+                 {"memory", PathToUtf8(file), "--plugin", WrongPlugin(item.plugin)})
+            .value_or("");
+    EXPECT_NE(output.find(item.told), std::string::npos) << output;
+    EXPECT_NE(output.find(item.count), std::string::npos) << output;
+  }
+  fs::remove(file);
 }
 
 TEST(ScriptRunner, NothingRunsOfAScriptWithErrors) {

@@ -76,6 +76,22 @@ TEST(StepProduct, AUsageWithAQuantityIsAsManyComponents) {
   }
 }
 
+TEST(StepProduct, QuantitiesThatWouldFillTheMemoryAreRefusedWithTheirLine) {
+  StepPair p;
+  const int measure = p.file.Add("MEASURE_WITH_UNIT(COUNT_MEASURE(10000.),$)");
+  int last = 0;
+  for (int i = 0; i < 11; ++i) {
+    last = p.file.Add("QUANTIFIED_ASSEMBLY_COMPONENT_USAGE('7','','',#" +
+                      std::to_string(p.pump.definition) + ",#" + std::to_string(p.bolt.definition) +
+                      ",$,#" + std::to_string(measure) + ")");
+  }
+  const std::string error = ErrorOf(p.file);
+  EXPECT_EQ(error.find("pump.stp:" + std::to_string(last + 4) + ": "), 0u) << error;
+  EXPECT_NE(error.find("with this quantity the file has more than 100000 components"),
+            std::string::npos)
+      << error;
+}
+
 TEST(StepProduct, AProductGivesOneModelForEachDefinitionInUse) {
   StepPair p;
   p.file.Definition(p.bolt.product);  // a view that nobody uses
@@ -102,6 +118,50 @@ TEST(StepProduct, OtherFilesAreNotedAndDocumentsAreNoModels) {
   const StepAssembly assembly = p.file.Read();
   EXPECT_EQ(assembly.models.size(), 2u);
   EXPECT_TRUE(HasNote(assembly, "bolt: refers to bolt_1.stp, which is not read"));
+}
+
+TEST(StepProduct, RawMaterialIsNoPartUnlessAnAssemblyPlacesIt) {
+  StepPair p;
+  const auto bar = p.file.Product("bar", {p.from}, p.context);
+  const auto glue = p.file.Product("glue", {p.from}, p.context);
+  const auto category = [&](const char* name, int product) {
+    p.file.Add("PRODUCT_RELATED_PRODUCT_CATEGORY('" + std::string(name) + "',$,(#" +
+               std::to_string(product) + "))");
+  };
+  category("raw material", bar.product);
+  category("Raw_Material", glue.product);
+  category("part", p.bolt.product);
+  p.file.Add("MAKE_FROM_USAGE_OPTION('1','','',#" + std::to_string(p.bolt.definition) + ",#" +
+             std::to_string(bar.definition) + ",$,1,'',$)");
+  p.file.Usage(p.pump, p.bolt);
+  const StepAssembly without = p.file.Read();
+  EXPECT_EQ(without.models.size(), 2u);
+  EXPECT_EQ(without.tops, std::vector<int>{1});
+  EXPECT_TRUE(HasNote(without, "2 products left out: they are raw material, no parts"));
+
+  p.file.Usage(p.pump, glue);
+  EXPECT_EQ(p.file.Read().models.size(), 3u);
+}
+
+TEST(StepProduct, TheFilesLengthUnitsAreNamed) {
+  const struct {
+    const char* prefix;
+    const char* name;
+  } cases[] = {
+      {".MILLI.", "millimetre"}, {"$", "metre (1000 mm)"}, {".CENTI.", "centimetre (10 mm)"}};
+  for (const auto& item : cases) {
+    Builder file;
+    file.Product("bolt", {file.Point("1.,2.,3.")}, file.Metric(item.prefix));
+    EXPECT_EQ(file.Read().length_units, std::vector<std::string>{item.name});
+  }
+  Builder both;
+  both.Product("bolt", {both.Point("1.,2.,3.")}, both.Inches());
+  both.Product("nut", {both.Point("1.,2.,3.")}, both.Metric(".MILLI."));
+  EXPECT_EQ(both.Read().length_units, (std::vector<std::string>{"inch (25.4 mm)", "millimetre"}));
+  Builder none;
+  none.Product("bolt", {none.Point("1.,2.,3.")},
+               none.Add("GEOMETRIC_REPRESENTATION_CONTEXT('','',3)"));
+  EXPECT_TRUE(none.Read().length_units.empty());
 }
 
 TEST(StepProduct, AComponentInAnotherFileStaysAComponent) {

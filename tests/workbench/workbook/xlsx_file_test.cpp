@@ -180,6 +180,57 @@ TEST_F(XlsxFile, WhatIsWrongIsToldWithItsPlace) {
   EXPECT_THROW(ReadXlsx(folder_ / "missing.xlsx"), XlsxError);
 }
 
+std::string Repeated(const std::string& text, size_t times) {
+  std::string repeated;
+  for (size_t i = 0; i < times; ++i) repeated += text;
+  return repeated;
+}
+
+// The archive's directory says of its first entry that it is a gigabyte.
+std::string SaidToBeHuge(std::string archive) {
+  const size_t directory = archive.find("PK\x01\x02");
+  archive.replace(directory + 24, 4, std::string("\0\0\0\x40", 4));
+  return archive;
+}
+
+// Each of them is small as a file and would take the memory, the stack or the time of a reader
+// that believes it.
+TEST_F(XlsxFile, WhatIsMadeToHurtIsRefusedWithItsReason) {
+  const auto sheet = [](const std::string& rows, const std::string& texts = kTexts) {
+    return Archive("<worksheet><sheetData><row>" + rows + "</row></sheetData></worksheet>", texts);
+  };
+  const std::string runs = Repeated("<r>", 200'000);
+  const std::string long_text(32'767, 'x');
+  const struct {
+    std::string bytes;
+    const char* complaint;
+  } kCases[] = {
+      {Archive("<worksheet/>", "<sst><si>" + runs),
+       "book.xlsx!xl/t.xml:1: a run of text stands inside another one"},
+      {sheet("<c t=\"inlineStr\"><is>" + runs), "s.xml:1: a run of text stands inside another one"},
+      {Archive("<worksheet>" + Repeated("<a>", 1000)), "elements are nested more than 256 deep"},
+      {Archive("<worksheet " + Repeated("a='' ", 1000)), "more than 256 attributes"},
+      {SaidToBeHuge(Archive("<worksheet/>")),
+       "book.xlsx: _rels/.rels: said to unpack to 1073741824 bytes, which "},
+      {Archive("<worksheet>" + std::string(40'000'000, ' ')), " bytes unpacks to more than "},
+      {sheet("", "<sst><si><t>" + long_text + "x</t></si></sst>"),
+       "xl/t.xml:1: a text of more than 32767 characters"},
+      {sheet(Repeated("<c t='s'><v>0</v></c>", 5000),
+             "<sst><si><t>" + long_text + "</t></si></sst>"),
+       "xl/s.xml:1: the workbook has more than 134217728 bytes of text in cells"},
+      {Archive("<worksheet><cols>" + Repeated("<col min='1' max='2'/>", 17'000)),
+       "more than 16384 descriptions of columns in a sheet"},
+      {Archive("<worksheet><mergeCells>" + Repeated("<mergeCell ref='A1'/>", 10'001)),
+       "more than 10000 merged areas"},
+  };
+  for (const auto& row : kCases) {
+    EXPECT_LT(row.bytes.size(), 100'000u) << row.complaint;
+    const std::string error = ErrorOf(row.bytes);
+    EXPECT_NE(error.find(row.complaint), std::string::npos) << row.complaint << "\n"
+                                                            << error.substr(0, 300);
+  }
+}
+
 TEST_F(XlsxFile, AFileOfTheUsersBesideTheTargetStays) {
   std::ofstream(folder_ / "book.xlsx.part") << "mine";
   WriteXlsx(NewWorkbook(), folder_ / "book.xlsx");

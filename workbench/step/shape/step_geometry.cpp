@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "workbench/base/text.h"
+
 namespace wb {
 namespace {
 
@@ -171,7 +173,9 @@ double StepUnits::ReadContext(const StepRecord& context) {
     const bool plain = file_.TypeOf(context).names.size() == 1;
     for (const StepRecord* unit : file_.Arguments(context, kUnits).References(plain ? 2 : 0)) {
       const double scale = ReadUnit(*unit);
-      if (scale > 0) return scale;
+      if (scale <= 0) continue;
+      KeepName(*unit, scale);
+      return scale;
     }
   }
   guessed_ = true;
@@ -189,7 +193,8 @@ double StepUnits::ReadUnit(const StepRecord& start) const {
       const StepArguments values = file_.Arguments(*unit, "SI_UNIT");
       const std::size_t name = values.size() == 3 ? 2 : 1;
       if (values.Enumeration(name) != "METRE") return 0;
-      return factor * 1000 * SiPrefix(values.Enumeration(name - 1));
+      // In this order an inch stays 25.4.
+      return factor * (1000 * SiPrefix(values.Enumeration(name - 1)));
     }
     if (!type.Has("CONVERSION_BASED_UNIT")) return 0;
     if (type.names.size() > 1 && !type.Has("LENGTH_UNIT")) return 0;
@@ -199,6 +204,20 @@ double StepUnits::ReadUnit(const StepRecord& start) const {
     unit = &values.Reference(1);
   }
   return 0;
+}
+
+// "millimetre", "metre (1000 mm)"; other units have names of their own.
+void StepUnits::KeepName(const StepRecord& unit, double scale) {
+  std::string name;
+  if (file_.TypeOf(unit).Has("SI_UNIT")) {
+    const StepArguments values = file_.Arguments(unit, "SI_UNIT");
+    name = std::string(values.Enumeration(values.size() == 3 ? 1 : 0)) + "METRE";
+  } else {
+    name = file_.Arguments(unit, "CONVERSION_BASED_UNIT", 1).OptionalText(0);
+  }
+  name = FoldCase(name);
+  if (scale != 1) name += " (" + NumberText(scale) + " mm)";
+  if (std::find(names_.begin(), names_.end(), name) == names_.end()) names_.push_back(name);
 }
 
 StepPoint ReadStepPoint(const StepFile& file, const StepRecord& record, double scale) {

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <limits>
 #include <map>
+#include <string>
 #include <vector>
 
 #include "workbench/step/file/step_file.h"
@@ -70,13 +71,17 @@ class StepUnits {
   // sets `guessed`.
   double ScaleOf(const StepRecord& representation);
   bool guessed() const { return guessed_; }
+  // Of the units met so far, such as "inch (25.4 mm)".
+  const std::vector<std::string>& names() const { return names_; }
 
  private:
   double ReadContext(const StepRecord& context);
   double ReadUnit(const StepRecord& unit) const;
+  void KeepName(const StepRecord& unit, double scale);
 
   const StepFile& file_;
   std::map<const StepRecord*, double> scales_;  // by context
+  std::vector<std::string> names_;
   bool guessed_ = false;
 };
 

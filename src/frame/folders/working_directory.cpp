@@ -1,0 +1,38 @@
+// Leaves the working directory and comes back.
+#include "frame/folders/working_directory.h"
+
+#include "frame/messages/run_log.h"
+#include "frame/text/fixed_text.h"
+#include "frame/text/text.h"
+#include "toolkit/status.h"
+
+namespace qm {
+
+WorkingDirectory::WorkingDirectory() {
+  is_known_ = Ok(ProDirectoryCurrentGet(remembered_)) && !FixedText(remembered_).empty();
+  if (!is_known_) LogEvent("the working directory is not known: none other is entered");
+}
+
+ProError WorkingDirectory::Enter(const std::wstring& folder) {
+  ProPath path = {};
+  if (!is_known_ || !FillFixedText(folder, path)) return PRO_TK_INVALID_DIR;
+  const ProError status = ProDirectoryChange(path);
+  if (Ok(status)) {
+    is_away_ = true;
+  } else {
+    LogEvent("ProDirectoryChange to " + ToUtf8(folder) + " answered " + StatusName(status));
+  }
+  return status;
+}
+
+void WorkingDirectory::Return() {
+  if (!is_away_) return;
+  is_away_ = false;
+  const ProError status = ProDirectoryChange(remembered_);
+  if (!Ok(status)) {
+    LogEvent("ProDirectoryChange back to " + ToUtf8(FixedText(remembered_)) + " answered " +
+             StatusName(status));
+  }
+}
+
+}  // namespace qm

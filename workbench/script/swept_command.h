@@ -1,0 +1,48 @@
+// One command run again and again with faults, and what was wrong with a run.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "workbench/checks/faults.h"
+#include "workbench/plugin/plugin.h"
+
+namespace wb {
+
+class ScriptRun;
+struct Statement;
+
+// Under faults the plug-in may say and ask what it likes, but it must misuse nothing, leave nothing
+// out, and leave the working directory and the options as it would without faults. As long as this
+// lives boxes are no failures.
+class SweptCommand {
+ public:
+  SweptCommand(ScriptRun& run, const Statement& statement);
+  ~SweptCommand();
+  SweptCommand(const SweptCommand&) = delete;
+  SweptCommand& operator=(const SweptCommand&) = delete;
+
+  // `plan` with nth 0: without any fault.
+  CommandRun RunOnce(const FaultPlan& plan);
+  // `struck` is the function that the fault struck first, "" for none.
+  std::vector<std::string> Complaints(const CommandRun& result, const std::string& struck);
+  // Tells what was wrong with the run without faults, and learns from it.
+  std::vector<std::string> ComplaintsOfClean(const CommandRun& clean);
+  // For who compares whole sessions, of which the directory is a part.
+  void IgnoreDirectory() { changes_directory_ = true; }
+  // The folders whose files belong to the session of a sweep.
+  std::vector<std::filesystem::path> Folders() const;
+
+ private:
+  void CheckRestored(const CommandRun& result, std::vector<std::string>* complaints) const;
+
+  ScriptRun& run_;
+  const Statement& statement_;
+  const bool kept_lines_;
+  const std::map<std::string, std::vector<std::string>> options_;  // before the sweep
+  bool changes_directory_ = false;  // the command does so without any fault
+};
+
+}  // namespace wb
