@@ -87,7 +87,9 @@ TEST(NormalView, AgreesWithAnotherWayOverAllOrientationsAndIsStable) {
     const auto wanted = SnappedAnotherWay(rotation);
     const Matrix as_matrix = Scaled(wanted.value_or(Rotation{}), 1, {});
     compared += wanted ? 1 : 0;
-    if (wanted) ASSERT_TRUE(SameRotation(*snapped, as_matrix)) << i;
+    if (wanted) {
+      ASSERT_TRUE(SameRotation(*snapped, as_matrix)) << i;
+    }
     ASSERT_EQ(Determinant(*snapped), 1) << i << ": a mirrored view";
     ASSERT_TRUE(SameRotation(*NormalView(*snapped), *snapped)) << i;
   }
