@@ -30,7 +30,9 @@ struct TextLine {
 std::optional<std::wstring> FirstLine(ProModelitem& dimension) {
   HostArray<ProLine> lines;
   if (!Ok(ProDimensionTextGet(&dimension, lines.put())) || lines.size() < 1) return std::nullopt;
-  return std::wstring(FixedText(lines[0]));
+  // An empty line would lose the value: the new text stands around it.
+  std::wstring line(FixedText(lines[0]));
+  return line.empty() ? std::nullopt : std::optional(std::move(line));
 }
 
 // Whether the tolerance is there as it was meant: the host may take the numbers in another way.

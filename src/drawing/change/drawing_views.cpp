@@ -54,7 +54,7 @@ ProSolid SolidOf(ProDrawing drawing, ProView view) {
 }
 
 bool IsGeneral(ProDrawing drawing, ProView view) {
-  ProViewType type = PRO_VIEW_GENERAL;
+  ProViewType type = PRO_VIEW_OF_FLAT_TYPE;
   const ProError status = ProDrawingViewTypeGet(drawing, view, &type);
   return Told(drawing, "ProDrawingViewTypeGet", status) && type == PRO_VIEW_GENERAL;
 }
@@ -62,19 +62,22 @@ bool IsGeneral(ProDrawing drawing, ProView view) {
 std::optional<double> ScaleOf(ProDrawing drawing, ProView view) {
   double scale = 0;
   const ProError status = ProDrawingViewScaleGet(drawing, view, &scale);
-  return Told(drawing, "ProDrawingViewScaleGet", status) ? std::optional(scale) : std::nullopt;
+  return Told(drawing, "ProDrawingViewScaleGet", status) && scale > 0 ? std::optional(scale)
+                                                                      : std::nullopt;
 }
 
-bool HasOwnScale(ProDrawing drawing, ProView view) {
+std::optional<bool> HasOwnScale(ProDrawing drawing, ProView view) {
   ProBoolean own = PRO_B_FALSE;
   const ProError status = ProDrawingViewScaleIsUserdefined(drawing, view, &own);
-  return Told(drawing, "ProDrawingViewScaleIsUserdefined", status) && own != PRO_B_FALSE;
+  if (!Told(drawing, "ProDrawingViewScaleIsUserdefined", status)) return std::nullopt;
+  return own != PRO_B_FALSE;
 }
 
 std::optional<double> SheetScale(ProDrawing drawing, ProSolid solid, int sheet) {
   double scale = 0;
   const ProError status = ProDrawingScaleGet(drawing, solid, sheet, &scale);
-  return Told(drawing, "ProDrawingScaleGet", status) ? std::optional(scale) : std::nullopt;
+  return Told(drawing, "ProDrawingScaleGet", status) && scale > 0 ? std::optional(scale)
+                                                                  : std::nullopt;
 }
 
 bool DifferentScales(double a, double b) {

@@ -26,7 +26,7 @@ int SheetCount(ProDrawing drawing);
 ProSolid SolidOf(ProDrawing drawing, ProView view);  // null then
 bool IsGeneral(ProDrawing drawing, ProView view);    // false then
 std::optional<double> ScaleOf(ProDrawing drawing, ProView view);
-bool HasOwnScale(ProDrawing drawing, ProView view);  // false then
+std::optional<bool> HasOwnScale(ProDrawing drawing, ProView view);
 std::optional<double> SheetScale(ProDrawing drawing, ProSolid solid, int sheet);
 
 // Two scales that differ by no more count as one.

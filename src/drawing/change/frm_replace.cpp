@@ -50,8 +50,10 @@ std::optional<ProMdl> ChosenFormat(const std::wstring& folder) {
   const auto chosen = PickDrawingFile(L"请选择需要替换的新图框", L"*.frm", formats);
   if (!chosen) return std::nullopt;
   const std::wstring name = NameInPath(*chosen);
-  if (name.empty()) return nullptr;
+  if (name.empty()) return std::nullopt;
   CopyFormat(*chosen, name, formats, folder);
+  // Deliberately without it, too: the drawings then lose their tables and are saved, which the run
+  // log and the note at the end tell.
   return RetrieveModel(name, PRO_MDL_DWGFORM);
 }
 
@@ -61,9 +63,9 @@ ProError Replace() {
   const std::wstring folder = CurrentFolder();
   const auto format = ChosenFormat(folder);
   if (!format) return PRO_TK_USER_ABORT;
-  long long without = 0;
+  auto without = static_cast<long long>(names.size());
   ForEachDrawing(names, [&](ProDrawing drawing, const std::wstring& name) {
-    if (!ReplaceFormats(drawing, {folder, name}, *format)) ++without;
+    if (ReplaceFormats(drawing, {folder, name}, *format)) --without;
   });
   LogCount("drawings without the format", without);
   if (without > 0) {

@@ -35,6 +35,9 @@ ProView PreselectedMainView(ProDrawing drawing) {
   const auto selected = ReadPreselection();
   const int count = selected ? selected->size() : 0;
   for (int i = 0; i < count; ++i) {
+    // What is picked inside a view tells that view, too, and is not meant.
+    const auto item = ItemOf((*selected)[i]);
+    if (!item || item->type != PRO_VIEW) continue;
     ProView view = nullptr;
     if (Ok(ProSelectionViewGet((*selected)[i], &view)) && view != nullptr &&
         IsGeneral(drawing, view)) {
@@ -80,7 +83,9 @@ std::optional<MainViewScales> DifferingScales(const Sheet& sheet) {
     ShowMessage(L"\t当前页面无主视图\t");
     return std::nullopt;
   }
-  if (HasOwnScale(sheet.drawing, view)) {
+  const auto is_own = HasOwnScale(sheet.drawing, view);
+  if (!is_own) return std::nullopt;
+  if (*is_own) {
     ProSolid solid = SolidOf(sheet.drawing, view);
     const auto of_view = ScaleOf(sheet.drawing, view);
     const auto of_sheet =
@@ -100,7 +105,7 @@ ProError AlignScales(const std::function<ProError(const MainViewScales&)>& set) 
   const auto sheet = CurrentSheet();
   if (!sheet) return PRO_TK_E_NOT_FOUND;
   const auto scales = DifferingScales(*sheet);
-  if (!scales) return PRO_TK_NO_CHANGE;
+  if (!scales) return PRO_TK_GENERAL_ERROR;
   const ProError status = set(*scales);
   return Ok(status) ? ProDwgSheetRegenerate(sheet->drawing, sheet->number) : status;
 }

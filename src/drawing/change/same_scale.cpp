@@ -2,6 +2,9 @@
 // sheet for every model that a view shows, whichever sheet the view is on.
 #include "drawing/change/same_scale.h"
 
+#include <cmath>
+#include <limits>
+
 #include "drawing/change/drawing_views.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
@@ -19,7 +22,7 @@ void Log(ProDrawing drawing, const char* function, ProError status) {
 }
 
 void GiveScale(ProDrawing drawing, ProView view, double scale) {
-  if (HasOwnScale(drawing, view)) {
+  if (HasOwnScale(drawing, view).value_or(false)) {
     Log(drawing, "ProDrawingViewScaleSet", ProDrawingViewScaleSet(drawing, view, scale));
   }
   if (ProSolid solid = SolidOf(drawing, view)) {
@@ -31,9 +34,10 @@ void GiveScale(ProDrawing drawing, ProView view, double scale) {
 
 ProError SameScale() {
   DisplayNote("USER Enter any double scale: ");
-  double scale = 0;
+  double scale = std::numeric_limits<double>::quiet_NaN();
   ProError status = ProMessageDoubleRead(nullptr, &scale);
   if (!Ok(status)) return status;
+  if (std::isnan(scale)) return PRO_TK_GENERAL_ERROR;
   // Deliberately whatever the current model is: one that is no drawing has no views.
   ProMdl drawing = nullptr;
   status = ProMdlCurrentGet(&drawing);

@@ -116,6 +116,7 @@ bool ReplaceFormats(ProDrawing drawing, const DrawingFile& file, ProMdl format) 
     return false;
   }
   const int count = SheetCount(drawing);
+  if (count == 0) return false;
   const auto sheets = BySheet(views, count);
   Replacement replacement(drawing, format);
   ProSolid model = FirstModel(drawing);

@@ -69,7 +69,7 @@ Matrix TurnedView(ProMdl model, const std::vector<Matrix>& outcomes) {
 
 Matrix OrientationByExtents(ProMdl model) {
   const auto saved = ReadView(model);
-  if (!saved) return Outcomes(TurnsFor(model)).front();
+  if (!saved || !Normalised(*saved)) return Outcomes(TurnsFor(model)).front();
   WriteView(model, Identity());
   const std::span<const Axis> turns = TurnsFor(model);
   for (const Axis axis : turns) ProViewRotate(model, nullptr, HostAxis(axis), kQuarter);

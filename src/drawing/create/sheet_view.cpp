@@ -39,7 +39,8 @@ std::optional<SheetBox> OutlineOf(ProDrawing drawing, ProView view) {
   Pro3dPnt corners[2] = {};
   const ProError status = ProDrawingViewOutlineGet(drawing, view, corners);
   LogStatus("ProDrawingViewOutlineGet", status);
-  if (!Ok(status)) return std::nullopt;
+  const bool is_filled = corners[0][0] != corners[1][0] || corners[0][1] != corners[1][1];
+  if (!Ok(status) || !is_filled) return std::nullopt;
   return SheetBox{corners[0][0], corners[0][1], corners[1][0], corners[1][1]};
 }
 
@@ -109,9 +110,10 @@ std::optional<Matrix> GeneralView::Shown() const {
 void GeneralView::MakeAnew(const Matrix& orientation) {
   const ProError status = ProDrawingViewDelete(drawing_, view_, PRO_B_FALSE);
   LogStatus("ProDrawingViewDelete", status);
-  if (!Ok(status)) return;
   orientation_ = orientation;
+  if (!Ok(status)) return;
   Make();
+  if (view_ != nullptr) RegenerateView(drawing_, view_);
 }
 
 }  // namespace qm

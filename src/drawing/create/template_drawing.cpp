@@ -40,7 +40,8 @@ NewDrawing MakeDrawing(const std::wstring& name, ProMdl model, std::wstring temp
 }
 
 NewDrawing MakeToolboxDrawing(WorkingDirectory& directory, const std::wstring& name, ProMdl model) {
-  directory.Enter(InstalledPath(kTemplateFolder));
+  // A file of that name in the user's own folder is another template.
+  if (!Ok(directory.Enter(InstalledPath(kTemplateFolder)))) return {PRO_TK_E_NOT_FOUND, nullptr};
   const NewDrawing made = MakeDrawing(name, model, kTemplate);
   directory.Return();
   return made;

@@ -90,7 +90,7 @@ ProError BuildDrawing(ProMdl model, const TweViewsWishes& wishes) {
   const ProError status = DrawTweViews(made.drawing, model, orientation, wishes);
   if (!Ok(status)) return status;
   int shown_in = -1;
-  if (Ok(ProMdlWindowGet(made.drawing, &shown_in))) ProWindowActivate(shown_in);
+  if (Ok(ProMdlWindowGet(made.drawing, &shown_in)) && shown_in >= 0) ProWindowActivate(shown_in);
   if (wishes.exports) ExportToDesktop(made.drawing, name);
   return PRO_TK_NO_ERROR;
 }
@@ -100,8 +100,9 @@ void Apply(const DialogView& dialog) {
   CommandLog log("TweViews/ApplyBt");
   ProMdl model = ChooseModel(Selectable::kPartsAndAssemblies).model;
   if (model != nullptr) model = WithoutManufacturing(model);
-  if (model == nullptr) return;
+  if (model == nullptr) return log.set_status(PRO_TK_E_NOT_FOUND);
   const auto wishes = ReadWishes(dialog);
+  log.set_status(PRO_TK_GENERAL_ERROR);
   if (!wishes) return ShowMessage(kUnreadableField);
   dialog.Exit();
   log.set_status(BuildDrawing(model, *wishes));

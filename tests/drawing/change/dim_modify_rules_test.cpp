@@ -53,7 +53,6 @@ TEST(DimModifyRules, QuantitySpacingAndDepthStandAroundThePresentText) {
   EXPECT_EQ(Line("sufBt1", {}, L"4×@D"), L"4×@DEQS");
   EXPECT_EQ(Line("sufBt1"), L"@DEQS");
   EXPECT_EQ(Line("sufBt2", L"12", L"M@D"), (L"M@D" + Symbol(L'x') + L"12"));
-  EXPECT_EQ(Line("sufBt2", L"12", std::wstring()), (Symbol(L'x') + L"12"));
   EXPECT_EQ(Line("sufBt1", {}, std::wstring(77, L'a')), std::wstring(77, L'a') + L"EQS");
   EXPECT_EQ(Line("sufBt1", {}, std::wstring(78, L'a')), std::nullopt);  // never cut
 }
