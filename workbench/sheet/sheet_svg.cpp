@@ -356,22 +356,23 @@ class SheetPainter {
     svg_ += "</g>";
   }
 
+  static std::string Span(const std::string& text, const std::string& attributes) {
+    return text.empty() ? "" : "<tspan" + attributes + ">" + EscapeHtml(text) + "</tspan>";
+  }
+
   // Limits one above the other: the lower one starts again where the upper one did.
   std::string Spans(const TextLine& line) const {
-    std::string html = EscapeHtml(line.text);
-    if (!line.upper.empty()) {
-      const double limit = kLimitLetters * letters_;
-      html += "<tspan" + Attribute("font-size", N(limit)) + Attribute("dy", N(-0.45 * letters_)) +
-              ">" + EscapeHtml(line.upper) + "</tspan>";
-      html += "<tspan" + Attribute("font-size", N(limit)) +
-              Attribute("dx", N(-WidthOf(line.upper) * limit)) +
-              Attribute("dy", N(0.7 * letters_)) + ">" + EscapeHtml(line.lower) + "</tspan>";
-      if (!line.rest.empty()) {
-        html += "<tspan" + Attribute("dy", N(-0.25 * letters_)) + ">" + EscapeHtml(line.rest) +
-                "</tspan>";
-      }
-    }
-    return html;
+    constexpr double kRaised = 0.45, kLowered = 0.25;
+    const double limit = kLimitLetters * letters_;
+    const std::string size = Attribute("font-size", N(limit));
+    const std::string back = Attribute("dx", N(-WidthOf(line.upper) * limit));
+    // A shift holds for what follows, up to the next one.
+    const double above_line = line.upper.empty() ? 0 : kRaised;
+    const double below_line = line.lower.empty() ? -above_line : kLowered;
+    return EscapeHtml(line.text) +
+           Span(line.upper, size + Attribute("dy", N(-kRaised * letters_))) +
+           Span(line.lower, size + back + Attribute("dy", N((above_line + kLowered) * letters_))) +
+           Span(line.rest, Attribute("dy", N(-below_line * letters_)));
   }
 
   const SheetPicture& sheet_;

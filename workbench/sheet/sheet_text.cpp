@@ -18,11 +18,11 @@ struct Symbol {
   const char* sign;
 };
 constexpr Symbol kSymbols[] = {
-    {'n', "\u00D8"},  // diameter
-    {'o', "\u25A1"},  // square
-    {'v', "\u2334"},  // counterbore
-    {'w', "\u2335"},  // countersink
-    {'x', "\u21A7"},  // depth
+    {'n', "\u00D8"},        // diameter
+    {'o', "\u25A1"},        // square
+    {'v', "\u2514\u2518"},  // counterbore: few fonts have its own sign
+    {'w', "\u2228"},        // countersink, likewise
+    {'x', "\u21A7"},        // depth
 };
 
 std::string SignOf(char letter) {

@@ -41,7 +41,7 @@ TEST(SheetTextTest, LettersOfTheSymbolFontAreSigns) {
                         "9 \x01w\x02"
                         "9\x01x\x02"
                         "5"),
-            "⌴9 ⌵9↧5");
+            "└┘9 ∨9↧5");
   EXPECT_EQ(WithSymbols("\x01q\x02\x02"), "q");
   EXPECT_EQ(LinesOf(Dimension{.value = 8, .text = "\x01n\x02@D\n通孔"}),
             (std::vector<TextLine>{{"Ø8"}, {"通孔"}}));
