@@ -44,7 +44,7 @@ void AwaitCall(ScriptRun& run, const Statement& statement) {
 #define WB_REQUEST "{[title TITLE] [filter FILTER] [folder FOLDER]}"
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kAnswerForms[] = {
     {"dialog NAME",                          kAnswerOrDialog, kWhenAsked, kDialogPlace},
     {WB_MESSAGE " while",                    kAnswerOrDialog, kWhenAsked, kDialogPlace},
     {WB_MESSAGE,                             kAnswerOrDialog, kWhenAsked},
@@ -65,7 +65,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms AnswerStatements() {
-  return kForms;
+  return kAnswerForms;
 }
 
 std::string DescribeBox(const MessageBox& box) {

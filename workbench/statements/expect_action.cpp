@@ -104,7 +104,7 @@ void ExpectTimer(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kExpectActionForms[] = {
     {"expect note TEXT",                               kTopOrDialog, &ExpectNote},
     {"expect notes TEXT...",                           kTopOrDialog, &ExpectNotes},
     {"expect no note",                                 kTopOrDialog, &ExpectNotes},
@@ -123,7 +123,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms ActionExpectations() {
-  return kForms;
+  return kExpectActionForms;
 }
 
 }  // namespace wb

@@ -63,7 +63,7 @@ void ExpectLog(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kExpectFilesForms[] = {
     {"expect no file PATH",                        kTopOrDialog, &ExpectFile},
     {"expect file PATH is TEXT [ansi]",            kTopOrDialog, &ExpectFile},
     {"expect file PATH contains TEXT",             kTopOrDialog, &ExpectFile},
@@ -78,7 +78,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms FileExpectations() {
-  return kForms;
+  return kExpectFilesForms;
 }
 
 }  // namespace wb

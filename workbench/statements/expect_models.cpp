@@ -138,7 +138,7 @@ void ExpectRefresh(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kExpectModelsForms[] = {
     {"expect parameter MODEL NAME is missing",            kTopOrDialog, &ExpectParameter},
     {"expect parameter MODEL NAME is real NUMBER",        kTopOrDialog, &ExpectParameter},
     {"expect parameter MODEL NAME is integer INTEGER",    kTopOrDialog, &ExpectParameter},
@@ -166,7 +166,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms ModelExpectations() {
-  return kForms;
+  return kExpectModelsForms;
 }
 
 }  // namespace wb

@@ -200,7 +200,7 @@ void ExpectNotification(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kExpectRegistryForms[] = {
     {"expect access COMMAND is STATE:available|unavailable",      kTopPlace, &ExpectAccess},
     {"expect popup none",                                         kTopPlace, &ExpectPopupNone},
     {"expect popup button NAME missing",                          kTopPlace, &ExpectPopupMissing},
@@ -228,7 +228,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms RegistryExpectations() {
-  return kForms;
+  return kExpectRegistryForms;
 }
 
 }  // namespace wb

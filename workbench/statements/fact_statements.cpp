@@ -68,7 +68,7 @@ void ExpectEntries(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kFactForms[] = {
     {"fact MODEL FACT VALUE",         kTopOrDialog, &SetFact},
     {"add MODEL ENTRY FACTS...",      kTopOrDialog, &Add},
     {"expect fact MODEL FACT VALUE",  kTopOrDialog, &ExpectFact},
@@ -79,7 +79,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms FactStatements() {
-  return kForms;
+  return kFactForms;
 }
 
 }  // namespace wb

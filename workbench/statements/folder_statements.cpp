@@ -94,7 +94,7 @@ void RequireCodePage(ScriptRun&, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kFolderForms[] = {
     {"folder temp",            kTopPlace, &FolderTemp},
     {"folder copy PATH",       kTopPlace, &FolderCopy},
     {"folder PATH",            kTopPlace, &Folder},
@@ -130,7 +130,7 @@ ScriptFolders::~ScriptFolders() {
 }
 
 StatementForms FolderStatements() {
-  return kForms;
+  return kFolderForms;
 }
 
 }  // namespace wb

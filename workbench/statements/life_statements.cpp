@@ -87,7 +87,7 @@ void SwitchTrace(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kLifeForms[] = {
     {"start",                kTopPlace,    &Start},
     {"stop",                 kTopPlace,    &Stop},
     {"timers",               kTopPlace,    &Timers},
@@ -106,7 +106,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms LifeStatements() {
-  return kForms;
+  return kLifeForms;
 }
 
 }  // namespace wb

@@ -237,7 +237,7 @@ void Save(ScriptRun& run, const Statement& statement) {
   "program_suppressed|suppressed|unregenerated"
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kModelForms[] = {
     {"part NAME {[sheet_metal] [skeleton]}",                       kTopPlace,    &Part},
     {"assembly NAME",                                              kTopPlace,    &Assembly},
     {"manufacturing NAME [of MODEL]",                              kTopPlace,    &Manufacturing},
@@ -282,7 +282,7 @@ ParameterValue ParameterArgument(const Statement& statement) {
 }
 
 StatementForms ModelStatements() {
-  return kForms;
+  return kModelForms;
 }
 
 }  // namespace wb
