@@ -5,6 +5,7 @@
 #pragma once
 
 #include <utility>
+#include <vector>
 
 #include "toolkit/array.h"
 #include "toolkit/geometry.h"
@@ -58,6 +59,9 @@ inline void Environment(ProSelectionEnv environment) {
 inline void Geometry(ProGeomitemdata* data) {
   ProGeomitemdataFree(&data);
 }
+inline void ArrayTexts(wchar_t** texts) {
+  ProWstringproarrayFree(texts);
+}
 template <typename T>
 void Array(T* items) {
   ProArray array = items;
@@ -67,6 +71,8 @@ void Array(T* items) {
 }  // namespace release
 
 using WideText = Owner<wchar_t*, &release::Text>;
+// An array of the host with texts that are freed with it.
+using TextArray = Owner<wchar_t**, &release::ArrayTexts>;
 using SelectionEnvironment = Owner<ProSelectionEnv, &release::Environment>;
 using GeometryData = Owner<ProGeomitemdata*, &release::Geometry>;
 
@@ -99,16 +105,33 @@ class HostArray : public Owner<T*, &release::Array<T>> {
     ProArray array = this->get();
     T copy = item;
     const ProError status = ProArrayObjectAdd(&array, PRO_VALUE_UNUSED, 1, &copy);
-    if (array != nullptr && array != this->get()) {
-      this->release();
-      this->reset(static_cast<T*>(array));
-    }
+    Adopt(array);
     return status;
+  }
+
+  // An array of these items; fails when it holds fewer or more of them.
+  ProError Assign(std::vector<T>& items) {
+    const ProError allocated = Allocate();
+    if (!Ok(allocated) || items.empty()) return allocated;
+    ProArray array = this->get();
+    const ProError status =
+        ProArrayObjectAdd(&array, PRO_VALUE_UNUSED, static_cast<int>(items.size()), items.data());
+    Adopt(array);
+    if (!Ok(status)) return status;
+    return size() == static_cast<int>(items.size()) ? PRO_TK_NO_ERROR : PRO_TK_OUT_OF_MEMORY;
   }
 
   // Asks the host each time: keep the answer when looping.
   int size() const { return ArraySize(this->get()); }
   T& operator[](int index) const { return this->get()[index]; }
+
+ private:
+  // Where the array is after it may have moved.
+  void Adopt(ProArray array) {
+    if (array == nullptr || array == this->get()) return;
+    this->release();
+    this->reset(static_cast<T*>(array));
+  }
 };
 
 // Copies of the preselected items, as the selection buffer gives them.

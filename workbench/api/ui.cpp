@@ -57,6 +57,9 @@ FieldIn<ChoiceState> RadioIn(const char* dialog, const char* group) {
 FieldIn<TextState> InputIn(const char* dialog, const char* panel) {
   return {dialog, panel, FieldKind::kInputPanel};
 }
+FieldIn<TextState> TextAreaIn(const char* dialog, const char* area) {
+  return {dialog, area, FieldKind::kTextArea};
+}
 FieldIn<CheckState> CheckIn(const char* dialog, const char* button) {
   return {dialog, button, FieldKind::kCheckButton};
 }
@@ -138,6 +141,11 @@ ProError ProUIInputpanelValueSet(const char* dialog, const char* component, wcha
 ProError ProUIInputpanelValueGet(const char* dialog, const char* component, wchar_t** value) {
   return Crossing(__func__, InputIn(dialog, component), OutWide(value, "value place"))
       .Run([](const TextState& panel, WidePlace place) { place = panel.Value(); });
+}
+
+ProError ProUITextareaValueGet(const char* dialog, const char* component, wchar_t** value) {
+  return Crossing(__func__, TextAreaIn(dialog, component), OutWide(value, "value place"))
+      .Run([](const TextState& area, WidePlace place) { place = area.Value(); });
 }
 
 ProError ProUIOptionmenuValueSet(const char* dialog, const char* component, wchar_t* value) {

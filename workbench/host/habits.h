@@ -32,6 +32,13 @@ struct Habits {
   bool resources_lie_beside_text = false;            // in `resource`, instead of `text/resource`
   bool surface_data_has_unknown_order = false;
   bool parameter_record_has_unknown_order = false;
+  bool lacking_appearance_is_not_found = false;  // instead of success with the record untouched
+  bool appearance_record_has_unknown_order = false;
+  bool post_relations_are_always_there = false;  // a set that has no lines can be opened
+  bool relations_without_lines_succeed = false;  // with no array, instead of "not found"
+  bool unit_conversions_are_exchanged = false;   // same size is 0, same dimensions is 1
+  bool unit_system_types_are_exchanged = false;  // force-length-time is 0, mass-length-time is 1
+  bool unit_records_are_longer = false;          // those in arrays, by 8 bytes
 };
 
 struct HabitRow {

@@ -24,6 +24,12 @@ std::optional<std::wstring> DialogView::TryInputValue(const char* component) con
   return Taken(status, text);
 }
 
+std::optional<std::wstring> DialogView::TryTextAreaValue(const char* component) const {
+  WideText text;
+  const ProError status = ProUITextareaValueGet(name(), component, text.put());
+  return Taken(status, text);
+}
+
 ProError DialogView::SetInputValue(const char* component, std::wstring value) const {
   return ProUIInputpanelValueSet(name(), component, value.data());
 }
