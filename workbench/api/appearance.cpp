@@ -47,7 +47,7 @@ constexpr NumberRow kNumbers[] = {
 // Where a number stands that is none of an appearance.
 constexpr double kNoNumber = 255;
 
-void FillRecord(const Call& call, Appearance& from, ProSurfaceAppearanceProps& to) {
+void FillAppearance(const Call& call, Appearance& from, ProSurfaceAppearanceProps& to) {
   std::copy(from.colour.begin(), from.colour.end(), to.color_rgb);
   std::copy(from.highlight_colour.begin(), from.highlight_colour.end(), to.highlight_color);
   for (const NumberRow& row : kNumbers) to.*row.field = from.*row.fact;
@@ -62,7 +62,7 @@ double Channel(const Call& call, double number) {
   return number;
 }
 
-Appearance ReadRecord(const Call& call, const ProSurfaceAppearanceProps& from) {
+Appearance ReadAppearance(const Call& call, const ProSurfaceAppearanceProps& from) {
   Appearance to;
   for (size_t i = 0; i < to.colour.size(); ++i) {
     to.colour[i] = Channel(call, from.color_rgb[i]);
@@ -85,7 +85,7 @@ ProError ProSurfaceAppearancepropsGet(ProModelitem* item, ProSurfaceAppearancePr
   return Crossing(__func__, LookIn(item), Out(properties, "properties place"))
       .Run([](const Call& call, const AppearancePlace& from, ProSurfaceAppearanceProps& place) {
         if (from.appearance) {
-          FillRecord(call, *from.appearance, place);
+          FillAppearance(call, *from.appearance, place);
         } else if (call.host.habits.lacking_appearance_is_not_found) {
           return PRO_TK_E_NOT_FOUND;
         }
@@ -98,7 +98,7 @@ ProError ProSurfaceAppearancepropsSet(ProModelitem* item, ProSurfaceAppearancePr
       .Run([&](const Call& call, const AppearancePlace& to, void*) {
         // Read in full first: its texts may be those of the appearance that is replaced.
         std::optional<Appearance> wanted;
-        if (properties != nullptr) wanted = ReadRecord(call, *properties);
+        if (properties != nullptr) wanted = ReadAppearance(call, *properties);
         to.appearance = std::move(wanted);
         to.model.modified = true;
       });

@@ -27,7 +27,7 @@ constexpr Point kLight = {-0.36, 0.8, 0.48};
 constexpr double kLeastLight = 0.55;
 
 // A part as it lies in the assembly.
-struct Occurrence {
+struct PlacedModel {
   const Model* model;
   Placement placement;               // seen by the viewer
   const Appearance* look = nullptr;  // of the nearest assembly above that has one
@@ -77,9 +77,9 @@ double SizeOf(const SeenBox& box) {
 
 std::vector<SeenPart> PartsIn(const Model& top) {
   std::vector<SeenPart> parts;
-  std::vector<Occurrence> pending = {{&top, kViewFromCorner}};
+  std::vector<PlacedModel> pending = {{&top, kViewFromCorner}};
   for (std::size_t met = 0; !pending.empty() && met < kMostOccurrencesSeen; ++met) {
-    const Occurrence at = pending.back();
+    const PlacedModel at = pending.back();
     pending.pop_back();
     const SolidContent* const solid = at.model->As<SolidContent>();
     if (solid == nullptr) continue;

@@ -28,6 +28,18 @@ void Option(ScriptRun& run, const Statement& statement) {
   run.host.options[FoldCase(statement.Text("NAME"))] = statement.Texts("TEXT");
 }
 
+void ExpectOption(ScriptRun& run, const Statement& statement) {
+  const auto found = run.host.options.find(FoldCase(statement.Text("NAME")));
+  const std::vector<std::string> got =
+      found == run.host.options.end() ? std::vector<std::string>() : found->second;
+  std::vector<std::string> wanted;
+  if (!statement.Has("none")) wanted = statement.Texts("TEXT");
+  const auto told = [](const std::vector<std::string>& values) {
+    return values.empty() ? "none" : Quoted(Join(" ", values));
+  };
+  run.Check(statement, got == wanted, "option " + statement.Text("NAME"), told(wanted), told(got));
+}
+
 void Setting(ScriptRun& run, const Statement& statement) {
   const bool written = WriteProfile(
       run.ConfigFile(statement.Text("FILE")), statement.Text("SECTION"), statement.Text("KEY"),
@@ -97,6 +109,8 @@ constexpr StatementForm kStateForms[] = {
     {"select [also] PATH...",                         kTopPlace, &Select},
     {"option NAME none",                              kTopPlace, &OptionNone},
     {"option NAME TEXT...",                           kTopPlace, &Option},
+    {"expect option NAME none",                       kTopOrDialog, &ExpectOption},
+    {"expect option NAME TEXT...",                    kTopOrDialog, &ExpectOption},
     {"setting FILE SECTION KEY missing",              kTopPlace, &Setting},
     {"setting FILE SECTION KEY TEXT",                 kTopPlace, &Setting},
     {"config_folder missing",                         kTopPlace, &ConfigFolderMissing},
