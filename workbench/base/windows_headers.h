@@ -1,6 +1,7 @@
-// Windows' own header without its macro that would rename the workbench's MessageBox.
+// Windows' own header without those of its macros that would rename what the workbench calls so.
 #pragma once
 
 #include <windows.h>
 
+#undef FindWindow
 #undef MessageBox
