@@ -77,6 +77,22 @@ TEST(GrowthOfDepth, TenThousandLevelsPass) {
   EXPECT_EQ(result.rows.size(), BenchParts().size());
 }
 
+TEST(GrowthOfFolders, HostCallsAreExactlyLinearInTheDrawingsAndProgressIsToldEveryTwenty) {
+  std::map<std::string, std::vector<std::pair<long, long>>> calls;
+  for (const int drawings : {40, 100, 200}) {
+    for (const FolderRow& row : MeasureFolder(drawings, Installed().dll(), Installed().work())) {
+      calls[row.command].emplace_back(row.drawings, row.calls);
+      EXPECT_EQ(row.notes, drawings / 20 - 1) << row.command;
+    }
+  }
+  ASSERT_EQ(calls.size(), 2u);
+  for (const auto& [command, points] : calls) {
+    EXPECT_TRUE(IsExactlyLinear(points)) << command;
+    // Each drawing has three views and two tables on two sheets.
+    EXPECT_LE(points[1].second - points[0].second, 40 * 60) << command;
+  }
+}
+
 TEST(GrowthReport, FitsTheExponentOfAPower) {
   EXPECT_NEAR(FittedExponent({{10, 30}, {100, 300}, {1000, 3000}}), 1, 1e-9);
   EXPECT_NEAR(FittedExponent({{4, 8}, {16, 64}}), 1.5, 1e-9);
@@ -98,6 +114,7 @@ TEST(GrowthReport, HoldsEveryRowAndTellsWhichBoundIsMissed) {
   result.rows.push_back(
       {shape, BenchPart::kSummaryBill, 100, 100, 4001, 700, 301, 1, 1, 1, 1, 1, 0});
   result.most_asked = {{"ProMdlNameGet", 2}};
+  for (const int size : {20, 40, 80}) result.folders.push_back({"QmFrmReplace", size, size * size});
   const std::string tables = BenchTables(result, false);
   EXPECT_NE(tables.find("flat   collection          100000  100000      700000           7.000"),
             std::string::npos)
@@ -106,7 +123,9 @@ TEST(GrowthReport, HoldsEveryRowAndTellsWhichBoundIsMissed) {
   for (const BenchBound& bound : CheckBounds(result)) {
     if (!bound.kept) missed.push_back(bound.text + ": " + bound.found);
   }
-  EXPECT_EQ(missed, (Lines{"QmParams asks each model for each fact once: ProMdlNameGet 2 times",
+  EXPECT_EQ(missed, (Lines{"host calls exactly linear in the drawings of a folder: QmFrmReplace "
+                           "are not",
+                           "QmParams asks each model for each fact once: ProMdlNameGet 2 times",
                            "QmBom reads each model's parameter once for each column: 301 readings "
                            "of 100 models (flat)",
                            "QmBom at most 4 host calls for each of the bare walk's and each fact: "
