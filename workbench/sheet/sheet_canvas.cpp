@@ -52,12 +52,8 @@ std::string SvgAttribute(const char* name, const std::string& value) {
   return std::string(" ") + name + "=\"" + value + "\"";
 }
 
-std::string InkLines(double width, const char* fill) {
-  return SvgAttribute("fill", fill) + SvgAttribute("stroke", kInk) +
-         SvgAttribute("stroke-width", LengthText(width));
-}
-
-SheetCanvas::SheetCanvas(const std::string& size) {
+SheetCanvas::SheetCanvas(const std::string& size, const char* ink)
+    : ink_(ink), thick_(kThick), thin_(kThin), letters_(kLetters) {
   const SheetSize* const known = FindSheetSize(size);
   size_ = known == nullptr ? kUnknownSize : *known;
   seen_ = {0, 0, size_.width, size_.height};
@@ -86,10 +82,26 @@ std::string SheetCanvas::Begin() const {
                           LengthText(all[2] - all[0]) + " " + LengthText(all[3] - all[1]);
   return "<svg class=\"sheet\" xmlns=\"http://www.w3.org/2000/svg\"" +
          SvgAttribute("width", LengthText(std::round(pixels_))) + SvgAttribute("viewBox", box) +
-         SvgAttribute("fill", kInk) + SvgAttribute("font-family", kFonts) +
-         SvgAttribute("font-size", LengthText(letters_)) +
-         SvgAttribute("stroke-linejoin", "round") + ">" +
-         Rectangle(all, SvgAttribute("fill", "#e4e7eb"));
+         Letters() + ">" + Rectangle(all, SvgAttribute("fill", "#e4e7eb"));
+}
+
+std::string SheetCanvas::BeginPage(const std::string& style) const {
+  const std::string width = LengthText(size_.width);
+  const std::string height = LengthText(size_.height);
+  return "<svg xmlns=\"http://www.w3.org/2000/svg\"" + SvgAttribute("width", width + "mm") +
+         SvgAttribute("height", height + "mm") +
+         SvgAttribute("viewBox", "0 0 " + width + " " + height) + Letters() + "><style>" + style +
+         "</style>";
+}
+
+std::string SheetCanvas::Letters() const {
+  return SvgAttribute("fill", ink_) + SvgAttribute("font-family", kFonts) +
+         SvgAttribute("font-size", LengthText(letters_)) + SvgAttribute("stroke-linejoin", "round");
+}
+
+std::string SheetCanvas::Lines(double width, const char* fill) const {
+  return SvgAttribute("fill", fill) + SvgAttribute("stroke", ink_) +
+         SvgAttribute("stroke-width", LengthText(width));
 }
 
 std::string SheetCanvas::Rectangle(const Outline& area, const std::string& attributes) const {

@@ -10,15 +10,15 @@
 namespace wb {
 
 inline constexpr const char* kInk = "#14181d";
+inline constexpr const char* kBlack = "#000";
 
 std::string SvgAttribute(const char* name, const std::string& value);
-// Lines of ink around an area.
-std::string InkLines(double width, const char* fill = "none");
 
 class SheetCanvas {
  public:
-  // The paper by the name of its size.
-  explicit SheetCanvas(const std::string& size);
+  // The paper by the name of its size. Lines and letters are those of paper until Measure makes
+  // them fit a picture.
+  SheetCanvas(const std::string& size, const char* ink);
 
   // What lies beside the paper is seen as well. Lines and letters hold for all that was enclosed
   // before the last Measure.
@@ -34,6 +34,10 @@ class SheetCanvas {
   double Down(double y) const { return size_.height - y; }
 
   std::string Begin() const;
+  // The paper alone at its true size.
+  std::string BeginPage(const std::string& style) const;
+  // Lines of ink around an area.
+  std::string Lines(double width, const char* fill = "none") const;
   std::string Rectangle(const Outline& area, const std::string& attributes) const;
   // What marks a changed thing; nothing for one that is the same.
   std::string Halo(const Outline& area, SheetMark mark) const;
@@ -42,14 +46,16 @@ class SheetCanvas {
 
  private:
   std::string Around(const ShownFace& face) const;
+  std::string Letters() const;
 
+  const char* const ink_;
   SheetSize size_;
   Outline seen_{};  // the paper and all that lies beside it
   double pixels_ = 0;
   double pixel_ = 1;  // in millimetres
-  double thick_ = 0;
-  double thin_ = 0;
-  double letters_ = 0;
+  double thick_;
+  double thin_;
+  double letters_;
 };
 
 }  // namespace wb

@@ -23,10 +23,19 @@ constexpr double kCentringMark = 5;  // into the frame
 constexpr double kLineStep = 1.4;  // from line to line, in letters
 constexpr double kCellFill = 0.6;  // of a cell's height, for its letters
 
+// What distinguishes texts and hidden edges on a page.
+std::string PageStyle(PageInk ink, bool stroked) {
+  constexpr const char* kStyles[] = {
+      ".dimension{fill:#1246a8}.note{fill:#0a6b2d}.hidden{stroke:#9a5b00}",
+      ".dimension,.note{fill:#555}.hidden{stroke:#777}", ""};
+  const std::string letters = "text{fill:none;stroke:#000;stroke-width:.25}";
+  return kStyles[static_cast<std::size_t>(ink)] + (stroked ? letters : "");
+}
+
 class SheetPainter {
  public:
   SheetPainter(const SheetPicture& sheet, const SheetPicture* other, SheetMoment moment)
-      : sheet_(sheet), other_(other), moment_(moment), canvas_(sheet.size) {
+      : sheet_(sheet), other_(other), moment_(moment), canvas_(sheet.size, kInk) {
     // Letters are as large as the picture needs them, which grows with what lies beside the paper.
     for (const ViewPicture& view : sheet.views) canvas_.Enclose(view.outline);
     for (const TablePicture& table : sheet.tables) canvas_.Enclose(AreaOf(table));
@@ -36,9 +45,24 @@ class SheetPainter {
     canvas_.Measure();
   }
 
+  // A page of its own.
+  explicit SheetPainter(const SheetPicture& sheet)
+      : sheet_(sheet), other_(nullptr), moment_(SheetMoment::kAfter), canvas_(sheet.size, kBlack) {}
+
   std::string Paint() {
     svg_ = canvas_.Begin();
     Paper();
+    return PaintRest();
+  }
+
+  Page PaintPage(const std::string& style) {
+    svg_ = canvas_.BeginPage(style);
+    return {PaintRest(), canvas_.size().width, canvas_.size().height};
+  }
+
+ private:
+  std::string PaintRest() {
+    Frame();
     for (const TablePicture& table : sheet_.tables) Table(table);
     for (const ViewPicture& view : sheet_.views) View(view);
     Texts(sheet_.dimensions, "dimension", true);
@@ -46,7 +70,6 @@ class SheetPainter {
     return svg_ + "</svg>";
   }
 
- private:
   // `middle`: the place is the middle of the text; otherwise its first line begins there.
   Outline TextArea(const TextPicture& text, bool middle) const {
     double width = 0;
@@ -66,11 +89,15 @@ class SheetPainter {
                               SvgAttribute("class", "paper") + SvgAttribute("fill", "#fff") +
                                   SvgAttribute("stroke", "#8d98a4") +
                                   SvgAttribute("stroke-width", N(canvas_.thin())));
+  }
+
+  void Frame() {
+    const SheetSize& paper = canvas_.size();
     if (sheet_.format.empty()) return;
     const double edge = std::max(paper.width, paper.height) > kNarrowFrom ? kWideEdge : kNarrowEdge;
     const Outline frame = {kBindingEdge, edge, paper.width - edge, paper.height - edge};
-    svg_ +=
-        canvas_.Rectangle(frame, SvgAttribute("class", "frame") + InkLines(canvas_.thick() * 1.3));
+    svg_ += canvas_.Rectangle(
+        frame, SvgAttribute("class", "frame") + canvas_.Lines(canvas_.thick() * 1.3));
     CentringMarks(frame);
   }
 
@@ -85,7 +112,7 @@ class SheetPainter {
     svg_ += "<path d=\"" + down(0, canvas_.Down(frame[3]) + kCentringMark) +
             down(paper.height, canvas_.Down(frame[1]) - kCentringMark) +
             along(0, frame[0] + kCentringMark) + along(paper.width, frame[2] - kCentringMark) +
-            "\"" + InkLines(canvas_.thick()) + "/>";
+            "\"" + canvas_.Lines(canvas_.thick()) + "/>";
   }
 
   void Table(const TablePicture& table) {
@@ -104,8 +131,8 @@ class SheetPainter {
     for (std::size_t i = 0; i + 1 < table.heights.size(); ++i) {
       lines += "M" + N(area[0]) + " " + N(canvas_.Down(y -= table.heights[i])) + "H" + N(area[2]);
     }
-    svg_ += "<path d=\"" + lines + "\"" + InkLines(canvas_.thin()) + "/>" +
-            canvas_.Rectangle(area, InkLines(canvas_.thick()));
+    svg_ += "<path d=\"" + lines + "\"" + canvas_.Lines(canvas_.thin()) + "/>" +
+            canvas_.Rectangle(area, canvas_.Lines(canvas_.thick()));
     svg_ += "<g text-anchor=\"middle\">";
     for (const CellPicture& cell : table.cells) Cell(table, cell);
     svg_ += "</g></g>";
@@ -147,7 +174,7 @@ class SheetPainter {
     const bool wires = view.style == DisplayStyle::kWireframe;
     const bool shaded = view.style == DisplayStyle::kShaded;
     const char* const fill = wires ? "none" : shaded ? "#d3dae2" : "#fff";
-    svg_ += "<g class=\"visible\"" + InkLines(canvas_.thick(), fill) + ">";
+    svg_ += "<g class=\"visible\"" + canvas_.Lines(canvas_.thick(), fill) + ">";
     for (const ShownBoxFaces& box : view.boxes) {
       svg_ += "<path d=\"" + canvas_.Around(box.front) + (wires ? canvas_.Around(box.back) : "") +
               "\"/>";
@@ -165,7 +192,7 @@ class SheetPainter {
     }
     if (path.empty()) return;
     svg_ +=
-        "<path class=\"hidden\" d=\"" + path + "\"" + InkLines(canvas_.thin()) +
+        "<path class=\"hidden\" d=\"" + path + "\"" + canvas_.Lines(canvas_.thin()) +
         SvgAttribute("stroke-dasharray", N(4 * canvas_.thick()) + " " + N(2 * canvas_.thick())) +
         "/>";
   }
@@ -221,6 +248,15 @@ class SheetPainter {
 
 std::string DrawSheet(const SheetPicture& sheet, const SheetPicture* other, SheetMoment moment) {
   return SheetPainter(sheet, other, moment).Paint();
+}
+
+Page DrawPage(const SheetPicture& sheet, PageInk ink, bool stroked) {
+  if (ink != PageInk::kMono) return SheetPainter(sheet).PaintPage(PageStyle(ink, stroked));
+  SheetPicture plain = sheet;
+  for (ViewPicture& view : plain.views) {
+    if (view.style == DisplayStyle::kShaded) view.style = DisplayStyle::kDefault;
+  }
+  return SheetPainter(plain).PaintPage(PageStyle(ink, stroked));
 }
 
 }  // namespace wb
