@@ -12,6 +12,7 @@
 #include "entry/not_in_build.h"
 #include "tests/frame/guard/shield_probe.h"
 #include "tests/plugin_host.h"
+#include "tests/source_folder.h"
 #include "workbench/base/message_file.h"
 
 namespace wb {
@@ -91,11 +92,11 @@ std::vector<Lines> Matches(const std::string& text, const char* expression) {
 // tried by no probe. The two visits have a test of their own above.
 TEST_F(Boundary, EveryHostFunctionThatTakesAFunctionHasItsProbe) {
   std::string headers;
-  for (const auto& file : fs::directory_iterator(fs::path(QM_SOURCE_DIR) / "src" / "toolkit")) {
+  for (const auto& file : fs::directory_iterator(SourceFolder() / "src" / "toolkit")) {
     if (file.path().extension() == ".h") headers += ReadText(file.path());
   }
   const std::string table =
-      ReadText(fs::path(QM_SOURCE_DIR) / "tests" / "frame" / "guard" / "shielded_entries.h");
+      ReadText(SourceFolder() / "tests" / "frame" / "guard" / "shielded_entries.h");
   std::set<std::string> callbacks;
   for (const auto& type : Matches(headers, R"(\(\*(\w+)\)\([^()]*\) QM_CALLBACK;)")) {
     callbacks.insert(type[1]);
@@ -202,7 +203,7 @@ std::string StemOf(const std::string& command) {
   return stem;
 }
 
-const fs::path kProject = QM_SOURCE_DIR;
+const fs::path kProject = SourceFolder();
 
 // The header that declares the command, below src/; empty when there is none.
 fs::path HeaderOf(const std::string& command) {

@@ -6,6 +6,7 @@
 #include <set>
 
 #include "tests/plugin_host.h"
+#include "tests/source_folder.h"
 #include "workbench/bench/bench_heap.h"
 
 #include <psapi.h>
@@ -72,7 +73,7 @@ TEST_F(LifeCycle, TwoThousandLoadsAndUnloadsWithoutAStart) {
 // All functions of the host by their plain names.
 std::set<std::string> HostFunctions() {
   std::set<std::string> names;
-  std::ifstream notes(std::filesystem::path(QM_SOURCE_DIR) / "docs" / "host-api-notes.txt");
+  std::ifstream notes(SourceFolder() / "docs" / "host-api-notes.txt");
   for (std::string line; std::getline(notes, line);) {
     if (line.starts_with("Pro")) names.insert(line.substr(0, line.find(' ')));
   }

@@ -4,6 +4,8 @@
 
 #include <cstdio>
 
+#include "tests/source_folder.h"
+
 #if defined(__SANITIZE_ADDRESS__)
 // newlocale of the C library never frees the list of folders that it makes of LOCPATH (some 40
 // bytes, once). Its stack ends at the library's list of words, whose name alone is known.
@@ -14,6 +16,10 @@ extern "C" const char* __lsan_default_options() {
   return "print_suppressions=0";
 }
 #endif
+
+std::filesystem::path SourceFolder() {
+  return QM_SOURCE_DIR;
+}
 
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);

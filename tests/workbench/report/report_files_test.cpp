@@ -3,6 +3,7 @@
 
 #include <fstream>
 
+#include "tests/workbench/report/page_text.h"
 #include "tests/workbench/temporary_folder.h"
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
@@ -13,18 +14,6 @@
 
 namespace wb {
 namespace {
-
-std::size_t Count(const std::string& html, const std::string& part) {
-  std::size_t count = 0;
-  for (std::size_t at = html.find(part); at != std::string::npos; at = html.find(part, at + 1)) {
-    ++count;
-  }
-  return count;
-}
-
-bool Shows(const std::string& html, const std::string& part) {
-  return html.find(part) != std::string::npos;
-}
 
 TEST(ReportFilesTest, AFileWrittenIsKeptBesideThePageAndLinkedFromThere) {
   const TemporaryFolder folder("quillmax kept files");

@@ -3,22 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/workbench/report/page_text.h"
 #include "workbench/report/report_tree.h"
 
 namespace wb {
 namespace {
-
-std::size_t Count(const std::string& html, const std::string& part) {
-  std::size_t count = 0;
-  for (std::size_t at = html.find(part); at != std::string::npos; at = html.find(part, at + 1)) {
-    ++count;
-  }
-  return count;
-}
-
-bool Shows(const std::string& html, const std::string& part) {
-  return html.find(part) != std::string::npos;
-}
 
 TreeRow Row(int depth, int id, const std::string& name) {
   TreeRow row;

@@ -5,6 +5,7 @@
 
 #include <fstream>
 
+#include "tests/source_folder.h"
 #include "tests/workbench/test_paths.h"
 #include "workbench/base/command_line.h"
 #include "workbench/base/text.h"
@@ -17,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kSource = QM_SOURCE_DIR;
+const fs::path kSource = SourceFolder();
 
 std::vector<fs::path> Scripts() {
   std::vector<fs::path> scripts;

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <set>
 
+#include "tests/source_folder.h"
 #include "workbench/language/script_parser.h"
 #include "workbench/script/script_user.h"
 
@@ -69,8 +70,7 @@ TEST(StatementFamilies, AllButAnswersAreCarriedOutByAFunction) {
 // The examples of the manual between lines of ```qms and ```.
 std::vector<std::string> Examples() {
   std::vector<std::string> examples;
-  std::ifstream manual(std::filesystem::path(QM_SOURCE_DIR) / "docs" / "workbench.md",
-                       std::ios::binary);
+  std::ifstream manual(SourceFolder() / "docs" / "workbench.md", std::ios::binary);
   bool inside = false;
   for (std::string line; std::getline(manual, line);) {
     if (!line.empty() && line.back() == '\r') line.pop_back();

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "tests/source_folder.h"
 #include "tests/workbench/temporary_folder.h"
 #include "workbench/base/utf8_text.h"
 #include "workbench/base/zip_archive.h"
@@ -108,8 +109,8 @@ TEST_F(XlsxFile, TheSameWorkbookGivesTheSameBytes) {
 }
 
 TEST_F(XlsxFile, AFileSavedByAnotherProgramIsRead) {
-  const Workbook book = ReadXlsx(fs::path(QM_SOURCE_DIR) / "tests" / "workbench" / "workbook" /
-                                 "data" / "saved_by_another_program.xlsx");
+  const Workbook book = ReadXlsx(SourceFolder() / "tests" / "workbench" / "workbook" / "data" /
+                                 "saved_by_another_program.xlsx");
   const Worksheet& sheet = book.sheets.at(0);
   EXPECT_EQ(sheet.ValueAt({1, 1}), CellValue("泵 BOM"));
   EXPECT_EQ(sheet.ValueAt({4, 2}), CellValue("0007"));
