@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the plug-in and the workbench and runs the demo on a copy of its assembly. Prints what the
-# two commands changed and where the report lies, and little else unless something fails.
+# commands changed and where the report lies, and little else unless something fails.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 . "$here/environment.sh"
@@ -64,6 +64,9 @@ print_changes() {
     { item = substr($0, index($0, "(")) }
     command == "QmParams" && / ProMdlNameGet\(part / { met[++count] = word_after("part ") }
     command == "QmParams" && / ProParameterCreate\(/ { add_part() }
+    command == "QmRename" && / ProMdlRename\(/ && / = no_error$/ {
+      if (/ProMdlRename\(drawing /) drawings++; else models++
+    }
     command == "QmIsolate" && / ProAsmcomppathMdlGet\(/ { branch = word_after("-> assembly ") }
     command == "QmIsolate" && / ProModelitemHide\(/ && !hidden[item]++ { hidden_count++ }
     command == "QmIsolate" && / ProModelitemUnhide\(/ && hidden[item] { hidden[item] = 0; shown++ }
@@ -75,6 +78,7 @@ print_changes() {
       printf "           %d excluded:%s\n", excluded, names
       if (there != "") printf "           there already:%s\n", there
       printf "QmIsolate  shows %s with its %d parts; %d parts hidden\n", branch, shown, hidden_count - shown
+      printf "QmRename   renamed %d models and %d drawings from new_names.xlsx\n", models, drawings
     }' "$out/trace.txt"
 }
 

@@ -12,9 +12,9 @@ inline constexpr std::string_view kNotInBuild[] = {
     "QmBackup",        "NewPart",       "NewAsm",          "NewSmt",          "BatchColor",
     "QmClearAllColor", "QmTransparent", "SurfTransparent", "SetMat",          "SetBendTable",
     "QmRelations",     "SetUnit",       "CloneComp",       "CloneAndReplace", "QmMerge",
-    "QmMergeTo",       "QmExStp",       "QmExIgs",         "QmExSat",         "QmRename",
-    "QmRemoveCons",    "QmExport",      "QmMdlCount",      "QmSimRep",        "QmBox",
-    "QmExportDwg",     "QmExportPdf",   "QmMdlRename",     "QmExportStp",
+    "QmMergeTo",       "QmExStp",       "QmExIgs",         "QmExSat",         "QmRemoveCons",
+    "QmExport",        "QmMdlCount",    "QmSimRep",        "QmBox",           "QmExportDwg",
+    "QmExportPdf",     "QmExportStp",
 };
 
 // Says in a caption box that the command is not in this build.

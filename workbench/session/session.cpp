@@ -8,6 +8,7 @@
 #include "workbench/session/drawing_views.h"
 #include "workbench/session/model_cycle.h"
 #include "workbench/session/model_file.h"
+#include "workbench/session/renaming.h"
 
 namespace wb {
 namespace {
@@ -208,6 +209,17 @@ void Session::Erase(Model& model) {
   if (on_leave) on_leave(model);
   by_name_.erase(Key(model.id));
   std::erase_if(models_, [&](const auto& held) { return held.get() == &model; });
+}
+
+void Session::Rename(Model& model, const std::string& name) {
+  const ModelName before = model.id;
+  by_name_.erase(Key(before));
+  model.id.name = name;
+  model.modified = true;
+  by_name_[Key(model.id)] = &model;
+  for (const auto& user : models_) {
+    if (TakeNewName(*user, before, model)) user->modified = true;
+  }
 }
 
 std::filesystem::path Session::Save(Model& model) {
