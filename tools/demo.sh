@@ -64,6 +64,9 @@ print_changes() {
     { item = substr($0, index($0, "(")) }
     command == "QmParams" && / ProMdlNameGet\(part / { met[++count] = word_after("part ") }
     command == "QmParams" && / ProParameterCreate\(/ { add_part() }
+    command == "QmRename" && / ProMdlRename\(/ && / = no_error$/ {
+      if (/ProMdlRename\(drawing /) drawings++; else models++
+    }
     command == "QmIsolate" && / ProAsmcomppathMdlGet\(/ { branch = word_after("-> assembly ") }
     command == "QmIsolate" && / ProModelitemHide\(/ && !hidden[item]++ { hidden_count++ }
     command == "QmIsolate" && / ProModelitemUnhide\(/ && hidden[item] { hidden[item] = 0; shown++ }
@@ -91,6 +94,7 @@ print_changes() {
       printf "TweViews   made%s, %d views in all\n", drawn, views
       printf "Drawings   %d checked for their scales, %s mended; frame %s on%s;\n", checked, mended, frame, framed
       printf "           %d changes of dimensions\n", dimensions
+      printf "QmRename   renamed %d models and %d drawings from new_names.xlsx\n", models, drawings
     }' "$out/trace.txt"
 }
 

@@ -35,6 +35,8 @@ std::span<const HabitRow> HabitRows() {
       {"empty_file_list_fails", &Habits::empty_file_list_fails},
       {"file_list_repeats_names", &Habits::file_list_repeats_names},
       {"chosen_folder_has_separator", &Habits::chosen_folder_has_separator},
+      {"rename_leaves_files", &Habits::rename_leaves_files},
+      {"erasing_acts_at_the_end", &Habits::erasing_acts_at_the_end},
   };
   return kRows;
 }

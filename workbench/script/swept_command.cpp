@@ -64,7 +64,7 @@ void SweptCommand::CheckRestored(const CommandRun& result,
     complaints->push_back("the working directory was left changed");
   }
   const bool option_changed = run_.host.options != options_ && run_.host.options != options_after_;
-  if (option_changed) complaints->push_back("an option was left changed");
+  if (!all_calls_fail_ && option_changed) complaints->push_back("an option was left changed");
 }
 
 }  // namespace wb
