@@ -43,7 +43,7 @@ std::optional<RenameRow> RowOf(ProMdl model) {
 bool Rename(const RenameRow& row) {
   const std::vector<RenameRow> rows = {row};
   LegalNames legal;
-  const StoreBackMeanwhile option;
+  const StoreBackOption option;
   if (const auto refusal = RefusalOf(rows, legal)) {
     ShowMessage(*refusal);
     return false;

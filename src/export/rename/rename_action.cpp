@@ -47,6 +47,20 @@ void TellWhatIsLeftToDo(const RenameJournal& journal) {
   }
 }
 
+// Why the rows cannot be renamed; nothing when they can. They are read once more, since looking for
+// names may have let the user in.
+std::optional<std::wstring> WhyNot(const RenameTable& table, std::vector<RenameRow>* rows,
+                                   LegalNames& legal) {
+  if (auto refusal = RefusalOf(*rows, legal)) return refusal;
+  auto again = table.Read();
+  if (!again) return kUnreadableField;
+  *rows = std::move(*again);
+  for (const RenameRow& row : *rows) {
+    if (IsTooLong(row.new_name)) return TooLongAtRename(row.new_name);
+  }
+  return std::nullopt;
+}
+
 void Rename(const std::vector<RenameRow>& rows, RenameMemory& memory) {
   if (rows.empty()) return;
   RenameJournal journal;
@@ -66,21 +80,19 @@ void Rename(const std::vector<RenameRow>& rows, RenameMemory& memory) {
 }  // namespace
 
 void RenameListed(const RenameTable& table, RenameMemory& memory) {
-  const auto rows = table.Read();
+  auto rows = table.Read();
   if (!rows) return ShowMessage(kUnreadableField);
   if (rows->empty()) return ShowMessage(kNoRows);
   LogCount("rows", static_cast<long long>(rows->size()));
-  // Deliberately not put back after a refusal: models that are saved then go where a batch would
-  // have put them, as they always have.
   StoreBackOption option;
-  if (const auto refusal = RefusalOf(*rows, memory.legal)) return ShowMessage(*refusal);
-  // Read once more, since looking for names may have let the user in.
-  const auto again = table.Read();
-  if (!again) return ShowMessage(kUnreadableField);
-  const auto too_long =
-      std::ranges::find_if(*again, [](const RenameRow& row) { return IsTooLong(row.new_name); });
-  if (too_long != again->end()) return ShowMessage(TooLongAtRename(too_long->new_name));
-  Rename(ToRename(*again), memory);
+  const auto refusal = WhyNot(table, &*rows, memory.legal);
+  if (refusal) {
+    // Deliberately not put back: models that are saved then go where a batch would have put them,
+    // as they always have.
+    option.Leave();
+    return ShowMessage(*refusal);
+  }
+  Rename(ToRename(*rows), memory);
   option.Restore();
   ShowMessage(kDone);
 }

@@ -4,6 +4,7 @@
 #include "frame/messages/run_log.h"
 #include "frame/text/fixed_line.h"
 #include "frame/text/text.h"
+#include "toolkit/status.h"
 
 namespace qm {
 namespace {
@@ -72,11 +73,18 @@ bool RenameJournal::Begin(const std::vector<RenameRow>& rows,
   return true;
 }
 
-void RenameJournal::Mark(const RenameRow& row, std::string_view what) {
+void RenameJournal::Mark(const RenameRow& row, const char* what, ProError status) const noexcept {
   if (file_ == INVALID_HANDLE_VALUE) return;
-  std::string line = ToUtf8(row.number);
-  line.append("\t").append(what).append(kLineEnd);
-  Write(line);
+  FixedLine<256> line;
+  for (const wchar_t digit : row.number) {
+    const char narrow = static_cast<char>(digit);
+    line += std::string_view(&narrow, 1);
+  }
+  line += Ok(status) ? "\t" : "\tnot ";
+  line += what;
+  if (!Ok(status)) (line += ": ") += StatusName(status);
+  line += kLineEnd;
+  Write(line.text());
 }
 
 void RenameJournal::End(long long renamed, long long left) {
@@ -84,7 +92,7 @@ void RenameJournal::End(long long renamed, long long left) {
   Write("end: " + std::to_string(renamed) + " renamed, " + std::to_string(left) + " not\r\n\r\n");
 }
 
-void RenameJournal::Write(std::string_view text) const {
+void RenameJournal::Write(std::string_view text) const noexcept {
   DWORD written = 0;
   const bool is_written =
       ::WriteFile(file_, text.data(), static_cast<DWORD>(text.size()), &written, nullptr) != 0;

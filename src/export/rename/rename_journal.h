@@ -26,13 +26,13 @@ class RenameJournal {
   bool Begin(const std::vector<RenameRow>& rows, const std::vector<std::wstring>& folders);
   const std::wstring& path() const { return path_; }
 
-  // A step that has just been done, or has failed, of a row: written before the next call of the
-  // host.
-  void Mark(const RenameRow& row, std::string_view what);
+  // A step of a row that has just been done, or was refused: written before the next call of the
+  // host, and without memory, so that no step goes unmarked.
+  void Mark(const RenameRow& row, const char* what, ProError status) const noexcept;
   void End(long long renamed, long long left);
 
  private:
-  void Write(std::string_view text) const;
+  void Write(std::string_view text) const noexcept;
 
   std::wstring path_;
   HANDLE file_ = INVALID_HANDLE_VALUE;

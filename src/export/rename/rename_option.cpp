@@ -1,4 +1,4 @@
-// Reads and sets the option.
+// Reads and sets the option, without memory of its own.
 #include "export/rename/rename_option.h"
 
 #include "frame/messages/run_log.h"
@@ -12,16 +12,15 @@ namespace {
 constexpr wchar_t kDefault[] = L"no";
 
 // Empty when it has no value, for which any failure stands.
-std::wstring Ask() {
+void Ask(ProPath& value) {
   wchar_t option[] = L"override_store_back";
-  ProPath value = {};
-  if (!Ok(ProConfigoptGet(option, value))) return {};
-  return std::wstring(FixedText(value));
+  value[0] = L'\0';
+  if (!Ok(ProConfigoptGet(option, value))) value[0] = L'\0';
 }
 
-void Set(std::wstring value) {
+void Set(wchar_t* value) {
   wchar_t option[] = L"override_store_back";
-  const ProError status = ProConfigoptSet(option, value.data());
+  const ProError status = ProConfigoptSet(option, value);
   if (!Ok(status)) LogFailure(nullptr, "ProConfigoptSet", status);
 }
 
@@ -29,16 +28,22 @@ void Set(std::wstring value) {
 
 // Asked twice: a host that has no value has none again, and one that merely failed to tell it would
 // lose the user's.
-StoreBackOption::StoreBackOption() : before_(Ask()) {
-  if (before_.empty()) before_ = Ask();
-  if (before_.empty()) before_ = kDefault;
-  Set(L"yes");
+StoreBackOption::StoreBackOption() {
+  Ask(before_);
+  if (FixedText(before_).empty()) Ask(before_);
+  if (FixedText(before_).empty()) static_cast<void>(FillFixedText(kDefault, before_));
+  wchar_t yes[] = L"yes";
+  Set(yes);
 }
 
 // The host's answer is no proof.
 void StoreBackOption::Restore() {
+  if (is_done_) return;
+  is_done_ = true;
   Set(before_);
-  if (Ask() != before_) Set(before_);
+  ProPath now = {};
+  Ask(now);
+  if (FixedText(now) != FixedText(before_)) Set(before_);
 }
 
 }  // namespace qm

@@ -1,28 +1,27 @@
 // The host's option by which models are saved into the working directory, wherever they came from.
 #pragma once
 
-#include <string>
+#include "toolkit/types.h"
 
 namespace qm {
 
-// Sets the option. Whoever holds this puts it back: there are ways out that deliberately do not.
+// Set for as long as this lives. Its end puts back what was set before, where nothing was the
+// host's default, also when memory has run out.
 class StoreBackOption {
  public:
   StoreBackOption();
   StoreBackOption(const StoreBackOption&) = delete;
   StoreBackOption& operator=(const StoreBackOption&) = delete;
+  ~StoreBackOption() { Restore(); }
 
-  // As it was; where it was not set, the host's default.
+  // The option stays set.
+  void Leave() { is_done_ = true; }
+  // Now instead of at the end.
   void Restore();
 
  private:
-  std::wstring before_;
-};
-
-// The same, put back at the latest when this ends.
-class StoreBackMeanwhile : public StoreBackOption {
- public:
-  ~StoreBackMeanwhile() { Restore(); }
+  ProPath before_ = {};
+  bool is_done_ = false;
 };
 
 }  // namespace qm

@@ -7,7 +7,6 @@
 #include "frame/text/text.h"
 #include "toolkit/model.h"
 #include "toolkit/status.h"
-#include "toolkit/status_names.h"
 
 namespace qm {
 namespace {
@@ -28,7 +27,7 @@ class RowRenaming {
   bool Run() {
     const ProMdl model = ModelOf(row_);
     if (model == nullptr) {
-      journal_.Mark(row_, "not renamed: no such model");
+      journal_.Mark(row_, "renamed", PRO_TK_E_NOT_FOUND);
       return false;
     }
     const ProMdl drawing = DrawingOf(row_.old_name);
@@ -50,13 +49,9 @@ class RowRenaming {
   void Save(ProMdl model, const char* what) { Done("ProMdlSave", what, ProMdlSave(model)); }
 
   bool Done(const char* function, const char* what, ProError status) {
-    if (Ok(status)) {
-      journal_.Mark(row_, what);
-      return true;
-    }
-    LogFailure(row_.old_name, function, status);
-    journal_.Mark(row_, std::string("not ") + what + ": " + StatusName(status));
-    return false;
+    journal_.Mark(row_, what, status);
+    if (!Ok(status)) LogFailure(row_.old_name, function, status);
+    return Ok(status);
   }
 
   const RenameRow& row_;

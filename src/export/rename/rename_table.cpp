@@ -68,6 +68,8 @@ bool RenameTable::Fill(const std::string& name, const RenameRow& row,
          table_.SetLabel(name, kOldName, row.old_name) &&
          (row.type.empty() || table_.SetLabel(name, kType, row.type)) &&
          table_.CopyIntoCell(name, kNewName, kTemplate, field) &&
+         // A copy that only claims to have been made is none.
+         dialog_.InputIfThere(field.c_str()).is_there &&
          Ok(dialog_.SetInputValue(field.c_str(), row.new_name));
 }
 
