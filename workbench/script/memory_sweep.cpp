@@ -15,8 +15,6 @@ namespace {
 // A sample of a kind takes so many from the beginning, and so many spread over the rest.
 constexpr long kDense = 64;
 constexpr long kSparse = 24;
-// One mistake tends to show at many allocations; these many are told in full.
-constexpr int kMostToldRuns = 10;
 // Nothing is struck, but everything counted.
 constexpr long kNever = std::numeric_limits<long>::max();
 
