@@ -111,7 +111,11 @@ ProError Pro2dExport(int type, ProPath file, ProMdl drawing, Pro2dExportdata dat
         if (!is_dxf && kind != PRO_DWG_FILE) {
           throw NotModelled{"files of type " + std::to_string(kind)};
         }
-        if (held != nullptr && !held->sheets) call.Fail("export data without a sheet option");
+        if (held != nullptr && !held->sheets) {
+          // The plug-in cannot know that its setting was struck.
+          if (call.host.faults.struck() > 0) return PRO_TK_BAD_INPUTS;
+          call.Fail("export data without a sheet option");
+        }
         const Model& model = call.ModelAt(drawing);
         const bool is_shown = call.host.session.FindWindowOf(model) != nullptr;
         const bool must_be_shown = call.host.habits.undisplayed_drawing_is_not_exported;

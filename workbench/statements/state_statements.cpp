@@ -107,7 +107,7 @@ constexpr StatementForm kStateForms[] = {
     {"option NAME TEXT...",                           kTopPlace, &Option},
     {"expect option NAME none",                       kTopOrDialog, &ExpectOption},
     {"expect option NAME TEXT...",                    kTopOrDialog, &ExpectOption},
-    {"setting FILE SECTION KEY missing",              kTopPlace, &Setting},
+    {"setting FILE SECTION KEY missing",              kTopOrDialog, &Setting},
     {"setting FILE SECTION KEY TEXT",                 kTopOrDialog, &Setting},
     {"config_folder missing",                         kTopPlace, &ConfigFolderMissing},
     {"config_file FILE missing",                      kTopPlace, &ConfigFileMissing},
