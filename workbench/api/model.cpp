@@ -274,6 +274,10 @@ ProError ProSolidCreate(ProName name, ProType type, ProSolid* solid) {
       });
 }
 
+ProError ProMdlEraseNotDisplayed() {
+  return Crossing(__func__).Run([](const Call& call) { call.host.session.EraseNotDisplayed(); });
+}
+
 ProError ProMdlIsSkeleton(ProMdl model, ProBoolean* is_skeleton) {
   return Crossing(__func__, ModelIn{model}, Out(is_skeleton, "answer place"))
       .Run([](const Model& from, ProBoolean& place) {

@@ -18,6 +18,8 @@ enum class Resource {
   kWideTextArray,
   kGeometryData,
   kDialog,
+  kExportData,
+  kPdfOptions,
 };
 const char* ResourceWord(Resource resource);
 
