@@ -240,10 +240,6 @@ ProError ProMdlSave(ProMdl model) {
   });
 }
 
-ProError ProMdlEraseNotDisplayed() {
-  return Crossing(__func__).Run([](const Call& call) { call.host.session.EraseNotDisplayed(); });
-}
-
 ProError ProMdlRename(ProMdl model, ProName new_name) {
   return Crossing(__func__, ModelIn{model}, ModelNameIn{new_name})
       .Run([](const Call& call, Model& renamed, const std::string& name) {
@@ -276,6 +272,10 @@ ProError ProSolidCreate(ProName name, ProType type, ProSolid* solid) {
         place = made.handle;
         return PRO_TK_NO_ERROR;
       });
+}
+
+ProError ProMdlEraseNotDisplayed() {
+  return Crossing(__func__).Run([](const Call& call) { call.host.session.EraseNotDisplayed(); });
 }
 
 ProError ProMdlIsSkeleton(ProMdl model, ProBoolean* is_skeleton) {

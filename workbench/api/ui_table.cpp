@@ -205,15 +205,6 @@ ProError ProUITableFocusCellGet(const char* dialog, const char* component, char*
       });
 }
 
-ProError ProUITableColumnselectionpolicySet(const char* dialog, const char* component,
-                                            ProUISelectionpolicy policy) {
-  return Crossing(__func__, TableIn(dialog, component), policy)
-      .Run([](const Call& call, const TableModel&, ProUISelectionpolicy wanted) {
-        // Nobody selects columns here.
-        return Answer(call, IsPolicy(wanted) ? UiStatus::kOk : UiStatus::kBadArgument);
-      });
-}
-
 ProError ProUITableCellComponentCopy(const char* dialog, const char* component, const char* row,
                                      const char* column, const char* source, const char* new_name) {
   return Crossing(__func__, DialogIn{dialog}, FieldIn<Field>{dialog, component, FieldKind::kTable},
@@ -234,6 +225,15 @@ ProError ProUITableCellComponentDelete(const char* dialog, const char* component
   return Crossing(__func__, TableIn(dialog, component), CellIn{row, column})
       .Run([](const Call& call, TableModel& table, const CellName& cell) {
         return Answer(call, table.DropComponent(cell.row, cell.column));
+      });
+}
+
+ProError ProUITableColumnselectionpolicySet(const char* dialog, const char* component,
+                                            ProUISelectionpolicy policy) {
+  return Crossing(__func__, TableIn(dialog, component), policy)
+      .Run([](const Call& call, const TableModel&, ProUISelectionpolicy wanted) {
+        // Nobody selects columns here.
+        return Answer(call, IsPolicy(wanted) ? UiStatus::kOk : UiStatus::kBadArgument);
       });
 }
 

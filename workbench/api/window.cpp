@@ -174,12 +174,9 @@ ProError ProConfigoptSet(wchar_t* option, wchar_t* value) {
   return Crossing(__func__, TextIn{option, PRO_PATH_SIZE, "option"},
                   TextIn{value, PRO_PATH_SIZE, "value"})
       .Run([](const Call& call, const std::string& name, const std::string& text) {
-        std::vector<std::string>& values = call.host.options[FoldCase(name)];
         // Those of several values are the search paths; the host has no list of them to ask.
-        if (values.size() > 1 || FoldCase(name) == "search_path") {
-          throw NotModelled{"adding to " + name};
-        }
-        values = {text};
+        if (FoldCase(name) == "search_path") throw NotModelled{"adding to " + name};
+        call.host.options[FoldCase(name)] = {text};
       });
 }
 
