@@ -59,9 +59,14 @@ void PutBack(const Model& held, const std::vector<bool>& resolved, Session& sess
 
 }  // namespace
 
-FolderSnapshot::FolderSnapshot(fs::path folder) : folder_(std::move(folder)) {
-  for (const fs::path& file : FilesBelow(folder_)) files_[file] = Content(file);
+std::map<fs::path, std::string> FilesWithContents(const fs::path& folder) {
+  std::map<fs::path, std::string> files;
+  for (const fs::path& file : FilesBelow(folder)) files[file] = Content(file);
+  return files;
 }
+
+FolderSnapshot::FolderSnapshot(fs::path folder)
+    : folder_(std::move(folder)), files_(FilesWithContents(folder_)) {}
 
 std::vector<std::pair<std::string, std::string>> FolderSnapshot::Differences() const {
   std::vector<std::pair<std::string, std::string>> differences;
@@ -81,14 +86,6 @@ std::vector<std::pair<std::string, std::string>> FolderSnapshot::Differences() c
   return differences;
 }
 
-std::string FolderSnapshot::TextNow() const {
-  std::string text;
-  for (const auto& [file, what] : Differences()) {
-    text += what + " " + file + "\n" + Content(PathFromUtf8(file)) + "\n";
-  }
-  return text;
-}
-
 void FolderSnapshot::Restore() const {
   for (const auto& [name, what] : Differences()) {
     const fs::path file = PathFromUtf8(name);
@@ -103,6 +100,7 @@ void FolderSnapshot::Restore() const {
 SessionSnapshot::SessionSnapshot(const Host& host, const std::vector<fs::path>& folders)
     : current_window_(host.session.current_window()),
       working_directory_(host.session.working_directory()),
+      clipboard_(ClipboardText().value_or("")),
       options_(host.options) {
   for (const auto& model : host.session.models()) {
     models_.push_back({*model, ResolvedLinks(*model)});
@@ -151,6 +149,7 @@ void SessionSnapshot::Restore(Host& host) const {
   }
   host.session.ChangeDirectory(working_directory_);
   host.options = options_;
+  if (ClipboardText().value_or("") != clipboard_) SetClipboardText(clipboard_);
   for (const FolderSnapshot& folder : folders_) folder.Restore();
 }
 

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <array>
+#include <map>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,5 +20,8 @@ FactPlace FindFact(Model& model, std::string_view path);
 
 // What differs between two states of one model.
 std::vector<FactChange> ChangesBetween(const Model& before, const Model& after);
+
+// All facts of a model by their paths.
+std::map<std::string, std::string> FactsOf(const Model& model);
 
 }  // namespace wb

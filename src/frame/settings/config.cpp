@@ -98,6 +98,8 @@ std::wstring ReadSetting(const wchar_t* section, const wchar_t* key, const std::
 
 bool WriteSetting(const wchar_t* section, const wchar_t* key, const std::wstring& value,
                   const std::wstring& path) {
+  // Not every system refuses a file in a folder that cannot be.
+  if (LeadsNowhere(path)) return false;
   return ::WritePrivateProfileStringW(section, key, value.c_str(), path.c_str()) != FALSE;
 }
 

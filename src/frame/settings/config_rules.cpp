@@ -30,6 +30,10 @@ std::wstring ConfigPathBeside(std::wstring_view module_path, std::wstring_view m
   return Joined(folder, kConfigFolder, file);
 }
 
+bool LeadsNowhere(std::wstring_view path) {
+  return path.find(kNowhere) != std::wstring_view::npos;
+}
+
 std::wstring ConfigPathIn(std::wstring_view folder, std::wstring_view file) {
   while (!folder.empty() && (folder.back() == L'\\' || folder.back() == L'/')) {
     folder.remove_suffix(1);

@@ -12,6 +12,9 @@ namespace qm {
 std::wstring ConfigPathBeside(std::wstring_view module_path, std::wstring_view module_name,
                               std::wstring_view file);
 
+// Whether a path is one in that folder.
+bool LeadsNowhere(std::wstring_view path);
+
 // `folder`, with or without a closing separator, followed by "\QMconfig\" and `file`.
 std::wstring ConfigPathIn(std::wstring_view folder, std::wstring_view file);
 

@@ -1,5 +1,5 @@
 // Runs of a swept command.
-#include "workbench/script/swept_command.h"
+#include "workbench/sweep/swept_command.h"
 
 #include "workbench/script/script_runner.h"
 
@@ -28,11 +28,10 @@ CommandRun SweptCommand::RunOnce(const FaultPlan& plan) {
   return result;
 }
 
-std::vector<std::string> SweptCommand::Complaints(const CommandRun& result,
-                                                  const std::string& struck) {
+std::vector<std::string> SweptCommand::Complaints(const CommandRun& result) {
   std::vector<std::string> complaints = run_.TakeComplaints();
   // After a creation that only claims to have succeeded every use of the dialog is a misuse.
-  if (struck == "ProUIDialogCreate") {
+  if (run_.host.faults.HasStruck("ProUIDialogCreate")) {
     std::erase_if(complaints, [](const std::string& complaint) {
       return complaint.find("there is no dialog") != std::string::npos;
     });
@@ -48,11 +47,11 @@ std::vector<std::string> SweptCommand::Complaints(const CommandRun& result,
 
 std::vector<std::string> SweptCommand::ComplaintsOfClean(const CommandRun& clean) {
   changes_directory_ = clean.directory_before != clean.directory_after;
-  return Complaints(clean, "");
+  return Complaints(clean);
 }
 
 std::vector<std::filesystem::path> SweptCommand::Folders() const {
-  return {run_.folders.work, run_.Installed() / "QMconfig"};
+  return {run_.folders.work, run_.folders.desktop, run_.Installed() / "QMconfig"};
 }
 
 void SweptCommand::CheckRestored(const CommandRun& result,

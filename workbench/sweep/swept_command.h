@@ -26,8 +26,8 @@ class SweptCommand {
 
   // `plan` with nth 0: without any fault.
   CommandRun RunOnce(const FaultPlan& plan);
-  // `struck` is the function that the fault struck first, "" for none.
-  std::vector<std::string> Complaints(const CommandRun& result, const std::string& struck);
+  // To be taken before the fault is cleared.
+  std::vector<std::string> Complaints(const CommandRun& result);
   // Tells what was wrong with the run without faults, and learns from it.
   std::vector<std::string> ComplaintsOfClean(const CommandRun& clean);
   // For who compares whole sessions, of which the directory is a part.
