@@ -131,22 +131,58 @@ void ExpectMenuTexts(const fs::path& tree, const Command& command, const MenuBut
   EXPECT_EQ(command.description_key, button.label_key) << command.name;
 }
 
+// Words of `text`, which are names of commands, in their order.
+Lines NamesInOrder(const std::string& text) {
+  Lines names;
+  for (const auto& word : Matches(text, R"(\S+)")) names.push_back(word[0]);
+  return names;
+}
+
+// The menu's order. Users know their places, and the texts and icons are kept under these names.
+constexpr const char* kMenuOrder =
+    "QmOpenDir QmBackup NewPart NewAsm NewSmt BatchColor QmClearAllColor QmBoxSelSur QmTransparent "
+    "SurfTransparent BoxSel SetMat SetBendTable SameScale QmIsolate QmHideReverse QmShowAllComp "
+    "QmNormalView QmParams QmRelations SetUnit CloneComp CloneAndReplace QmMerge QmMergeTo "
+    "TweViews NewDraw QmExStp QmExIgs QmExSat QmBom QmRename QmRemoveCons QmExport QmMdlCount "
+    "QmNewDrw QmDimModify QmFrmReplace QmDrwScaleCheck QmSimRep QmBox QmExportDwg QmExportPdf "
+    "QmMdlNameCopy QmMdlRename QmExportStp QmUpdateSheetScale QmUpdateMainViewScale QmSingleDim "
+    "QmSetDirectory QmConfig ForTest QmQQGroup QmVersion AboutQm";
+
+// What does not follow from the command's name.
+const std::map<std::string, std::string> kOddIcons = {{"BatchColor", "RandomColor.png"},
+                                                      {"AboutQm", "AboutQuillmax.png"}};
+const std::map<std::string, std::string> kOddHelpKeys = {{"BatchColor", "Color_Help"}};
+const std::set<std::string> kNotOnTheRibbon = {"QmQQGroup", "QmVersion", "AboutQm"};
+
+std::string ValueOr(const std::map<std::string, std::string>& odd, const std::string& name,
+                    const std::string& regular) {
+  const auto found = odd.find(name);
+  return found == odd.end() ? regular : found->second;
+}
+
 TEST_F(Boundary, EveryCommandHasItsLabelHelpAndIcon) {
   Plugin plugin(Installed().dll());
   ASSERT_EQ(plugin.Start(), 0);
   const Menu* const menu = host_.commands.FindMenu("Menu");
   ASSERT_NE(menu, nullptr);
-  ASSERT_EQ(menu->buttons.size(), 55u);
-  ASSERT_EQ(host_.commands.commands.size(), 55u);
-  for (size_t i = 0; i < menu->buttons.size(); ++i) {
+  const Lines names = NamesInOrder(kMenuOrder);
+  ASSERT_EQ(names.size(), 55u);
+  ASSERT_EQ(menu->buttons.size(), names.size());
+  ASSERT_EQ(host_.commands.commands.size(), names.size());
+  for (size_t i = 0; i < names.size(); ++i) {
+    const std::string& name = names[i];
     const MenuButton& button = menu->buttons[i];
     const Command& command = host_.commands.commands[i];
-    EXPECT_EQ(button.command, &command) << command.name;
-    EXPECT_EQ(button.name, command.name);
+    EXPECT_EQ(command.name, name);
+    EXPECT_EQ(button.command, &command) << name;
+    EXPECT_EQ(button.name, name);
+    EXPECT_EQ(button.label_key, name);
+    EXPECT_EQ(button.help_key, ValueOr(kOddHelpKeys, name, name + "_Help"));
+    EXPECT_EQ(command.icon, ValueOr(kOddIcons, name, name + ".png"));
+    EXPECT_EQ(command.designated, !kNotOnTheRibbon.contains(name)) << name;
     ExpectMenuTexts(Installed().tree(), command, button);
     EXPECT_TRUE(fs::is_regular_file(Installed().tree() / "text" / "resource" / command.icon))
-        << command.name;
-    EXPECT_FALSE(command.icon.empty()) << command.name;
+        << name;
   }
 }
 
@@ -274,6 +310,8 @@ TEST_F(Boundary, TheVersionBoxTellsProductBuildAndBinding) {
   RunCommand("QmVersion");
   const auto boxes = host_.events.All<MessageBox>();
   ASSERT_EQ(boxes.size(), 1u);
+  EXPECT_EQ(boxes[0].caption, "羽石工具箱");
+  EXPECT_EQ(boxes[0].style, 0x40000u);
   const auto parts = Matches(boxes[0].text,
                              "^\t羽石工具箱 Quillmax 5\\.1 C3\t\n\t构建：\\w+\t\n"
                              "\t宿主接口：共 (\\d+) 个函数，已绑定 (\\d+) 个，缺失 0 个，"
@@ -288,11 +326,21 @@ TEST_F(Boundary, TheVersionBoxTellsProductBuildAndBinding) {
   EXPECT_EQ(std::stoul(parts[0][2]) + std::stoul(parts[0][3]), declared);
 }
 
-// Words of `text`, which are names of commands.
-std::set<std::string> Names(const std::string& text) {
-  std::set<std::string> names;
-  for (const auto& word : Matches(text, R"(\S+)")) names.insert(word[0]);
-  return names;
+// A function that the host lacks counts from the call that wanted it, and is named. Under a file
+// name of its own: what was looked up once is never looked up again.
+TEST_F(Boundary, TheVersionBoxNamesFunctionsThatTheHostLacks) {
+  const fs::path dll = Installed().tree() / "lacking.dll";
+  fs::copy_file(Installed().dll(), dll, fs::copy_options::overwrite_existing);
+  host_.windows.withheld = {"ProMdlCurrentGet"};
+  Plugin plugin(dll);
+  ASSERT_EQ(plugin.Start(), 0);
+  RunCommand("ForTest");
+  host_.events.Forget<MessageBox>();
+  RunCommand("QmVersion");
+  const auto boxes = host_.events.All<MessageBox>();
+  ASSERT_EQ(boxes.size(), 1u);
+  EXPECT_NE(boxes[0].text.find("缺失 1 个，"), std::string::npos) << boxes[0].text;
+  EXPECT_TRUE(boxes[0].text.ends_with("个\t\n\t　ProMdlCurrentGet\t")) << boxes[0].text;
 }
 
 // The modes in which each command can be used, out of all that the host may report.
@@ -322,7 +370,7 @@ TEST_F(Boundary, EveryCommandIsAvailableInTheModesOfItsRuleAndGreyElsewhere) {
   ASSERT_EQ(plugin.Start(), 0);
   size_t covered = 0;
   for (const auto& rule : rules) {
-    for (const std::string& name : Names(rule.commands)) {
+    for (const std::string& name : NamesInOrder(rule.commands)) {
       ++covered;
       for (host_.forced_mode = 0; host_.forced_mode < 10; ++host_.forced_mode) {
         EXPECT_EQ(AskAccess(name),

@@ -174,12 +174,12 @@ struct FaultRow {
   bool from_then_on;
 };
 constexpr FaultRow kFaults[] = {
-    {"general error, once", FaultKind::kStatus, -1, false},
-    {"general error, from then on", FaultKind::kStatus, -1, true},
-    {"bad context, once", FaultKind::kStatus, -5, false},
-    {"bad context, from then on", FaultKind::kStatus, -5, true},
-    {"empty success, once", FaultKind::kEmptySuccess, 0, false},
-    {"empty success, from then on", FaultKind::kEmptySuccess, 0, true},
+    {"general error, once", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, false},
+    {"general error, from then on", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, true},
+    {"bad context, once", FaultKind::kStatus, PRO_TK_BAD_CONTEXT, false},
+    {"bad context, from then on", FaultKind::kStatus, PRO_TK_BAD_CONTEXT, true},
+    {"empty success, once", FaultKind::kEmptySuccess, PRO_TK_NO_ERROR, false},
+    {"empty success, from then on", FaultKind::kEmptySuccess, PRO_TK_NO_ERROR, true},
 };
 
 class DisturbedLifeCycle : public PluginHost, public testing::WithParamInterface<FaultRow> {

@@ -27,6 +27,8 @@ leftovers() {
 python3 "$here/large_step.py" 5000 large.stp
 for tenths in 1 2 3 4 6; do
   timeout -s KILL "0.$tenths" "$here/workbench.sh" import large.stp "killed" >/dev/null 2>&1 || true
+  # What was killed may still finish the call that it was in.
+  sleep 1
   for wait in $(seq 100); do
     [ -n "$(leftovers | grep '^\.import-')" ] || break
     sleep 0.1

@@ -12,7 +12,8 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TOOLKIT = ROOT / "src" / "toolkit"
 FAMILIES = ["array", "model", "feature", "assembly", "selection", "parameter", "geometry",
-            "drawing", "window", "message", "command", "ui", "ui_table"]
+            "view", "drawing", "drawing_view", "drawing_table", "dimension", "file", "export",
+            "macro", "window", "message", "command", "ui", "ui_table"]
 
 
 def functions(family):

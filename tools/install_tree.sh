@@ -4,8 +4,8 @@
 # RSVG is the icon renderer (default rsvg-convert). Icons that are up to date are not drawn again.
 #
 # Encodings in OUT_DIR: settings are UTF-16LE with a byte order mark, so that they read the same on
-# every code page; install.cmd is GB2312 (see there); the README files are UTF-8 with a byte order
-# mark. All of these have CRLF line ends. Message files and dialog resources are UTF-8 with a byte
+# every code page; install.cmd is GB2312 (see there); the README files and other texts are UTF-8 with
+# a byte order mark. All of these have CRLF line ends. Message files and dialog resources are UTF-8 with a byte
 # order mark, without which the host takes them for the system's code page, and with LF: a carriage
 # return would become part of a message key.
 #
@@ -37,6 +37,9 @@ readme_file "$source/README.txt" "$out/README.txt"
 readme_file "$source/tp/README.txt" "$out/tp/README.txt"
 for ini in "$source"/QMconfig/*.ini; do
   utf16_file "$ini" "$out/QMconfig/defaults/$(basename "$ini")"
+done
+for text in "$source"/QMconfig/*.txt; do
+  readme_file "$text" "$out/QMconfig/defaults/$(basename "$text")"
 done
 for dialog in "$source"/text/resource/*.res; do
   dialog_file "$dialog" "$out/text/resource/$(basename "$dialog")"

@@ -8,7 +8,18 @@
 
 #include "display/hide_reverse.h"
 #include "display/isolate.h"
+#include "display/normal_view.h"
 #include "display/show_all_comp.h"
+#include "drawing/change/dim_modify.h"
+#include "drawing/change/drw_scale_check.h"
+#include "drawing/change/frm_replace.h"
+#include "drawing/change/same_scale.h"
+#include "drawing/change/single_dim.h"
+#include "drawing/change/update_main_view_scale.h"
+#include "drawing/change/update_sheet_scale.h"
+#include "drawing/create/new_draw.h"
+#include "drawing/create/new_drw.h"
+#include "drawing/create/twe_views.h"
 #include "entry/not_in_build.h"
 #include "export/bill/bom.h"
 #include "frame/commands/about_qm.h"
@@ -47,11 +58,11 @@ constexpr CommandRow kCommandTable[] = {
     {"BoxSel",                "BoxSel_Help",                "BoxSel.png",                &BoxSel,         kAssemblyMode,       true},
     {"SetMat",                "SetMat_Help",                "SetMat.png",                &NotInBuild,     kPartOrAssemblyMode, true},
     {"SetBendTable",          "SetBendTable_Help",          "SetBendTable.png",          &NotInBuild,     kPartOrAssemblyMode, true},
-    {"SameScale",             "SameScale_Help",             "SameScale.png",             &NotInBuild,     kDrawingMode,        true},
+    {"SameScale",             "SameScale_Help",             "SameScale.png",             &SameScale,      kDrawingMode,        true},
     {"QmIsolate",             "QmIsolate_Help",             "QmIsolate.png",             &QmIsolate,      kAssemblyMode,       true},
     {"QmHideReverse",         "QmHideReverse_Help",         "QmHideReverse.png",         &QmHideReverse,  kAssemblyMode,       true},
     {"QmShowAllComp",         "QmShowAllComp_Help",         "QmShowAllComp.png",         &QmShowAllComp,  kAssemblyMode,       true},
-    {"QmNormalView",          "QmNormalView_Help",          "QmNormalView.png",          &NotInBuild,     kAlways,             true},
+    {"QmNormalView",          "QmNormalView_Help",          "QmNormalView.png",          &QmNormalView,   kAlways,             true},
     {"QmParams",              "QmParams_Help",              "QmParams.png",              &QmParams,       kAssemblyMode,       true},
     {"QmRelations",           "QmRelations_Help",           "QmRelations.png",           &NotInBuild,     kAssemblyMode,       true},
     {"SetUnit",               "SetUnit_Help",               "SetUnit.png",               &NotInBuild,     kPartOrAssemblyMode, true},
@@ -59,8 +70,8 @@ constexpr CommandRow kCommandTable[] = {
     {"CloneAndReplace",       "CloneAndReplace_Help",       "CloneAndReplace.png",       &NotInBuild,     kAssemblyMode,       true},
     {"QmMerge",               "QmMerge_Help",               "QmMerge.png",               &NotInBuild,     kAssemblyMode,       true},
     {"QmMergeTo",             "QmMergeTo_Help",             "QmMergeTo.png",             &NotInBuild,     kAssemblyMode,       true},
-    {"TweViews",              "TweViews_Help",              "TweViews.png",              &NotInBuild,     kSolidMode,          true},
-    {"NewDraw",               "NewDraw_Help",               "NewDraw.png",               &NotInBuild,     kSolidMode,          true},
+    {"TweViews",              "TweViews_Help",              "TweViews.png",              &TweViews,       kSolidMode,          true},
+    {"NewDraw",               "NewDraw_Help",               "NewDraw.png",               &NewDraw,        kSolidMode,          true},
     {"QmExStp",               "QmExStp_Help",               "QmExStp.png",               &NotInBuild,     kAssemblyMode,       true},
     {"QmExIgs",               "QmExIgs_Help",               "QmExIgs.png",               &NotInBuild,     kAssemblyMode,       true},
     {"QmExSat",               "QmExSat_Help",               "QmExSat.png",               &NotInBuild,     kAssemblyMode,       true},
@@ -69,10 +80,10 @@ constexpr CommandRow kCommandTable[] = {
     {"QmRemoveCons",          "QmRemoveCons_Help",          "QmRemoveCons.png",          &NotInBuild,     kAssemblyMode,       true},
     {"QmExport",              "QmExport_Help",              "QmExport.png",              &NotInBuild,     kAlways,             true},
     {"QmMdlCount",            "QmMdlCount_Help",            "QmMdlCount.png",            &NotInBuild,     kAssemblyMode,       true},
-    {"QmNewDrw",              "QmNewDrw_Help",              "QmNewDrw.png",              &NotInBuild,     kAssemblyMode,       true},
-    {"QmDimModify",           "QmDimModify_Help",           "QmDimModify.png",           &NotInBuild,     kDrawingMode,        true},
-    {"QmFrmReplace",          "QmFrmReplace_Help",          "QmFrmReplace.png",          &NotInBuild,     kAlways,             true},
-    {"QmDrwScaleCheck",       "QmDrwScaleCheck_Help",       "QmDrwScaleCheck.png",       &NotInBuild,     kAlways,             true},
+    {"QmNewDrw",              "QmNewDrw_Help",              "QmNewDrw.png",              &QmNewDrw,       kAssemblyMode,       true},
+    {"QmDimModify",           "QmDimModify_Help",           "QmDimModify.png",           &QmDimModify,    kDrawingMode,        true},
+    {"QmFrmReplace",          "QmFrmReplace_Help",          "QmFrmReplace.png",          &QmFrmReplace,   kAlways,             true},
+    {"QmDrwScaleCheck",       "QmDrwScaleCheck_Help",       "QmDrwScaleCheck.png",       &QmDrwScaleCheck, kAlways,             true},
     {"QmSimRep",              "QmSimRep_Help",              "QmSimRep.png",              &NotInBuild,     kAssemblyMode,       true},
     {"QmBox",                 "QmBox_Help",                 "QmBox.png",                 &NotInBuild,     kAssemblyMode,       true},
     {"QmExportDwg",           "QmExportDwg_Help",           "QmExportDwg.png",           &NotInBuild,     kDrawingMode,        true},
@@ -80,9 +91,9 @@ constexpr CommandRow kCommandTable[] = {
     {"QmMdlNameCopy",         "QmMdlNameCopy_Help",         "QmMdlNameCopy.png",         &QmMdlNameCopy,  kAssemblyMode,       true},
     {"QmMdlRename",           "QmMdlRename_Help",           "QmMdlRename.png",           &NotInBuild,     kAssemblyMode,       true},
     {"QmExportStp",           "QmExportStp_Help",           "QmExportStp.png",           &NotInBuild,     kSolidMode,          true},
-    {"QmUpdateSheetScale",    "QmUpdateSheetScale_Help",    "QmUpdateSheetScale.png",    &NotInBuild,     kDrawingMode,        true},
-    {"QmUpdateMainViewScale", "QmUpdateMainViewScale_Help", "QmUpdateMainViewScale.png", &NotInBuild,     kDrawingMode,        true},
-    {"QmSingleDim",           "QmSingleDim_Help",           "QmSingleDim.png",           &NotInBuild,     kDrawingMode,        true},
+    {"QmUpdateSheetScale",    "QmUpdateSheetScale_Help",    "QmUpdateSheetScale.png",    &QmUpdateSheetScale, kDrawingMode,        true},
+    {"QmUpdateMainViewScale", "QmUpdateMainViewScale_Help", "QmUpdateMainViewScale.png", &QmUpdateMainViewScale, kDrawingMode,        true},
+    {"QmSingleDim",           "QmSingleDim_Help",           "QmSingleDim.png",           &QmSingleDim,    kDrawingMode,        true},
     {"QmSetDirectory",        "QmSetDirectory_Help",        "QmSetDirectory.png",        &QmSetDirectory, kAlways,             true},
     {"QmConfig",              "QmConfig_Help",              "QmConfig.png",              &QmConfig,       kAlways,             true},
     {"ForTest",               "ForTest_Help",               "ForTest.png",               &ForTest,        kAlways,             true},

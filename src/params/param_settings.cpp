@@ -7,7 +7,7 @@ namespace {
 constexpr wchar_t kParamsFile[] = L"QmParams.ini";
 
 // In the order of a new file's sections.
-constexpr StoredField kStored[] = {kKeywords, kOutlineName, kSheetSizeName, kDecimals, kOrder};
+constexpr StoredField kStored[] = {kKeywords, kOrder, kDecimals, kOutlineName, kSheetSizeName};
 
 }  // namespace
 

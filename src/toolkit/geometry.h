@@ -1,4 +1,4 @@
-// Surfaces of a solid and their extents.
+// Surfaces of a solid and their extents, and the box around a solid.
 #pragma once
 
 #include "toolkit/host_function.h"
@@ -28,6 +28,9 @@ static_assert(sizeof(ProGeomitemdata) == 16);
 typedef ProError (*ProSurfaceFilterAction)(ProSurface surface, ProAppData data) QM_CALLBACK;
 typedef ProError (*ProSurfaceVisitAction)(ProSurface surface, ProError filter_status,
                                           ProAppData data) QM_CALLBACK;
+
+// Lowest and highest corner in the model's own frame, as of its last regeneration.
+PRO_FUNCTION(ProError, ProSolidOutlineGet, ProSolid solid, Pro3dPnt outline[2]);
 
 PRO_FUNCTION(ProError, ProSolidSurfaceVisit, ProSolid solid, ProSurfaceVisitAction action,
              ProSurfaceFilterAction filter, ProAppData data);

@@ -19,7 +19,11 @@ PRO_FUNCTION(ProError, ProMdlDataGet, ProMdl model, ProMdldata* data);
 PRO_FUNCTION(ProError, ProMdlOriginGet, ProMdl model, ProPath origin);
 PRO_FUNCTION(ProError, ProMdlToModelitem, ProMdl model, ProModelitem* item);
 PRO_FUNCTION(ProError, ProModelitemMdlGet, ProModelitem* item, ProMdl* model);
+// By name, or by the full path of its file.
 PRO_FUNCTION(ProError, ProMdlRetrieve, ProFamilyName name, ProMdlType type, ProMdl* model);
 PRO_FUNCTION(ProError, ProMdlDisplay, ProMdl model);
+// The window that shows it; 0 is one.
+PRO_FUNCTION(ProError, ProMdlWindowGet, ProMdl model, int* window);
+PRO_FUNCTION(ProError, ProMdlSave, ProMdl model);
 PRO_FUNCTION(ProError, ProMdlIsSkeleton, ProMdl model, ProBoolean* is_skeleton);
 PRO_FUNCTION(ProError, ProMfgAssemGet, ProMfg mfg, ProAssembly* assembly);

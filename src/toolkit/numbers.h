@@ -104,6 +104,8 @@ typedef enum {
   PRO_DIMENSION = 8,
   PRO_AXIS = 21,
   PRO_CSYS = 25,
+  PRO_REF_DIMENSION = 28,
+  PRO_DWGFORM = 33,
   PRO_MFG = 37,
   PRO_QUILT = 57,
   PRO_CURVE = 62,
@@ -111,6 +113,8 @@ typedef enum {
   PRO_NOTE = 68,
   PRO_EDGE_START = 71,
   PRO_EDGE_END = 72,
+  PRO_DRAW_TABLE = 84,
+  PRO_VIEW = 92,
   // Another one that a click on a component may give; its name is not known here.
   PRO_TYPE_176 = 176,
 } ProType;
@@ -120,6 +124,7 @@ typedef enum {
   PRO_MDL_ASSEMBLY = PRO_ASSEMBLY,
   PRO_MDL_PART = PRO_PART,
   PRO_MDL_DRAWING = PRO_DRAWING,
+  PRO_MDL_DWGFORM = PRO_DWGFORM,
   PRO_MDL_MFG = PRO_MFG,
 } ProMdlType;
 
@@ -205,6 +210,69 @@ inline constexpr int kAllWindows = -1;
 // A popup menu is being created; the callback takes its name.
 typedef int ProNotifyType;
 inline constexpr ProNotifyType kNotifyPopupCreate = 72;
+
+// The sheets of a drawing count from 1; this one stands for all of them.
+inline constexpr int kFirstSheet = 1;
+inline constexpr int kAllSheets = -1;
+
+// Bits of how a drawing is made of a template; certain is the first.
+enum {
+  PRO_DWGCREATE_DISPLAY_DRAWING = 1,
+  PRO_DWGCREATE_SHOW_ERRORS = 2,
+  PRO_DWGCREATE_WRITE_ERRORS = 4,
+};
+
+// Certain is the first, the others are likely.
+typedef enum {
+  PRO_VIEW_GENERAL = 0,
+  PRO_VIEW_PROJECTION = 1,
+  PRO_VIEW_AUXILIARY = 2,
+  PRO_VIEW_DETAIL = 3,
+  PRO_VIEW_REVOLVE = 4,
+  PRO_VIEW_COPY_AND_ALIGN = 5,
+  PRO_VIEW_OF_FLAT_TYPE = 6,
+} ProViewType;
+
+// Certain are those of hidden and of no hidden lines.
+typedef enum {
+  PRO_DISPSTYLE_DEFAULT = 0,
+  PRO_DISPSTYLE_WIREFRAME = 1,
+  PRO_DISPSTYLE_HIDDEN_LINE = 2,
+  PRO_DISPSTYLE_NO_HIDDEN = 3,
+  PRO_DISPSTYLE_SHADED = 4,
+} ProDisplayStyle;
+// What a record of a view's display may hold as its style.
+inline constexpr int kLastDisplayStyle = 6;
+
+// How views made by the plug-in show tangent edges; the number is given, its name is not known.
+inline constexpr int kTangentEdgesOfOurViews = 15;
+
+// Screen axes. Whether the host counts them from 0 or from 1, and which way it turns, is not known.
+typedef enum {
+  PRO_X_ROTATION = 0,
+  PRO_Y_ROTATION = 1,
+  PRO_Z_ROTATION = 2,
+} ProRotationAxis;
+
+// Certain are the numbers 2 and 4, the names are likely.
+typedef enum {
+  PRO_TOL_DEFAULT = 0,
+  PRO_TOL_LIMITS = 1,
+  PRO_TOL_PLUS_MINUS = 2,
+  PRO_TOL_PLUS_MINUS_SYM = 3,
+  PRO_TOL_PLUS_MINUS_SYM_SUPER = 4,
+} ProDimToleranceType;
+inline constexpr int kNoToleranceTable = 0;
+
+typedef enum {
+  PRO_FILE_LIST_ALL = 0,
+  PRO_FILE_LIST_LATEST = 1,
+} ProFileListOpt;
+
+// Files that the host writes of a model, by number.
+typedef enum {
+  PRO_DWG_FILE = 34,
+} ProImportExportFile;
 
 // The record of a model's data (ProMdldata): the two orders of its texts that are known, each in
 // characters from the start of the record.

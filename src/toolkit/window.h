@@ -6,8 +6,12 @@
 
 PRO_FUNCTION(ProError, ProModeCurrentGet, ProMode* mode);
 
+// 0 is a window as well.
 PRO_FUNCTION(ProError, ProWindowCurrentGet, int* window);
+// Decides what the current model is, not what the user sees as active.
+PRO_FUNCTION(ProError, ProWindowCurrentSet, int window);
 PRO_FUNCTION(ProError, ProWindowActivate, int window);
+PRO_FUNCTION(ProError, ProWindowMdlGet, int window, ProMdl* model);
 PRO_FUNCTION(ProError, ProWindowRepaint, int window);
 PRO_FUNCTION(ProError, ProObjectwindowCreate, ProName name, ProType type, int* window);
 PRO_FUNCTION(ProError, ProTreetoolRefresh, ProMdl model);

@@ -1,8 +1,10 @@
 // Host functions for surfaces of solids.
 #include <cstdlib>
 
+#include "workbench/api/matrix.h"
 #include "workbench/api/visit.h"
 #include "workbench/host/arguments.h"
+#include "workbench/session/extents.h"
 
 namespace wb {
 namespace {
@@ -45,6 +47,16 @@ ProGeomitemdata* NewSurfaceRecord(const Box& box) {
 }  // namespace wb
 
 using namespace wb;
+
+ProError ProSolidOutlineGet(ProSolid solid, Pro3dPnt outline[2]) {
+  return Crossing(__func__, SolidIn{{solid}}, OutCorners{outline})
+      .Run([](const Model& from, CornersPlace place) {
+        const auto extents = ExtentsOf(from);
+        if (!extents) return PRO_TK_GENERAL_ERROR;
+        place = *extents;
+        return PRO_TK_NO_ERROR;
+      });
+}
 
 ProError ProSolidSurfaceVisit(ProSolid solid, ProSurfaceVisitAction action,
                               ProSurfaceFilterAction filter, ProAppData data) {

@@ -1,6 +1,9 @@
 // Host functions of the message area.
 #include "workbench/api/message.h"
 
+#include <charconv>
+#include <cmath>
+
 namespace wb {
 
 std::string MessageFileIn::Look(const Call& call) const {
@@ -29,6 +32,35 @@ std::optional<std::string> FilledText(const Call& call, const std::string& file,
   return FilledIn(*record, arguments);
 }
 
+// The range of a number that is asked for; null: any.
+struct RangeIn {
+  const double* range;
+  std::string Describe() const {
+    if (range == nullptr) return "null";
+    return DescribeArgument(range[0]) + " to " + DescribeArgument(range[1]);
+  }
+  RangeIn Look(const Call&) const { return *this; }
+  bool Has(double number) const {
+    return range == nullptr || (range[0] <= number && number <= range[1]);
+  }
+};
+
+constexpr int kLongestNumber = PRO_LINE_SIZE - 1;
+
+std::optional<double> NumberIn(const std::string& text) {
+  double number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return number;
+}
+
+// What was shown last is what a reading call asks.
+PromptText LastPrompt(const Call& call) {
+  const auto notes = call.host.events.All<Note>();
+  if (notes.empty()) throw NotModelled{"a reply without a prompt"};
+  return SplitPrompt(notes.back().text);
+}
+
 }  // namespace
 }  // namespace wb
 
@@ -47,6 +79,24 @@ ProError ProMessageDisplay(wchar_t* file, const char* key, ...) {
           });
   va_end(arguments);
   return status;
+}
+
+ProError ProMessageDoubleRead(double* range, double* value) {
+  return Crossing(__func__, RangeIn{range}, Out(value, "value place"))
+      .Run([](const Call& call, const RangeIn& allowed, double& place) {
+        const PromptText prompt = LastPrompt(call);
+        while (call.host.user != nullptr) {
+          const auto answer = call.host.user->AnswerPrompt(prompt.prompt, kLongestNumber);
+          if (!answer) break;
+          const std::string reply = answer->empty() ? prompt.default_reply : *answer;
+          if (reply.empty()) return PRO_TK_GENERAL_ERROR;
+          const auto number = NumberIn(reply);
+          if (!number || !allowed.Has(*number)) continue;
+          place = *number;
+          return PRO_TK_NO_ERROR;
+        }
+        return PRO_TK_MSG_USER_QUIT;
+      });
 }
 
 ProError ProMessageToBuffer(wchar_t* line, wchar_t* file, const char* key, ...) {

@@ -1,4 +1,5 @@
 // Host functions of the model family.
+#include "workbench/api/model_record.h"
 #include "workbench/host/arguments.h"
 #include "workbench/session/model_file.h"
 
@@ -56,27 +57,17 @@ ProMdlsubtype SubtypeOf(const Model& model) {
                                    : static_cast<ProMdlsubtype>(kSubtypeOfSolidPart);
 }
 
-// An order that nobody knows: everything a little further on.
-constexpr ProMdldataOrder kUnknownOrder = {12, 44, 48, 80, 112, 372};
-
-const ProMdldataOrder& OrderOf(const Habits& habits) {
-  if (habits.model_data_has_unknown_order) return kUnknownOrder;
-  return habits.model_data_has_name_first ? kModelDataNameFirst : kModelDataNameLast;
-}
-
-// Splits "C:\parts" as the host's record does: the drive apart from the path.
-void FillRecord(const Call& call, const Model& model, ProMdldata& record) {
-  const ProMdldataOrder& order = OrderOf(call.host.habits);
-  const std::string folder = PathToUtf8(model.folder);
-  const bool has_drive = folder.size() > 1 && folder[1] == ':';
-  const auto text = [&](int place, size_t limit, const std::string& value) {
-    call.CopyText(record.texts + place, limit, value);
-  };
-  text(order.device, PRO_NAME_SIZE, has_drive ? folder.substr(0, 2) : "");
-  text(order.path, PRO_PATH_SIZE, has_drive ? folder.substr(2) : folder);
-  text(order.name, PRO_NAME_SIZE, model.id.name);
-  text(order.type, PRO_TYPE_SIZE, KindExtension(model.id.kind));
-  std::memcpy(record.texts + order.version, &model.version, sizeof(model.version));
+// A format of the folder that the configuration names.
+Model* FormatOfFolders(const Call& call, const std::string& name) {
+  const auto folders = call.host.options.find("pro_format_dir");
+  if (folders == call.host.options.end()) return nullptr;
+  for (const std::string& folder : folders->second) {
+    const std::filesystem::path file = PathFromUtf8(folder) / PathFromUtf8(name + ".frm");
+    if (Model* const format = call.host.session.RetrieveFile(file, ModelKind::kFormat)) {
+      return format;
+    }
+  }
+  return nullptr;
 }
 
 // The file of a model that has one.
@@ -150,10 +141,11 @@ ProError ProMdlRetrieve(ProFamilyName name, ProMdlType type, ProMdl* model) {
         Session& session = call.host.session;
         if (wanted.find('<') != std::string::npos) throw NotModelled{"an instance of a family"};
         try {
-          return Answer(RetrievalNameIn::IsPath(wanted)
-                            ? session.RetrieveFile(PathFromUtf8(wanted), kind)
-                            : session.Retrieve({wanted, kind}),
-                        place);
+          Model* const found = RetrievalNameIn::IsPath(wanted)
+                                   ? session.RetrieveFile(PathFromUtf8(wanted), kind)
+                                   : session.Retrieve({wanted, kind});
+          const bool try_formats = found == nullptr && kind == ModelKind::kFormat;
+          return Answer(try_formats ? FormatOfFolders(call, wanted) : found, place);
         } catch (const ModelFileError& error) {
           call.host.events.Add(FileProblem{error.what()});
           return PRO_TK_INVALID_FILE;
@@ -170,6 +162,33 @@ ProError ProMdlDisplay(ProMdl model) {
       current->model = &shown;
     } else {
       session.ActivateWindow(session.ShowInWindow(shown).id);
+    }
+  });
+}
+
+ProError ProMdlWindowGet(ProMdl model, int* window) {
+  return Crossing(__func__, ModelIn{model}, Out(window, "window place"))
+      .Run([](const Call& call, const Model& shown, int& place) {
+        const Window* const found = call.host.session.FindWindowOf(shown);
+        if (found == nullptr) return PRO_TK_E_NOT_FOUND;
+        place = found->id;
+        return PRO_TK_NO_ERROR;
+      });
+}
+
+ProError ProMdlSave(ProMdl model) {
+  return Crossing(__func__, ModelIn{model}).Run([](const Call& call, Model& saved) {
+    Session& session = call.host.session;
+    const bool has_work = saved.modified || saved.version == 0;
+    if (!has_work) return PRO_TK_NO_ERROR;
+    const auto& folder = saved.folder.empty() ? session.working_directory() : saved.folder;
+    if (session.IsReadOnly(folder)) return PRO_TK_NO_PERMISSION;
+    try {
+      session.Save(saved);
+      return PRO_TK_NO_ERROR;
+    } catch (const ModelFileError& error) {
+      call.host.events.Add(FileProblem{error.what()});
+      return PRO_TK_CANT_WRITE;
     }
   });
 }

@@ -64,9 +64,29 @@ struct ParameterNameIn : TextIn {
   explicit ParameterNameIn(const wchar_t* name) : TextIn{name, PRO_NAME_SIZE, "parameter name"} {}
 };
 
+std::string DescribeValue(const ProParamvalue& value) {
+  switch (value.type) {
+    case PRO_PARAM_DOUBLE:
+      return "real " + DescribeArgument(value.value.d_val);
+    case PRO_PARAM_STRING:
+      return "string " + DescribeArgument(value.value.s_val);
+    case PRO_PARAM_INTEGER:
+      return "integer " + DescribeArgument(value.value.i_val);
+    case PRO_PARAM_BOOLEAN:
+      return "yes_no " + DescribeArgument(int{value.value.l_val});
+    default:
+      return "value of type " + DescribeArgument(static_cast<int>(value.type));
+  }
+}
+
+struct ValueOut : Out<ProParamvalue> {
+  explicit ValueOut(ProParamvalue* value_place) : Out(value_place, "value place") {}
+  std::string Describe() const { return place == nullptr ? "null" : "-> " + DescribeValue(*place); }
+};
+
 struct ValueIn {
   const ProParamvalue* value;
-  std::string Describe() const { return DescribeArgument(static_cast<const void*>(value)); }
+  std::string Describe() const { return value == nullptr ? "null" : DescribeValue(*value); }
   ParameterValue Look(const Call& call) const {
     return ValueArgument(call, call.Place(value, "value"));
   }
@@ -137,7 +157,7 @@ ProError ProParameterInit(ProModelitem* owner, ProName name, ProParameter* param
 }
 
 ProError ProParameterValueGet(ProParameter* parameter, ProParamvalue* value) {
-  return Crossing(__func__, ParameterIn{parameter}, Out(value, "value place"))
+  return Crossing(__func__, ParameterIn{parameter}, ValueOut(value))
       .Run([](const Call& call, const HeldParameter& held, ProParamvalue& place) {
         if (held.parameter == nullptr) return PRO_TK_E_NOT_FOUND;
         FillValue(call, held.parameter->value, place);

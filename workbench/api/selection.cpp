@@ -17,6 +17,8 @@ const std::vector<FilterTypes>& KnownFilters() {
       {"feature", {PRO_FEATURE}},
       {"surface", {PRO_SURFACE}},
       {"edge", {PRO_EDGE}},
+      {"dimension", {PRO_DIMENSION}},
+      {"view", {PRO_VIEW}},
   };
   return filters;
 }

@@ -10,6 +10,7 @@ int ModeOf(const Model& model) {
     case ModelKind::kAssembly:
       return PRO_MODE_ASSEMBLY;
     case ModelKind::kDrawing:
+    case ModelKind::kFormat:
       return PRO_MODE_DRAWING;
     case ModelKind::kManufacturing:
       return PRO_MODE_MFG;
@@ -65,10 +66,25 @@ ProError ProModeCurrentGet(ProMode* mode) {
 
 ProError ProWindowCurrentGet(int* window) {
   return Crossing(__func__, Out(window, "window place")).Run([](const Call& call, int& place) {
-    if (call.host.session.current_window() == 0) return PRO_TK_E_NOT_FOUND;
+    if (call.host.session.current_window() == kNoWindow) return PRO_TK_E_NOT_FOUND;
     place = call.host.session.current_window();
     return PRO_TK_NO_ERROR;
   });
+}
+
+ProError ProWindowCurrentSet(int window) {
+  return Crossing(__func__, WindowIn{window}).Run([](const Call& call, const Window& wanted) {
+    call.host.session.SetCurrentWindow(wanted.id);
+  });
+}
+
+ProError ProWindowMdlGet(int window, ProMdl* model) {
+  return Crossing(__func__, WindowIn{window}, Out(model, "model place"))
+      .Run([](const Window& from, ProMdl& place) {
+        if (from.model == nullptr) return PRO_TK_E_NOT_FOUND;
+        place = from.model->handle;
+        return PRO_TK_NO_ERROR;
+      });
 }
 
 ProError ProWindowActivate(int window) {

@@ -5,7 +5,7 @@
 #include <charconv>
 
 #if defined(_WIN32)
-#include <windows.h>
+#include "workbench/base/windows_headers.h"
 #else
 #include <locale.h>
 #include <wctype.h>

@@ -28,6 +28,7 @@ struct Taken {
   double seconds = 0;
   long calls = 0;
   long parameters = 0;
+  double table_seconds = 0;  // of `seconds`, those in the host's tables
 };
 
 double Median(std::vector<double> values) {
@@ -79,6 +80,7 @@ class Bench {
     std::vector<double> times_walk;
     std::vector<double> times_same_work;
     long calls = 0;
+    long walk_calls = 0;
     long parameters = 0;
   };
 
@@ -101,26 +103,28 @@ class Bench {
   }
 
   void RunRound() {
-    const double walk = Bare(BenchWork::kCollect).seconds;
+    const WalkTaken walk = Bare(BenchWork::kCollect);
     ForEachCommand([&](std::span<const BenchPartRow> parts) {
       const std::vector<Taken> taken = Command(parts);
       for (size_t i = 0; i < parts.size(); ++i) Note(parts[i], taken[i], walk);
     });
   }
 
-  void Note(const BenchPartRow& part, const Taken& taken, double walk) {
-    const double same = part.same_work == BenchWork::kCollect ? walk : Bare(part.same_work).seconds;
+  void Note(const BenchPartRow& part, const Taken& taken, const WalkTaken& walk) {
+    const double same =
+        part.same_work == BenchWork::kCollect ? walk.seconds : Bare(part.same_work).seconds;
     Samples& samples = samples_[part.part];
     if (samples.calls != 0 && samples.calls != taken.calls) {
       throw std::runtime_error(std::string(part.name) + " made " + std::to_string(taken.calls) +
                                " host calls, and " + std::to_string(samples.calls) + " before");
     }
     samples.calls = taken.calls;
+    samples.walk_calls = walk.calls;
     samples.parameters = taken.parameters;
     samples.seconds.push_back(taken.seconds);
     samples.same_work.push_back(same);
-    samples.times_walk.push_back(taken.seconds / walk);
-    samples.times_same_work.push_back(taken.seconds / same);
+    samples.times_walk.push_back(taken.seconds / walk.seconds);
+    samples.times_same_work.push_back((taken.seconds - taken.table_seconds) / same);
   }
 
   WalkTaken Bare(BenchWork work) {
@@ -143,7 +147,7 @@ class Bench {
     for (const BenchPartRow& part : parts) {
       if (part.is_press) {
         const BenchPress& press = user_.press(part.part);
-        taken.push_back({press.seconds, press.calls, press.parameters});
+        taken.push_back({press.seconds, press.calls, press.parameters, press.table_seconds});
       } else {
         taken.push_back(part.part == BenchPart::kCollection
                             ? Collection()
@@ -207,6 +211,7 @@ class Bench {
             job_.occurrences,
             static_cast<int>(host_.session.models().size()),
             samples.calls,
+            samples.walk_calls,
             samples.parameters,
             Median(samples.seconds),
             std::ranges::min(samples.seconds),

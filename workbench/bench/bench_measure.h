@@ -16,13 +16,16 @@ struct BenchRow {
   int occurrences;
   int models;
   long calls;
+  long walk_calls;           // of a bare collection
   long parameters;           // of models, looked up; counted in a press only
   double seconds;            // median
   double fastest;            // of all rounds: what other programs disturbed least
   double fastest_same_work;  // of the bare walks that also do the command's work
-  double times_walk;       // median over the runs, each against a bare collection of its own round
-  double times_same_work;  // the same against a bare walk that also does the command's work
-  long long heap_bytes;    // the plug-in's peak; 0 where it is not told apart
+  double times_walk;  // median over the runs, each against a bare collection of its own round
+  // The same against a bare walk that also does the command's work, without the time that the host
+  // takes to keep its table.
+  double times_same_work;
+  long long heap_bytes;  // the plug-in's peak; 0 where it is not told apart
 };
 
 // How often a host function was asked about the model, or component, that it was asked about most.

@@ -7,6 +7,7 @@
 #include "workbench/base/text.h"
 #include "workbench/bench/bench_heap.h"
 #include "workbench/bench/bench_walk.h"
+#include "workbench/host/family_clock.h"
 #include "workbench/host/host.h"
 
 namespace wb {
@@ -65,11 +66,13 @@ void BenchUser::Take(BenchPart part, const std::function<void()>& press) {
   const Trace& trace = TheHost().trace;
   const long calls_before = trace.calls();
   const long parameters_before = ParametersLookedUp();
+  TheFamilyClock() = {"ProUITable"};
   const auto start = std::chrono::steady_clock::now();
   press();
   const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+  TheFamilyClock().family = nullptr;
   presses_[part] = {trace.calls() - calls_before, ParametersLookedUp() - parameters_before,
-                    seconds.count(), watch ? watch->peak() : 0};
+                    seconds.count(), TheFamilyClock().spent.count(), watch ? watch->peak() : 0};
 }
 
 void BenchUser::AddParameter(LiveDialog& dialog) {

@@ -15,6 +15,7 @@ struct BenchPress {
   long calls = 0;
   long parameters = 0;  // looked up
   double seconds = 0;
+  double table_seconds = 0;  // of these, inside the functions of the host's tables
   long long heap_bytes = 0;  // the plug-in's peak; 0 unless it was to be watched
 };
 

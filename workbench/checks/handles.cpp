@@ -34,6 +34,7 @@ constexpr KindRow kKinds[] = {
     {HandleKind::kNone, "nothing"},        {HandleKind::kModel, "model"},
     {HandleKind::kSelection, "selection"}, {HandleKind::kSelectionEnv, "selection environment"},
     {HandleKind::kCommand, "command"},     {HandleKind::kSurface, "surface"},
+    {HandleKind::kView, "view"},
 };
 
 uint64_t KeyInside(HandleKind kind, int id) {

@@ -11,7 +11,15 @@
 
 namespace wb {
 
-enum class HandleKind : uint8_t { kNone, kModel, kSelection, kSelectionEnv, kCommand, kSurface };
+enum class HandleKind : uint8_t {
+  kNone,
+  kModel,
+  kSelection,
+  kSelectionEnv,
+  kCommand,
+  kSurface,
+  kView,
+};
 const char* HandleKindWord(HandleKind kind);
 
 class HandleTable {

@@ -21,7 +21,9 @@ struct Out {
 
   std::string Describe() const {
     if (place == nullptr) return "null";
-    if constexpr (std::is_arithmetic_v<T> || std::is_enum_v<T>) {
+    if constexpr (std::is_floating_point_v<T>) {
+      return "-> " + DescribeArgument(static_cast<double>(*place));
+    } else if constexpr (std::is_arithmetic_v<T> || std::is_enum_v<T>) {
       return "-> " + DescribeArgument(static_cast<int>(*place));
     } else if constexpr (std::is_pointer_v<T>) {
       return "-> " + DescribeArgument(static_cast<const void*>(*place));

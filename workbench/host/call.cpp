@@ -2,6 +2,9 @@
 #include "workbench/host/call.h"
 
 #include <mutex>
+#include <string_view>
+
+#include "workbench/host/family_clock.h"
 
 namespace wb {
 namespace {
@@ -32,6 +35,10 @@ std::string DescribeArgument(int number) {
   return std::to_string(number);
 }
 
+std::string DescribeArgument(double number) {
+  return NumberText(number);
+}
+
 std::string DescribeArgument(const void* pointer) {
   return TheHost().DescribeHandle(pointer);
 }
@@ -40,6 +47,21 @@ std::string DescribeArgument(const ProModelitem* item) {
   if (item == nullptr) return "null";
   return "item type " + std::to_string(static_cast<int>(item->type)) + " id " +
          std::to_string(item->id) + " of " + TheHost().DescribeHandle(item->owner);
+}
+
+FamilyClock& TheFamilyClock() {
+  static FamilyClock clock;
+  return clock;
+}
+
+CrossingBase::CrossingBase(const char* function) : host_(TheHost()), function_(function) {
+  const char* const family = TheFamilyClock().family;
+  is_clocked_ = family != nullptr && std::string_view(function).starts_with(family);
+  if (is_clocked_) since_ = std::chrono::steady_clock::now();
+}
+
+CrossingBase::~CrossingBase() {
+  if (is_clocked_) TheFamilyClock().spent += std::chrono::steady_clock::now() - since_;
 }
 
 bool CrossingBase::Begin() {

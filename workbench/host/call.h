@@ -9,6 +9,7 @@
 // no status has succeeded. One that wants more of the host takes a `const Call&` first.
 #pragma once
 
+#include <chrono>
 #include <cstring>
 #include <tuple>
 #include <type_traits>
@@ -37,6 +38,7 @@ struct RefusedByHabit {
 std::string DescribeArgument(const char* text);
 std::string DescribeArgument(const wchar_t* text);
 std::string DescribeArgument(int number);
+std::string DescribeArgument(double number);
 std::string DescribeArgument(const void* pointer);
 std::string DescribeArgument(const ProModelitem* item);
 template <typename T>
@@ -119,13 +121,15 @@ class CrossingBase {
   // Names the exception in flight.
   ProError Caught() const;
 
-  explicit CrossingBase(const char* function) : host_(TheHost()), function_(function) {}
-  ~CrossingBase() = default;
+  explicit CrossingBase(const char* function);
+  ~CrossingBase();
 
   Host& host_;
   const char* function_;
   long call_ = 0;
   const FaultPlan* fault_ = nullptr;
+  bool is_clocked_ = false;
+  std::chrono::steady_clock::time_point since_;
   bool user_acted_ = false;  // between the plug-in's call and its being carried out
 };
 

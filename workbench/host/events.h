@@ -44,6 +44,11 @@ struct ShellCall {
   int show = 0;
 };
 
+// A macro that the host is to run once the command has ended. None is carried out.
+struct QueuedMacro {
+  std::string text;
+};
+
 struct MouseEvent {
   unsigned flags = 0;
   unsigned dx = 0;
@@ -75,7 +80,7 @@ struct FileProblem {
 
 using Event =
     std::variant<Note, MissingText, Repaint, TreeRefresh, PickOptions, MessageBox, FileRequest,
-                 ShellCall, MouseEvent, ClassRequest, Breach, Gap, FileProblem>;
+                 ShellCall, QueuedMacro, MouseEvent, ClassRequest, Breach, Gap, FileProblem>;
 
 class Events {
  public:

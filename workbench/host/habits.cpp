@@ -17,6 +17,19 @@ std::span<const HabitRow> HabitRows() {
       {"resources_lie_beside_text", &Habits::resources_lie_beside_text},
       {"surface_data_has_unknown_order", &Habits::surface_data_has_unknown_order},
       {"parameter_record_has_unknown_order", &Habits::parameter_record_has_unknown_order},
+      {"rotation_axes_count_from_one", &Habits::rotation_axes_count_from_one},
+      {"view_rotates_the_other_way", &Habits::view_rotates_the_other_way},
+      {"scaled_view_matrix_is_taken", &Habits::scaled_view_matrix_is_taken},
+      {"view_turn_is_refused", &Habits::view_turn_is_refused},
+      {"view_turns_the_other_way", &Habits::view_turns_the_other_way},
+      {"view_turns_about_the_other_axis", &Habits::view_turns_about_the_other_axis},
+      {"view_display_has_flags_last", &Habits::view_display_has_flags_last},
+      {"view_places_are_on_the_screen", &Habits::view_places_are_on_the_screen},
+      {"empty_collection_succeeds", &Habits::empty_collection_succeeds},
+      {"table_segments_count_from_minus_one", &Habits::table_segments_count_from_minus_one},
+      {"untouched_dimension_has_no_lines", &Habits::untouched_dimension_has_no_lines},
+      {"untouched_dimension_text_fails", &Habits::untouched_dimension_text_fails},
+      {"tolerances_are_taken_for_numbers", &Habits::tolerances_are_taken_for_numbers},
   };
   return kRows;
 }

@@ -3,8 +3,7 @@
 
 #include <stdexcept>
 
-#include <windows.h>
-
+#include "workbench/base/windows_headers.h"
 #include "workbench/host/host_types.h"
 
 namespace wb {

@@ -21,6 +21,7 @@ const NumberWord kItemWords[] = {
     {"dimension",  PRO_DIMENSION},  {"axis",      PRO_AXIS},      {"csys",    PRO_CSYS},
     {"quilt",      PRO_QUILT},      {"curve",     PRO_CURVE},     {"point",   PRO_POINT},
     {"note",       PRO_NOTE},       {"edge_start", PRO_EDGE_START}, {"edge_end", PRO_EDGE_END},
+    {"table",      PRO_DRAW_TABLE}, {"view",      PRO_VIEW},
 };
 // clang-format on
 

@@ -7,7 +7,7 @@
 #include "workbench/base/utf8_text.h"
 #include "workbench/main/subcommands.h"
 #include "workbench/plugin/install_tree.h"
-#include "workbench/script/access_reason.h"
+#include "workbench/reasons/access_reason.h"
 #include "workbench/script/script_runner.h"
 
 namespace wb {

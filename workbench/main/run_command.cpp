@@ -8,8 +8,8 @@
 #include "workbench/base/utf8_text.h"
 #include "workbench/main/subcommands.h"
 #include "workbench/plugin/install_tree.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/report/report.h"
-#include "workbench/script/own_path.h"
 #include "workbench/script/script_watch.h"
 #include "workbench/script/script_windows.h"
 #include "workbench/statements/fault_statements.h"
@@ -48,12 +48,14 @@ void RunOne(const std::string& script, const ScriptOptions& options, RunRecord& 
   std::fflush(stdout);
 }
 
-// A script that puts the plug-in elsewhere cannot share a process with others.
+// A script that puts the plug-in elsewhere cannot share a process with others; nor can one that
+// withholds functions, since the plug-in looks each of them up once.
 bool NeedsOwnProcess(const std::string& script) {
   const std::string text = ReadFileBytes(PathFromUtf8(script)).value_or("");
   const ParsedScript parsed = ParseScript(text, script, AllStatements());
-  return std::any_of(parsed.statements.begin(), parsed.statements.end(),
-                     [](const Statement& s) { return s.Is("install") || s.Is("plugin"); });
+  return std::any_of(parsed.statements.begin(), parsed.statements.end(), [](const Statement& s) {
+    return s.Is("install") || s.Is("plugin") || s.Is("withhold");
+  });
 }
 
 // Counts what a process of its own closes with, and passes on the lines before.

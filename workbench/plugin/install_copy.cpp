@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 InstallCopy::InstallCopy(const fs::path& tree, const std::string& purpose)
     : prefix_("workbench " + purpose + " "),
-      top_(TemporaryPlace() / (prefix_ + std::to_string(OwnProcessId()))),
+      top_(TemporaryPlace() / PathFromUtf8(prefix_ + std::to_string(OwnProcessId()))),
       tree_(top_ / "quillmax"),
       work_(top_ / "work") {
   RemoveLeftovers();

@@ -126,7 +126,7 @@ section > p { margin: 0; color: var(--soft-ink); overflow-wrap: anywhere; }
 .fold { margin-top: 16px; }
 .fold > summary { cursor: pointer; color: var(--head-ink); font-weight: 600; }
 .fold > .tree, .fold > .scroll { margin: 6px 0 0 14px; }
-.sheet-box text { font: 11px "Segoe UI", "Microsoft YaHei", "Noto Sans CJK SC", sans-serif; }
+.sheet { display: block; max-width: 100%; height: auto; margin-bottom: 10px; }
 .book { border-collapse: collapse; background: var(--paper); font-size: 12px; }
 .book th { padding: 1px 6px; background: var(--bar-paper); color: var(--soft-ink);
   border: 1px solid var(--line); font-weight: normal; text-align: center; }

@@ -1,12 +1,9 @@
 // Draws message boxes and drawing sheets for the report.
 #include "workbench/report/report_shown.h"
 
-#include <algorithm>
-#include <cstdio>
-
 #include "workbench/base/html_text.h"
-#include "workbench/base/text.h"
 #include "workbench/report/report_text.h"
+#include "workbench/sheet/sheet_svg.h"
 
 namespace wb {
 namespace {
@@ -54,54 +51,31 @@ const char* IconOf(unsigned style) {
   }
 }
 
-struct SheetSize {
-  const char* name;
-  double width;  // millimetres, landscape
-  double height;
-};
-constexpr SheetSize kSheetSizes[] = {
-    {"A0", 1189, 841},   {"A1", 841, 594},     {"A2", 594, 420},     {"A3", 420, 297},
-    {"A4", 297, 210},    {"A", 279.4, 215.9},  {"B", 431.8, 279.4},  {"C", 558.8, 431.8},
-    {"D", 863.6, 558.8}, {"E", 1117.6, 863.6}, {"F", 1016.0, 711.2},
-};
-constexpr SheetSize kUnknownSize = {"", 297, 210};
-
-const SheetSize& SizeNamed(const std::string& name) {
-  const auto found =
-      std::find_if(std::begin(kSheetSizes), std::end(kSheetSizes),
-                   [&](const SheetSize& size) { return EqualFolded(size.name, name); });
-  return found == std::end(kSheetSizes) ? kUnknownSize : *found;
+std::string SheetFigure(const DrawingPicture& drawing, std::size_t number,
+                        const SheetPicture& sheet, const char* moment, const std::string& svg) {
+  std::string html = "<figure class=\"drawn\"><figcaption>" + EscapeHtml(drawing.name) +
+                     ", sheet " + std::to_string(number + 1) + ", " + EscapeHtml(sheet.size) +
+                     ", " + ScaleText(sheet.scale);
+  if (!drawing.shows.empty()) html += ", of " + EscapeHtml(drawing.shows);
+  return html + moment + "</figcaption>" + svg + "</figure>";
 }
 
-// Pixels of a length on paper: an A4 sheet stays legible, an A0 sheet fits the page.
-int Pixels(double millimetres) {
-  return static_cast<int>(90 + millimetres * 0.3);
-}
-
-std::string ScaleText(double scale) {
-  if (!(scale > 0)) return NumberText(scale);
-  char text[32];
-  std::snprintf(text, sizeof text, "%.4g", scale < 1 ? 1 / scale : scale);
-  return scale < 1 ? std::string("1:") + text : std::string(text) + ":1";
-}
-
-std::string SheetSvg(const SheetPicture& sheet) {
-  const SheetSize& size = SizeNamed(sheet.size);
-  const int width = Pixels(size.width);
-  const int height = width * static_cast<int>(size.height) / static_cast<int>(size.width);
-  const auto number = [](int value) { return std::to_string(value); };
-  std::string svg = "<svg class=\"sheet-box\" width=\"" + number(width) + "\" height=\"" +
-                    number(height) + "\"><g fill=\"#fff\" stroke=\"#48586a\">";
-  const auto frame = [&](int x, int y, int w, int h) {
-    svg += "<rect x=\"" + number(x) + ".5\" y=\"" + number(y) + ".5\" width=\"" + number(w) +
-           "\" height=\"" + number(h) + "\"/>";
-  };
-  frame(0, 0, width - 1, height - 1);
-  frame(10, 5, width - 16, height - 11);
-  frame(width - 76, height - 26, 70, 20);  // title block
-  svg += "</g><text x=\"" + number(width - 70) + "\" y=\"" + number(height - 11) + "\">" +
-         EscapeHtml(sheet.size) + "  " + ScaleText(sheet.scale) + "</text>";
-  return svg + "</svg>";
+// One picture of a sheet that is the same before and after, or was not there; otherwise both.
+std::string SheetFigures(const DrawingPicture& drawing, std::size_t number) {
+  const SheetPicture& after = drawing.sheets[number];
+  const SheetPicture* const before =
+      number < drawing.before.size() ? &drawing.before[number] : nullptr;
+  if (before == nullptr) {
+    const char* const moment = drawing.before.empty() ? "" : " <mark>new</mark>";
+    return SheetFigure(drawing, number, after, moment, DrawSheet(after));
+  }
+  if (*before == after) {
+    return SheetFigure(drawing, number, after, ", the same before and after", DrawSheet(after));
+  }
+  return SheetFigure(drawing, number, *before, " <mark>before</mark>",
+                     DrawSheet(*before, &after, SheetMoment::kBefore)) +
+         SheetFigure(drawing, number, after, " <mark>after</mark>",
+                     DrawSheet(after, before, SheetMoment::kAfter));
 }
 
 }  // namespace
@@ -120,10 +94,10 @@ std::string DrawMessageBox(const MessageBox& box, int pressed) {
 
 std::string DrawSheets(const DrawingPicture& drawing) {
   std::string html;
-  for (std::size_t i = 0; i < drawing.sheets.size(); ++i) {
-    html += "<figure><figcaption>" + EscapeHtml(drawing.name) + ", sheet " + std::to_string(i + 1);
-    if (!drawing.shows.empty()) html += ", of " + EscapeHtml(drawing.shows);
-    html += "</figcaption>" + SheetSvg(drawing.sheets[i]) + "</figure>";
+  for (std::size_t i = 0; i < drawing.sheets.size(); ++i) html += SheetFigures(drawing, i);
+  for (std::size_t i = drawing.sheets.size(); i < drawing.before.size(); ++i) {
+    html += SheetFigure(drawing, i, drawing.before[i], " <mark>removed</mark>",
+                        DrawSheet(drawing.before[i]));
   }
   return html;
 }

@@ -11,7 +11,7 @@ namespace wb {
 // that the user pressed, 0 when unknown.
 std::string DrawMessageBox(const MessageBox& box, int pressed);
 
-// The sheets of a drawing as inline SVG, large sheets larger than small ones.
+// The sheets of a drawing as inline SVG, those that a command changed before and after it.
 std::string DrawSheets(const DrawingPicture& drawing);
 
 }  // namespace wb

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "workbench/session/user_requests.h"
+#include "workbench/sheet/sheet_picture.h"
 
 namespace wb {
 
@@ -49,16 +50,11 @@ struct StateChange {
   std::string after;
 };
 
-struct SheetPicture {
-  std::string size;  // "A3"
-  double scale = 1.0;
-  bool operator==(const SheetPicture&) const = default;
-};
-
 struct DrawingPicture {
   std::string name;
   std::string shows;  // the solid drawn; empty: none
   std::vector<SheetPicture> sheets;
+  std::vector<SheetPicture> before{};  // the command; none: the drawing was not there
   bool operator==(const DrawingPicture&) const = default;
 };
 

@@ -16,6 +16,7 @@ TreeIcon IconOf(const Model& model) {
     case ModelKind::kAssembly:
       return TreeIcon::kAssembly;
     case ModelKind::kDrawing:
+    case ModelKind::kFormat:
       return TreeIcon::kDrawing;
     case ModelKind::kManufacturing:
       return TreeIcon::kManufacturing;
@@ -127,12 +128,15 @@ class RowCount {
   std::vector<Level> open_;
 };
 
-DrawingPicture DrawingPictureOf(const Model& model) {
+DrawingPicture DrawingPictureOf(const Model& model, const SessionPicture& before,
+                                const SessionPicture& after) {
   const auto& content = *model.As<DrawingContent>();
   DrawingPicture drawing;
   drawing.name = model.id.Text();
   if (content.shows) drawing.shows = content.shows->name.Text();
-  for (const Sheet& sheet : content.sheets) drawing.sheets.push_back({sheet.size, sheet.scale});
+  drawing.sheets = after.sheets.at(drawing.name);
+  const auto was = before.sheets.find(drawing.name);
+  if (was != before.sheets.end()) drawing.before = was->second;
   return drawing;
 }
 
@@ -231,6 +235,8 @@ SessionPicture TakePicture(const Session& session) {
   }
   for (const auto& model : session.models()) {
     picture.models.emplace(model->id.Text(), *model);
+    const DrawingContent* const drawing = model->As<DrawingContent>();
+    if (drawing != nullptr) picture.sheets.emplace(model->id.Text(), PictureOf(*drawing));
   }
   return picture;
 }
@@ -248,7 +254,8 @@ void NoteChanges(const SessionPicture& before, const SessionPicture& after,
     }
     if (now.As<DrawingContent>() == nullptr) continue;
     const bool changed = old == before.models.end() || HasNoted(command, name);
-    if (changed || name == after.current) command.drawings.push_back(DrawingPictureOf(now));
+    if (!changed && name != after.current) continue;
+    command.drawings.push_back(DrawingPictureOf(now, before, after));
   }
 }
 

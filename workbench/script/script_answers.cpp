@@ -1,6 +1,6 @@
 // Answers of the scripted user: dialogs, picks, files, prompts and message boxes.
 #include "workbench/base/text.h"
-#include "workbench/script/own_path.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/script/script_calls.h"
 #include "workbench/script/script_paths.h"
 #include "workbench/script/script_runner.h"
@@ -44,7 +44,7 @@ void AwaitCall(ScriptRun& run, const Statement& statement) {
 #define WB_REQUEST "{[title TITLE] [filter FILTER] [folder FOLDER]}"
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kAnswerForms[] = {
     {"dialog NAME",                          kAnswerOrDialog, kWhenAsked, kDialogPlace},
     {WB_MESSAGE " while",                    kAnswerOrDialog, kWhenAsked, kDialogPlace},
     {WB_MESSAGE,                             kAnswerOrDialog, kWhenAsked},
@@ -65,7 +65,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms AnswerStatements() {
-  return kForms;
+  return kAnswerForms;
 }
 
 std::string DescribeBox(const MessageBox& box) {

@@ -76,6 +76,20 @@ PickedItem PickOf(Model& root, const std::string& path) {
   return {static_cast<int>(model->id.kind), 0, model, &root, spot.ids};
 }
 
+// Drawings tell their items apart; of solids only some are modelled.
+void CheckItem(const PickedItem& pick) {
+  const DrawingContent* const drawing = pick.owner->As<DrawingContent>();
+  if (drawing == nullptr) return;
+  const bool is_there = (pick.type == PRO_VIEW && drawing->views.Find(pick.id) != nullptr) ||
+                        (pick.type == PRO_DIMENSION && drawing->dimensions.Find(pick.id)) ||
+                        (pick.type == PRO_DRAW_TABLE && drawing->tables.Find(pick.id)) ||
+                        (pick.type == PRO_NOTE && drawing->notes.Find(pick.id) != nullptr);
+  if (!is_there) {
+    throw ScriptError(pick.owner->id.Text() + " has no " + WordOf(ItemWords(), pick.type) + " " +
+                      std::to_string(pick.id));
+  }
+}
+
 }  // namespace
 
 ComponentSpot FindComponentSpot(Model& root, const std::string& path) {
@@ -105,6 +119,7 @@ std::vector<PickedItem> PicksOf(ScriptRun& run, const Statement& statement) {
                     &root,
                     {}};
     if (statement.Has("at")) pick.path = PickOf(root, statement.Text("PATH")).path;
+    CheckItem(pick);
     picks.push_back(pick);
     return picks;
   }

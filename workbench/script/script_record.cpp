@@ -5,9 +5,9 @@
 
 #include "workbench/base/text.h"
 #include "workbench/language/script_words.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/report/kept_files.h"
 #include "workbench/report/workbook_picture.h"
-#include "workbench/script/own_path.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/script/script_windows.h"
 

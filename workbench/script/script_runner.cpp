@@ -8,7 +8,7 @@
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
 #include "workbench/language/script_words.h"
-#include "workbench/script/missing_model.h"
+#include "workbench/reasons/missing_model.h"
 #include "workbench/script/script_watch.h"
 
 namespace wb {
@@ -249,8 +249,8 @@ Model* ScriptRun::FindModel(const std::string& name) {
       host.session.Find({name, ModelKind::kAssembly}) != nullptr) {
     throw ScriptError(name + " is " + name + ".prt and " + name + ".asm; say which");
   }
-  for (const ModelKind kind :
-       {ModelKind::kPart, ModelKind::kAssembly, ModelKind::kManufacturing, ModelKind::kDrawing}) {
+  for (const ModelKind kind : {ModelKind::kPart, ModelKind::kAssembly, ModelKind::kManufacturing,
+                               ModelKind::kDrawing, ModelKind::kFormat}) {
     if (Model* const model = host.session.Find({name, kind})) return model;
   }
   return nullptr;

@@ -99,7 +99,9 @@ void FolderSnapshot::Restore() const {
 
 SessionSnapshot::SessionSnapshot(const Host& host, const std::vector<fs::path>& folders)
     : current_window_(host.session.current_window()),
+      active_window_(host.session.active_window()),
       working_directory_(host.session.working_directory()),
+      current_folder_(fs::current_path()),
       clipboard_(ClipboardText().value_or("")),
       options_(host.options) {
   for (const auto& model : host.session.models()) {
@@ -134,7 +136,8 @@ void SessionSnapshot::RestoreWindows(Session& session) const {
   for (const HeldWindow& held : windows_) {
     session.FindWindow(held.id)->model = held.shows_model ? session.Find(held.model) : nullptr;
   }
-  session.ActivateWindow(current_window_);
+  session.ActivateWindow(active_window_);
+  session.SetCurrentWindow(current_window_);
 }
 
 void SessionSnapshot::Restore(Host& host) const {
@@ -148,6 +151,7 @@ void SessionSnapshot::Restore(Host& host) const {
     host.session.selection_buffer.push_back(pick);
   }
   host.session.ChangeDirectory(working_directory_);
+  fs::current_path(current_folder_);
   host.options = options_;
   if (ClipboardText().value_or("") != clipboard_) SetClipboardText(clipboard_);
   for (const FolderSnapshot& folder : folders_) folder.Restore();

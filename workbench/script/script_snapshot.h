@@ -54,7 +54,9 @@ class SessionSnapshot {
   std::vector<HeldPick> buffer_;
   std::vector<HeldWindow> windows_;
   int current_window_;
+  int active_window_;
   std::filesystem::path working_directory_;
+  std::filesystem::path current_folder_;  // the process's
   std::string clipboard_;
   std::map<std::string, std::vector<std::string>> options_;
   std::vector<FolderSnapshot> folders_;

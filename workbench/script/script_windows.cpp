@@ -1,6 +1,7 @@
 // Windows' side of scripts.
 #include "workbench/script/script_windows.h"
 
+#include <cstdio>
 #include <cstring>
 #include <vector>
 
@@ -52,6 +53,16 @@ std::optional<std::string> ReadProfile(const std::filesystem::path& file,
   const std::wstring text(buffer.data(), length);
   if (text == kMissing) return std::nullopt;
   return FromWide(text);
+}
+
+std::vector<std::string> ProfileSections(const std::filesystem::path& file) {
+  std::vector<wchar_t> buffer(kProfileBuffer);
+  ::GetPrivateProfileSectionNamesW(buffer.data(), kProfileBuffer, file.wstring().c_str());
+  std::vector<std::string> names;
+  for (const wchar_t* name = buffer.data(); *name != L'\0'; name += std::wcslen(name) + 1) {
+    names.push_back(FromWide(name));
+  }
+  return names;
 }
 
 void FlushProfile(const std::filesystem::path& file) {
@@ -165,6 +176,25 @@ class OutputFile {
   HANDLE handle_ = INVALID_HANDLE_VALUE;
 };
 
+// A busy machine refuses a program for a moment (a file of its own still held, no room for one more
+// process); what is refused this often is refused.
+constexpr int kStartAttempts = 5;
+constexpr DWORD kStartPause = 500;
+
+bool Start(const std::wstring& command, STARTUPINFOW& startup, PROCESS_INFORMATION& process) {
+  for (int attempt = 1; attempt <= kStartAttempts; ++attempt) {
+    std::wstring writable = command;
+    if (::CreateProcessW(nullptr, writable.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                         &startup, &process)) {
+      return true;
+    }
+    std::fprintf(stderr, "attempt %d to start a program: Windows error %lu\n", attempt,
+                 ::GetLastError());
+    ::Sleep(kStartPause);
+  }
+  return false;
+}
+
 }  // namespace
 
 std::optional<std::string> OutputOf(const std::filesystem::path& program,
@@ -172,16 +202,16 @@ std::optional<std::string> OutputOf(const std::filesystem::path& program,
   std::wstring command = L"\"" + program.wstring() + L"\"";
   for (const std::string& argument : arguments) command += L" \"" + ToWide(argument) + L"\"";
   OutputFile output;
-  if (output.handle() == INVALID_HANDLE_VALUE) return std::nullopt;
+  if (output.handle() == INVALID_HANDLE_VALUE) {
+    std::fprintf(stderr, "no file for a program's output: Windows error %lu\n", ::GetLastError());
+    return std::nullopt;
+  }
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
   startup.dwFlags = STARTF_USESTDHANDLES;
   startup.hStdOutput = startup.hStdError = output.handle();
   PROCESS_INFORMATION process{};
-  if (!::CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                        &startup, &process)) {
-    return std::nullopt;
-  }
+  if (!Start(command, startup, process)) return std::nullopt;
   ::WaitForSingleObject(process.hProcess, INFINITE);
   ::CloseHandle(process.hThread);
   ::CloseHandle(process.hProcess);

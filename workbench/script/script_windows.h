@@ -15,6 +15,8 @@ bool WriteProfile(const std::filesystem::path& file, const std::string& section,
 std::optional<std::string> ReadProfile(const std::filesystem::path& file,
                                        const std::string& section, const std::string& key);
 // Windows keeps settings files in memory; call this before a file is read or written directly.
+// In the order of the file.
+std::vector<std::string> ProfileSections(const std::filesystem::path& file);
 void FlushProfile(const std::filesystem::path& file);
 
 // No text: the clipboard holds none, or cannot be opened.

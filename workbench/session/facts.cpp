@@ -2,6 +2,7 @@
 #include "workbench/session/facts.h"
 
 #include <charconv>
+#include <cmath>
 #include <limits>
 
 #include "workbench/base/text.h"
@@ -75,15 +76,71 @@ std::string NamesIn(std::span<const RecordRef> records) {
   return Join(", ", names);
 }
 
-FactPlace FindInList(void* record, const ListRow& list, std::string_view path) {
-  const size_t slash = std::min(path.find('/'), path.size());
-  const std::string key(path.substr(0, slash));
-  const size_t place = list.find(record, key);
-  if (place == list.size(record)) {
-    throw FactError("there is no " + std::string(list.name) + "/" + key);
+// The first step of a path and what is behind it.
+struct PathSteps {
+  explicit PathSteps(std::string_view path) {
+    // Not by its own search, of whose inlined copies GCC 12 complains falsely.
+    const auto slash = static_cast<size_t>(std::ranges::find(path, '/') - path.begin());
+    first = path.substr(0, slash);
+    rest = path.substr(std::min(slash + 1, path.size()));
   }
-  const RecordRef item{list.at(record, place), &list.type()};
-  return FindFact({&item, 1}, path.substr(std::min(slash + 1, path.size())));
+  std::string_view first;
+  std::string_view rest;
+};
+
+RecordRef ItemIn(void* record, const ListRow& list, std::string_view key) {
+  const size_t place = list.find(record, std::string(key));
+  if (place == list.size(record)) {
+    throw FactError("there is no " + std::string(list.name) + "/" + std::string(key));
+  }
+  return {list.at(record, place), &list.type()};
+}
+
+FactPlace FindInList(void* record, const ListRow& list, std::string_view path) {
+  const PathSteps steps(path);
+  const RecordRef item = ItemIn(record, list, steps.first);
+  return FindFact({&item, 1}, steps.rest);
+}
+
+// A list, and the key that a path gives an item of it.
+struct ListPlace {
+  void* record;
+  const ListRow* list;
+  std::string key;
+};
+
+ListPlace FindList(std::span<const RecordRef> records, std::string_view path) {
+  const PathSteps name(path);
+  const PathSteps key(name.rest);
+  for (const RecordRef& ref : records) {
+    for (const ListRow& list : ref.type->lists) {
+      if (name.first != list.name) continue;
+      if (key.rest.empty()) return {ref.record, &list, std::string(key.first)};
+      const RecordRef item = ItemIn(ref.record, list, key.first);
+      return FindList({&item, 1}, key.rest);
+    }
+  }
+  throw FactError("there is no list \"" + std::string(path) + "\"; there are: " + NamesIn(records));
+}
+
+void SetFact(const RecordRef& item, const std::string& name, const std::string& text) {
+  const FactPlace place = FindFact({&item, 1}, name);
+  place.row->set(place.record, ParseFact(text, place.row->get(place.record)));
+}
+
+// The fact that an item is found by; empty: it has none.
+std::string KeyFactOf(const RecordType& type) {
+  for (const FactRow& row : type.facts) {
+    if (row.name == std::string_view("id") || row.name == std::string_view("name")) return row.name;
+  }
+  return {};
+}
+
+// Two numbers differ by rounding alone up to this part of them, or of 1.
+constexpr double kRounding = 1e-9;
+
+bool AreSame(double a, double b) {
+  return a == b || std::abs(a - b) <= kRounding * std::max(1.0, std::abs(b));
 }
 
 }  // namespace
@@ -198,6 +255,38 @@ FactPlace FindFact(std::span<const RecordRef> records, std::string_view path) {
     }
   }
   throw FactError("there is no fact \"" + std::string(path) + "\"; there are: " + NamesIn(records));
+}
+
+bool IsFact(const FactValue& value, std::string_view text) {
+  if (FactText(value) == text) return true;
+  if (const double* const number = std::get_if<double>(&value)) {
+    const auto wanted = Whole<double>(text);
+    return wanted && AreSame(*number, *wanted);
+  }
+  const auto* const numbers = std::get_if<std::vector<double>>(&value);
+  if (numbers == nullptr) return false;
+  const auto wanted = Numbers(text);
+  return wanted && std::ranges::equal(*numbers, *wanted, &AreSame);
+}
+
+size_t CountItems(std::span<const RecordRef> records, std::string_view path) {
+  const ListPlace place = FindList(records, path);
+  if (!place.key.empty()) throw FactError("\"" + std::string(path) + "\" is no list");
+  return place.list->size(place.record);
+}
+
+void AddItem(std::span<const RecordRef> records, std::string_view path, NamedFacts facts) {
+  const ListPlace place = FindList(records, path);
+  const std::shared_ptr<void> made = place.list->type().make();
+  const RecordRef item{made.get(), &place.list->type()};
+  const std::string key = KeyFactOf(*item.type);
+  if (key.empty() != place.key.empty()) {
+    throw FactError("items of " + std::string(place.list->name) +
+                    (key.empty() ? " have no key" : " are told by their " + key));
+  }
+  if (!key.empty()) SetFact(item, key, place.key);
+  for (const auto& [name, text] : facts) SetFact(item, name, text);
+  place.list->add(place.record, item.record);
 }
 
 }  // namespace wb

@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -148,7 +149,7 @@ struct FactTraits<std::array<double, Size>> {
     if (numbers == nullptr || numbers->size() != Size) {
       RefuseFact(value, std::to_string(Size) + " numbers");
     }
-    std::array<double, Size> held;
+    std::array<double, Size> held{};
     std::copy(numbers->begin(), numbers->end(), held.begin());
     return held;
   }
@@ -302,5 +303,16 @@ struct FactPlace {
   const FactRow* row;
 };
 FactPlace FindFact(std::span<const RecordRef> records, std::string_view path);
+
+// Whether a fact's value is what a text says; numbers agree that differ by rounding alone.
+bool IsFact(const FactValue& value, std::string_view text);
+
+// How many items the list with this path has. Throws FactError.
+size_t CountItems(std::span<const RecordRef> records, std::string_view path);
+
+// Adds an item to the list with this path: "views/3" is the item with that key, "sheets" one of a
+// list without keys. Throws FactError.
+using NamedFacts = std::span<const std::pair<std::string, std::string>>;
+void AddItem(std::span<const RecordRef> records, std::string_view path, NamedFacts facts);
 
 }  // namespace wb

@@ -19,6 +19,8 @@ ModelContent ContentOf(ModelKind kind) {
       return DrawingContent();
     case ModelKind::kManufacturing:
       return ManufacturingContent();
+    case ModelKind::kFormat:
+      return FormatContent();
     default:
       return SolidContent();
   }
@@ -124,6 +126,10 @@ void ForEachLink(Model& model, const std::function<void(ModelLink&)>& use) {
     }
   } else if (DrawingContent* const drawing = model.As<DrawingContent>()) {
     if (drawing->shows) use(*drawing->shows);
+    for (DrawnModel& drawn : drawing->models) use(drawn.link);
+    for (DrawingView& view : drawing->views) {
+      if (view.shows) use(*view.shows);
+    }
   } else if (ManufacturingContent* const manufacturing = model.As<ManufacturingContent>()) {
     if (manufacturing->assembly) use(*manufacturing->assembly);
   }

@@ -3,7 +3,6 @@
 // kind.
 #pragma once
 
-#include <array>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -13,66 +12,12 @@
 #include <vector>
 
 #include "toolkit/numbers.h"
+#include "workbench/session/drawing.h"
 #include "workbench/session/facts.h"
 #include "workbench/session/item_list.h"
+#include "workbench/session/model_link.h"
 
 namespace wb {
-
-// Values are the host's model type numbers.
-enum class ModelKind {
-  kAssembly = PRO_MDL_ASSEMBLY,
-  kPart = PRO_MDL_PART,
-  kDrawing = PRO_MDL_DRAWING,
-  kManufacturing = PRO_MDL_MFG,
-};
-
-struct ModelKindRow {
-  ModelKind kind;
-  const char* word;       // in scripts and model files
-  const char* extension;  // of model files, without the dot
-};
-inline constexpr ModelKindRow kKindNames[] = {
-    {ModelKind::kAssembly, "assembly", "asm"},
-    {ModelKind::kPart, "part", "prt"},
-    {ModelKind::kDrawing, "drawing", "drw"},
-    {ModelKind::kManufacturing, "manufacturing", "mfg"},
-};
-const char* KindWord(ModelKind kind);
-const char* KindExtension(ModelKind kind);
-std::optional<ModelKind> KindFromWord(std::string_view word);
-std::optional<ModelKind> KindFromExtension(std::string_view extension);
-
-// The longest model name, in 16-bit characters.
-inline constexpr size_t kMaxNameLength = PRO_NAME_SIZE - 1;
-
-// A model named apart from any session: "bolt.prt".
-struct ModelName {
-  std::string name;
-  ModelKind kind = ModelKind::kPart;
-  std::string Text() const { return name + "." + KindExtension(kind); }
-};
-// "bolt.prt" -> name and kind; no value when the extension is unknown or missing.
-std::optional<ModelName> ParseModelName(std::string_view text);
-
-struct Model;
-
-// A model that another one refers to.
-struct ModelLink {
-  ModelName name;
-  Model* model = nullptr;  // null: not found in session
-};
-
-// Lengths are millimetres.
-using Point = std::array<double, 3>;
-struct Box {
-  Point min{};
-  Point max{};
-};
-
-// Row-vector convention: rows 0..2 are the component's axes, row 3 its origin.
-using Placement = std::array<std::array<double, 4>, 4>;
-inline constexpr Placement kIdentityPlacement = {
-    {{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}}};
 
 using ParameterValue = std::variant<double, std::string, int, bool>;
 struct Parameter {
@@ -123,11 +68,6 @@ struct Surface {
   Box box;
 };
 
-struct Sheet {
-  std::string size = "A4";
-  double scale = 1.0;
-};
-
 // Parts and assemblies.
 struct SolidContent {
   bool sheet_metal = false;
@@ -136,16 +76,12 @@ struct SolidContent {
   ItemList<Surface> surfaces;
 };
 
-struct DrawingContent {
-  std::optional<ModelLink> shows;  // the solid drawn
-  std::vector<Sheet> sheets;
-};
-
 struct ManufacturingContent {
   std::optional<ModelLink> assembly;
 };
 
-using ModelContent = std::variant<SolidContent, DrawingContent, ManufacturingContent>;
+using ModelContent =
+    std::variant<SolidContent, DrawingContent, ManufacturingContent, FormatContent>;
 
 struct Model {
   Model() : Model(ModelName{}) {}
@@ -155,6 +91,8 @@ struct Model {
   ModelName id;
   std::string note;  // free text of the model file, kept through a save
   ItemList<Parameter> parameters;
+  // How its window shows it: its axes on the screen times the view's scale, and the shift.
+  Placement view = kStandardView;
   ModelContent content;
 
   // What only the session knows.

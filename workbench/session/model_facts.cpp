@@ -2,6 +2,7 @@
 #include "workbench/session/model_facts.h"
 
 #include "workbench/base/text.h"
+#include "workbench/session/fact_traits.h"
 
 namespace wb {
 
@@ -18,28 +19,6 @@ std::span<const EnumerationWord<FeatureStatus>> WordsOf() {
   };
   return kWords;
 }
-
-template <>
-struct FactTraits<ModelName> {
-  static FactValue Get(const ModelName& held) { return held.Text(); }
-  static ModelName From(const FactValue& value) {
-    const auto* const text = std::get_if<std::string>(&value);
-    const auto name = text == nullptr ? std::nullopt : ParseModelName(*text);
-    if (!name) RefuseFact(value, "a model name such as \"bolt.prt\"");
-    return *name;
-  }
-};
-
-// A link that may be missing; the model itself is found when the file is in session.
-template <>
-struct FactTraits<std::optional<ModelLink>> {
-  static FactValue Get(const std::optional<ModelLink>& held) {
-    return held ? FactValue(held->name.Text()) : FactValue();
-  }
-  static std::optional<ModelLink> From(const FactValue& value) {
-    return ModelLink{FactTraits<ModelName>::From(value), nullptr};
-  }
-};
 
 namespace {
 
@@ -87,20 +66,7 @@ void SetParameterFact(void* record, const FactValue& value) {
       static_cast<Parameter*>(record)->value);
 }
 
-template <typename Record>
-RecordType TypeWith(std::span<const FactRow> facts, std::span<const ListRow> lists = {}) {
-  return {facts, lists, &MakeRecord<Record>, &PlainRecord<Record>};
-}
-
 }  // namespace
-
-template <>
-struct FactTraits<ModelLink> {
-  static FactValue Get(const ModelLink& held) { return held.name.Text(); }
-  static ModelLink From(const FactValue& value) {
-    return {FactTraits<ModelName>::From(value), nullptr};
-  }
-};
 
 template <>
 const RecordType& RecordTypeOf<Parameter>() {
@@ -141,16 +107,6 @@ const RecordType& RecordTypeOf<Surface>() {
 }
 
 template <>
-const RecordType& RecordTypeOf<Sheet>() {
-  static constexpr FactRow kFacts[] = {
-      Fact<&Sheet::size>("size", InFile::kRequired),
-      Fact<&Sheet::scale>("scale", InFile::kAlways),
-  };
-  static const RecordType kType = TypeWith<Sheet>(kFacts);
-  return kType;
-}
-
-template <>
 const RecordType& RecordTypeOf<SolidContent>() {
   static constexpr FactRow kFacts[] = {
       Fact<&SolidContent::sheet_metal>("sheet_metal"),
@@ -165,14 +121,6 @@ const RecordType& RecordTypeOf<SolidContent>() {
 }
 
 template <>
-const RecordType& RecordTypeOf<DrawingContent>() {
-  static constexpr FactRow kFacts[] = {Fact<&DrawingContent::shows>("drawing_of")};
-  static constexpr ListRow kLists[] = {List<&DrawingContent::sheets>("sheets")};
-  static const RecordType kType = TypeWith<DrawingContent>(kFacts, kLists);
-  return kType;
-}
-
-template <>
 const RecordType& RecordTypeOf<ManufacturingContent>() {
   static constexpr FactRow kFacts[] = {Fact<&ManufacturingContent::assembly>("assembly")};
   static const RecordType kType = TypeWith<ManufacturingContent>(kFacts);
@@ -181,7 +129,10 @@ const RecordType& RecordTypeOf<ManufacturingContent>() {
 
 template <>
 const RecordType& RecordTypeOf<Model>() {
-  static constexpr FactRow kFacts[] = {Fact<&Model::note>("note")};
+  static constexpr FactRow kFacts[] = {
+      Fact<&Model::note>("note"),
+      Fact<&Model::view>("view"),
+  };
   static constexpr ListRow kLists[] = {List<&Model::parameters>("parameters")};
   static const RecordType kType = TypeWith<Model>(kFacts, kLists);
   return kType;
@@ -196,12 +147,30 @@ std::array<RecordRef, 2> RecordsOf(Model& model) {
   return {RecordRef{&model, &RecordTypeOf<Model>()}, content};
 }
 
-FactPlace FindFact(Model& model, std::string_view path) {
+namespace {
+
+// Names the model in what is wrong with a path.
+template <typename Use>
+auto WithRecords(Model& model, Use use) {
   try {
-    return FindFact(RecordsOf(model), path);
+    return use(RecordsOf(model));
   } catch (const FactError& error) {
     throw FactError(model.id.Text() + ": " + error.what());
   }
+}
+
+}  // namespace
+
+FactPlace FindFact(Model& model, std::string_view path) {
+  return WithRecords(model, [&](const auto& records) { return FindFact(records, path); });
+}
+
+void AddItem(Model& model, std::string_view path, NamedFacts facts) {
+  WithRecords(model, [&](const auto& records) { AddItem(records, path, facts); });
+}
+
+size_t CountItems(Model& model, std::string_view path) {
+  return WithRecords(model, [&](const auto& records) { return CountItems(records, path); });
 }
 
 std::vector<FactChange> ChangesBetween(const Model& before, const Model& after) {
@@ -220,7 +189,9 @@ void CollectFacts(const RecordType& type, void* record, const std::string& path,
                   std::map<std::string, std::string>* facts) {
   for (const FactRow& row : type.facts) (*facts)[path + row.name] = FactText(row.get(record));
   for (const ListRow& list : type.lists) {
+    std::string& keys = (*facts)[path + list.name];
     for (size_t i = 0; i < list.size(record); ++i) {
+      keys += list.key(record, i) + " ";
       CollectFacts(list.type(), list.at(record, i),
                    path + list.name + "/" + list.key(record, i) + "/", facts);
     }

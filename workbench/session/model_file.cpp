@@ -357,9 +357,12 @@ Model ReadModelFile(const std::filesystem::path& file) {
   try {
     Model model = ModelFromJson(Json::parse(text));
     model.folder = file.parent_path();
-    if (const auto name = ParseFileName(PathToUtf8(file.filename()))) {
+    const std::string own_name = PathToUtf8(file.filename());
+    if (const auto name = ParseFileName(own_name)) {
       CheckName(model, *name);
       model.version = name->version;
+    } else if (const auto plain = ParseModelName(own_name)) {
+      CheckName(model, {*plain, 0});
     }
     return model;
   } catch (const nlohmann::json::parse_error& error) {

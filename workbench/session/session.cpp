@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "workbench/base/text.h"
+#include "workbench/session/drawing_views.h"
 #include "workbench/session/model_cycle.h"
 #include "workbench/session/model_file.h"
 
@@ -20,7 +21,10 @@ std::string Key(const ModelName& name) {
 FolderIndex::FolderIndex(const std::filesystem::path& folder) {
   std::error_code error;
   for (const auto& item : std::filesystem::directory_iterator(folder, error)) {
-    const auto name = ParseFileName(PathToUtf8(item.path().filename()));
+    const std::string text = PathToUtf8(item.path().filename());
+    auto name = ParseFileName(text);
+    // A file without a version, as other programs copy it, is older than all that have one.
+    if (const auto plain = name ? std::nullopt : ParseModelName(text)) name = {*plain, 0};
     if (!name) continue;
     auto [at, fresh] =
         entries_.try_emplace(Key(name->model), Entry{name->model, name->version, item.path()});
@@ -99,6 +103,7 @@ Model* Session::RetrieveTree(const ModelName& name, const FolderIndex& folder) {
     for (Model* const model : loaded) Erase(*model);
     throw;
   }
+  for (Model* const model : loaded) Complete(*model);
   return loaded.empty() ? nullptr : loaded.front();
 }
 
@@ -123,6 +128,21 @@ void Session::LoadTree(const ModelName& name, const FolderIndex& folder,
   }
 }
 
+std::optional<Model> Session::Template(const std::filesystem::path& file) {
+  const std::filesystem::path full = working_directory_ / file;
+  const std::string text = PathToUtf8(full.filename());
+  const auto versioned = ParseFileName(text);
+  const auto name = versioned ? versioned->model : ParseModelName(text);
+  if (!name || name->kind != ModelKind::kDrawing) return std::nullopt;
+  const Model* const present = Find(*name);
+  const bool is_it = present != nullptr && !versioned && present->folder == full.parent_path();
+  if (is_it) return *present;
+  FolderIndex folder(full.parent_path());
+  if (versioned && !folder.Choose(*name, versioned->version)) return std::nullopt;
+  const std::filesystem::path newest = folder.Newest(*name);
+  return newest.empty() ? std::nullopt : std::optional(ReadModelFile(newest));
+}
+
 // Models that were in session before hold none of the `loaded` ones, so a new cycle is all of
 // these.
 void Session::RefuseCycle(const std::vector<Model*>& loaded, const FolderIndex& folder) {
@@ -137,10 +157,16 @@ void Session::RefuseCycle(const std::vector<Model*>& loaded, const FolderIndex& 
 Model* Session::Load(const ModelName& name, const FolderIndex& folder) {
   const std::filesystem::path file = folder.Newest(name);
   if (file.empty()) return nullptr;
-  return &Add(ReadModelFile(file));
+  return &Enter(ReadModelFile(file));
 }
 
 Model& Session::Add(Model model) {
+  Model& added = Enter(std::move(model));
+  Complete(added);
+  return added;
+}
+
+Model& Session::Enter(Model model) {
   models_.push_back(std::make_unique<Model>(std::move(model)));
   Model& added = *models_.back();
   by_name_[Key(added.id)] = &added;
@@ -152,6 +178,18 @@ Model& Session::Add(Model model) {
 void Session::Resolve(Model& model) {
   ForEachLink(model, [this](ModelLink& link) {
     if (link.model == nullptr) link.model = Find(link.name);
+  });
+}
+
+void Session::Complete(Model& model) {
+  Resolve(model);
+  if (DrawingContent* const drawing = model.As<DrawingContent>()) CompleteViews(*drawing);
+}
+
+bool Session::IsReadOnly(const std::filesystem::path& folder) const {
+  std::error_code error;
+  return std::ranges::any_of(read_only_, [&](const std::filesystem::path& closed) {
+    return std::filesystem::equivalent(closed, folder, error);
   });
 }
 

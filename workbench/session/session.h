@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -34,6 +35,9 @@ class FolderIndex {
   };
   std::unordered_map<std::string, Entry> entries_;
 };
+
+// Ids count from 0, the base window; this one stands for none.
+inline constexpr int kNoWindow = -1;
 
 struct Window {
   int id = 0;
@@ -68,10 +72,15 @@ class Session {
   // The same with the file of a full path, whose name says a version or means the newest. All
   // models under it come from its folder. Null also when the file is of another kind.
   Model* RetrieveFile(const std::filesystem::path& file, ModelKind kind);
+  // A copy of the drawing that others are made of: of the working directory by its name, or of a
+  // full path. No value when there is none. Throws ModelFileError.
+  std::optional<Model> Template(const std::filesystem::path& file);
   // Takes over a model made in memory; resolves its components from session only.
   Model& Add(Model model);
   // Links components to models in session, wherever that has become possible.
   void Resolve(Model& model);
+  // The same, and what follows from it in a drawing: what has been left out of its views.
+  void Complete(Model& model);
   void Erase(Model& model);
   // Writes a new version into the model's folder (the working directory for a new model).
   std::filesystem::path Save(Model& model);
@@ -82,9 +91,16 @@ class Session {
   Window& ShowInWindow(Model& model);
   Window* FindWindow(int id);
   Window* FindWindowOf(const Model& model);
-  void ActivateWindow(int id) { current_window_ = id; }
+  // The user works in it; it is the current one as well.
+  void ActivateWindow(int id) { current_window_ = active_window_ = id; }
+  void SetCurrentWindow(int id) { current_window_ = id; }
   int current_window() const { return current_window_; }
+  int active_window() const { return active_window_; }
   const std::vector<Window>& windows() const { return windows_; }
+
+  // Folders in which nobody may write.
+  void MakeReadOnly(const std::filesystem::path& folder) { read_only_.push_back(folder); }
+  bool IsReadOnly(const std::filesystem::path& folder) const;
 
   std::vector<PickedItem> selection_buffer;
 
@@ -93,13 +109,16 @@ class Session {
   void LoadTree(const ModelName& name, const FolderIndex& folder, std::vector<Model*>& loaded);
   void RefuseCycle(const std::vector<Model*>& loaded, const FolderIndex& folder);
   Model* Load(const ModelName& name, const FolderIndex& folder);
+  Model& Enter(Model model);
 
   std::filesystem::path working_directory_;
   std::deque<std::unique_ptr<Model>> models_;
   std::unordered_map<std::string, Model*> by_name_;
   std::vector<Window> windows_;
-  int current_window_ = 0;
-  int next_window_ = 1;
+  int current_window_ = kNoWindow;
+  int active_window_ = kNoWindow;
+  int next_window_ = 0;
+  std::vector<std::filesystem::path> read_only_;
 };
 
 }  // namespace wb

@@ -30,6 +30,8 @@ std::string DescribeVariant(const VARIANT& value) {
       return "\"" + FromWide({value.bstrVal, ::SysStringLen(value.bstrVal)}) + "\"";
     case VT_I4:
       return std::to_string(value.lVal);
+    case VT_R8:
+      return NumberText(value.dblVal);
     case VT_BOOL:
       return value.boolVal == VARIANT_FALSE ? "false" : "true";
     case VT_ERROR:

@@ -196,7 +196,7 @@ void PutSize(const Invocation& invocation) {
 using K = ObjectKind;
 
 // clang-format off
-constexpr SpreadsheetMember kMembers[] = {
+constexpr SpreadsheetMember kRangeMembers[] = {
     {K::kWorksheet,   0xC5,  kGet,  2, 2, "Excel.Worksheet.Range",            &GiveRange},
     {K::kWorksheet,   0xF1,  kGet,  0, 0, "Excel.Worksheet.Columns",          &GiveAll<RangeSpan::kColumns>},
     {K::kWorksheet,   0x102, kGet,  0, 0, "Excel.Worksheet.Rows",             &GiveAll<RangeSpan::kRows>},
@@ -226,7 +226,7 @@ constexpr SpreadsheetMember kMembers[] = {
 }  // namespace
 
 std::span<const SpreadsheetMember> RangeMembers() {
-  return kMembers;
+  return kRangeMembers;
 }
 
 }  // namespace wb

@@ -206,7 +206,7 @@ void ExpectColour(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kDialogForms[] = {
     {"set COMPONENT TEXT",                       kDialogPlace, &Set},
     {"choose COMPONENT ITEM_NAME...",            kDialogPlace, &Choose},
     {"check COMPONENT",                          kDialogPlace, &SetCheck},
@@ -238,7 +238,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms DialogStatements() {
-  return kForms;
+  return kDialogForms;
 }
 
 }  // namespace wb

@@ -73,6 +73,12 @@ void ExpectWinExec(ScriptRun& run, const Statement& statement) {
             Quoted(statement.Text("TEXT")), Shown(calls));
 }
 
+void ExpectMacro(ScriptRun& run, const Statement& statement) {
+  const auto macros = run.host.events.TextsSince<QueuedMacro>(run.marks.begin);
+  run.Check(statement, Contains(macros, statement.Text("TEXT")), "macro queued",
+            Quoted(statement.Text("TEXT")), Shown(macros));
+}
+
 void ExpectNoShell(ScriptRun& run, const Statement& statement) {
   const size_t calls = run.host.events.Since<ShellCall>(run.marks.begin).size();
   run.Check(statement, calls == 0, "programs started", "none", std::to_string(calls));
@@ -98,7 +104,7 @@ void ExpectTimer(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kExpectActionForms[] = {
     {"expect note TEXT",                               kTopOrDialog, &ExpectNote},
     {"expect notes TEXT...",                           kTopOrDialog, &ExpectNotes},
     {"expect no note",                                 kTopOrDialog, &ExpectNotes},
@@ -107,6 +113,7 @@ constexpr StatementForm kForms[] = {
     {"expect shell PROGRAM PARAMETERS",                kTopOrDialog, &ExpectShell},
     {"expect no shell",                                kTopOrDialog, &ExpectNoShell},
     {"expect winexec TEXT",                            kTopOrDialog, &ExpectWinExec},
+    {"expect macro TEXT",                              kTopOrDialog, &ExpectMacro},
     {"expect clipboard TEXT",                          kTopOrDialog, &ExpectClipboard},
     {"expect timer N",                                 kTopPlace,    &ExpectTimer},
     {"expect no timer",                                kTopPlace,    &ExpectTimer},
@@ -116,7 +123,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms ActionExpectations() {
-  return kForms;
+  return kExpectActionForms;
 }
 
 }  // namespace wb

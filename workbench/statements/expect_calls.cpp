@@ -88,7 +88,7 @@ void ExpectFaults(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kExpectCallsForms[] = {
     {"expect calls FUNCTION none",        kTopOrDialog, &ExpectCalls},
     {"expect calls FUNCTION at most N",   kTopOrDialog, &ExpectCalls},
     {"expect calls FUNCTION N",           kTopOrDialog, &ExpectCalls},
@@ -103,7 +103,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms CallExpectations() {
-  return kForms;
+  return kExpectCallsForms;
 }
 
 }  // namespace wb

@@ -46,6 +46,12 @@ void ExpectSetting(ScriptRun& run, const Statement& statement) {
   run.Check(statement, shown == wanted, name, wanted, shown);
 }
 
+void ExpectSections(ScriptRun& run, const Statement& statement) {
+  run.CheckText(statement, "sections of " + statement.Text("FILE"),
+                Join(" ", statement.Texts("SECTION")),
+                Join(" ", ProfileSections(run.ConfigFile(statement.Text("FILE")))));
+}
+
 void ExpectLog(ScriptRun& run, const Statement& statement) {
   const std::string log =
       ReadFileBytes(run.folders.local / "Quillmax" / "quillmax.log").value_or("");
@@ -57,13 +63,14 @@ void ExpectLog(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kExpectFilesForms[] = {
     {"expect no file PATH",                        kTopOrDialog, &ExpectFile},
     {"expect file PATH is TEXT [ansi]",            kTopOrDialog, &ExpectFile},
     {"expect file PATH contains TEXT",             kTopOrDialog, &ExpectFile},
     {"expect file PATH",                           kTopOrDialog, &ExpectFile},
     {"expect setting FILE SECTION KEY is missing", kTopOrDialog, &ExpectSetting},
     {"expect setting FILE SECTION KEY is TEXT",    kTopOrDialog, &ExpectSetting},
+    {"expect sections FILE SECTION...",            kTopOrDialog, &ExpectSections},
     {"expect log STATE:contains|lacks TEXT",       kTopPlace,    &ExpectLog},
 };
 // clang-format on
@@ -71,7 +78,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms FileExpectations() {
-  return kForms;
+  return kExpectFilesForms;
 }
 
 }  // namespace wb

@@ -73,13 +73,20 @@ void ExpectDirectory(ScriptRun& run, const Statement& statement) {
             PathToUtf8(wanted), PathToUtf8(got));
 }
 
-void ExpectWindow(ScriptRun& run, const Statement& statement) {
-  const Model* const current = run.host.session.Current();
+void CheckWindow(ScriptRun& run, const Statement& statement, const char* what, const Model* got) {
   const Model* const wanted =
       statement.Has("none") ? nullptr : &run.ModelNamed(statement.Text("MODEL"));
-  run.Check(statement, current == wanted, "current window",
-            wanted == nullptr ? "none" : wanted->id.Text(),
-            current == nullptr ? "none" : current->id.Text());
+  run.Check(statement, got == wanted, what, wanted == nullptr ? "none" : wanted->id.Text(),
+            got == nullptr ? "none" : got->id.Text());
+}
+
+void ExpectWindow(ScriptRun& run, const Statement& statement) {
+  CheckWindow(run, statement, "current window", run.host.session.Current());
+}
+
+void ExpectActive(ScriptRun& run, const Statement& statement) {
+  const Window* const window = run.host.session.FindWindow(run.host.session.active_window());
+  CheckWindow(run, statement, "active window", window == nullptr ? nullptr : window->model);
 }
 
 // Items other than models are told by their owner alone, however it was reached.
@@ -131,7 +138,7 @@ void ExpectRefresh(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kExpectModelsForms[] = {
     {"expect parameter MODEL NAME is missing",            kTopOrDialog, &ExpectParameter},
     {"expect parameter MODEL NAME is real NUMBER",        kTopOrDialog, &ExpectParameter},
     {"expect parameter MODEL NAME is integer INTEGER",    kTopOrDialog, &ExpectParameter},
@@ -145,6 +152,8 @@ constexpr StatementForm kForms[] = {
     {"expect directory PATH",                             kTopOrDialog, &ExpectDirectory},
     {"expect window none",                                kTopOrDialog, &ExpectWindow},
     {"expect window MODEL",                               kTopOrDialog, &ExpectWindow},
+    {"expect active none",                                kTopOrDialog, &ExpectActive},
+    {"expect active MODEL",                               kTopOrDialog, &ExpectActive},
     {"expect selection none",                             kTopOrDialog, &ExpectSelection},
     {"expect selection item ITEM ID of MODEL",            kTopOrDialog, &ExpectSelection},
     {"expect selection PATH...",                          kTopOrDialog, &ExpectSelection},
@@ -157,7 +166,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms ModelExpectations() {
-  return kForms;
+  return kExpectModelsForms;
 }
 
 }  // namespace wb

@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "workbench/base/text.h"
-#include "workbench/script/access_reason.h"
+#include "workbench/reasons/access_reason.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/statements/statement_families.h"
 
@@ -180,6 +180,15 @@ void ExpectMenuButton(ScriptRun& run, const Statement& statement) {
                 statement.Text("COMMAND"), got);
 }
 
+// As the plug-in has named them, which no user sees.
+void ExpectMenuNames(ScriptRun& run, const Statement& statement) {
+  const Menu& menu = MenuAt(run, statement);
+  std::vector<std::string> names;
+  for (const MenuButton& button : menu.buttons) names.push_back(button.name);
+  run.CheckText(statement, menu.name + " buttons", Join(" ", statement.Texts("BUTTON")),
+                Join(" ", names));
+}
+
 void ExpectNotification(ScriptRun& run, const Statement& statement) {
   run.EnsureStarted();
   const auto& set = run.host.commands.notifications;
@@ -191,7 +200,7 @@ void ExpectNotification(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kExpectRegistryForms[] = {
     {"expect access COMMAND is STATE:available|unavailable",      kTopPlace, &ExpectAccess},
     {"expect popup none",                                         kTopPlace, &ExpectPopupNone},
     {"expect popup button NAME missing",                          kTopPlace, &ExpectPopupMissing},
@@ -211,6 +220,7 @@ constexpr StatementForm kForms[] = {
     {"expect menu NAME missing",                                  kTopPlace, &ExpectMenuMissing},
     {"expect menu NAME buttons N",                                kTopPlace, &ExpectMenuCount},
     {"expect menu NAME button NTH is COMMAND",                    kTopPlace, &ExpectMenuButton},
+    {"expect menu NAME names BUTTON...",                          kTopPlace, &ExpectMenuNames},
     {"expect notification popup_create STATE:registered|missing", kTopPlace, &ExpectNotification},
 };
 // clang-format on
@@ -218,7 +228,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms RegistryExpectations() {
-  return kForms;
+  return kExpectRegistryForms;
 }
 
 }  // namespace wb

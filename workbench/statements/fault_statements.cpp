@@ -54,7 +54,7 @@ void OrderAllocationFault(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kFaultForms[] = {
     {"fault none",       kTopPlace, &FaultNone},
     {kAllocationPattern, kTopPlace, &OrderAllocationFault},
     {kEmptyPattern,      kTopPlace, &OrderFault},
@@ -102,7 +102,7 @@ const char* PatternFor(const std::vector<ScriptWord>& words) {
 }  // namespace
 
 StatementForms FaultStatements() {
-  return kForms;
+  return kFaultForms;
 }
 
 FaultPlan FaultOption(const std::string& text) {

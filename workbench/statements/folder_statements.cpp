@@ -53,7 +53,10 @@ void Folder(ScriptRun& run, const Statement& statement) {
 }
 
 void MakeFolder(ScriptRun& run, const Statement& statement) {
-  fs::create_directories(run.WorkPath(statement.Text("PATH")));
+  if (statement.Has("read_only")) run.Installed();
+  const fs::path folder = run.WorkPath(statement.Text("PATH"));
+  fs::create_directories(folder);
+  if (statement.Has("read_only")) run.host.session.MakeReadOnly(folder);
 }
 
 // In UTF-8, or in the process's code page.
@@ -91,11 +94,11 @@ void RequireCodePage(ScriptRun&, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kFolderForms[] = {
     {"folder temp",            kTopPlace, &FolderTemp},
     {"folder copy PATH",       kTopPlace, &FolderCopy},
     {"folder PATH",            kTopPlace, &Folder},
-    {"make_folder PATH",       kTopPlace, &MakeFolder},
+    {"make_folder PATH [read_only]", kTopPlace, &MakeFolder},
     {"write PATH TEXT [ansi]", kTopPlace, &Write},
     {"install as NAME",        kTopPlace, &InstallAs},
     {"plugin as NAME",         kTopPlace, &PluginAs},
@@ -127,7 +130,7 @@ ScriptFolders::~ScriptFolders() {
 }
 
 StatementForms FolderStatements() {
-  return kForms;
+  return kFolderForms;
 }
 
 }  // namespace wb

@@ -1,6 +1,6 @@
 // Statements on the plug-in's life and on commands.
 #include "workbench/plugin/timers.h"
-#include "workbench/script/access_reason.h"
+#include "workbench/reasons/access_reason.h"
 #include "workbench/script/script_calls.h"
 #include "workbench/script/script_record.h"
 #include "workbench/script/script_runner.h"
@@ -87,7 +87,7 @@ void SwitchTrace(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kLifeForms[] = {
     {"start",                kTopPlace,    &Start},
     {"stop",                 kTopPlace,    &Stop},
     {"timers",               kTopPlace,    &Timers},
@@ -106,7 +106,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms LifeStatements() {
-  return kForms;
+  return kLifeForms;
 }
 
 }  // namespace wb

@@ -4,8 +4,8 @@
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
 #include "workbench/language/script_words.h"
-#include "workbench/script/missing_model.h"
-#include "workbench/script/own_path.h"
+#include "workbench/reasons/missing_model.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/script/script_arguments.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/session/bench_shapes.h"
@@ -60,6 +60,14 @@ void Drawing(ScriptRun& run, const Statement& statement) {
   if (statement.Has("of")) content.shows = LinkedModel(run, statement);
   for (const std::string& size : statement.Texts("SIZE")) content.sheets.push_back({size, 1.0});
   AddNew(run, std::move(drawing));
+}
+
+void Format(ScriptRun& run, const Statement& statement) {
+  Model format = NewModel(run, statement.Text("NAME"), ModelKind::kFormat);
+  for (const std::string& size : statement.Texts("SIZE")) {
+    format.As<FormatContent>()->sheets.push_back({size});
+  }
+  AddNew(run, std::move(format));
 }
 
 Model& SolidNamed(ScriptRun& run, const Statement& statement) {
@@ -204,7 +212,7 @@ void CloseWindow(ScriptRun& run, const Statement&) {
   Window* const window = session.FindWindow(session.current_window());
   if (window == nullptr) throw ScriptError("no window is open");
   window->model = nullptr;
-  session.ActivateWindow(0);
+  session.ActivateWindow(kNoWindow);
 }
 
 void Erase(ScriptRun& run, const Statement& statement) {
@@ -229,11 +237,12 @@ void Save(ScriptRun& run, const Statement& statement) {
   "program_suppressed|suppressed|unregenerated"
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kModelForms[] = {
     {"part NAME {[sheet_metal] [skeleton]}",                       kTopPlace,    &Part},
     {"assembly NAME",                                              kTopPlace,    &Assembly},
     {"manufacturing NAME [of MODEL]",                              kTopPlace,    &Manufacturing},
     {"drawing NAME [of MODEL] size SIZE...",                       kTopPlace,    &Drawing},
+    {"format NAME size SIZE...",                                   kTopPlace,    &Format},
     {"component MODEL <- COMPONENT {[id ID] [" WB_STATE "] [invisible] [flags FLAGS] [hidden] "
      "[missing] [at X Y Z] [times TIMES]}",                        kTopOrDialog, &Component},
     {"feature MODEL type FEATURE_TYPE {[id ID] [" WB_STATE "] [invisible] [flags FLAGS] [hidden]}",
@@ -273,7 +282,7 @@ ParameterValue ParameterArgument(const Statement& statement) {
 }
 
 StatementForms ModelStatements() {
-  return kForms;
+  return kModelForms;
 }
 
 }  // namespace wb

@@ -3,7 +3,7 @@
 
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
-#include "workbench/script/own_path.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/statements/statement_families.h"
 
 namespace wb {

@@ -178,7 +178,7 @@ void ExpectSheetRow(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kSpreadsheetForms[] = {
     {"excel ready",                                     kTopPlace,    &Order},
     {"excel missing",                                   kTopPlace,    &Order},
     {"excel busy N",                                    kTopPlace,    &Order},
@@ -208,7 +208,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms SpreadsheetStatements() {
-  return kForms;
+  return kSpreadsheetForms;
 }
 
 }  // namespace wb

@@ -91,7 +91,7 @@ void ClipboardBusy(ScriptRun& run, const Statement& statement) {
 }
 
 // clang-format off
-constexpr StatementForm kForms[] = {
+constexpr StatementForm kStateForms[] = {
     {"select none",                                   kTopPlace, &SelectNone},
     {"select [also] item ITEM ID of MODEL [at PATH]", kTopPlace, &Select},
     {"select [also] PATH...",                         kTopPlace, &Select},
@@ -113,7 +113,7 @@ constexpr StatementForm kForms[] = {
 }  // namespace
 
 StatementForms StateStatements() {
-  return kForms;
+  return kStateForms;
 }
 
 }  // namespace wb

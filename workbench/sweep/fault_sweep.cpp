@@ -128,9 +128,8 @@ void Sweep::CheckOutcome(const RunOutcome& outcome, const FaultPlan& plan,
 // A fact that the snapshot forgets would go from one run into the next.
 void Sweep::PutBack(std::vector<std::string>* complaints) {
   start_.Restore(run_.host);
-  for (const std::string& name : Differences(before_, StateNow(run_.host, folders_))) {
-    complaints->push_back("workbench: the sweep does not put back " + name);
-  }
+  const auto left = NotPutBack(before_, StateNow(run_.host, folders_));
+  complaints->insert(complaints->end(), left.begin(), left.end());
 }
 
 void Sweep::Tell(const std::string& which, const std::vector<std::string>& complaints) {

@@ -96,6 +96,8 @@ MemorySweep::Judged MemorySweep::RunOnce(long nth, bool from_then_on) {
   run_.host.faults.Clear();
   judged.outcome = OutcomeOf(run_, result, mark, folders_);
   start_.Restore(run_.host);
+  const auto left = NotPutBack(before_, StateNow(run_.host, folders_));
+  judged.complaints.insert(judged.complaints.end(), left.begin(), left.end());
   return judged;
 }
 

@@ -23,6 +23,12 @@ std::vector<std::string> Started(const Host& host, size_t mark) {
   for (const ShellCall& call : host.events.Since<ShellCall>(mark)) {
     started.push_back(call.program + " " + call.parameters);
   }
+  for (const QueuedMacro& macro : host.events.Since<QueuedMacro>(mark)) {
+    started.push_back("macro " + macro.text);
+  }
+  for (const MouseEvent& event : host.events.Since<MouseEvent>(mark)) {
+    started.push_back("mouse " + std::to_string(event.flags));
+  }
   return started;
 }
 
@@ -72,7 +78,7 @@ std::string Undone(const RunOutcome& outcome, const RunOutcome& clean) {
     return names.front() + " is " + TextOfFact(outcome.state, names.front()) + " instead of " +
            TextOfFact(clean.state, names.front());
   }
-  if (outcome.started != clean.started) return "programs started: " + Join("; ", outcome.started);
+  if (outcome.started != clean.started) return "started: " + Join("; ", outcome.started);
   if (outcome.shown != clean.shown) return "tables shown: " + Join("; ", outcome.shown);
   return "";
 }

@@ -16,7 +16,7 @@ struct RunOutcome {
   bool refused = false;  // a failing status, or the access rule's
   int status = 0;
   std::vector<std::string> said;     // in boxes and notes
-  std::vector<std::string> started;  // programs
+  std::vector<std::string> started;  // programs, macros and movements of the mouse
   std::vector<std::string> shown;    // the tables of its dialogs, before each press and at the end
   std::vector<std::string> logged;   // lines of the run log, without times
   SessionState state;                // afterwards

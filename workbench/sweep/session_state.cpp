@@ -40,7 +40,10 @@ void AddSession(Session& session, SessionState* state) {
     (*state)["window " + std::to_string(window.id)] = NameOf(window.model);
   }
   (*state)["current window"] = std::to_string(session.current_window());
+  (*state)["active window"] = std::to_string(session.active_window());
   (*state)["working directory"] = PathToUtf8(session.working_directory());
+  std::error_code error;
+  (*state)["current folder"] = PathToUtf8(fs::current_path(error));
   std::string& selection = (*state)["selection"];
   for (const PickedItem& pick : session.selection_buffer) {
     selection += std::to_string(pick.type) + ":" + std::to_string(pick.id) + " of " +
@@ -76,6 +79,18 @@ void AddSettings(const std::string& file, const std::string& content, SessionSta
   }
 }
 
+void AddRegistered(const Commands& commands, SessionState* state) {
+  for (const Command& command : commands.commands) {
+    (*state)["command " + command.name] = std::to_string(command.registrations);
+  }
+  for (const Menu& menu : commands.menus) {
+    (*state)["menu " + menu.name] = std::to_string(menu.buttons.size());
+  }
+  for (const Popup& popup : commands.popups) {
+    (*state)["popup " + popup.name] = std::to_string(popup.buttons.size());
+  }
+}
+
 void AddFolder(const fs::path& folder, SessionState* state) {
   for (const auto& [path, content] : FilesWithContents(folder)) {
     const std::string file = PathToUtf8(path.lexically_relative(folder));
@@ -94,7 +109,7 @@ SessionState StateNow(Host& host, const std::vector<fs::path>& folders) {
   SessionState state;
   AddSession(host.session, &state);
   for (const auto& [name, values] : host.options) state["option " + name] = Join(" ", values);
-  for (const Command& command : host.commands.commands) state["command " + command.name] = "there";
+  AddRegistered(host.commands, &state);
   state["timers"] = std::to_string(host.windows.timers.size());
   state["clipboard"] = ClipboardText().value_or("");
   for (const fs::path& folder : folders) AddFolder(folder, &state);
@@ -118,6 +133,14 @@ std::vector<std::string> Differences(const SessionState& a, const SessionState& 
     if (!HaveSame(name, a, b)) different.push_back(name);
   }
   return different;
+}
+
+std::vector<std::string> NotPutBack(const SessionState& before, const SessionState& now) {
+  std::vector<std::string> complaints;
+  for (const std::string& name : Differences(before, now)) {
+    complaints.push_back("workbench: the sweep does not put back " + name);
+  }
+  return complaints;
 }
 
 std::string TextOfFact(const SessionState& state, const std::string& name) {

@@ -10,14 +10,18 @@
 
 namespace wb {
 
-// Facts of models, windows, selection, options, clipboard, registered commands, entries of settings
-// and contents of other files.
+// Facts of models (of drawings with their sheets, views, tables and dimensions), windows, selection,
+// folders at work, options, clipboard, registered commands, entries of settings and contents of
+// other files.
 using SessionState = std::map<std::string, std::string>;
 
 SessionState StateNow(Host& host, const std::vector<std::filesystem::path>& folders);
 
 // The names of all facts that one of the two lacks or has otherwise.
 std::vector<std::string> Differences(const SessionState& a, const SessionState& b);
+
+// A complaint for each fact that a sweep has not put back.
+std::vector<std::string> NotPutBack(const SessionState& before, const SessionState& now);
 
 // The value of a fact for complaints; "nothing" where it is not there.
 std::string TextOfFact(const SessionState& state, const std::string& name);

@@ -22,6 +22,7 @@ SweptCommand::~SweptCommand() {
 CommandRun SweptCommand::RunOnce(const FaultPlan& plan) {
   run_.BeginMarks();
   if (plan.nth != 0) run_.host.faults.Order(plan);
+  all_calls_fail_ = plan.nth != 0 && plan.from_then_on;
   CommandRun result;
   run_.user.Answering(statement_, statement_.block,
                       [&] { result = RunCommand(statement_.Text("COMMAND")); });
@@ -56,7 +57,8 @@ std::vector<std::filesystem::path> SweptCommand::Folders() const {
 
 void SweptCommand::CheckRestored(const CommandRun& result,
                                  std::vector<std::string>* complaints) const {
-  if (!changes_directory_ && result.directory_before != result.directory_after) {
+  const bool may_change = changes_directory_ || all_calls_fail_;
+  if (!may_change && result.directory_before != result.directory_after) {
     complaints->push_back("the working directory was left changed");
   }
   if (run_.host.options != options_) complaints->push_back("an option was left changed");

@@ -43,6 +43,7 @@ class SweptCommand {
   const bool kept_lines_;
   const std::map<std::string, std::vector<std::string>> options_;  // before the sweep
   bool changes_directory_ = false;  // the command does so without any fault
+  bool all_calls_fail_ = false;     // from some call on: nothing can be changed back
 };
 
 }  // namespace wb

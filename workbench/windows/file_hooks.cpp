@@ -58,6 +58,17 @@ BOOL WINAPI HookSetFileAttributesW(LPCWSTR path, DWORD attributes) {
                        ERROR_ACCESS_DENIED, [&] { return ::SetFileAttributesW(path, attributes); });
 }
 
+// A look into a folder.
+HANDLE WINAPI HookFindFirstFileW(LPCWSTR pattern, LPWIN32_FIND_DATAW found) {
+  return ErrorCrossing("FindFirstFileW", DescribeArgument(pattern), INVALID_HANDLE_VALUE,
+                       ERROR_ACCESS_DENIED, [&] { return ::FindFirstFileW(pattern, found); });
+}
+
+BOOL WINAPI HookFindNextFileW(HANDLE search, LPWIN32_FIND_DATAW found) {
+  return ErrorCrossing("FindNextFileW", "", BOOL{FALSE}, ERROR_IO_DEVICE,
+                       [&] { return ::FindNextFileW(search, found); });
+}
+
 FILE* HookWfopen(const wchar_t* path, const wchar_t* mode) {
   return WindowsCrossing("_wfopen", DescribeArgument(path) + ", " + DescribeArgument(mode),
                          static_cast<FILE*>(nullptr),
@@ -93,6 +104,8 @@ HookRows FileHooks() {
       HookRow<decltype(CopyFileW)>("CopyFileW", &HookCopyFileW),
       HookRow<decltype(GetFileAttributesW)>("GetFileAttributesW", &HookGetFileAttributesW),
       HookRow<decltype(SetFileAttributesW)>("SetFileAttributesW", &HookSetFileAttributesW),
+      HookRow<decltype(FindFirstFileW)>("FindFirstFileW", &HookFindFirstFileW),
+      HookRow<decltype(FindNextFileW)>("FindNextFileW", &HookFindNextFileW),
       HookRow<decltype(_wfopen)>("_wfopen", &HookWfopen),
       HookRow<decltype(std::fread)>("fread", &HookFread),
       HookRow<decltype(std::fputs)>("fputs", &HookFputs),

@@ -8,12 +8,10 @@
 #include <string_view>
 
 #include "frame/dialogs/dialog.h"
+#include "frame/dialogs/file_choice.h"
 #include "frame/dialogs/stored_fields.h"
 #include "frame/messages/run_log.h"
 #include "frame/settings/config.h"
-#include "frame/text/fixed_text.h"
-#include "toolkit/owners.h"
-#include "toolkit/window.h"
 
 namespace qm {
 namespace {
@@ -81,23 +79,9 @@ void Save(const DialogView& dialog, StoredFields& fields) {
   NoteSaved(tally, path);
 }
 
-// Folder of the drawing formats, where the user most likely keeps templates; empty when not set.
-std::wstring FormatFolder() {
-  ProName option = L"pro_format_dir";
-  HostArray<ProPath> folders;
-  if (!Ok(ProConfigoptArrayGet(option, folders.put())) || folders.size() < 1) return {};
-  return std::wstring(FixedText(folders[0]));
-}
-
 void PickTemplate(const DialogView&, const TemplateRow& row) {
-  std::wstring title = row.title;
-  std::wstring filter = L"*.drw";
-  std::wstring folder = FormatFolder();
-  ProPath chosen = {};
-  const ProError status = ProFileOpen(title.data(), filter.data(), nullptr, nullptr,
-                                      folder.empty() ? nullptr : folder.data(), nullptr, chosen);
-  const std::wstring path(FixedText(chosen));
-  if (Ok(status) && !path.empty()) DialogView(kDialog).SetInputValue(row.panel, path);
+  const auto path = PickDrawingFile(row.title, L"*.drw");
+  if (path) DialogView(kDialog).SetInputValue(row.panel, *path);
 }
 
 void Bind(const Dialog& dialog, StoredFields& fields) {

@@ -2,6 +2,7 @@
 #include "frame/commands/open_drw.h"
 
 #include "frame/messages/message_box.h"
+#include "frame/models/drawing_window.h"
 #include "frame/models/host_name.h"
 #include "frame/models/preselection.h"
 #include "frame/text/fixed_text.h"
@@ -22,16 +23,6 @@ ProMdl PreselectedModel() {
   return Ok(ProModelitemMdlGet(&*item, &model)) ? model : nullptr;
 }
 
-ProError ShowInWindow(ProMdl drawing, HostName& name) {
-  int window = -1;
-  ProError status = ProObjectwindowCreate(name.name, PRO_DRAWING, &window);
-  if (!Ok(status)) return status;
-  if (window < 0) return PRO_TK_GENERAL_ERROR;
-  status = ProMdlDisplay(drawing);
-  if (!Ok(status)) return status;
-  return ProWindowActivate(window);
-}
-
 }  // namespace
 
 ProError QmOpenDrw() {
@@ -47,7 +38,7 @@ ProError QmOpenDrw() {
     ShowMessage(L"\t同名工程图打开失败，请确认该模型工程图在当前工作目录是否存在。\t");
     return PRO_TK_E_NOT_FOUND;
   }
-  return ShowInWindow(drawing, *name);
+  return DisplayDrawing(drawing, FixedText(buffer));
 }
 
 }  // namespace qm

@@ -1,8 +1,8 @@
 // QmSetDirectory: the current model's folder becomes the working directory.
 #include "frame/commands/set_directory.h"
 
+#include "frame/folders/model_folder.h"
 #include "frame/messages/message_area.h"
-#include "frame/models/model_folder.h"
 #include "frame/text/fixed_text.h"
 #include "toolkit/model.h"
 #include "toolkit/status.h"

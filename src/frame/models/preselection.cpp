@@ -15,7 +15,8 @@ std::optional<ProModelitem> ItemOf(ProSelection selection) {
   ProModelitem item = {PRO_TYPE_INVALID, -1, nullptr};
   if (selection == nullptr || !Ok(ProSelectionModelitemGet(selection, &item))) return std::nullopt;
   // An answer that filled nothing in is none.
-  return item.type != PRO_TYPE_INVALID ? std::optional(item) : std::nullopt;
+  const bool is_filled = item.type != PRO_TYPE_INVALID && item.owner != nullptr;
+  return is_filled ? std::optional(item) : std::nullopt;
 }
 
 ProMdl ComponentModelOf(ProSelection selection) {

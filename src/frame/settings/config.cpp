@@ -60,14 +60,38 @@ class HeldFile {
   DWORD error_;
 };
 
+// A new file in UTF-16, as the shipped ones are: one that Windows itself makes is in the code page,
+// and holds question marks for all that the code page lacks.
+void CreateWhereMissing(const std::wstring& path) {
+  constexpr wchar_t kByteOrderMark = 0xFEFF;
+  const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return;
+  DWORD written = 0;
+  ::WriteFile(file, &kByteOrderMark, sizeof(kByteOrderMark), &written, nullptr);
+  ::CloseHandle(file);
+}
+
 }  // namespace
 
-std::wstring ConfigPath(const wchar_t* file) {
+namespace {
+
+std::wstring ModulePath() {
   wchar_t path[MAX_PATH] = {};
   const HMODULE module = ::GetModuleHandleW(kPluginFileName);
   // Without a module Windows would answer with the host's own file.
   const DWORD length = module != nullptr ? ::GetModuleFileNameW(module, path, MAX_PATH) : 0;
-  return ConfigPathBeside({path, length}, kPluginFileName, file);
+  return {path, length};
+}
+
+}  // namespace
+
+std::wstring ConfigPath(const wchar_t* file) {
+  return ConfigPathBeside(ModulePath(), kPluginFileName, file);
+}
+
+std::wstring InstalledPath(const wchar_t* name) {
+  return PathBeside(ModulePath(), kPluginFileName, name);
 }
 
 std::wstring TextFolderConfigPath(const wchar_t* file) {
@@ -100,6 +124,7 @@ bool WriteSetting(const wchar_t* section, const wchar_t* key, const std::wstring
                   const std::wstring& path) {
   // Not every system refuses a file in a folder that cannot be.
   if (LeadsNowhere(path)) return false;
+  CreateWhereMissing(path);
   return ::WritePrivateProfileStringW(section, key, value.c_str(), path.c_str()) != FALSE;
 }
 

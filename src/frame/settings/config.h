@@ -23,8 +23,11 @@ inline constexpr wchar_t kContentKey[] = L"content";
 // name, a path that does not exist.
 std::wstring ConfigPath(const wchar_t* file);
 
-// The same, starting from the text folder that the host registered for the plug-in; the plug-in's
-// own folder when the host does not tell.
+// Path of a file or folder of the installation, beside the plug-in; the same holds for it.
+std::wstring InstalledPath(const wchar_t* name);
+
+// The path of a settings file, starting from the text folder that the host registered for the
+// plug-in; the plug-in's own folder when the host does not tell.
 std::wstring TextFolderConfigPath(const wchar_t* file);
 
 // At most 254 characters; longer values are cut. Nothing when the file is there and cannot be read,

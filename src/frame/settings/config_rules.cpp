@@ -21,13 +21,17 @@ std::wstring Joined(std::wstring_view folder, std::wstring_view rest, std::wstri
 
 std::wstring ConfigPathBeside(std::wstring_view module_path, std::wstring_view module_name,
                               std::wstring_view file) {
+  return PathBeside(module_path, module_name, Joined(kConfigFolder, file, {}));
+}
+
+std::wstring PathBeside(std::wstring_view module_path, std::wstring_view module_name,
+                        std::wstring_view name) {
   const std::size_t separator = module_path.find_last_of(L"\\/");
   const std::size_t name_start = separator == std::wstring_view::npos ? 0 : separator + 1;
   const std::wstring_view folder = module_path.substr(0, name_start);
   const bool is_ours =
       !folder.empty() && EqualIgnoringCase(module_path.substr(name_start), module_name);
-  if (!is_ours) return Joined(L"C:\\", kNowhere, file);
-  return Joined(folder, kConfigFolder, file);
+  return is_ours ? Joined(folder, name, {}) : Joined(L"C:\\", kNowhere, name);
 }
 
 bool LeadsNowhere(std::wstring_view path) {

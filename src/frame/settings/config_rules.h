@@ -15,6 +15,10 @@ std::wstring ConfigPathBeside(std::wstring_view module_path, std::wstring_view m
 // Whether a path is one in that folder.
 bool LeadsNowhere(std::wstring_view path);
 
+// The same without a folder of ours between: `name` is a file or folder beside the plug-in.
+std::wstring PathBeside(std::wstring_view module_path, std::wstring_view module_name,
+                        std::wstring_view name);
+
 // `folder`, with or without a closing separator, followed by "\QMconfig\" and `file`.
 std::wstring ConfigPathIn(std::wstring_view folder, std::wstring_view file);
 

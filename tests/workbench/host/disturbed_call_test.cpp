@@ -1,8 +1,10 @@
-// What comes between a call of the plug-in and its being carried out: a user who acts, a fault.
+// What comes between a call of the plug-in and its being carried out: a user who acts, a fault. And
+// what the trace shows of it.
 #include <functional>
 
 #include "tests/absent_user.h"
 #include "tests/workbench/host/host_fixture.h"
+#include "workbench/host/arguments.h"
 #include "workbench/host/host_types.h"
 
 namespace wb {
@@ -42,6 +44,30 @@ class DisturbedCall : public HostFixture {
   ProMdl lid_handle_ = nullptr;
   ActsAtCall user_;
 };
+
+TEST_F(DisturbedCall, ShowsItsNumbersWholeInTheTrace) {
+  host_.trace.keep_lines = true;
+  double place = 0;
+  float narrow = 0;
+  Crossing("ProProbe", 0.125, 7, Out(&place, "place"), Out(&narrow, "narrow"))
+      .Run([](double, int, double& real, float& half) {
+        real = -12.75;
+        half = 0.5F;
+      });
+  ProModelitem owner{};
+  ASSERT_EQ(ProMdlToModelitem(lid_handle_, &owner), PRO_TK_NO_ERROR);
+  ProName name = L"MASS";
+  ProParamvalue value{.type = PRO_PARAM_DOUBLE, .value = {.d_val = 0.1}};
+  ProParameter parameter{};
+  ASSERT_EQ(ProParameterCreate(&owner, name, &value, &parameter), PRO_TK_NO_ERROR);
+  value = {};
+  ASSERT_EQ(ProParameterValueGet(&parameter, &value), PRO_TK_NO_ERROR);
+  const auto& lines = host_.trace.lines();
+  ASSERT_EQ(lines.size(), 4u);
+  EXPECT_EQ(lines[0].arguments, "0.125, 7, -> -12.75, -> 0.5");
+  EXPECT_NE(lines[2].arguments.find(", real 0.1, "), std::string::npos) << lines[2].arguments;
+  EXPECT_TRUE(lines[3].arguments.ends_with(", -> real 0.1")) << lines[3].arguments;
+}
 
 TEST_F(DisturbedCall, FailsWithoutBlameForWhatTheUserErasedButNoLaterOneDoes) {
   ProName name{};

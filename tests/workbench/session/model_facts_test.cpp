@@ -36,6 +36,37 @@ Model Pump() {
   return pump;
 }
 
+Model PumpDrawing() {
+  Model drawing({"pump", ModelKind::kDrawing});
+  auto& content = *drawing.As<DrawingContent>();
+  content.shows = ModelLink{{"pump", ModelKind::kAssembly}};
+  content.models = {{*content.shows}, {ModelLink{{"bolt", ModelKind::kPart}}}};
+  content.current_sheet = 2;
+  content.template_errors = 3;
+  content.sheets = {{"A3", 0.5}, {"A4", 1.0}};
+  Sheet& sheet = content.sheets[0];
+  sheet.scales.Add({"bolt.prt", 2});
+  sheet.transform[3][0] = 5;
+  sheet.format = "frame.frm";
+  sheet.format_sheet = 2;
+  sheet.format_shown = false;
+  DrawingView view = {.id = 7, .kind = ViewKind::kProjection, .sheet = 2, .parent = 3};
+  view.shows = ModelLink{{"bolt", ModelKind::kPart}};
+  view.side = ViewSide::kBelow;
+  view.orientation = {{{1, 0, 0}, {0, 0, 1}, {0, -1, 0}}};
+  view.own_scale = view.exploded = true;
+  view.scale = 0.25;
+  view.place = {10, 20};
+  view.display = {DisplayStyle::kNoHidden, true, 15, 1, true, true};
+  view.outline = {1, 2, 3, 4};
+  content.views.Add(view);
+  content.tables.Add({4, "frame.frm", {1, 2}, {30, 40}, {5, 6}, {7}, {{1, 2, "图号"}}});
+  content.dimensions.Add(
+      {5, 2, 7, {1, 2}, 12.5, "@D\n深", ToleranceType::kPlusMinus, 0.1, 0.2, 1, true});
+  content.notes.Add({6, 2, {3, 4}, "未注倒角 C1"});
+  return drawing;
+}
+
 Lines Described(const std::vector<FactChange>& changes) {
   Lines lines;
   for (const FactChange& change : changes) {
@@ -73,11 +104,15 @@ TEST_F(ModelFacts, AFileHoldsThemAll) {
   const Model pump = Pump();
   EXPECT_EQ(Described(ChangesBetween(pump, Reread(pump))), Lines());
 
-  Model drawing({"pump", ModelKind::kDrawing});
-  auto& content = *drawing.As<DrawingContent>();
-  content.shows = ModelLink{{"pump", ModelKind::kAssembly}};
-  content.sheets = {{"A3", 0.5}, {"A4", 1.0}};
+  const Model drawing = PumpDrawing();
   EXPECT_EQ(Described(ChangesBetween(drawing, Reread(drawing))), Lines());
+  // Nothing of it is what a new drawing has by itself.
+  EXPECT_EQ(Described(ChangesBetween(Model(drawing.id), drawing)).size(), 11u);
+
+  Model format({"frame", ModelKind::kFormat});
+  format.As<FormatContent>()->sheets = {{"A3", {}}};
+  format.As<FormatContent>()->sheets[0].tables.Add({.id = 4, .cells = {{2, 1, "比例"}}});
+  EXPECT_EQ(Described(ChangesBetween(format, Reread(format))), Lines());
 
   Model mill({"mill", ModelKind::kManufacturing});
   mill.As<ManufacturingContent>()->assembly = ModelLink{{"pump", ModelKind::kAssembly}};
@@ -129,7 +164,8 @@ TEST_F(ModelFacts, AreFoundAndSetByPath) {
       {"surfaces/4/min", "1 2", "\"1 2\" instead of 3 numbers"},
       {"features/7/model", "bolt", "\"bolt\" instead of a model name such as"},
       {"features/8/hidden", "yes", "pump.asm: there is no features/8"},
-      {"colour", "red", "pump.asm: there is no fact \"colour\"; there are: note, parameters/..., "},
+      {"colour", "red",
+       "pump.asm: there is no fact \"colour\"; there are: note, view, parameters/..., "},
   };
   for (const auto& item : cases) {
     try {
@@ -139,6 +175,42 @@ TEST_F(ModelFacts, AreFoundAndSetByPath) {
       EXPECT_EQ(std::string(error.what()).find(item.why), 0u) << error.what();
     }
   }
+}
+
+TEST_F(ModelFacts, ItemsAreAddedByTheirPath) {
+  using Pairs = std::vector<std::pair<std::string, std::string>>;
+  Model drawing({"pump", ModelKind::kDrawing});
+  const auto add = [&](const char* path, const Pairs& facts) {
+    try {
+      AddItem(drawing, path, facts);
+      return std::string("added");
+    } catch (const FactError& error) {
+      return std::string(error.what());
+    }
+  };
+  EXPECT_EQ(add("sheets", {{"size", "A3"}}), "added");
+  EXPECT_EQ(add("sheets/1/scales/Bolt.prt", {{"scale", "0.1"}}), "added");
+  EXPECT_EQ(add("dimensions/5", {{"value", "3"}, {"tolerance", "limits"}}), "added");
+  EXPECT_EQ(FactText(FindFact(drawing, "sheets/1/scales/bolt.PRT/scale")
+                         .row->get(FindFact(drawing, "sheets/1/scales/bolt.prt/scale").record)),
+            "0.1");
+  EXPECT_EQ(CountItems(drawing, "sheets/1/scales"), 1u);
+  EXPECT_EQ(add("dimensions/5", {}), "pump.drw: 5 occurs twice");
+  EXPECT_EQ(add("dimensions", {}), "pump.drw: items of dimensions are told by their id");
+  EXPECT_EQ(add("sheets/2", {}), "pump.drw: items of sheets have no key");
+  EXPECT_EQ(add("sheets/2/scales/a.prt", {}), "pump.drw: there is no sheets/2");
+  EXPECT_EQ(add("views/x", {}), "pump.drw: \"x\" is no whole number");
+  EXPECT_EQ(add("dimensions/6", {{"vlaue", "3"}}).find("pump.drw: there is no fact \"vlaue\""), 0u);
+  EXPECT_EQ(CountItems(drawing, "dimensions"), 1u);
+}
+
+TEST_F(ModelFacts, NumbersAgreeThatDifferByRounding) {
+  EXPECT_TRUE(IsFact(0.1 + 0.2, "0.3"));
+  EXPECT_FALSE(IsFact(0.3001, "0.3"));
+  EXPECT_TRUE(IsFact(std::vector<double>{1 + 1e-12, 1000}, "1 1000"));
+  EXPECT_FALSE(IsFact(std::vector<double>{1, 1000}, "1"));
+  EXPECT_FALSE(IsFact(std::vector<double>{1}, "none"));
+  EXPECT_FALSE(IsFact(2, "2.0"));
 }
 
 TEST_F(ModelFacts, FilesOfTheFirstFormatAreRead) {

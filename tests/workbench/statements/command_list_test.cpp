@@ -50,7 +50,7 @@ TEST(CommandList, IsTheTableOfBothReadmes) {
                   "assembly, manufacturing | yes |"))
       << Join("\n", english);
   EXPECT_TRUE(has(
-      chinese, "| 15 | `QmIsolate` | 独立显示 | 仅显示所选元件, 隐藏其余零件 | 组件、制造 | 是 |"))
+      chinese, "| 15 | `QmIsolate` | 独立显示 | 仅显示所选元件，隐藏其余零件 | 组件、制造 | 是 |"))
       << Join("\n", chinese);
 }
 

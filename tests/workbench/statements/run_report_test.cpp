@@ -9,7 +9,7 @@
 #include "tests/workbench/test_paths.h"
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
-#include "workbench/script/own_path.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/script/script_windows.h"
 
 namespace wb {

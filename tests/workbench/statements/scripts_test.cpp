@@ -8,7 +8,7 @@
 #include "tests/workbench/test_paths.h"
 #include "workbench/base/command_line.h"
 #include "workbench/base/text.h"
-#include "workbench/script/own_path.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/script/script_windows.h"
 #include "workbench/statements/fault_statements.h"
 
@@ -332,6 +332,17 @@ TEST(FirstRuns, CountAProcessThatDiesAndOneThatDoesWrong) {
     EXPECT_NE(output.find(item.count), std::string::npos) << output;
   }
   fs::remove(file);
+}
+
+// The plug-in looks each function up once, so that in one process the first script would decide.
+TEST(ScriptRunner, FunctionsAreWithheldFromOneScriptAlone) {
+  const fs::path scripts = kSource / "tests" / "scripts";
+  const std::string withholds = PathToUtf8(scripts / "entry" / "missing_function.qms");
+  const std::string output =
+      OutputOf(TestBinaryFolder() / "workbench.exe",
+               {"run", withholds, PathToUtf8(scripts / "frame" / "set_directory.qms"), withholds})
+          .value_or("it cannot be started");
+  EXPECT_TRUE(Trimmed(output).ends_with(" passed, 0 failed")) << output;
 }
 
 TEST(ScriptRunner, NothingRunsOfAScriptWithErrors) {

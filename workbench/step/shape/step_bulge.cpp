@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include "workbench/step/shape/step_curve.h"
 #include "workbench/step/shape/step_spline_bulge.h"
@@ -13,7 +12,6 @@ namespace {
 
 constexpr StepPoint kAxes[] = {{{1, 0, 0}}, {{0, 1, 0}}, {{0, 0, 1}}};
 constexpr int kRingSteps = 24;
-constexpr double kTurn = 2 * std::numbers::pi;
 
 // A surface that turns about an axis.
 struct Frame {

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <optional>
 
 #include "workbench/step/shape/step_spline.h"
@@ -11,7 +10,6 @@
 namespace wb {
 namespace {
 
-constexpr double kTurn = 2 * std::numbers::pi;
 constexpr double kStepsPerTurn = 32;
 constexpr double kSamePoint = 1e-7;  // millimetres
 

@@ -1,11 +1,14 @@
 // Curves of STEP files as chains of points, dense enough for boxes and for telling sides.
 #pragma once
 
+#include <numbers>
 #include <vector>
 
 #include "workbench/step/shape/step_geometry.h"
 
 namespace wb {
+
+constexpr double kTurn = 2 * std::numbers::pi;  // once around
 
 // The stretch of a curve that an edge uses.
 struct StepStretch {

@@ -1,5 +1,5 @@
 // Two ways to a model's folder.
-#include "frame/models/model_folder.h"
+#include "frame/folders/model_folder.h"
 
 #include <iterator>
 

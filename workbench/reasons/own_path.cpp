@@ -1,5 +1,5 @@
 // Asks the layer that runs Windows programs on other systems for its paths.
-#include "workbench/script/own_path.h"
+#include "workbench/reasons/own_path.h"
 
 #include "workbench/base/text.h"
 #include "workbench/base/windows_headers.h"

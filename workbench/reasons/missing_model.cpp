@@ -1,5 +1,5 @@
 // Lists models in session and in folders.
-#include "workbench/script/missing_model.h"
+#include "workbench/reasons/missing_model.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,5 +1,5 @@
 // Tries a command's access rule in one mode after another.
-#include "workbench/script/access_reason.h"
+#include "workbench/reasons/access_reason.h"
 
 #include <vector>
 

@@ -1,0 +1,87 @@
+// Reads views.
+#include "drawing/change/drawing_views.h"
+
+#include "frame/messages/run_log.h"
+#include "toolkit/drawing.h"
+#include "toolkit/owners.h"
+
+namespace qm {
+namespace {
+
+// Whether the answer counts; a failure is logged with the drawing's name.
+bool Told(ProDrawing drawing, const char* function, ProError status) {
+  if (!Ok(status)) LogFailure(drawing, function, status);
+  return Ok(status);
+}
+
+}  // namespace
+
+std::vector<DrawingView> ViewsOf(ProDrawing drawing) {
+  HostArray<ProView> array;
+  if (!Ok(ProDrawingViewsCollect(drawing, array.put()))) return {};
+  std::vector<DrawingView> views(static_cast<size_t>(array.size()));
+  for (size_t i = 0; i < views.size(); ++i) {
+    views[i].view = array[static_cast<int>(i)];
+    int sheet = 0;
+    if (Told(drawing, "ProDrawingViewSheetGet",
+             ProDrawingViewSheetGet(drawing, views[i].view, &sheet))) {
+      views[i].sheet = sheet;
+    }
+  }
+  return views;
+}
+
+std::vector<std::vector<ProView>> BySheet(const std::vector<DrawingView>& views, int sheet_count) {
+  std::vector<std::vector<ProView>> sheets(static_cast<size_t>(sheet_count));
+  for (const DrawingView& view : views) {
+    if (view.sheet >= kFirstSheet && view.sheet <= sheet_count) {
+      sheets[static_cast<size_t>(view.sheet - kFirstSheet)].push_back(view.view);
+    }
+  }
+  return sheets;
+}
+
+int SheetCount(ProDrawing drawing) {
+  int count = 0;
+  if (!Told(drawing, "ProDrawingSheetsCount", ProDrawingSheetsCount(drawing, &count))) return 0;
+  return count > 0 ? count : 0;
+}
+
+ProSolid SolidOf(ProDrawing drawing, ProView view) {
+  ProSolid solid = nullptr;
+  const ProError status = ProDrawingViewSolidGet(drawing, view, &solid);
+  return Told(drawing, "ProDrawingViewSolidGet", status) ? solid : nullptr;
+}
+
+bool IsGeneral(ProDrawing drawing, ProView view) {
+  ProViewType type = PRO_VIEW_OF_FLAT_TYPE;
+  const ProError status = ProDrawingViewTypeGet(drawing, view, &type);
+  return Told(drawing, "ProDrawingViewTypeGet", status) && type == PRO_VIEW_GENERAL;
+}
+
+std::optional<double> ScaleOf(ProDrawing drawing, ProView view) {
+  double scale = 0;
+  const ProError status = ProDrawingViewScaleGet(drawing, view, &scale);
+  return Told(drawing, "ProDrawingViewScaleGet", status) && scale > 0 ? std::optional(scale)
+                                                                      : std::nullopt;
+}
+
+std::optional<bool> HasOwnScale(ProDrawing drawing, ProView view) {
+  ProBoolean own = PRO_B_FALSE;
+  const ProError status = ProDrawingViewScaleIsUserdefined(drawing, view, &own);
+  if (!Told(drawing, "ProDrawingViewScaleIsUserdefined", status)) return std::nullopt;
+  return own != PRO_B_FALSE;
+}
+
+std::optional<double> SheetScale(ProDrawing drawing, ProSolid solid, int sheet) {
+  double scale = 0;
+  const ProError status = ProDrawingScaleGet(drawing, solid, sheet, &scale);
+  return Told(drawing, "ProDrawingScaleGet", status) && scale > 0 ? std::optional(scale)
+                                                                  : std::nullopt;
+}
+
+bool DifferentScales(double a, double b) {
+  return a - b > kSameScale || b - a > kSameScale;
+}
+
+}  // namespace qm

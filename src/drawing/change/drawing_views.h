@@ -1,0 +1,36 @@
+// The views of a drawing, each read once.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "toolkit/drawing_view.h"
+
+namespace qm {
+
+struct DrawingView {
+  ProView view = nullptr;
+  int sheet = 0;  // 0: the host does not tell, and it lies on none that counts
+};
+
+// In the order of the host's collection; empty when there are none or the host does not tell.
+std::vector<DrawingView> ViewsOf(ProDrawing drawing);
+
+// The views on each sheet in their order; sheet 1 stands first.
+std::vector<std::vector<ProView>> BySheet(const std::vector<DrawingView>& views, int sheet_count);
+
+// Number of sheets; 0 when the host does not tell.
+int SheetCount(ProDrawing drawing);
+
+// What the host answers of a view; nothing, after a line in the run log, when it does not.
+ProSolid SolidOf(ProDrawing drawing, ProView view);  // null then
+bool IsGeneral(ProDrawing drawing, ProView view);    // false then
+std::optional<double> ScaleOf(ProDrawing drawing, ProView view);
+std::optional<bool> HasOwnScale(ProDrawing drawing, ProView view);
+std::optional<double> SheetScale(ProDrawing drawing, ProSolid solid, int sheet);
+
+// Two scales that differ by no more count as one.
+inline constexpr double kSameScale = 1e-7;
+bool DifferentScales(double a, double b);
+
+}  // namespace qm

@@ -1,0 +1,155 @@
+// Twelve views of boxes of every order of extents and every tie, against a computation of their
+// places that knows nothing of views: a box on its side, and rectangles beside each other.
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+
+#include "tests/plugin_host.h"
+#include "tests/workbench/temporary_folder.h"
+#include "workbench/session/model_file.h"
+#include "workbench/session/session.h"
+
+namespace wb {
+namespace {
+
+// As the main view shows it.
+struct LaidBox {
+  double width, height, depth;
+};
+
+// The extents across, up and into the sheet, widest across, then highest; ties as the command has
+// always decided them.
+LaidBox Laid(int dx, int dy, int dz) {
+  const auto of = [](int w, int h, int d) {
+    return LaidBox{static_cast<double>(w), static_cast<double>(h), static_cast<double>(d)};
+  };
+  if (dx >= dy && dy >= dz) return of(dx, dy, dz);
+  if (dz > dx && dz >= dy && dy >= dx) return of(dz, dy, dx);
+  if (dx >= dz && dz >= dy) return of(dx, dz, dy);
+  if (dy >= dz && dz >= dx) return of(dy, dz, dx);
+  return dy > dz ? of(dy, dx, dz) : of(dz, dx, dy);
+}
+
+Outline Around(double x, double y, double width, double height) {
+  return {x - width / 2, y - height / 2, x + width / 2, y + height / 2};
+}
+
+// The seven views of a set around the middle of its main view.
+std::array<Outline, 7> SetAround(double x, double y, const LaidBox& box) {
+  constexpr double kSpace = 50;
+  const auto [w, h, d] = box;
+  const Outline main = Around(x, y, w, h);
+  const Outline below = Around(x, main[1] - kSpace - d / 2, w, d);
+  const Outline above = Around(x, main[3] + kSpace + d / 2, w, d);
+  const Outline left = Around(main[0] - kSpace - d / 2, y, d, h);
+  const Outline right = Around(main[2] + kSpace + d / 2, y, d, h);
+  const Outline back = Around(right[2] + kSpace + w / 2, y, w, h);
+  const double tilt = 35 * std::numbers::pi / 180;
+  const double across = (w + d) * std::numbers::sqrt2 / 2;
+  const double up = h * std::cos(tilt) + across * std::sin(tilt);
+  const Outline made = Around(below[2], below[1], across, up);
+  const double move_x = (made[2] - below[0]) / 2 + kSpace;
+  const double move_y = -(made[3] - below[1]) / 2 - kSpace;
+  return {main,
+          below,
+          above,
+          left,
+          right,
+          back,
+          {made[0] + move_x, made[1] + move_y, made[2] + move_x, made[3] + move_y}};
+}
+
+std::vector<Outline> Wanted(LaidBox box, bool upright, bool twelve) {
+  const bool turns = upright ? box.height - box.width < 0.001 : box.height - box.width > 0.001;
+  if (turns) std::swap(box.width, box.height);
+  const auto first = SetAround(200, 600, box);
+  std::vector<Outline> all(first.begin(), first.end());
+  if (twelve) {
+    const double edge = std::max(first[5][2], first[6][2]);
+    const auto second = SetAround(box.width / 2 + edge + box.depth + 200, 600, box);
+    all.insert(all.end(), second.begin(), second.end());
+  }
+  return all;
+}
+
+class Designer : public AbsentUser {
+ public:
+  void WorkDialog(LiveDialog& dialog) override {
+    EXPECT_TRUE(dialog.state.UserSelect("DirectionRadio", {direction}).Done());
+    EXPECT_TRUE(dialog.state.UserSelect("ViewsRadio", {views}).Done());
+    EXPECT_TRUE(dialog.state.UserPress("ApplyBt").Done());
+    EXPECT_TRUE(dialog.Fire("ApplyBt", kActivateEvent));
+  }
+  int AnswerMessageBox(const MessageBox& box) override {
+    ADD_FAILURE() << box.text;
+    return 1;
+  }
+
+  std::string direction;
+  std::string views;
+};
+
+class TweViewsWorld : public PluginHost {
+ protected:
+  TweViewsWorld() {
+    host_.session.ChangeDirectory(folder_.path);
+    Model drawing(ModelName{"qm", ModelKind::kDrawing});
+    drawing.As<DrawingContent>()->sheets.push_back({"A0"});
+    WriteModelFile(drawing, Installed().tree() / "tp" / "qm.drw.1");
+    host_.user = &designer_;
+    EXPECT_EQ(plugin_.Start(), 0);
+  }
+  ~TweViewsWorld() override {
+    host_.user = &user_;
+    std::filesystem::remove(Installed().tree() / "tp" / "qm.drw.1");
+  }
+
+  // The views of a box with these extents, away from the origin.
+  const DrawingContent& Draw(int dx, int dy, int dz) {
+    while (!host_.session.models().empty()) host_.session.Erase(*host_.session.models().front());
+    Model part(ModelName{"box", ModelKind::kPart});
+    part.As<SolidContent>()->surfaces.Add(
+        {1, {{100, -50, 7.5}, {100.0 + dx, -50.0 + dy, 7.5 + dz}}});
+    Model& added = host_.session.Add(std::move(part));
+    host_.session.ActivateWindow(host_.session.ShowInWindow(added).id);
+    EXPECT_EQ(RunCommand("TweViews").status, 0);
+    return *host_.session.Find({"box-12", ModelKind::kDrawing})->As<DrawingContent>();
+  }
+
+  const TemporaryFolder folder_{"workbench twe_views"};
+  Designer designer_;
+  Plugin plugin_{Installed().dll()};
+};
+
+TEST_F(TweViewsWorld, StandWhereTheyShouldForEveryOrderAndEveryTie) {
+  constexpr int kExtents[] = {10, 20, 30};
+  for (const bool upright : {false, true}) {
+    for (const bool twelve : {false, true}) {
+      designer_.direction = upright ? "main-v" : "main-h";
+      designer_.views = twelve ? "twelve" : "six-hidden";
+      for (int i = 0; i < 27; ++i) {
+        const int dx = kExtents[i % 3], dy = kExtents[i / 3 % 3], dz = kExtents[i / 9];
+        SCOPED_TRACE(std::to_string(dx) + " " + std::to_string(dy) + " " + std::to_string(dz) +
+                     " " + designer_.direction + " " + designer_.views);
+        const DrawingContent& drawing = Draw(dx, dy, dz);
+        const std::vector<Outline> wanted = Wanted(Laid(dx, dy, dz), upright, twelve);
+        ASSERT_EQ(drawing.views.size(), wanted.size());
+        size_t at = 0;
+        for (const DrawingView& view : drawing.views) {
+          for (size_t side = 0; side < 4; ++side) {
+            EXPECT_NEAR(view.outline[side], wanted[at][side], 1e-9) << at << ", " << side;
+          }
+          const bool hidden = !twelve || at >= 7;
+          EXPECT_EQ(view.display.style,
+                    hidden ? DisplayStyle::kHiddenLine : DisplayStyle::kNoHidden);
+          ++at;
+        }
+      }
+    }
+  }
+  EXPECT_EQ(TakeBreaches(), Lines());
+}
+
+}  // namespace
+}  // namespace wb

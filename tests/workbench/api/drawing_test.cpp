@@ -1,0 +1,189 @@
+// Drawings made of templates, their sheets, scales, formats and tables.
+#include "tests/workbench/api/drawing_contract.h"
+#include "workbench/session/model_file.h"
+
+namespace wb {
+namespace {
+
+class DrawingsMade : public DrawingContract {
+ protected:
+  DrawingsMade() {
+    Model pattern({"qm", ModelKind::kDrawing});
+    auto& content = *pattern.As<DrawingContent>();
+    content.sheets.push_back({"A0"});
+    content.notes.Add({.id = 1, .text = "未注倒角 C1"});
+    std::filesystem::create_directories(folder_ / "tp");
+    WriteModelFile(pattern, folder_ / "tp" / "qm.drw.1");
+    content.template_errors = 2;
+    pattern.id.name = "bad";
+    WriteModelFile(pattern, folder_ / "bad.drw.1");
+    EXPECT_EQ(ProMdlDataGet(plate_->handle, &record_), PRO_TK_NO_ERROR);
+  }
+  ProError Make(const std::wstring& name, const std::wstring& pattern, int options = 1) {
+    std::wstring wanted = name, file = pattern;
+    drawing_made_ = nullptr;
+    errors_ = nullptr;
+    return ProDrawingFromTmpltCreate(wanted.data(), file.data(), &record_, options, &drawing_made_,
+                                     &errors_);
+  }
+
+  ProMdldata record_{};
+  ProDrawing drawing_made_ = nullptr;
+  ProDwgcreateErrs errors_ = nullptr;
+};
+
+TEST_F(DrawingsMade, OfATemplateByNameOrByPath) {
+  const std::wstring path = (folder_ / "tp" / "qm.drw").wstring();
+  WriteFile("taken.drw.1", R"({"format": 2, "model": "taken.drw"})");
+  ProMdldata nothing{};
+  Check({
+      {"in another folder", [&] { return Make(L"plate-12", L"qm.drw"); }, PRO_TK_E_NOT_FOUND},
+      {"by path", [&] { return Make(L"plate-12", path); }, PRO_TK_NO_ERROR},
+      {"its version", [&] { return Make(L"plate-13", path + L".1"); }, PRO_TK_NO_ERROR},
+      {"a version that is not there", [&] { return Make(L"p", path + L".2"); }, PRO_TK_E_NOT_FOUND},
+      {"in session already", [&] { return Make(L"PLATE-12", path); }, PRO_TK_E_FOUND},
+      {"on disk already", [&] { return Make(L"taken", path); }, PRO_TK_E_FOUND},
+      {"for no model",
+       [&] {
+         wchar_t name[] = L"other", file[] = L"qm.drw";
+         return ProDrawingFromTmpltCreate(name, file, &nothing, 1, &drawing_made_, &errors_);
+       },
+       PRO_TK_BAD_INPUTS, "ProDrawingFromTmpltCreate: a record that names no model in session"},
+  });
+  Model* const made = host_.session.Find({"plate-12", ModelKind::kDrawing});
+  ASSERT_NE(made, nullptr);
+  const auto& content = *made->As<DrawingContent>();
+  EXPECT_EQ(content.sheets.at(0).size, "A0");
+  EXPECT_EQ(content.notes.size(), 1u);
+  EXPECT_EQ(content.shows->model, plate_);
+  EXPECT_NE(host_.session.FindWindowOf(*made), nullptr);
+  EXPECT_EQ(host_.session.Find({"qm", ModelKind::kDrawing}), nullptr);
+}
+
+TEST_F(DrawingsMade, InTheWorkingDirectoryAloneAndOnlyWhereOneMayWrite) {
+  host_.habits.model_data_has_name_first = true;
+  EXPECT_EQ(ProMdlDataGet(plate_->handle, &record_), PRO_TK_NO_ERROR);
+  host_.session.ChangeDirectory(folder_ / "tp");
+  EXPECT_EQ(Make(L"a", L"qm.drw", 0), PRO_TK_NO_ERROR);
+  EXPECT_EQ(host_.session.FindWindowOf(*host_.session.Find({"a", ModelKind::kDrawing})), nullptr);
+  host_.session.MakeReadOnly(folder_ / "tp");
+  EXPECT_EQ(Make(L"b", L"qm.drw"), PRO_TK_NO_PERMISSION);
+  EXPECT_EQ(host_.session.Find({"b", ModelKind::kDrawing}), nullptr);
+}
+
+TEST_F(DrawingsMade, WithErrorsThatAreTheCallers) {
+  EXPECT_EQ(Make(L"a", L"bad.drw"), PRO_TK_DWGCREATE_ERRORS);
+  EXPECT_NE(drawing_made_, nullptr) << "the drawing is there all the same";
+  ASSERT_NE(errors_, nullptr);
+  EXPECT_EQ(host_.accounts.open().size(), 1u);
+  EXPECT_EQ(ProDwgcreateErrsFree(&errors_), PRO_TK_NO_ERROR);
+  EXPECT_EQ(host_.accounts.open().size(), 0u);
+}
+
+TEST_F(DrawingContract, SheetsHaveScalesAndACurrentOne) {
+  int number = 0;
+  double scale = 0;
+  ProName size;
+  ProMatrix matrix;
+  Drawing().sheets[1] = {"A4H", 0.5};
+  Drawing().sheets[1].transform[3][0] = 7;
+  Check({
+      {"counted", [&] { return ProDrawingSheetsCount(drw_->handle, &number); }, PRO_TK_NO_ERROR},
+      {"none of these", [&] { return ProDrawingCurrentSheetSet(drw_->handle, 3); },
+       PRO_TK_BAD_INPUTS, "ProDrawingCurrentSheetSet: the drawing has no sheet 3"},
+      {"current", [&] { return ProDrawingCurrentSheetSet(drw_->handle, number); }, PRO_TK_NO_ERROR},
+      {"transform", [&] { return ProDrawingSheetTrfGet(drw_->handle, 2, size, matrix); },
+       PRO_TK_NO_ERROR},
+      {"for all models",
+       [&] { return ProDrawingScaleGet(drw_->handle, plate_->handle, 2, &scale); },
+       PRO_TK_NO_ERROR},
+      {"of a foreign model",
+       [&] { return ProDrawingScaleGet(drw_->handle, lid_->handle, 2, &scale); }, PRO_TK_BAD_INPUTS,
+       "ProDrawingScaleGet: \"lid.prt\" is no model of the drawing"},
+      {"zero", [&] { return ProDrawingScaleSet(drw_->handle, plate_->handle, 2, 0); },
+       PRO_TK_BAD_INPUTS},
+      {"set", [&] { return ProDrawingScaleSet(drw_->handle, plate_->handle, 2, 0.2); },
+       PRO_TK_NO_ERROR},
+      {"foreign current model",
+       [&] { return ProDrawingCurrentsolidSet(drw_->handle, lid_->handle); }, PRO_TK_BAD_INPUTS,
+       "ProDrawingCurrentsolidSet: \"lid.prt\" is no model of the drawing"},
+  });
+  EXPECT_EQ(Drawing().current_sheet, 2);
+  EXPECT_EQ(scale, 0.5);
+  EXPECT_EQ(matrix[3][0], 7);
+  EXPECT_EQ(std::wstring(size), L"A4H");
+  EXPECT_EQ(SheetScale(Drawing().sheets[1], plate_->id), 0.2);
+  EXPECT_EQ(SheetScale(Drawing().sheets[0], plate_->id), 1);
+}
+
+TEST_F(DrawingContract, FormatsArePlacedHiddenAndShown) {
+  Model frame({"frame", ModelKind::kFormat});
+  frame.As<FormatContent>()->sheets.push_back({"A2"});
+  frame.As<FormatContent>()->sheets[0].tables.Add({.id = 1});
+  Model& format = host_.session.Add(std::move(frame));
+  const ProMdl drawing = drw_->handle, solid = plate_->handle;
+  ProBoolean shown{};
+  Check({
+      {"no format", [&] { return ProDrawingFormatAdd(drawing, 1, solid, nullptr, 1); },
+       PRO_TK_BAD_INPUTS},
+      {"a part", [&] { return ProDrawingFormatAdd(drawing, 1, solid, solid, 1); },
+       PRO_TK_BAD_INPUTS, "ProDrawingFormatAdd: not a drawing format"},
+      {"its second sheet", [&] { return ProDrawingFormatAdd(drawing, 1, solid, format.handle, 2); },
+       PRO_TK_E_NOT_FOUND},
+      {"on a sheet that is not there",
+       [&] { return ProDrawingFormatAdd(drawing, 5, solid, format.handle, 1); }, PRO_TK_BAD_INPUTS,
+       "ProDrawingFormatAdd: the drawing has no sheet 5"},
+      {"placed", [&] { return ProDrawingFormatAdd(drawing, 2, solid, format.handle, 0); },
+       PRO_TK_NO_ERROR},
+      {"hidden", [&] { return ProDrawingSheetFormatHide(drawing, kAllSheets); }, PRO_TK_NO_ERROR},
+      {"hidden again", [&] { return ProDrawingSheetFormatHide(drawing, 1); }, PRO_TK_NO_CHANGE},
+      {"asked", [&] { return ProDrawingSheetFormatIsShown(drawing, 2, &shown); }, PRO_TK_NO_ERROR},
+  });
+  EXPECT_EQ(shown, PRO_B_FALSE);
+  EXPECT_EQ(Drawing().sheets[1].size, "A2");
+  EXPECT_EQ(Drawing().sheets[1].format, "frame.frm");
+}
+
+TEST_F(DrawingContract, TablesAreWalkedAndDeleted) {
+  Drawing().tables.Add({.id = 1, .segments = {1, 2}});
+  Drawing().tables.Add({.id = 2, .format = "frame.frm", .segments = {2}});
+  ProDwgtable* tables = nullptr;
+  ASSERT_EQ(ProDrawingTablesCollect(drw_->handle, &tables), PRO_TK_NO_ERROR);
+  int count = 0, sheet = 0;
+  ProBoolean from_format{};
+  Check({
+      {"segments", [&] { return ProDwgtableSegCount(&tables[0], &count); }, PRO_TK_NO_ERROR},
+      {"its sheet", [&] { return ProDwgtableSegSheetGet(&tables[0], 1, &sheet); }, PRO_TK_NO_ERROR},
+      {"no such segment", [&] { return ProDwgtableSegSheetGet(&tables[1], 1, &sheet); },
+       PRO_TK_E_NOT_FOUND},
+      {"of a format", [&] { return ProDwgtableIsFromFormat(&tables[1], &from_format); },
+       PRO_TK_NO_ERROR},
+      {"deleted", [&] { return ProDwgtableDelete(&tables[0], 1); }, PRO_TK_NO_ERROR},
+      {"deleted twice", [&] { return ProDwgtableDelete(&tables[0], 1); }, PRO_TK_BAD_INPUTS,
+       "ProDwgtableDelete: \"plate.drw\" has no table 1"},
+      {"after the first", [&] { return ProDwgtableSegCount(&tables[1], &count); }, PRO_TK_NO_ERROR},
+  });
+  EXPECT_EQ(sheet, 2);
+  EXPECT_EQ(from_format, PRO_B_TRUE);
+  host_.habits.table_segments_count_from_minus_one = true;
+  EXPECT_EQ(ProDwgtableSegSheetGet(&tables[1], 0, &sheet), PRO_TK_E_NOT_FOUND);
+  EXPECT_EQ(ProDwgtableSegSheetGet(&tables[1], -1, &sheet), PRO_TK_NO_ERROR);
+  ProArrayFree(reinterpret_cast<ProArray*>(&tables));
+}
+
+TEST_F(DrawingContract, TheDwgFileOfADisplayedDrawingSaysThatItStandsForOne) {
+  std::wstring file = (folder_ / "plate-12").wstring();
+  file.resize(PRO_PATH_SIZE);
+  EXPECT_EQ(Pro2dExport(PRO_DWG_FILE, file.data(), drawing_->handle, nullptr),
+            PRO_TK_NOT_DISPLAYED);
+  EXPECT_EQ(Pro2dExport(PRO_DWG_FILE, file.data(), drw_->handle, nullptr), PRO_TK_NO_ERROR);
+  std::ifstream in(folder_ / "plate-12.dwg");
+  std::string text;
+  std::getline(in, text);
+  EXPECT_EQ(text, "This file stands for the DWG file of sheet 1 of plate.drw.");
+  host_.session.MakeReadOnly(folder_);
+  EXPECT_EQ(Pro2dExport(PRO_DWG_FILE, file.data(), drw_->handle, nullptr), PRO_TK_CANT_WRITE);
+}
+
+}  // namespace
+}  // namespace wb

@@ -1,0 +1,72 @@
+// What the windows of models show, their ids, and the box around a solid.
+#include "tests/workbench/api/drawing_contract.h"
+
+namespace wb {
+namespace {
+
+std::string Text(const ProMatrix matrix) {
+  return FactText(std::vector<double>(matrix[0], matrix[3] + 4));
+}
+
+TEST_F(DrawingContract, ViewMatricesAreThoseOfModelsInAWindow) {
+  ProMatrix matrix = {{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {5, 6, 7, 1}};
+  ProMatrix scaled = {{2, 0, 0, 0}, {0, 2, 0, 0}, {0, 0, 2, 0}, {0, 0, 0, 1}};
+  const ProMdl model = plate_->handle;
+  Check({
+      {"no window", [&] { return ProViewMatrixGet(model, nullptr, matrix); }, PRO_TK_BAD_CONTEXT},
+      {"nor a turn", [&] { return ProViewRotate(model, nullptr, PRO_X_ROTATION, 90); },
+       PRO_TK_BAD_CONTEXT},
+      {"shown", [&] { return ProMdlDisplay(model); }, PRO_TK_NO_ERROR},
+      {"null", [&] { return ProViewMatrixSet(model, nullptr, nullptr); }, PRO_TK_BAD_INPUTS,
+       "ProViewMatrixSet: null matrix"},
+      {"scaled", [&] { return ProViewMatrixSet(model, nullptr, scaled); }, PRO_TK_INVALID_MATRIX},
+      {"set", [&] { return ProViewMatrixSet(model, nullptr, matrix); }, PRO_TK_NO_ERROR},
+      {"turned", [&] { return ProViewRotate(model, nullptr, PRO_X_ROTATION, 90); },
+       PRO_TK_NO_ERROR},
+      {"and again", [&] { return ProViewRotate(model, nullptr, PRO_Z_ROTATION, 90); },
+       PRO_TK_NO_ERROR},
+      {"about what",
+       [&] { return ProViewRotate(model, nullptr, static_cast<ProRotationAxis>(3), 90); },
+       PRO_TK_BAD_INPUTS, "ProViewRotate: rotation axis 3"},
+      {"read", [&] { return ProViewMatrixGet(model, nullptr, matrix); }, PRO_TK_NO_ERROR},
+  });
+  // x of the model points up, y to who looks, z to the right.
+  EXPECT_EQ(Text(matrix), "0 1 0 0 0 0 1 0 1 0 0 0 5 6 7 1");
+  host_.habits.view_rotates_the_other_way = host_.habits.rotation_axes_count_from_one = true;
+  EXPECT_EQ(ProViewRotate(model, nullptr, PRO_X_ROTATION, 90), PRO_TK_BAD_INPUTS);
+  EXPECT_EQ(ProViewRotate(model, nullptr, PRO_Y_ROTATION, 90), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProViewMatrixGet(model, nullptr, matrix), PRO_TK_NO_ERROR);
+  EXPECT_EQ(Text(matrix), "0 0 -1 0 0 1 0 0 1 0 0 0 5 6 7 1");
+  EXPECT_EQ(Breaches(), Lines());
+  host_.habits.scaled_view_matrix_is_taken = true;
+  EXPECT_EQ(ProViewMatrixSet(model, nullptr, scaled), PRO_TK_NO_ERROR);
+}
+
+TEST_F(DrawingContract, TheFirstWindowIsZeroAndTheCurrentOneNeedNotBeTheActiveOne) {
+  int window = -1;
+  ProName name = L"plate";
+  ProMdl current = nullptr;
+  EXPECT_EQ(ProMdlWindowGet(drw_->handle, &window), PRO_TK_NO_ERROR);
+  EXPECT_EQ(window, 0);
+  EXPECT_EQ(ProMdlWindowGet(plate_->handle, &window), PRO_TK_E_NOT_FOUND);
+  EXPECT_EQ(ProWindowActivate(0), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProObjectwindowCreate(name, PRO_PART, &window), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProWindowCurrentSet(window), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProMdlCurrentGet(&current), PRO_TK_NO_ERROR);
+  EXPECT_EQ(current, plate_->handle);
+  EXPECT_EQ(host_.session.active_window(), 0);
+  EXPECT_EQ(ProWindowMdlGet(0, &current), PRO_TK_NO_ERROR);
+  EXPECT_EQ(current, drw_->handle);
+}
+
+TEST_F(DrawingContract, TheBoxOfASolidIsItsOwn) {
+  Pro3dPnt outline[2];
+  EXPECT_EQ(ProSolidOutlineGet(plate_->handle, outline), PRO_TK_NO_ERROR);
+  EXPECT_EQ(outline[1][0], 300);
+  EXPECT_EQ(outline[1][2], 40);
+  EXPECT_EQ(ProSolidOutlineGet(lid_->handle, outline), PRO_TK_GENERAL_ERROR);
+  EXPECT_EQ(ProSolidOutlineGet(drw_->handle, outline), PRO_TK_BAD_INPUTS);
+}
+
+}  // namespace
+}  // namespace wb

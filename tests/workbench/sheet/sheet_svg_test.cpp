@@ -1,0 +1,284 @@
+// Pictures of sheets, read back: what the SVG says is compared with the drawing's own numbers.
+#include "workbench/sheet/sheet_svg.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
+#include <regex>
+#include <sstream>
+
+#include "workbench/session/drawing_views.h"
+#include "workbench/session/session.h"
+#include "workbench/sheet/view_boxes.h"
+
+namespace wb {
+namespace {
+
+constexpr double kPrecision = 0.001;
+constexpr double kHeightOfA2 = 420;
+
+struct ReadView {
+  Outline outline{};
+  std::vector<Outline> boxes;  // what each visible path takes up, in the order of painting
+  std::string visible;         // the attributes of the visible lines
+  std::string hidden;          // the path of the hidden ones; empty: none
+};
+
+// The value of an attribute in a tag.
+std::string AttributeOf(const std::string& tag, const std::string& name) {
+  std::smatch found;
+  const std::regex pattern(" " + name + "=\"([^\"]*)\"");
+  return std::regex_search(tag, found, pattern) ? found[1].str() : "";
+}
+
+Outline ReadRectangle(const std::string& tag, double height) {
+  const auto number = [&](const char* name) { return std::stod(AttributeOf(tag, name)); };
+  const double top = height - number("y");
+  return {number("x"), top - number("height"), number("x") + number("width"), top};
+}
+
+// What a path of M, L, H and V takes up.
+Outline ReadPath(const std::string& path, double height) {
+  static const std::regex kStep("([MLHV])(-?[0-9.]+)(?: (-?[0-9.]+))?");
+  Outline area = {1e9, 1e9, -1e9, -1e9};
+  double x = 0;
+  double y = 0;
+  for (std::sregex_iterator step(path.begin(), path.end(), kStep), end; step != end; ++step) {
+    const char letter = (*step)[1].str()[0];
+    const double first = std::stod((*step)[2]);
+    if (letter == 'V') y = height - first;
+    if (letter != 'V') x = first;
+    if (letter == 'M' || letter == 'L') y = height - std::stod((*step)[3]);
+    area = {std::min(area[0], x), std::min(area[1], y), std::max(area[2], x), std::max(area[3], y)};
+  }
+  return area;
+}
+
+std::map<int, ReadView> ReadViews(const std::string& svg, double height = kHeightOfA2) {
+  static const std::regex kTag("<(/?[a-z]+)[^>]*>");
+  std::map<int, ReadView> views;
+  ReadView* view = nullptr;
+  for (std::sregex_iterator at(svg.begin(), svg.end(), kTag), end; at != end; ++at) {
+    const std::string tag = at->str();
+    const std::string kind = AttributeOf(tag, "class");
+    if (kind == "view") view = &views[std::stoi(AttributeOf(tag, "data-view"))];
+    if (view == nullptr) continue;
+    if (kind == "outline") view->outline = ReadRectangle(tag, height);
+    if (kind == "visible") view->visible = tag;
+    if (kind == "hidden") view->hidden = AttributeOf(tag, "d");
+    if (tag.starts_with("<path d")) view->boxes.push_back(ReadPath(AttributeOf(tag, "d"), height));
+  }
+  return views;
+}
+
+Outline Around(const std::vector<Outline>& boxes) {
+  Outline all = boxes.at(0);
+  for (const Outline& box : boxes) {
+    all = {std::min(all[0], box[0]), std::min(all[1], box[1]), std::max(all[2], box[2]),
+           std::max(all[3], box[3])};
+  }
+  return all;
+}
+
+void ExpectNear(const Outline& is, const Outline& wanted, const std::string& what) {
+  for (std::size_t i = 0; i < is.size(); ++i) EXPECT_NEAR(is[i], wanted[i], kPrecision) << what;
+}
+
+// A block of odd measures off the origin with a plate in front of it and a pin inside it, drawn on
+// an A2 sheet.
+class SheetSvg : public testing::Test {
+ protected:
+  SheetSvg() {
+    AddPart("block", {{-17.3, 5.1, 3.7}, {82.9, 65.3, 43.1}});
+    AddPart("plate", {{0, 0, 0}, {20, 30, 5}});
+    AddPart("pin", {{-3, -3, -3}, {3, 3, 3}});
+    Model top({"top", ModelKind::kAssembly});
+    Place(top, 1, "block", 0, 0, 0);
+    Place(top, 2, "plate", 10, 20, 60);
+    Place(top, 3, "pin", 50, 50, 20);
+    top_ = &session_.Add(std::move(top));
+    Model drawing({"top", ModelKind::kDrawing});
+    DrawingContent pattern;
+    pattern.sheets.push_back({.size = "A2", .scale = 0.7});
+    drawing.content = MadeOf(pattern, {top_->id, top_});
+    model_ = &session_.Add(std::move(drawing));
+  }
+
+  void AddPart(const std::string& name, const Box& box) {
+    Model part({name, ModelKind::kPart});
+    part.solid().surfaces.Add({1, box});
+    session_.Add(std::move(part));
+  }
+  static void Place(Model& top, int id, const std::string& part, double x, double y, double z) {
+    Placement placement = kIdentityPlacement;
+    placement[3] = {x, y, z, 1};
+    top.solid().features.Add(NewComponent(id, {part, ModelKind::kPart}, placement));
+  }
+  DrawingContent& Drawing() { return *model_->As<DrawingContent>(); }
+  int View(const Rotation& orientation, SheetPoint place, DisplayStyle style) {
+    return AddView(Drawing(), {.shows = Drawing().shows,
+                               .orientation = orientation,
+                               .place = place,
+                               .display = {.style = style}});
+  }
+  SheetPicture Picture() { return PictureOf(Drawing()).at(0); }
+  std::string Svg() { return DrawSheet(Picture()); }
+
+  Session session_;
+  Model* top_ = nullptr;
+  Model* model_ = nullptr;
+};
+
+// All turns by right angles show faces as rectangles, which fill the outline to its edges.
+TEST_F(SheetSvg, ViewsLieWhereTheirOutlinesAre) {
+  for (int turn = 0; turn < 64; ++turn) {
+    const Rotation x = TurnAbout(ScreenAxis::kX, 90 * (turn % 4));
+    const Rotation y = TurnAbout(ScreenAxis::kY, 90 * (turn / 4 % 4));
+    const Rotation z = TurnAbout(ScreenAxis::kZ, 90 * (turn / 16));
+    View(Turned(Turned(x, y), z), {37.123 * (turn % 8) + 60, 41.321 * (turn / 8) - 30},
+         DisplayStyle::kNoHidden);
+  }
+  const auto views = ReadViews(Svg());
+  ASSERT_EQ(views.size(), 64u);
+  for (const DrawingView& view : Drawing().views) {
+    const std::string what = "view " + std::to_string(view.id);
+    ExpectNear(views.at(view.id).outline, view.outline, what);
+    ExpectNear(Around(views.at(view.id).boxes), view.outline, what + ", its boxes");
+  }
+}
+
+TEST_F(SheetSvg, WhatIsNearerIsPaintedLater) {
+  const int front = View(kNoRotation, {100, 100}, DisplayStyle::kNoHidden);
+  const int behind = View(TurnAbout(ScreenAxis::kY, 180), {300, 100}, DisplayStyle::kNoHidden);
+  const auto views = ReadViews(Svg());
+  const auto widths = [&](int id) {
+    std::vector<int> rounded;
+    for (const Outline& box : views.at(id).boxes) {
+      rounded.push_back(static_cast<int>(std::lround((box[2] - box[0]) / 0.7)));
+    }
+    return rounded;
+  };
+  EXPECT_EQ(widths(front), (std::vector{6, 100, 20}));
+  // Seen from behind, the block is the nearest; the pin inside it stays behind its faces.
+  EXPECT_EQ(widths(behind), (std::vector{20, 6, 100}));
+}
+
+TEST_F(SheetSvg, HiddenLinesAreDashedAsTheStyleSays) {
+  const struct {
+    DisplayStyle style;
+    bool hidden;
+    const char* fill;
+  } cases[] = {
+      {DisplayStyle::kHiddenLine, true, "#fff"}, {DisplayStyle::kNoHidden, false, "#fff"},
+      {DisplayStyle::kDefault, false, "#fff"},   {DisplayStyle::kWireframe, false, "none"},
+      {DisplayStyle::kShaded, false, "#d3dae2"},
+  };
+  for (const auto& item : cases) {
+    const int id = View(TurnAbout(ScreenAxis::kY, 180), {100, 100}, item.style);
+    const ReadView view = ReadViews(Svg()).at(id);
+    EXPECT_EQ(!view.hidden.empty(), item.hidden) << static_cast<int>(item.style);
+    EXPECT_EQ(AttributeOf(view.visible, "fill"), item.fill) << static_cast<int>(item.style);
+    if (!item.hidden) continue;
+    // Plate and pin, not the block before them.
+    ExpectNear(ReadPath(view.hidden, kHeightOfA2), Around({view.boxes[0], view.boxes[1]}),
+               "hidden");
+  }
+}
+
+TEST_F(SheetSvg, ABoxSeenFromACornerShowsThreeFaces) {
+  const Rotation corner = Turned(TurnAbout(ScreenAxis::kY, 30), TurnAbout(ScreenAxis::kX, 25));
+  View(corner, {100, 100}, DisplayStyle::kHiddenLine);
+  const SheetPicture picture = Picture();
+  ASSERT_EQ(picture.views.at(0).boxes.size(), 3u);
+  for (const ShownBoxFaces& box : picture.views[0].boxes) {
+    EXPECT_EQ(box.front.size(), 3u);
+    EXPECT_EQ(box.back.size(), 3u);
+  }
+}
+
+TEST_F(SheetSvg, AllThatLiesBesideThePaperIsSeen) {
+  View(kNoRotation, {-200, 700}, DisplayStyle::kNoHidden);
+  Drawing().notes.Add({.id = 1, .place = {900, -150}, .text = "far"});
+  const std::string svg = Svg();
+  std::istringstream box(AttributeOf(svg, "viewBox"));
+  double x = 0, y = 0, width = 0, height = 0;
+  box >> x >> y >> width >> height;
+  const Outline outline = Drawing().views[0].outline;
+  EXPECT_LT(x, outline[0]);
+  EXPECT_LT(y, kHeightOfA2 - outline[3]);
+  EXPECT_GT(x + width, 900);
+  EXPECT_GT(y + height, kHeightOfA2 + 150);
+}
+
+TEST_F(SheetSvg, TwelveViewsOfALargeAssemblyStaySmall) {
+  for (int id = 10; id < 400; ++id) Place(*top_, id, "pin", 7.77 * id, 3.33 * (id % 17), 1.1 * id);
+  session_.Resolve(*top_);
+  const Rotation corner = Turned(TurnAbout(ScreenAxis::kY, 30), TurnAbout(ScreenAxis::kX, 25));
+  const std::array<Rotation, 3> turns = {kNoRotation, TurnAbout(ScreenAxis::kX, 90), corner};
+  for (std::size_t i = 0; i < 12; ++i) {
+    View(i < 10 ? turns[i % 2] : corner, {100.123, 200.321}, DisplayStyle::kNoHidden);
+  }
+  const SheetPicture picture = Picture();
+  EXPECT_GT(picture.views[0].left_out, 300u);
+  EXPECT_LT(DrawSheet(picture).size(), 60'000u);
+}
+
+TEST_F(SheetSvg, ChangesAreMarkedOnBothSides) {
+  const int moved = View(kNoRotation, {100, 100}, DisplayStyle::kNoHidden);
+  View(kNoRotation, {300, 100}, DisplayStyle::kNoHidden);
+  Drawing().notes.Add({.id = 1, .place = {10, 10}, .text = "old"});
+  const SheetPicture before = Picture();
+  MoveView(Drawing(), moved, {5, 0});
+  Drawing().notes.Remove(1);
+  Drawing().dimensions.Add({.id = 7, .place = {50, 50}, .value = 12});
+  const SheetPicture after = Picture();
+  const auto count = [](const std::string& svg, const char* mark) {
+    std::size_t found = 0;
+    for (std::size_t at = svg.find(mark); at != svg.npos; at = svg.find(mark, at + 1)) ++found;
+    return found;
+  };
+  const std::string old = DrawSheet(before, &after, SheetMoment::kBefore);
+  const std::string now = DrawSheet(after, &before, SheetMoment::kAfter);
+  for (const std::string& svg : {old, now}) EXPECT_EQ(count(svg, "class=\"changed\""), 1u);
+  EXPECT_EQ(count(old, "class=\"removed\""), 1u);
+  EXPECT_EQ(count(now, "class=\"added\""), 1u);
+  EXPECT_EQ(count(DrawSheet(after, &after) + DrawSheet(after), "class=\"changed\""), 0u);
+}
+
+TEST_F(SheetSvg, TablesHaveTheirCellsAndTextsAreEscaped) {
+  const std::string evil = "<x>\"&";
+  top_->SetParameter("NAME", evil);
+  Drawing().tables.Add({.id = 1,
+                        .place = {410, 66},
+                        .widths = {30, 50},
+                        .heights = {10},
+                        .cells = {{1, 1, "&scale"}, {1, 2, "&name"}, {9, 9, "outside"}}});
+  Drawing().notes.Add({.id = 1, .text = evil});
+  Drawing().dimensions.Add({.id = 1, .text = evil});
+  Drawing().sheets[0].format = "frame.frm";
+  const std::string svg = Svg();
+  EXPECT_NE(svg.find(">1:1.429</text>"), svg.npos);
+  EXPECT_EQ(svg.find("outside"), svg.npos);
+  EXPECT_EQ(svg.find("<x>"), svg.npos);
+  const std::string escaped = ">&lt;x&gt;&quot;&amp;</text>";
+  std::size_t count = 0;
+  for (std::size_t at = svg.find(escaped); at != svg.npos; at = svg.find(escaped, at + 1)) ++count;
+  EXPECT_EQ(count, 3u);
+  EXPECT_NE(svg.find("class=\"frame\""), svg.npos);
+  Drawing().sheets[0].format_shown = false;
+  EXPECT_EQ(Svg().find("class=\"frame\""), svg.npos);
+}
+
+TEST_F(SheetSvg, NumbersOutOfAllMeasureHarmNobody) {
+  View(kNoRotation, {1e300, -1e300}, DisplayStyle::kNoHidden);
+  View(kNoRotation, {100, 100}, DisplayStyle::kHiddenLine);
+  top_->solid().features[0].component->placement[3] = {1e308, -1e308, 1e308, 1};
+  Drawing().sheets[0].scale = 1e10;
+  RegenerateSheet(Drawing(), 1);
+  EXPECT_EQ(Svg().find("inf"), std::string::npos);
+  EXPECT_EQ(Svg().find("nan"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace wb

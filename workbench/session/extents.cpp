@@ -1,0 +1,79 @@
+// Boxes around surfaces, through all levels of an assembly.
+#include "workbench/session/extents.h"
+
+#include <algorithm>
+
+namespace wb {
+namespace {
+
+// The corner of a box by a number from 0 to 7.
+Point CornerOf(const Box& box, unsigned number) {
+  Point corner;
+  for (size_t axis = 0; axis < 3; ++axis) {
+    corner[axis] = (number >> axis & 1) != 0 ? box.max[axis] : box.min[axis];
+  }
+  return corner;
+}
+
+void Enclose(std::optional<Box>& extents, const Point& point) {
+  if (!extents) extents = Box{point, point};
+  for (size_t axis = 0; axis < 3; ++axis) {
+    extents->min[axis] = std::min(extents->min[axis], point[axis]);
+    extents->max[axis] = std::max(extents->max[axis], point[axis]);
+  }
+}
+
+bool IsShown(const Feature& component) {
+  return component.status == FeatureStatus::kActive && component.visible && !component.hidden &&
+         component.ComponentModel() != nullptr;
+}
+
+struct Occurrence {
+  const Model* model;
+  Placement placement;
+};
+
+}  // namespace
+
+Point PlacedAt(const Point& point, const Placement& placement) {
+  Point placed{};
+  for (size_t axis = 0; axis < 3; ++axis) {
+    placed[axis] = placement[3][axis];
+    for (size_t row = 0; row < 3; ++row) placed[axis] += point[row] * placement[row][axis];
+  }
+  return placed;
+}
+
+Placement PlacedWithin(const Placement& inner, const Placement& outer) {
+  Placement placement{};
+  for (size_t row = 0; row < 4; ++row) {
+    for (size_t column = 0; column < 4; ++column) {
+      for (size_t k = 0; k < 4; ++k) placement[row][column] += inner[row][k] * outer[k][column];
+    }
+  }
+  return placement;
+}
+
+std::optional<Box> ExtentsOf(const Model& solid) {
+  std::optional<Box> extents;
+  std::vector<Occurrence> pending = {{&solid, kIdentityPlacement}};
+  while (!pending.empty()) {
+    const Occurrence at = pending.back();
+    pending.pop_back();
+    const SolidContent* const content = at.model->As<SolidContent>();
+    if (content == nullptr) continue;
+    for (const Surface& surface : content->surfaces) {
+      for (unsigned corner = 0; corner < 8; ++corner) {
+        Enclose(extents, PlacedAt(CornerOf(surface.box, corner), at.placement));
+      }
+    }
+    for (const Feature& feature : content->features) {
+      if (!IsShown(feature)) continue;
+      pending.push_back(
+          {feature.ComponentModel(), PlacedWithin(feature.component->placement, at.placement)});
+    }
+  }
+  return extents;
+}
+
+}  // namespace wb

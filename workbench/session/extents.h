@@ -1,0 +1,20 @@
+// How much room a part or an assembly takes.
+#pragma once
+
+#include <optional>
+
+#include "workbench/session/model.h"
+
+namespace wb {
+
+// Where `placement` puts a point.
+Point PlacedAt(const Point& point, const Placement& placement);
+
+// A component's placement seen from the assembly above its own one: `inner` within `outer`.
+Placement PlacedWithin(const Placement& inner, const Placement& outer);
+
+// The box around all surfaces of the model and of its shown components, in the model's own frame.
+// None for a model without any.
+std::optional<Box> ExtentsOf(const Model& solid);
+
+}  // namespace wb
