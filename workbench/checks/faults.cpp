@@ -39,6 +39,10 @@ const FaultPlan* Faults::Strike(const char* function) {
   return &*plan_;
 }
 
+bool Faults::HasStruckTelling() const {
+  return std::ranges::any_of(names_, Tells);
+}
+
 bool Faults::StrikeAllocation() {
   return plan_ && plan_->nth != 0 && plan_->kind == FaultKind::kNoMemory && Reaches();
 }

@@ -44,6 +44,8 @@ class Faults {
   bool claims_success() const { return plan_ && plan_->kind == FaultKind::kEmptySuccess; }
   // Whether calls of this function are among those that the current plan has failed.
   bool HasStruck(const std::string& function) const { return names_.contains(function); }
+  // Whether a call that tells the user, or writes the run log, is among them.
+  bool HasStruckTelling() const;
   // The first function struck, "" for none.
   const std::string& first_struck() const { return first_name_; }
   // How many it could have failed so far.

@@ -23,18 +23,14 @@ std::vector<fs::path> FilesBelow(const fs::path& folder) {
   return files;
 }
 
-// Only settings files are kept in memory by Windows.
-void FlushIfProfile(const fs::path& file) {
-  if (file.extension() == ".ini") FlushProfile(file);
-}
-
+// Entries of settings are written through at once.
 std::string Content(const fs::path& file) {
-  FlushIfProfile(file);
   return ReadFileBytes(file).value_or("");
 }
 
+// Windows keeps what it has read of a settings file.
 void WriteBack(const fs::path& file, const std::string& content) {
-  FlushIfProfile(file);
+  if (file.extension() == ".ini") FlushProfile(file);
   fs::create_directories(file.parent_path());
   std::ofstream(file, std::ios::binary | std::ios::trunc) << content;
 }

@@ -42,6 +42,8 @@ class ScriptUser : public User {
 
   // The tables of dialogs as they looked before each press and at the end.
   const std::vector<std::string>& shown() const { return shown_; }
+  // What the user was asked for, apart from boxes: picks, files, texts.
+  const std::vector<std::string>& asked() const { return asked_; }
 
   // Writes down in `record` what is shown and asked; null: no longer.
   void StartNoting(CommandRecord* record) { noting_ = record; }
@@ -83,7 +85,8 @@ class ScriptUser : public User {
 
   ScriptRun& run_;
   CommandRecord* noting_ = nullptr;
-  std::vector<std::string> shown_;  // kept for sweeps only
+  std::vector<std::string> shown_;  // kept for sweeps only, like the next
+  std::vector<std::string> asked_;
   std::vector<Level> levels_;
   ScriptMoments moments_;
   std::vector<LiveDialog*> dialogs_;

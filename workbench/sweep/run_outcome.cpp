@@ -2,6 +2,8 @@
 #include "workbench/sweep/run_outcome.h"
 
 #include <algorithm>
+#include <fstream>
+#include <iterator>
 
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
@@ -12,9 +14,12 @@ namespace {
 
 constexpr std::string_view kClosing = " ended with ";
 
-std::vector<std::string> Said(const Host& host, size_t mark) {
-  std::vector<std::string> said = host.events.TextsSince<Note>(mark);
-  for (const MessageBox& box : host.events.Since<MessageBox>(mark)) said.push_back(box.text);
+std::vector<std::string> Said(const ScriptRun& run, const RunMark& mark) {
+  const Events& events = run.host.events;
+  std::vector<std::string> said = events.TextsSince<Note>(mark.events);
+  for (const MessageBox& box : events.Since<MessageBox>(mark.events)) said.push_back(box.text);
+  const auto& asked = run.user.asked();
+  said.insert(said.end(), asked.begin() + static_cast<long>(mark.asked), asked.end());
   return said;
 }
 
@@ -32,8 +37,20 @@ std::vector<std::string> Started(const Host& host, size_t mark) {
   return started;
 }
 
-std::string LogText(const ScriptRun& run) {
-  return ReadFileBytes(run.folders.local / "Quillmax" / "quillmax.log").value_or("");
+std::filesystem::path LogFile(const ScriptRun& run) {
+  return run.folders.local / "Quillmax" / "quillmax.log";
+}
+
+uintmax_t LogSize(const ScriptRun& run) {
+  std::error_code error;
+  const uintmax_t size = std::filesystem::file_size(LogFile(run), error);
+  return error ? 0 : size;
+}
+
+std::string LogFrom(const ScriptRun& run, uintmax_t start) {
+  std::ifstream file(LogFile(run), std::ios::binary);
+  file.seekg(static_cast<std::streamoff>(start));
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 // A line without its time stamp, and without the seconds that the command took.
@@ -47,10 +64,10 @@ std::string WithoutTimes(const std::string& line) {
 }
 
 // A log that has grown to its bound begins anew.
-std::vector<std::string> Logged(const ScriptRun& run, size_t mark) {
-  const std::string log = LogText(run);
+std::vector<std::string> Logged(const ScriptRun& run, uintmax_t mark) {
+  const std::string log = LogFrom(run, mark <= LogSize(run) ? mark : 0);
   std::vector<std::string> lines;
-  for (size_t at = mark <= log.size() ? mark : 0; at < log.size();) {
+  for (size_t at = 0; at < log.size();) {
     const size_t end = std::min(log.find('\n', at), log.size());
     lines.push_back(WithoutTimes(Trimmed(log.substr(at, end - at))));
     at = end + 1;
@@ -98,7 +115,7 @@ std::string Strange(const RunOutcome& outcome, const RunOutcome& clean,
 }  // namespace
 
 RunMark MarkRun(const ScriptRun& run) {
-  return {run.host.events.Mark(), run.user.shown().size(), LogText(run).size()};
+  return {run.host.events.Mark(), run.user.shown().size(), run.user.asked().size(), LogSize(run)};
 }
 
 RunOutcome OutcomeOf(ScriptRun& run, const CommandRun& result, const RunMark& mark,
@@ -106,7 +123,7 @@ RunOutcome OutcomeOf(ScriptRun& run, const CommandRun& result, const RunMark& ma
   RunOutcome outcome;
   outcome.refused = !result.available || result.status != 0;
   outcome.status = result.status;
-  outcome.said = Said(run.host, mark.events);
+  outcome.said = Said(run, mark);
   outcome.started = Started(run.host, mark.events);
   outcome.shown.assign(run.user.shown().begin() + static_cast<long>(mark.shown),
                        run.user.shown().end());

@@ -15,7 +15,7 @@ class ScriptRun;
 struct RunOutcome {
   bool refused = false;  // a failing status, or the access rule's
   int status = 0;
-  std::vector<std::string> said;     // in boxes and notes
+  std::vector<std::string> said;     // in boxes and notes, and by asking for something
   std::vector<std::string> started;  // programs, macros and movements of the mouse
   std::vector<std::string> shown;    // the tables of its dialogs, before each press and at the end
   std::vector<std::string> logged;   // lines of the run log, without times
@@ -26,7 +26,8 @@ struct RunOutcome {
 struct RunMark {
   size_t events = 0;
   size_t shown = 0;
-  size_t log = 0;
+  size_t asked = 0;
+  uintmax_t log = 0;  // bytes
 };
 RunMark MarkRun(const ScriptRun& run);
 

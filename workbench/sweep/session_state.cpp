@@ -15,6 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr size_t kMostShown = 60;
+constexpr int kBaseWindow = 0;
 constexpr std::string_view kWideMark = "\xFF\xFE";
 
 std::string NameOf(const Model* model) {
@@ -33,14 +34,24 @@ void AddModel(Model& model, SessionState* state) {
   });
 }
 
+std::string ShownIn(Session& session, int id) {
+  const Window* const window = session.FindWindow(id);
+  return window == nullptr ? "no window" : NameOf(window->model);
+}
+
+// By what they show: the numbers of windows go on from run to run.
+void AddWindows(Session& session, SessionState* state) {
+  for (const Window& window : session.windows()) {
+    if (window.model != nullptr) (*state)["window of " + NameOf(window.model)] = "open";
+  }
+  (*state)["base window"] = ShownIn(session, kBaseWindow);
+  (*state)["current window"] = ShownIn(session, session.current_window());
+  (*state)["active window"] = ShownIn(session, session.active_window());
+}
+
 void AddSession(Session& session, SessionState* state) {
   for (const auto& model : session.models()) AddModel(*model, state);
-  for (const Window& window : session.windows()) {
-    if (window.model == nullptr) continue;
-    (*state)["window " + std::to_string(window.id)] = NameOf(window.model);
-  }
-  (*state)["current window"] = std::to_string(session.current_window());
-  (*state)["active window"] = std::to_string(session.active_window());
+  AddWindows(session, state);
   (*state)["working directory"] = PathToUtf8(session.working_directory());
   std::error_code error;
   (*state)["current folder"] = PathToUtf8(fs::current_path(error));

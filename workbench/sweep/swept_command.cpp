@@ -22,7 +22,8 @@ SweptCommand::~SweptCommand() {
 CommandRun SweptCommand::RunOnce(const FaultPlan& plan) {
   run_.BeginMarks();
   if (plan.nth != 0) run_.host.faults.Order(plan);
-  all_calls_fail_ = plan.nth != 0 && plan.from_then_on;
+  // One refusal must be borne, two need not.
+  may_leave_directory_ = plan.nth != 0 && (plan.from_then_on || plan.second_nth != 0);
   CommandRun result;
   run_.user.Answering(statement_, statement_.block,
                       [&] { result = RunCommand(statement_.Text("COMMAND")); });
@@ -57,7 +58,9 @@ std::vector<std::filesystem::path> SweptCommand::Folders() const {
 
 void SweptCommand::CheckRestored(const CommandRun& result,
                                  std::vector<std::string>* complaints) const {
-  const bool may_change = changes_directory_ || all_calls_fail_;
+  const bool cannot_change =
+      may_leave_directory_ && run_.host.faults.HasStruck("ProDirectoryChange");
+  const bool may_change = changes_directory_ || cannot_change;
   if (!may_change && result.directory_before != result.directory_after) {
     complaints->push_back("the working directory was left changed");
   }

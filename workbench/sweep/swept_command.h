@@ -42,8 +42,8 @@ class SweptCommand {
   const Statement& statement_;
   const bool kept_lines_;
   const std::map<std::string, std::vector<std::string>> options_;  // before the sweep
-  bool changes_directory_ = false;  // the command does so without any fault
-  bool all_calls_fail_ = false;     // from some call on: nothing can be changed back
+  bool changes_directory_ = false;    // the command does so without any fault
+  bool may_leave_directory_ = false;  // when the host refuses to change it
 };
 
 }  // namespace wb

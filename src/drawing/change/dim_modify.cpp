@@ -49,9 +49,8 @@ void ChangeOn(const Place& place, const DimensionChange& change, ProModelitem di
 }
 
 void ChangeSelected(const Place& place, const DimensionChange& change,
-                    const SelectionArray& selected) {
-  const int count = selected.size();
-  for (int i = 0; i < count; ++i) {
+                    const Preselected& selected) {
+  for (int i = 0; i < selected.size(); ++i) {
     const auto item = ItemOf(selected[i]);
     if (item && item->type == PRO_DIMENSION) ChangeOn(place, change, *item);
   }
@@ -84,8 +83,8 @@ ProError Change(const DialogView& dialog, const DimButton& button) {
   } else {
     ChangePicked(place, change);
   }
-  if (ClearsSelection(button.change)) ProSelbufferClear();
-  return PRO_TK_NO_ERROR;
+  // The next button would change what the user takes for let go.
+  return ClearsSelection(button.change) ? ProSelbufferClear() : PRO_TK_NO_ERROR;
 }
 
 void Press(const DialogView& dialog, const DimButton& button) {

@@ -47,6 +47,10 @@ int SheetCount(ProDrawing drawing) {
   return count > 0 ? count : 0;
 }
 
+void ShowSheet(ProDrawing drawing, int sheet) {
+  Told(drawing, "ProDrawingCurrentSheetSet", ProDrawingCurrentSheetSet(drawing, sheet));
+}
+
 ProSolid SolidOf(ProDrawing drawing, ProView view) {
   ProSolid solid = nullptr;
   const ProError status = ProDrawingViewSolidGet(drawing, view, &solid);

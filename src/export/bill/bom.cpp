@@ -119,7 +119,9 @@ class ShownModel {
   void ShowAgain() const {
     if (!current_) return;
     const ProMdl model = name_ ? RetrieveModel(*name_, current_->type) : current_->model;
-    if (model != nullptr) ProMdlDisplay(model);
+    if (model == nullptr) return;
+    const ProError status = ProMdlDisplay(model);
+    if (!Ok(status)) LogFailure(model, "ProMdlDisplay", status);
   }
 
  private:

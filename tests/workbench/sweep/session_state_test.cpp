@@ -65,8 +65,8 @@ TEST_F(SessionStates, EveryChangeAroundTheModelsIsSeenAndPutBack) {
   WriteFile("new.txt", "new");
   const Lines changed = Differences(before, Now());
   for (const std::string name :
-       {"current window", "active window", "selection", "working directory", "new.prt modified",
-        "option pro_format_dir", "last.ini [last] model", "file new.txt"}) {
+       {"window of box.drw", "current window", "active window", "selection", "working directory",
+        "new.prt modified", "option pro_format_dir", "last.ini [last] model", "file new.txt"}) {
     EXPECT_TRUE(std::ranges::count(changed, name)) << name;
   }
   start.Restore(host_);
