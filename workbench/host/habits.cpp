@@ -5,14 +5,14 @@ namespace wb {
 
 std::span<const HabitRow> HabitRows() {
   static constexpr HabitRow kRows[] = {
-      {"radio_without_choice_succeeds", &Habits::radio_without_choice_succeeds},
-      {"empty_preselection_succeeds", &Habits::empty_preselection_succeeds},
-      {"second_registration_fails", &Habits::second_registration_fails},
-      {"empty_neighbour_is_refused", &Habits::empty_neighbour_is_refused},
+      {"radio_without_choice_succeeds", &Habits::radio_without_choice_succeeds, true},
+      {"empty_preselection_succeeds", &Habits::empty_preselection_succeeds, true},
+      {"second_registration_fails", &Habits::second_registration_fails, true},
+      {"empty_neighbour_is_refused", &Habits::empty_neighbour_is_refused, true},
       {"null_neighbour_is_refused", &Habits::null_neighbour_is_refused},
-      {"option_menu_answers_label", &Habits::option_menu_answers_label},
-      {"lacking_field_is_an_error", &Habits::lacking_field_is_an_error},
-      {"model_data_has_name_first", &Habits::model_data_has_name_first},
+      {"option_menu_answers_label", &Habits::option_menu_answers_label, true},
+      {"lacking_field_is_an_error", &Habits::lacking_field_is_an_error, true},
+      {"model_data_has_name_first", &Habits::model_data_has_name_first, true},
       {"model_data_has_unknown_order", &Habits::model_data_has_unknown_order},
       {"resources_lie_beside_text", &Habits::resources_lie_beside_text},
       {"surface_data_has_unknown_order", &Habits::surface_data_has_unknown_order},
@@ -39,6 +39,12 @@ std::span<const HabitRow> HabitRows() {
       {"chosen_folder_has_separator", &Habits::chosen_folder_has_separator},
   };
   return kRows;
+}
+
+Habits OtherHabits() {
+  Habits habits;
+  for (const HabitRow& row : HabitRows()) habits.*row.habit = row.is_in_other_set;
+  return habits;
 }
 
 }  // namespace wb

@@ -75,8 +75,7 @@ class Replacement {
 
   // `model` belongs to the format; that of the last view on the sheet where there is one.
   void OnSheet(int sheet, const std::vector<ProView>& views, ProSolid& model) {
-    LogPassedOver(drawing_, "ProDrawingCurrentSheetSet",
-                  ProDrawingCurrentSheetSet(drawing_, sheet));
+    ShowSheet(drawing_, sheet);
     for (ProView view : views) {
       if (ProSolid solid = SolidOf(drawing_, view)) model = solid;
     }

@@ -3,13 +3,19 @@
 
 #include <windows.h>
 
+#include "frame/messages/run_log.h"
 #include "frame/settings/config.h"
 #include "frame/text/text.h"
 
 namespace qm {
 
 void OpenInNotepad(const wchar_t* file) {
-  ::WinExec(ToAnsi(L"notepad.exe " + ConfigPath(file)).c_str(), SW_SHOW);
+  constexpr UINT kLastFailure = 31;
+  const std::wstring path = ConfigPath(file);
+  const UINT answer = ::WinExec(ToAnsi(L"notepad.exe " + path).c_str(), SW_SHOW);
+  LogEvent(
+      "notepad for " + ToUtf8(path) +
+      (answer > kLastFailure ? std::string() : ": Windows answered " + std::to_string(answer)));
 }
 
 }  // namespace qm
