@@ -241,7 +241,8 @@ class Exporter : public AbsentUser {
   static void Check(LiveDialog& dialog, const char* button, bool wanted) {
     CheckState* state = nullptr;
     ASSERT_EQ(dialog.state.Find(FieldKind::kCheckButton, button, &state), UiStatus::kOk);
-    if (state->set != wanted) EXPECT_TRUE(dialog.state.UserToggle(button).Done());
+    if (state->set == wanted) return;
+    EXPECT_TRUE(dialog.state.UserToggle(button).Done());
   }
   static void Press(LiveDialog& dialog, const char* button) {
     EXPECT_TRUE(dialog.state.UserPress(button).Done());
