@@ -26,8 +26,9 @@ std::vector<int> SizesFor(const BenchShape& shape, const std::vector<int>& sizes
   return fitting;
 }
 
-// Multiples of the number of drawings between two notes, so that these are linear as well.
-constexpr int kFolderSizes[] = {40, 100, 200};
+// Multiples of the numbers of drawings between two notes, and between two erasings of what is not
+// displayed, so that these are linear as well.
+constexpr int kFolderSizes[] = {60, 120, 240};
 
 BenchResult MeasureAll(const BenchOptions& options, const InstallCopy& copy) {
   BenchResult all;

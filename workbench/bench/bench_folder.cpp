@@ -13,18 +13,25 @@
 namespace wb {
 namespace {
 
-constexpr const char* kFolderCommands[] = {"QmDrwScaleCheck", "QmFrmReplace"};
+constexpr const char* kFolderCommands[] = {"QmDrwScaleCheck", "QmFrmReplace", "QmExport"};
 
-// Presses the one button of the dialog, chooses the format and reads all boxes away.
+// Works the dialogs, chooses the format and reads all boxes away.
 class FolderUser : public User {
  public:
   explicit FolderUser(std::string format) : format_(std::move(format)) {}
 
   void WorkDialog(LiveDialog& dialog) override {
-    const bool works = dialog.state.UserPress("QmFrmReplaceAct").Done() &&
-                       dialog.Fire("QmFrmReplaceAct", kActivateEvent) &&
-                       dialog.Fire("", kCloseEvent);
-    if (!works) throw std::runtime_error("the formats cannot be replaced");
+    if (dialog.name == "QmExport") {
+      for (const char* check :
+           {"DXFCheck", "PDFCheck", "STPCheck", "IGSCheck", "MultiSheetCheck"}) {
+        Require(dialog.state.UserToggle(check).Done(), "no check of an export");
+      }
+      Press(dialog, "selAll");
+      Press(dialog, "ApplyBt");
+    } else {
+      Press(dialog, "QmFrmReplaceAct");
+    }
+    Require(dialog.Fire("", kCloseEvent), "a dialog cannot be closed");
   }
   std::optional<std::string> ChooseFile(const FileRequest&) override { return format_; }
   int AnswerMessageBox(const MessageBox&) override { return 1; }
@@ -32,6 +39,13 @@ class FolderUser : public User {
   std::optional<std::string> AnswerPrompt(const std::string&, int) override { return std::nullopt; }
 
  private:
+  static void Require(bool works, const char* what) {
+    if (!works) throw std::runtime_error(what);
+  }
+  static void Press(LiveDialog& dialog, const char* button) {
+    Require(dialog.state.UserPress(button).Done() && dialog.Fire(button, kActivateEvent), button);
+  }
+
   std::string format_;
 };
 
@@ -96,6 +110,8 @@ class FolderBench {
     host_.install_folder = dll.parent_path();
     host_.windows.local_app_folder = folder;
     host_.session.ChangeDirectory(folder_.path());
+    // The plug-in is measured, and not the disk.
+    host_.writers.Order(std::nullopt, WriterConduct::kWritesNothing, "");
     plugin_.emplace(dll);
     if (plugin_->Start() != 0) throw std::runtime_error("the plug-in does not start");
   }

@@ -74,7 +74,8 @@ class RenameBatch : public PluginHost {
     Model& top = Add({"top", ModelKind::kAssembly});
     for (int i = 0; i < count; ++i) {
       const ModelKind kind = i % 3 == 0 ? ModelKind::kAssembly : ModelKind::kPart;
-      Row row{{"old_" + std::to_string(i), kind}};
+      Row row;
+      row.before = {"old_" + std::to_string(i), kind};
       row.has_drawing = i % 2 == 0;
       Model& model = Add(row.before);
       top.solid().features.Add(NewComponent(i + 1, model.id));
@@ -168,7 +169,8 @@ class RenameBatch : public PluginHost {
     EXPECT_TRUE(run.known && run.available);
     EXPECT_EQ(run.left_out, Lines());
     EXPECT_EQ(TakeBreaches(), Lines());
-    return host_.trace.calls();
+    // The run log asks for its folder when it is full of lines, which is no host call.
+    return host_.trace.calls() - host_.trace.Count("SHGetFolderPathW");
   }
 
   long Count(const std::string& function) const {
@@ -320,7 +322,8 @@ TEST_F(RenameBatch, TheJournalIsTrueBetweenAnyTwoCalls) {
   user_.at_call = nullptr;
   EXPECT_GT(moments, 20);
   for (const Row& row : rows_) {
-    if (row.renamed) EXPECT_NE(host_.session.Find({row.typed, row.before.kind}), nullptr);
+    const bool there = host_.session.Find({row.typed, row.before.kind}) != nullptr;
+    EXPECT_TRUE(there || !row.renamed) << row.typed;
   }
   EXPECT_NE(ReadFileBytes(file).value_or("").find("end: 6 renamed, 0 not\r\n"), std::string::npos);
 }

@@ -53,7 +53,7 @@ TEST(NewNameRules, ARowOfNeitherTypeIsIllegalHoweverItsTypeIsWritten) {
 TEST(NewNameRules, WhatWouldNameSomethingElseIsNeverAskedFor) {
   for (const wchar_t* name :
        {L"a\\b", L"a/b", L"c:a", L"a*", L"a?", L"a<b>", L"a|b", L"a\"b", L"a\tb", L"a\nb"}) {
-    EXPECT_EQ(Of(name), NewName::kIllegal) << name[1];
+    EXPECT_EQ(Of(name), NewName::kIllegal) << static_cast<int>(name[1]);
   }
   // What the host thinks of these shows when they are tried.
   for (const wchar_t* name : {L"a.b", L"a b", L"-a", L"螺栓"}) {
