@@ -12,7 +12,7 @@ namespace wb {
 namespace {
 
 // One mistake tends to show at many calls; these many are told in full.
-constexpr int kMostToldRuns = 10;
+constexpr size_t kMostToldRuns = 25;
 // A command that makes more calls than this on a small model goes round in circles.
 constexpr long kMostCalls = 100000;
 // Pairs begin at so many of the first calls and so many of the others. The second call lies close
@@ -66,7 +66,7 @@ void Sweep::RunClean() {
   std::vector<std::string> complaints = command_.ComplaintsOfClean(result);
   clean_ = OutcomeOf(run_, result, mark, folders_);
   PutBack(&complaints);
-  Tell("without any fault", complaints);
+  Tell("without any fault", "", complaints);
 }
 
 void Sweep::RunKind(const Kind& kind) {
@@ -109,7 +109,7 @@ bool Sweep::RunOne(const FaultPlan& plan, const std::string& which) {
   PutBack(&complaints);
   if (!has_struck) return false;
   ++faults_;
-  Tell(which + " at " + at, complaints);
+  Tell(which, at, complaints);
   return true;
 }
 
@@ -133,10 +133,15 @@ void Sweep::PutBack(std::vector<std::string>* complaints) {
   complaints->insert(complaints->end(), left.begin(), left.end());
 }
 
-void Sweep::Tell(const std::string& which, const std::vector<std::string>& complaints) {
-  if (complaints.empty() || ++bad_runs_ > kMostToldRuns) return;
-  run_.Fail(statement_, which + " (" + run_.host.trace.last() +
-                            " was the last call): " + Join("; ", complaints));
+void Sweep::Tell(const std::string& which, const std::string& at,
+                 const std::vector<std::string>& complaints) {
+  if (complaints.empty()) return;
+  ++bad_runs_;
+  const std::string what = Join("; ", complaints);
+  const bool is_new = told_.size() < kMostToldRuns && told_.insert(at + what).second;
+  if (!is_new) return;
+  run_.Fail(statement_, which + (at.empty() ? "" : " at " + at) + " (" + run_.host.trace.last() +
+                            " was the last call): " + what);
 }
 
 }  // namespace wb

@@ -10,9 +10,9 @@
 
 namespace wb {
 
-// Facts of models (of drawings with their sheets, views, tables and dimensions), windows, selection,
-// folders at work, options, clipboard, registered commands, entries of settings and contents of
-// other files.
+// Facts of models (of drawings with their sheets, views, tables and dimensions), windows,
+// selection, folders at work, options, clipboard, registered commands, entries of settings and
+// contents of other files.
 using SessionState = std::map<std::string, std::string>;
 
 SessionState StateNow(Host& host, const std::vector<std::filesystem::path>& folders);
