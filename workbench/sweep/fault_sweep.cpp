@@ -113,15 +113,16 @@ bool Sweep::RunOne(const FaultPlan& plan, const std::string& which) {
   return true;
 }
 
-// What claims success and gives nothing may be believed; and nobody can tell of a failure when what
-// tells of it fails as well.
+// What claims success and gives nothing may be believed, unless it is a text that is missing; and
+// nobody can tell of a failure when what tells of it fails as well.
 void Sweep::CheckOutcome(const RunOutcome& outcome, const FaultPlan& plan,
                          std::vector<std::string>* complaints) const {
   const Faults& faults = run_.host.faults;
   const bool fails_all = plan.from_then_on && !plan.spares_telling;
   const bool may_lose_log = plan.second_nth != 0 && faults.HasStruckTelling();
   const bool can_be_told = !fails_all && !may_lose_log && !faults.HasStruck("MessageBoxW");
-  if (plan.kind == FaultKind::kEmptySuccess || !can_be_told) return;
+  const bool may_be_believed = plan.kind == FaultKind::kEmptySuccess && !faults.HasStruckText();
+  if (may_be_believed || !can_be_told) return;
   const std::string harm = UntoldHarm(outcome, clean_, before_);
   if (!harm.empty()) complaints->push_back(harm);
 }

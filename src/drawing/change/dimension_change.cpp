@@ -17,8 +17,8 @@ constexpr double kSameTolerance = 1e-9;
 
 void LogAnswer(const ProModelitem& dimension, const char* function, ProError status) {
   if (Ok(status)) return;
-  LogEvent("dimension " + std::to_string(dimension.id) + ": " + function + " answered " +
-           StatusName(status));
+  LogFailure("dimension " + std::to_string(dimension.id) + ": " + function + " answered " +
+             StatusName(status));
 }
 
 // A line of an array that owns its host's memory.

@@ -33,17 +33,29 @@ int SheetOf(ProDwgtable& table) {
   return Ok(ProDwgtableSegSheetGet(&table, kWholeTable, &sheet)) ? sheet : 0;
 }
 
+// Whether the answer counts; a table of the old format that is lost on the way stays in the
+// drawing.
+bool Told(ProDrawing drawing, const char* function, ProError status) {
+  if (!Ok(status)) LogFailure(drawing, function, status);
+  return Ok(status);
+}
+
 // Tables of formats, by the sheet they lie on.
 std::unordered_map<int, std::vector<ProDwgtable>> FormatTables(ProDrawing drawing) {
   std::unordered_map<int, std::vector<ProDwgtable>> tables;
   HostArray<ProDwgtable> array;
-  if (!Ok(ProDrawingTablesCollect(drawing, array.put()))) return tables;
-  const int count = array.size();
-  for (int i = 0; i < count; ++i) {
+  const ProError collected = ProDrawingTablesCollect(drawing, array.put());
+  if (collected == PRO_TK_E_NOT_FOUND) return tables;
+  if (!Told(drawing, "ProDrawingTablesCollect", collected)) return tables;
+  const auto count = ToldArraySize(array.get());
+  if (!count) LogFailure(drawing, "ProArraySizeGet", PRO_TK_GENERAL_ERROR);
+  for (int i = 0; i < count.value_or(0); ++i) {
     ProBoolean is_from_format = PRO_B_FALSE;
-    if (Ok(ProDwgtableIsFromFormat(&array[i], &is_from_format)) && is_from_format) {
-      tables[SheetOf(array[i])].push_back(array[i]);
-    }
+    const ProError status = ProDwgtableIsFromFormat(&array[i], &is_from_format);
+    if (!Told(drawing, "ProDwgtableIsFromFormat", status) || !is_from_format) continue;
+    const int sheet = SheetOf(array[i]);
+    if (sheet == 0) LogFailure(drawing, "ProDwgtableSegSheetGet", PRO_TK_GENERAL_ERROR);
+    tables[sheet].push_back(array[i]);
   }
   return tables;
 }
@@ -73,7 +85,8 @@ class Replacement {
     }
     if (model != nullptr) ProDrawingCurrentsolidSet(drawing_, model);
     for (ProDwgtable& table : tables_[sheet]) {
-      if (Ok(ProDwgtableDelete(&table, PRO_B_FALSE))) ++counts_.tables;
+      const ProError deleted = ProDwgtableDelete(&table, PRO_B_FALSE);
+      if (Told(drawing_, "ProDwgtableDelete", deleted)) ++counts_.tables;
     }
     if (format_ == nullptr || model == nullptr) return;
     const ProError status = ProDrawingFormatAdd(drawing_, sheet, model, format_, kFormatSheet);

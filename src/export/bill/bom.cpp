@@ -119,7 +119,7 @@ class ShownModel {
   void ShowAgain() const {
     if (!current_) return;
     const ProMdl model = name_ ? RetrieveModel(*name_, current_->type) : current_->model;
-    if (model == nullptr) return;
+    if (model == nullptr) return LogFailure("what was shown before is not shown again");
     const ProError status = ProMdlDisplay(model);
     if (!Ok(status)) LogFailure(model, "ProMdlDisplay", status);
   }

@@ -53,7 +53,7 @@ std::wstring NameInPath(const std::wstring& path) {
     status = ProFilenameParse(full, folder, name, extension, &version);
   }
   if (Ok(status)) return std::wstring(FixedText(name));
-  LogEvent("ProFilenameParse of " + ToUtf8(path) + " answered " + StatusName(status));
+  LogFailure("ProFilenameParse of " + ToUtf8(path) + " answered " + StatusName(status));
   return {};
 }
 
