@@ -25,6 +25,7 @@ std::optional<std::wstring> PickDrawingFile(std::wstring title, std::wstring fil
     LogFailure(std::string("ProFileOpen answered ") + StatusName(status));
   }
   const std::wstring path(FixedText(chosen));
+  if (Ok(status) && path.empty()) LogFailure("ProFileOpen answered success and gave no file");
   return Ok(status) && !path.empty() ? std::optional(path) : std::nullopt;
 }
 

@@ -52,7 +52,7 @@ std::wstring NameInPath(const std::wstring& path) {
   if (FillFixedText(path, full)) {
     status = ProFilenameParse(full, folder, name, extension, &version);
   }
-  if (Ok(status)) return std::wstring(FixedText(name));
+  if (Ok(status) && !FixedText(name).empty()) return std::wstring(FixedText(name));
   LogFailure("ProFilenameParse of " + ToUtf8(path) + " answered " + StatusName(status));
   return {};
 }
