@@ -27,10 +27,8 @@ struct FaultPlan {
 
 class Faults {
  public:
-  void Order(FaultPlan plan) {
-    plan_ = std::move(plan), seen_ = 0, struck_ = 0, names_.clear(), first_name_.clear();
-  }
-  void Clear() { plan_.reset(), names_.clear(), first_name_.clear(); }
+  void Order(FaultPlan plan) { Clear(), plan_ = std::move(plan), seen_ = 0, struck_ = 0; }
+  void Clear() { plan_.reset(), names_.clear(), first_name_.clear(), has_struck_text_ = false; }
   // The fault this call of `function` meets, if any.
   const FaultPlan* Strike(const char* function);
   // The same for an intercepted Windows call: unless the plan names it, it counts only where the
@@ -46,6 +44,9 @@ class Faults {
   bool HasStruck(const std::string& function) const { return names_.contains(function); }
   // Whether a call that tells the user, or writes the run log, is among them.
   bool HasStruckTelling() const;
+  // A call that is struck should have given a text: that there is none can be noticed.
+  void NoteText() { has_struck_text_ = true; }
+  bool HasStruckText() const { return has_struck_text_; }
   // The first function struck, "" for none.
   const std::string& first_struck() const { return first_name_; }
   // How many it could have failed so far.
@@ -59,6 +60,7 @@ class Faults {
   long struck_ = 0;
   std::set<std::string> names_;  // of the functions struck
   std::string first_name_;
+  bool has_struck_text_ = false;
 };
 
 }  // namespace wb

@@ -64,7 +64,7 @@ void Sweep::RunClean() {
   std::vector<std::string> complaints = command_.ComplaintsOfClean(result);
   clean_ = OutcomeOf(run_, result, mark, folders_);
   PutBack(&complaints);
-  Tell("without any fault", complaints);
+  Tell("without any fault", "", complaints);
 }
 
 void Sweep::RunKind(const Kind& kind) {
@@ -107,19 +107,20 @@ bool Sweep::RunOne(const FaultPlan& plan, const std::string& which) {
   PutBack(&complaints);
   if (!has_struck) return false;
   ++faults_;
-  Tell(which + " at " + at, complaints);
+  Tell(which, at, complaints);
   return true;
 }
 
-// What claims success and gives nothing may be believed; and nobody can tell of a failure when what
-// tells of it fails as well.
+// What claims success and gives nothing may be believed, unless it is a text that is missing; and
+// nobody can tell of a failure when what tells of it fails as well.
 void Sweep::CheckOutcome(const RunOutcome& outcome, const FaultPlan& plan,
                          std::vector<std::string>* complaints) const {
   const Faults& faults = run_.host.faults;
   const bool fails_all = plan.from_then_on && !plan.spares_telling;
   const bool may_lose_log = plan.second_nth != 0 && faults.HasStruckTelling();
   const bool can_be_told = !fails_all && !may_lose_log && !faults.HasStruck("MessageBoxW");
-  if (plan.kind == FaultKind::kEmptySuccess || !can_be_told) return;
+  const bool may_be_believed = plan.kind == FaultKind::kEmptySuccess && !faults.HasStruckText();
+  if (may_be_believed || !can_be_told) return;
   const std::string harm = UntoldHarm(outcome, clean_, before_);
   if (!harm.empty()) complaints->push_back(harm);
 }
@@ -131,10 +132,15 @@ void Sweep::PutBack(std::vector<std::string>* complaints) {
   complaints->insert(complaints->end(), left.begin(), left.end());
 }
 
-void Sweep::Tell(const std::string& which, const std::vector<std::string>& complaints) {
-  if (complaints.empty() || ++bad_runs_ > kMostToldRuns) return;
-  run_.Fail(statement_, which + " (" + run_.host.trace.last() +
-                            " was the last call): " + Join("; ", complaints));
+void Sweep::Tell(const std::string& which, const std::string& at,
+                 const std::vector<std::string>& complaints) {
+  if (complaints.empty()) return;
+  ++bad_runs_;
+  const std::string what = Join("; ", complaints);
+  const bool is_new = told_.size() < kMostToldRuns && told_.insert(at + what).second;
+  if (!is_new) return;
+  run_.Fail(statement_, which + (at.empty() ? "" : " at " + at) + " (" + run_.host.trace.last() +
+                            " was the last call): " + what);
 }
 
 }  // namespace wb

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -33,7 +34,9 @@ class Sweep {
   void CheckOutcome(const RunOutcome& outcome, const FaultPlan& plan,
                     std::vector<std::string>* complaints) const;
   void PutBack(std::vector<std::string>* complaints);
-  void Tell(const std::string& which, const std::vector<std::string>& complaints);
+  // Where `at` the same has been told before, the run is only counted.
+  void Tell(const std::string& which, const std::string& at,
+            const std::vector<std::string>& complaints);
 
   ScriptRun& run_;
   const Statement& statement_;
@@ -45,6 +48,7 @@ class Sweep {
   long clean_calls_ = 0;
   long faults_ = 0;
   int bad_runs_ = 0;
+  std::set<std::string> told_;
 };
 
 }  // namespace wb

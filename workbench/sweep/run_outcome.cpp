@@ -82,6 +82,13 @@ bool Holds(std::vector<std::string> all, std::vector<std::string> some) {
   return std::includes(all.begin(), all.end(), some.begin(), some.end());
 }
 
+// What the log says came of the command and of what was pressed in its dialogs.
+std::vector<std::string> ClosingLines(std::vector<std::string> logged) {
+  std::erase_if(logged,
+                [](const std::string& line) { return line.find(kClosing) == std::string::npos; });
+  return logged;
+}
+
 bool DidItsWork(const RunOutcome& outcome, const RunOutcome& clean) {
   return outcome.status == clean.status && outcome.state == clean.state &&
          outcome.started == clean.started && Holds(outcome.said, clean.said);
@@ -143,7 +150,8 @@ std::string SilentHarm(const RunOutcome& outcome, const RunOutcome& clean,
 
 std::string UntoldHarm(const RunOutcome& outcome, const RunOutcome& clean,
                        const SessionState& before) {
-  const bool log_tells = !Holds(clean.logged, outcome.logged);
+  const auto closing = ClosingLines(outcome.logged);
+  const bool log_tells = !Holds(ClosingLines(clean.logged), closing);
   const bool is_refused = outcome.refused && !clean.refused;
   const bool is_told = log_tells || is_refused || !Holds(clean.said, outcome.said);
   const std::string strange = Strange(outcome, clean, before);
@@ -151,9 +159,8 @@ std::string UntoldHarm(const RunOutcome& outcome, const RunOutcome& clean,
   const std::string undone = Undone(outcome, clean);
   if (undone.empty()) return "";
   if (!is_told) return "work left undone without a word: " + undone;
-  const bool log_was_written = !outcome.logged.empty();
-  if (!log_tells && log_was_written) {
-    return "the run log says \"" + outcome.logged.back() + "\" as without a fault: " + undone;
+  if (!log_tells && !closing.empty()) {
+    return "the run log says \"" + closing.back() + "\" as without a fault: " + undone;
   }
   return "";
 }

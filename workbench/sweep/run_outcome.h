@@ -41,8 +41,9 @@ std::string SilentHarm(const RunOutcome& outcome, const RunOutcome& clean,
                        const SessionState& before);
 
 // A command may leave work undone when a call fails, and then tells of it: by a box, a note, its
-// status or the run log, whose closing line is not the one without a fault. What it writes all the
-// same is what it writes otherwise. What is wrong of that, "" for nothing.
+// status or the run log, whose closing line is in any case not the one without a fault: a line
+// before it is lost on who reads what came of the command. What it writes all the same is what it
+// writes otherwise. What is wrong of that, "" for nothing.
 std::string UntoldHarm(const RunOutcome& outcome, const RunOutcome& clean,
                        const SessionState& before);
 

@@ -12,7 +12,7 @@
 namespace wb {
 
 // One mistake tends to show at many calls; these many bad runs of a sweep are told in full.
-inline constexpr int kMostToldRuns = 10;
+inline constexpr int kMostToldRuns = 25;
 
 class ScriptRun;
 struct Statement;

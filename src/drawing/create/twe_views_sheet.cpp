@@ -61,7 +61,7 @@ class ViewSet {
     const ProError status =
         ProDrawingProjectedviewCreate(drawing_, parent_view, PRO_B_FALSE, position, &view);
     if (!Ok(status) || view == nullptr) {
-      LogEvent(std::string("ProDrawingProjectedviewCreate answered ") + StatusName(status));
+      LogFailure(std::string("ProDrawingProjectedviewCreate answered ") + StatusName(status));
       return;
     }
     views_[static_cast<size_t>(row.view)] = view;

@@ -117,7 +117,7 @@ void OpenWorkbookFile(const std::wstring& path) {
   constexpr INT_PTR kLastFailure = 32;
   const auto number = reinterpret_cast<INT_PTR>(answer);
   if (number > kLastFailure) return;
-  LogEvent("the workbook cannot be opened, Windows answered " + std::to_string(number));
+  LogFailure("the workbook cannot be opened, Windows answered " + std::to_string(number));
 }
 
 }  // namespace qm

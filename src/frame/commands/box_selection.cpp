@@ -47,7 +47,8 @@ ProError PreselectByBox(const char* filter) {
   for (int i = 0; i < count; ++i) {
     if (selections[i] == nullptr) continue;
     status = ProSelbufferSelectionAdd(selections[i]);
-    if (!Ok(status)) LogEvent(std::string("not selected, the host answered ") + StatusName(status));
+    if (!Ok(status))
+      LogFailure(std::string("not selected, the host answered ") + StatusName(status));
   }
   return PRO_TK_NO_ERROR;
 }

@@ -85,8 +85,8 @@ void PickTemplate(const DialogView&, const TemplateRow& row) {
   if (!path) return;
   const ProError status = DialogView(kDialog).SetInputValue(row.panel, *path);
   if (Ok(status)) return;
-  LogEvent(std::string(row.panel) + " does not show the chosen file: the host answered " +
-           StatusName(status));
+  LogFailure(std::string(row.panel) + " does not show the chosen file: the host answered " +
+             StatusName(status));
 }
 
 void Bind(const Dialog& dialog, StoredFields& fields) {

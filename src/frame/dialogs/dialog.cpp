@@ -99,7 +99,7 @@ bool Dialog::Create() {
 
 ProError Dialog::Bound(const char* component, ProError status) const {
   if (!Ok(status)) {
-    LogEvent(std::string(component) + " does nothing, the host answered " + StatusName(status));
+    LogFailure(std::string(component) + " does nothing, the host answered " + StatusName(status));
   }
   return status;
 }

@@ -22,9 +22,10 @@ std::optional<std::wstring> PickDrawingFile(std::wstring title, std::wstring fil
   const ProError status = ProFileOpen(title.data(), filter.data(), nullptr, nullptr,
                                       folder.empty() ? nullptr : folder.data(), nullptr, chosen);
   if (!Ok(status) && status != PRO_TK_USER_ABORT) {
-    LogEvent(std::string("ProFileOpen answered ") + StatusName(status));
+    LogFailure(std::string("ProFileOpen answered ") + StatusName(status));
   }
   const std::wstring path(FixedText(chosen));
+  if (Ok(status) && path.empty()) LogFailure("ProFileOpen answered success and gave no file");
   return Ok(status) && !path.empty() ? std::optional(path) : std::nullopt;
 }
 

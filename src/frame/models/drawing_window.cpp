@@ -13,7 +13,7 @@ namespace {
 
 // The answer; a failure is logged, since a drawing that is not brought up is one all the same.
 ProError Logged(const char* function, ProError status) {
-  if (!Ok(status)) LogEvent(std::string(function) + " answered " + StatusName(status));
+  if (!Ok(status)) LogFailure(std::string(function) + " answered " + StatusName(status));
   return status;
 }
 

@@ -8,7 +8,8 @@ namespace qm {
 namespace {
 
 void LogUnread(const char* function, ProError status) {
-  LogEvent(std::string("a selection is not read: ") + function + " answered " + StatusName(status));
+  LogFailure(std::string("a selection is not read: ") + function + " answered " +
+             StatusName(status));
 }
 
 }  // namespace

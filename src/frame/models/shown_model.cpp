@@ -21,7 +21,7 @@ void ShownModel::Renamed(ProMdlType type, std::wstring_view before, std::wstring
 void ShownModel::ShowAgain() const {
   if (!current_) return;
   const ProMdl model = name_ ? RetrieveModel(*name_, current_->type) : current_->model;
-  if (model == nullptr) return;
+  if (model == nullptr) return LogFailure("what was shown before is not shown again");
   const ProError status = ProMdlDisplay(model);
   if (!Ok(status)) LogFailure(model, "ProMdlDisplay", status);
 }

@@ -5,6 +5,7 @@
 
 #include "frame/messages/run_log.h"
 #include "frame/settings/config.h"
+#include "frame/settings/config_rules.h"
 #include "frame/text/text.h"
 
 namespace qm {
@@ -12,10 +13,10 @@ namespace qm {
 void OpenInNotepad(const wchar_t* file) {
   constexpr UINT kLastFailure = 31;
   const std::wstring path = ConfigPath(file);
+  if (LeadsNowhere(path)) return LogFailure("nobody knows where the settings file lies");
   const UINT answer = ::WinExec(ToAnsi(L"notepad.exe " + path).c_str(), SW_SHOW);
-  LogEvent(
-      "notepad for " + ToUtf8(path) +
-      (answer > kLastFailure ? std::string() : ": Windows answered " + std::to_string(answer)));
+  if (answer > kLastFailure) return;
+  LogFailure("notepad was not started, Windows answered " + std::to_string(answer));
 }
 
 }  // namespace qm
