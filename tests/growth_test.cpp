@@ -16,13 +16,14 @@ BenchResult MeasureOnce(const BenchShape& shape, int occurrences, bool with_most
 }
 
 // What one more component may cost: in an assembly of assemblies eight calls in the collection and
-// three after it; in a bill of six columns also its model's facts and its row's cells.
+// three after it; in a bill of six columns also its model's facts and its row's cells, in the list
+// of models to rename its name, its row, and the field in it.
 long MostCallsOf(BenchPart part) {
   if (IsBill(part)) return 27;
   // Ten calls read and write the relations of a model, five find and set its units.
   if (part == BenchPart::kAddRelations) return 18;
   if (part == BenchPart::kSetUnits) return 13;
-  return part == BenchPart::kReadTable ? 18 : 11;
+  return part == BenchPart::kReadTable || part == BenchPart::kRenameList ? 18 : 11;
 }
 
 class Growth : public testing::TestWithParam<BenchShape> {};
@@ -63,7 +64,8 @@ TEST_P(Growth, AComponentCostsAFewHundredBytes) {
     if (row.part == BenchPart::kCollection) continue;
     EXPECT_GT(row.heap_bytes, 0) << BenchPartName(row.part);
     // A row of a bill also holds its texts.
-    const bool has_texts = IsBill(row.part) || row.part == BenchPart::kReadTable;
+    const bool has_texts =
+        IsBill(row.part) || row.part == BenchPart::kReadTable || row.part == BenchPart::kRenameList;
     EXPECT_LT(row.heap_bytes, (has_texts ? 450 : 300) * 2000) << BenchPartName(row.part);
   }
 }
@@ -78,6 +80,25 @@ INSTANTIATE_TEST_SUITE_P(Shapes, Growth,
 TEST(GrowthOfDepth, TenThousandLevelsPass) {
   const BenchResult result = MeasureOnce(*FindBenchShape("chain"), kDeepestChain, false);
   EXPECT_EQ(result.rows.size(), BenchParts().size());
+}
+
+TEST(GrowthOfFolders, HostCallsAreExactlyLinearInTheDrawingsAndProgressIsTold) {
+  std::map<std::string, std::vector<std::pair<long, long>>> calls;
+  for (const int drawings : {60, 120, 240}) {
+    for (const FolderRow& row : MeasureFolder(drawings, Installed().dll(), Installed().work())) {
+      calls[row.command].emplace_back(row.drawings, row.calls);
+      // An export tells each drawing, and at the end how many files there are.
+      const bool is_export = row.command == "QmExport";
+      EXPECT_EQ(row.notes, is_export ? drawings + 1 : drawings / 20 - 1) << row.command;
+    }
+  }
+  ASSERT_EQ(calls.size(), 3u);
+  for (const auto& [command, points] : calls) {
+    EXPECT_TRUE(IsExactlyLinear(points)) << command;
+    // Each drawing has three views and two tables on two sheets, and is exported to ten files.
+    const long most = command == "QmExport" ? 100 : 40;
+    EXPECT_LE(points[1].second - points[0].second, most * 60) << command;
+  }
 }
 
 TEST(GrowthReport, FitsTheExponentOfAPower) {
@@ -101,6 +122,7 @@ TEST(GrowthReport, HoldsEveryRowAndTellsWhichBoundIsMissed) {
   result.rows.push_back(
       {shape, BenchPart::kSummaryBill, 100, 100, 4001, 700, 301, 1, 1, 1, 1, 1, 0});
   result.most_asked = {{"ProMdlNameGet", 2}};
+  for (const int size : {20, 40, 80}) result.folders.push_back({"QmFrmReplace", size, size * size});
   const std::string tables = BenchTables(result, false);
   EXPECT_NE(tables.find("flat   collection          100000  100000      700000           7.000"),
             std::string::npos)
@@ -109,7 +131,9 @@ TEST(GrowthReport, HoldsEveryRowAndTellsWhichBoundIsMissed) {
   for (const BenchBound& bound : CheckBounds(result)) {
     if (!bound.kept) missed.push_back(bound.text + ": " + bound.found);
   }
-  EXPECT_EQ(missed, (Lines{"QmParams asks each model for each fact once: ProMdlNameGet 2 times",
+  EXPECT_EQ(missed, (Lines{"host calls exactly linear in the drawings of a folder: QmFrmReplace "
+                           "are not",
+                           "QmParams asks each model for each fact once: ProMdlNameGet 2 times",
                            "QmBom reads each model's parameter once for each column: 301 readings "
                            "of 100 models (flat)",
                            "QmBom at most 4 host calls for each of the bare walk's and each fact: "

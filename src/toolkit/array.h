@@ -12,6 +12,7 @@ PRO_FUNCTION(ProError, ProArraySizeGet, ProArray array, int* size);
 PRO_FUNCTION(ProError, ProArrayObjectAdd, ProArray* array, int index, int n_objects, void* object);
 
 PRO_FUNCTION(ProError, ProStringarrayFree, char** strings, int count);
+PRO_FUNCTION(ProError, ProStringFree, char* text);
 PRO_FUNCTION(ProError, ProWstringFree, wchar_t* text);
 // A ProArray of texts, each of which is freed as well.
 PRO_FUNCTION(ProError, ProWstringproarrayFree, wchar_t** texts);

@@ -4,10 +4,12 @@
 // handle leaves the owner empty, so users test the owner and not the status alone.
 #pragma once
 
+#include <optional>
 #include <utility>
 #include <vector>
 
 #include "toolkit/array.h"
+#include "toolkit/export.h"
 #include "toolkit/geometry.h"
 #include "toolkit/selection.h"
 #include "toolkit/status.h"
@@ -50,6 +52,9 @@ namespace release {
 inline void Text(wchar_t* text) {
   ProWstringFree(text);
 }
+inline void NarrowText(char* text) {
+  ProStringFree(text);
+}
 inline void Selections(ProSelection* selections) {
   ProSelectionarrayFree(selections);
 }
@@ -58,6 +63,12 @@ inline void Environment(ProSelectionEnv environment) {
 }
 inline void Geometry(ProGeomitemdata* data) {
   ProGeomitemdataFree(&data);
+}
+inline void Data2d(Pro2dExportdata data) {
+  Pro2dExportdataFree(data);
+}
+inline void PdfOptions(ProPDFOptions options) {
+  ProPDFoptionsFree(options);
 }
 inline void ArrayTexts(wchar_t** texts) {
   ProWstringproarrayFree(texts);
@@ -71,16 +82,26 @@ void Array(T* items) {
 }  // namespace release
 
 using WideText = Owner<wchar_t*, &release::Text>;
+using NarrowText = Owner<char*, &release::NarrowText>;
 // An array of the host with texts that are freed with it.
 using TextArray = Owner<wchar_t**, &release::ArrayTexts>;
 using SelectionEnvironment = Owner<ProSelectionEnv, &release::Environment>;
+using ExportData = Owner<Pro2dExportdata, &release::Data2d>;
+using PdfOptions = Owner<ProPDFOptions, &release::PdfOptions>;
 using GeometryData = Owner<ProGeomitemdata*, &release::Geometry>;
 
-// Number of elements of one of the host's arrays; 0 for none or when the host does not tell.
-inline int ArraySize(ProArray array) {
+// Number of elements of one of the host's arrays, 0 for no array; nothing when the host does not
+// tell.
+inline std::optional<int> ToldArraySize(ProArray array) {
   int size = 0;
-  if (array == nullptr || !Ok(ProArraySizeGet(array, &size)) || size < 0) return 0;
-  return size;
+  if (array == nullptr) return size;
+  const bool is_told = Ok(ProArraySizeGet(array, &size)) && size >= 0;
+  return is_told ? std::optional(size) : std::nullopt;
+}
+
+// The same, 0 also when the host does not tell.
+inline int ArraySize(ProArray array) {
+  return ToldArraySize(array).value_or(0);
 }
 
 // An expandable array of the host with elements of type T (ProPath and other texts included).

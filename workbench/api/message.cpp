@@ -29,9 +29,7 @@ std::optional<std::string> FilledText(const Call& call, const std::string& file,
                                       const std::string& key, va_list arguments) {
   const MessageRecord* const record = FindMessage(call, file, key);
   if (record == nullptr) return std::nullopt;
-  std::optional<std::string> text = FilledIn(*record, arguments);
-  if (!text) call.Fail("null text as an argument of \"" + record->key + "\"");
-  return text;
+  return FilledIn(*record, arguments);
 }
 
 // The range of a number that is asked for; null: any.
@@ -98,6 +96,22 @@ ProError ProMessageDoubleRead(double* range, double* value) {
           return PRO_TK_NO_ERROR;
         }
         return PRO_TK_MSG_USER_QUIT;
+      });
+}
+
+ProError ProMessageStringRead(int length, wchar_t* text) {
+  return Crossing(__func__, length, OutText{text, PRO_LINE_SIZE})
+      .Run([](const Call& call, int most, TextPlace place) {
+        if (most < 1 || most >= PRO_LINE_SIZE) call.Fail("a length that no line has");
+        const PromptText prompt = LastPrompt(call);
+        if (call.host.user == nullptr) return PRO_TK_MSG_USER_QUIT;
+        const auto answer = call.host.user->AnswerPrompt(prompt.prompt, most);
+        if (!answer) return PRO_TK_MSG_USER_QUIT;
+        const std::string reply = answer->empty() ? prompt.default_reply : *answer;
+        if (reply.empty()) return PRO_TK_GENERAL_ERROR;
+        // The host takes no more than it was told to.
+        place = FromWide(ToWide(reply).substr(0, static_cast<size_t>(most)));
+        return PRO_TK_NO_ERROR;
       });
 }
 

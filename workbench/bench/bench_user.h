@@ -38,6 +38,7 @@ class BenchUser : public User {
 
  private:
   void AddParameter(LiveDialog& dialog);
+  void ListForRenaming(LiveDialog& dialog);
   void WorkBills(LiveDialog& dialog);
   void AddRelations(LiveDialog& dialog);
   void SetUnits(LiveDialog& dialog);

@@ -16,10 +16,13 @@ constexpr ResourceRow kResources[] = {
     {Resource::kSelection, "selection"},
     {Resource::kSelectionEnv, "selection environment"},
     {Resource::kStringArray, "string array"},
+    {Resource::kNarrowText, "narrow text"},
     {Resource::kWideText, "wide text"},
     {Resource::kWideTextArray, "wide text array"},
     {Resource::kGeometryData, "geometry data"},
     {Resource::kDialog, "dialog"},
+    {Resource::kExportData, "export data"},
+    {Resource::kPdfOptions, "PDF options"},
 };
 
 }  // namespace

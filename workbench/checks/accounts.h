@@ -13,10 +13,13 @@ enum class Resource {
   kSelection,
   kSelectionEnv,
   kStringArray,
+  kNarrowText,
   kWideText,
   kWideTextArray,
   kGeometryData,
   kDialog,
+  kExportData,
+  kPdfOptions,
 };
 const char* ResourceWord(Resource resource);
 

@@ -31,10 +31,15 @@ struct KindRow {
   const char* word;
 };
 constexpr KindRow kKinds[] = {
-    {HandleKind::kNone, "nothing"},        {HandleKind::kModel, "model"},
-    {HandleKind::kSelection, "selection"}, {HandleKind::kSelectionEnv, "selection environment"},
-    {HandleKind::kCommand, "command"},     {HandleKind::kSurface, "surface"},
+    {HandleKind::kNone, "nothing"},
+    {HandleKind::kModel, "model"},
+    {HandleKind::kSelection, "selection"},
+    {HandleKind::kSelectionEnv, "selection environment"},
+    {HandleKind::kCommand, "command"},
+    {HandleKind::kSurface, "surface"},
     {HandleKind::kView, "view"},
+    {HandleKind::kExportData, "export data"},
+    {HandleKind::kPdfOptions, "PDF options"},
 };
 
 uint64_t KeyInside(HandleKind kind, int id) {

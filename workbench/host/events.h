@@ -48,6 +48,15 @@ struct ShellCall {
   int show = 0;
 };
 
+// A file of another program that a writer of the host's has made.
+struct ExportedFile {
+  std::string path;
+  std::string format;     // "PDF"
+  std::string model;      // "plate.drw"
+  bool is_real = false;   // otherwise it is a text that stands for the host's file
+  std::string trouble{};  // why it is none, where it could be; empty: there is nothing to tell
+};
+
 // A macro that the host runs once the command has ended.
 struct QueuedMacro {
   std::string text;
@@ -83,8 +92,8 @@ struct FileProblem {
 };
 
 using Event = std::variant<Note, MissingText, Repaint, TreeRefresh, Regeneration, PickOptions,
-                           MessageBox, FileRequest, ShellCall, QueuedMacro, MouseEvent,
-                           ClassRequest, Breach, Gap, FileProblem>;
+                           MessageBox, FileRequest, ShellCall, ExportedFile, QueuedMacro,
+                           MouseEvent, ClassRequest, Breach, Gap, FileProblem>;
 
 class Events {
  public:

@@ -29,9 +29,16 @@ struct Habits {
   bool untouched_dimension_has_no_lines = false;     // instead of "@D"
   bool untouched_dimension_text_fails = false;       // with "not found", instead of "@D"
   bool tolerances_are_taken_for_numbers = false;     // which then are anything, instead of places
+  bool rename_leaves_files = false;                  // under their old names
+  bool erasing_acts_at_the_end = false;              // of the action: until then the name is taken
   bool resources_lie_beside_text = false;            // in `resource`, instead of `text/resource`
   bool surface_data_has_unknown_order = false;
   bool parameter_record_has_unknown_order = false;
+  bool selection_policy_clears_selection = false;    // of a table's rows
+  bool undisplayed_drawing_is_not_exported = false;  // to DWG and DXF
+  bool empty_file_list_fails = false;                // with "not found", instead of no files
+  bool file_list_repeats_names = false;          // one for each version, asked for the newest alone
+  bool chosen_folder_has_separator = false;      // at its end
   bool lacking_appearance_is_not_found = false;  // instead of success with the record untouched
   bool appearance_record_has_unknown_order = false;
   bool post_relations_are_always_there = false;  // a set that has no lines can be opened
@@ -44,7 +51,11 @@ struct Habits {
 struct HabitRow {
   const char* word;
   bool Habits::*habit;
+  bool is_in_other_set = false;
 };
 std::span<const HabitRow> HabitRows();
+
+// The set that stands beside "all off": each habit with which everything still works.
+Habits OtherHabits();
 
 }  // namespace wb

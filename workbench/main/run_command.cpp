@@ -39,6 +39,10 @@ void RunOne(const std::string& script, const ScriptOptions& options, RunRecord& 
   const ScriptOutcome outcome = RunScriptFile(PathFromUtf8(script), options, record);
   PrintFailures(record, failures);
   *readable = *readable && outcome.readable;
+  if (!outcome.not_real.empty()) {
+    std::printf("%s: %s\n", name.c_str(), outcome.not_real.c_str());
+    record.facts.emplace_back("Not real", name + ": " + outcome.not_real);
+  }
   if (outcome.skipped.empty()) {
     std::printf("%s: %d checks passed, %d failed\n", name.c_str(), outcome.passed, outcome.failed);
   } else {
@@ -85,6 +89,7 @@ void RunApart(const std::string& script, const CommandLine& line, RunRecord& rec
   for (const char* option : {"--out", "--plugin", "--install", "--fault"}) {
     if (line.Has(option)) arguments.insert(arguments.end(), {option, line.Value(option)});
   }
+  if (line.Has("--other-habits")) arguments.push_back("--other-habits");
   TakeOver(script, OutputOf(ProgramFile(), arguments).value_or(""), record);
 }
 
@@ -106,7 +111,7 @@ MemorySweepOptions FirstRunOption(const std::string& text) {
 
 int RunScriptsCommand(const CommandArguments& arguments) {
   const CommandLine line(
-      arguments, {"--all-allocations"},
+      arguments, {"--all-allocations", "--other-habits"},
       {"--out", "--report", "--trace", "--plugin", "--install", "--fault", "--first-run"});
   if (line.words().empty()) throw UsageError("run wants one script or more");
   ScriptOptions options;
@@ -115,6 +120,7 @@ int RunScriptsCommand(const CommandArguments& arguments) {
   options.out = line.Path("--out");
   options.trace = line.Path("--trace");
   options.report = line.Path("--report");
+  options.other_habits = line.Has("--other-habits");
   options.fault = FaultOption(line.Value("--fault"));
   options.memory = FirstRunOption(line.Value("--first-run"));
   options.memory.all = line.Has("--all-allocations");

@@ -41,7 +41,7 @@ void AwaitCall(ScriptRun& run, const Statement& statement) {
 }
 
 #define WB_MESSAGE "message KIND:caption|plain|warning TEXT [answer BUTTON:ok|cancel|yes|no]"
-#define WB_REQUEST "{[title TITLE] [filter FILTER] [folder FOLDER]}"
+#define WB_REQUEST "{[title TITLE] [filter FILTER] [folder FOLDER] [offers OFFERS]}"
 
 // clang-format off
 constexpr StatementForm kAnswerForms[] = {
@@ -101,14 +101,17 @@ std::optional<std::vector<PickedItem>> ScriptUser::AnswerPick(const PickRequest&
 void ScriptUser::NoteQuestion(const char* kind, const std::string& asked,
                               const std::optional<std::string>& answer) {
   if (noting_ != nullptr) noting_->questions.push_back({kind, asked, answer});
+  if (run_.lenient) asked_.push_back(std::string(kind) + " " + asked);
 }
 
 void ScriptUser::CheckFileRequest(const Statement& answer, const FileRequest& request) {
   const struct {
     const char* name;
     const std::string& got;
-  } facts[] = {
-      {"title", request.title}, {"filter", request.filter}, {"folder", request.start_folder}};
+  } facts[] = {{"title", request.title},
+               {"filter", request.filter},
+               {"folder", request.start_folder},
+               {"offers", request.offered_name}};
   for (const auto& fact : facts) {
     if (!answer.Has(fact.name)) continue;
     std::string argument = fact.name;

@@ -104,10 +104,22 @@ void CommandRecorder::NoteFiles() {
   }
 }
 
+// "new: PDF of plate.drw" for a file that one of the host's writers made.
+std::string CommandRecorder::WhatOf(const std::filesystem::path& file,
+                                    const std::string& change) const {
+  const std::string path = PathToUtf8(file.lexically_normal());
+  for (const ExportedFile& written : run_.host.events.Since<ExportedFile>(run_.marks.begin)) {
+    if (PathToUtf8(PathFromUtf8(written.path).lexically_normal()) != path) continue;
+    const std::string of = written.format + " of " + written.model;
+    return change + ": " + (written.is_real ? of : "stands for the " + of);
+  }
+  return change;
+}
+
 void CommandRecorder::NoteFile(const Watched& watched, const std::filesystem::path& file,
                                const std::string& what) {
   WrittenFile& written = record().files.emplace_back();
-  written = {OwnPath(file), what, "", ""};
+  written = {OwnPath(file), WhatOf(file, what), "", ""};
   if (what == "deleted") return;
   if (record().files.size() > kMostFilesKept) {
     written.no_copy = "it is one of too many";
@@ -118,7 +130,8 @@ void CommandRecorder::NoteFile(const Watched& watched, const std::filesystem::pa
   const KeptFile kept = KeepFile(run_.options.report, run_.recording + 1, name, file);
   written.link = kept.link;
   written.no_copy = kept.trouble;
-  if (EqualFolded(PathToUtf8(file.extension()), ".xlsx")) {
+  const std::string extension = PathToUtf8(file.extension());
+  if (EqualFolded(extension, ".xlsx") || EqualFolded(extension, ".xls")) {
     record().workbooks.push_back({written.path, DrawWorkbookFile(file)});
   }
 }

@@ -18,7 +18,9 @@ const char* EventName(UiEvent event) {
     case UiEvent::kInput:
       return "input";
     case UiEvent::kArm:
-      return "arm";
+      return kArmEvent;
+    case UiEvent::kFocusIn:
+      return kFocusInEvent;
     default:
       return "";
   }
@@ -56,19 +58,8 @@ void Deed(ScriptRun& run, const Statement& statement, const UserOutcome& outcome
     if (!run.lenient) run.Fail(statement, outcome.refusal);
     return;
   }
-  run.user.Fire(run.user.dialog(), NameAt(run, statement), EventName(outcome.event));
-}
-
-void Set(ScriptRun& run, const Statement& statement) {
-  Deed(run, statement, State(run).UserSetField(NameAt(run, statement), statement.Text("TEXT")));
-}
-
-void Choose(ScriptRun& run, const Statement& statement) {
-  Deed(run, statement, State(run).UserSelect(NameAt(run, statement), statement.Texts("ITEM_NAME")));
-}
-
-void Rows(ScriptRun& run, const Statement& statement) {
-  Deed(run, statement, State(run).UserSelect(NameAt(run, statement), statement.Texts("ROW")));
+  const std::string name = outcome.target.empty() ? NameAt(run, statement) : outcome.target;
+  run.user.Fire(run.user.dialog(), name, EventName(outcome.event));
 }
 
 template <typename T>
@@ -78,6 +69,36 @@ const T& StateOf(ScriptRun& run, const Statement& statement) {
   if (state != nullptr) return *state;
   throw ScriptError(std::string(KindName(component.kind)) + " " + component.name +
                     " has nothing of this kind");
+}
+
+// Who types into a field goes into it first.
+void TypeInto(ScriptRun& run, const Statement& statement, const std::string& field) {
+  const UserOutcome into = State(run).UserGoInto(field);
+  if (into.event != UiEvent::kNone || !into.Done()) Deed(run, statement, into);
+  UserOutcome typed = State(run).UserSetField(field, statement.Text("TEXT"));
+  typed.target = field;
+  Deed(run, statement, typed);
+}
+
+void Set(ScriptRun& run, const Statement& statement) {
+  TypeInto(run, statement, NameAt(run, statement));
+}
+
+void SetCell(ScriptRun& run, const Statement& statement) {
+  std::string field;
+  const UiStatus found = StateOf<TableModel>(run, statement)
+                             .GetComponent(statement.Text("ROW"), statement.Text("COLUMN"), &field);
+  if (found == UiStatus::kOk) return TypeInto(run, statement, field);
+  throw ScriptError("there is no field in row " + statement.Text("ROW") + ", column " +
+                    statement.Text("COLUMN"));
+}
+
+void Choose(ScriptRun& run, const Statement& statement) {
+  Deed(run, statement, State(run).UserSelect(NameAt(run, statement), statement.Texts("ITEM_NAME")));
+}
+
+void Rows(ScriptRun& run, const Statement& statement) {
+  Deed(run, statement, State(run).UserSelect(NameAt(run, statement), statement.Texts("ROW")));
 }
 
 // A check button that already is as wanted is left alone.
@@ -139,6 +160,11 @@ void ExpectRows(ScriptRun& run, const Statement& statement) {
              StateOf<TableModel>(run, statement).RowNames());
 }
 
+void ExpectSelectedRows(ScriptRun& run, const Statement& statement) {
+  CheckNames(run, statement, "selected rows", statement.Texts("ROW"),
+             StateOf<TableModel>(run, statement).SelectedRows());
+}
+
 void CheckEither(ScriptRun& run, const Statement& statement, const char* yes, const char* no,
                  bool holds) {
   const std::string got = holds ? yes : no;
@@ -171,12 +197,14 @@ void NoSuchCell(ScriptRun& run, const Statement& statement) {
 void ExpectCell(ScriptRun& run, const Statement& statement) {
   const std::string& row = statement.Text("ROW");
   const std::string& column = statement.Text("COLUMN");
+  const auto& table = StateOf<TableModel>(run, statement);
   std::string label;
-  if (StateOf<TableModel>(run, statement).GetLabel(row, column, &label) != UiStatus::kOk) {
+  if (table.GetLabel(row, column, &label) != UiStatus::kOk) {
     NoSuchCell(run, statement);
     return;
   }
-  run.CheckText(statement, "cell " + row + " " + column, statement.Text("TEXT"), label);
+  const std::string text = State(run).CellText(table, row, column);
+  run.CheckText(statement, "cell " + row + " " + column, statement.Text("TEXT"), text);
 }
 
 void ExpectColumns(ScriptRun& run, const Statement& statement) {
@@ -208,6 +236,7 @@ void ExpectColour(ScriptRun& run, const Statement& statement) {
 // clang-format off
 constexpr StatementForm kDialogForms[] = {
     {"set COMPONENT TEXT",                       kDialogPlace, &Set},
+    {"set COMPONENT ROW COLUMN TEXT",            kDialogPlace, &SetCell},
     {"choose COMPONENT ITEM_NAME...",            kDialogPlace, &Choose},
     {"check COMPONENT",                          kDialogPlace, &SetCheck},
     {"uncheck COMPONENT",                        kDialogPlace, &SetCheck},
@@ -226,6 +255,8 @@ constexpr StatementForm kDialogForms[] = {
     {"expect STATE:visible|invisible COMPONENT", kDialogPlace, &ExpectVisible},
     {"expect label COMPONENT TEXT",              kDialogPlace, &ExpectLabel},
     {"expect cell COMPONENT ROW COLUMN TEXT",    kDialogPlace, &ExpectCell},
+    {"expect selected_rows COMPONENT none",      kDialogPlace, &ExpectSelectedRows},
+    {"expect selected_rows COMPONENT ROW...",    kDialogPlace, &ExpectSelectedRows},
     {"expect rows COMPONENT none",               kDialogPlace, &ExpectRows},
     {"expect rows COMPONENT ROW...",             kDialogPlace, &ExpectRows},
     {"expect columns COMPONENT COLUMN...",       kDialogPlace, &ExpectColumns},

@@ -29,15 +29,11 @@ void Option(ScriptRun& run, const Statement& statement) {
 }
 
 void ExpectOption(ScriptRun& run, const Statement& statement) {
-  const auto found = run.host.options.find(FoldCase(statement.Text("NAME")));
-  const std::vector<std::string> got =
-      found == run.host.options.end() ? std::vector<std::string>() : found->second;
-  std::vector<std::string> wanted;
-  if (!statement.Has("none")) wanted = statement.Texts("TEXT");
-  const auto told = [](const std::vector<std::string>& values) {
-    return values.empty() ? "none" : Quoted(Join(" ", values));
-  };
-  run.Check(statement, got == wanted, "option " + statement.Text("NAME"), told(wanted), told(got));
+  const auto held = run.host.options.find(FoldCase(statement.Text("NAME")));
+  const bool is_set = held != run.host.options.end() && !held->second.empty();
+  const std::string wanted = Join(", ", statement.Texts("TEXT"));
+  run.CheckText(statement, "option " + statement.Text("NAME"), statement.Has("none") ? "" : wanted,
+                is_set ? Join(", ", held->second) : "");
 }
 
 void Setting(ScriptRun& run, const Statement& statement) {
@@ -111,8 +107,8 @@ constexpr StatementForm kStateForms[] = {
     {"option NAME TEXT...",                           kTopPlace, &Option},
     {"expect option NAME none",                       kTopOrDialog, &ExpectOption},
     {"expect option NAME TEXT...",                    kTopOrDialog, &ExpectOption},
-    {"setting FILE SECTION KEY missing",              kTopPlace, &Setting},
-    {"setting FILE SECTION KEY TEXT",                 kTopPlace, &Setting},
+    {"setting FILE SECTION KEY missing",              kTopOrDialog, &Setting},
+    {"setting FILE SECTION KEY TEXT",                 kTopOrDialog, &Setting},
     {"config_folder missing",                         kTopPlace, &ConfigFolderMissing},
     {"config_file FILE missing",                      kTopPlace, &ConfigFileMissing},
     {"config_file FILE STATE:held|free",              kTopOrDialog, &ConfigFileHeld},

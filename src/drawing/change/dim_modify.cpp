@@ -43,18 +43,17 @@ struct Place {
   int sheet = 0;
 };
 
-void ChangeOn(const Place& place, const DimensionChange& change, ProModelitem dimension) {
-  change.Apply(dimension);
+// Nothing but a dimension is changed.
+void ChangeOn(const Place& place, const DimensionChange& change, ProSelection selection) {
+  auto item = ItemOf(selection);
+  if (!item || item->type != PRO_DIMENSION) return;
+  change.Apply(*item);
   ProDwgSheetRegenerate(place.drawing, place.sheet);
 }
 
 void ChangeSelected(const Place& place, const DimensionChange& change,
-                    const SelectionArray& selected) {
-  const int count = selected.size();
-  for (int i = 0; i < count; ++i) {
-    const auto item = ItemOf(selected[i]);
-    if (item && item->type == PRO_DIMENSION) ChangeOn(place, change, *item);
-  }
+                    const Preselected& selected) {
+  for (int i = 0; i < selected.size(); ++i) ChangeOn(place, change, selected[i]);
 }
 
 // Until the user cancels.
@@ -65,7 +64,7 @@ void ChangePicked(const Place& place, const DimensionChange& change) {
     const ProError status =
         ProSelect("dimension", 1, nullptr, nullptr, nullptr, nullptr, &picked, &count);
     if (!Ok(status) || count < 1 || picked == nullptr) return;
-    if (const auto item = ItemOf(picked[0])) ChangeOn(place, change, *item);
+    ChangeOn(place, change, picked[0]);
   }
 }
 
@@ -84,8 +83,8 @@ ProError Change(const DialogView& dialog, const DimButton& button) {
   } else {
     ChangePicked(place, change);
   }
-  if (ClearsSelection(button.change)) ProSelbufferClear();
-  return PRO_TK_NO_ERROR;
+  // The next button would change what the user takes for let go.
+  return ClearsSelection(button.change) ? ProSelbufferClear() : PRO_TK_NO_ERROR;
 }
 
 void Press(const DialogView& dialog, const DimButton& button) {

@@ -12,14 +12,13 @@
 #include "frame/dialogs/dialog.h"
 #include "frame/dialogs/file_choice.h"
 #include "frame/folders/folder_drawings.h"
+#include "frame/folders/known_folders.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/retrieve.h"
-#include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
 #include "toolkit/status.h"
-#include "toolkit/window.h"
 
 namespace qm {
 namespace {
@@ -27,21 +26,19 @@ namespace {
 constexpr char kDialog[] = "QmFrmReplace";
 constexpr wchar_t kDone[] = L"当前工作目录中工程图图框已批量替换完毕！";
 
-// Empty when the host does not tell.
-std::wstring CurrentFolder() {
-  ProPath buffer = {};
-  return Ok(ProDirectoryCurrentGet(buffer)) ? std::wstring(FixedText(buffer)) : std::wstring();
-}
-
 // Where the host finds the format by its name. A file that is there already stays and is the one
 // that is used.
 void CopyFormat(const std::wstring& chosen, const std::wstring& name, const std::wstring& formats,
                 const std::wstring& folder) {
   const std::wstring place = formats.empty() ? folder : formats + L"\\";
   const std::wstring target = place + name + L".frm";
-  if (!place.empty() && ::CopyFileW(chosen.c_str(), target.c_str(), TRUE)) return;
-  LogEvent("the format stays as it is at " + ToUtf8(target) + ": Windows' error " +
-           std::to_string(::GetLastError()));
+  if (place.empty())
+    return LogFailure("the format is not copied: the working directory is unknown");
+  if (::CopyFileW(chosen.c_str(), target.c_str(), TRUE)) return;
+  const DWORD error = ::GetLastError();
+  const std::string line = "the format stays as it is at " + ToUtf8(target) + ": Windows' error " +
+                           std::to_string(error);
+  error == ERROR_FILE_EXISTS ? LogEvent(line) : LogFailure(line);
 }
 
 // The format's model; null when the host does not find it. Nothing when the user cancels.
@@ -60,7 +57,7 @@ std::optional<ProMdl> ChosenFormat(const std::wstring& folder) {
 ProError Replace() {
   const std::vector<std::wstring> names = DrawingsOfFolder();
   if (names.empty()) return PRO_TK_E_NOT_FOUND;
-  const std::wstring folder = CurrentFolder();
+  const std::wstring folder = CurrentFolder().value_or(std::wstring());
   const auto format = ChosenFormat(folder);
   if (!format) return PRO_TK_USER_ABORT;
   auto without = static_cast<long long>(names.size());

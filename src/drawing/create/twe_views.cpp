@@ -1,10 +1,6 @@
 // TweViews: a drawing of the selected or current model with six or twelve standard views.
 #include "drawing/create/twe_views.h"
 
-#include <windows.h>
-
-#include <shlobj.h>
-
 #include <optional>
 #include <string>
 
@@ -14,6 +10,7 @@
 #include "drawing/create/twe_views_rules.h"
 #include "drawing/create/twe_views_sheet.h"
 #include "frame/dialogs/dialog.h"
+#include "frame/folders/known_folders.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
@@ -52,14 +49,6 @@ std::optional<TweViewsWishes> ReadWishes(const DialogView& dialog) {
   return TweViewsWishes{*direction, *views, *exports};
 }
 
-std::optional<std::wstring> DesktopFolder() {
-  wchar_t folder[MAX_PATH] = {};
-  if (!::SHGetSpecialFolderPathW(nullptr, folder, CSIDL_DESKTOPDIRECTORY, FALSE)) {
-    return std::nullopt;
-  }
-  return folder;
-}
-
 // Says that it is done only when it is.
 void ExportToDesktop(ProDrawing drawing, const std::wstring& name) {
   const auto folder = DesktopFolder();
@@ -85,12 +74,13 @@ ProError BuildDrawing(ProMdl model, const TweViewsWishes& wishes) {
     return made.status;
   }
   const auto window = DrawingWindow(name);
-  ProDrawingSheetFormatHide(made.drawing, kAllSheets);
+  const ProError hidden = ProDrawingSheetFormatHide(made.drawing, kAllSheets);
+  if (!Ok(hidden)) LogFailure(name, "ProDrawingSheetFormatHide", hidden);
   if (window) MakeCurrent(*window);
   const ProError status = DrawTweViews(made.drawing, model, orientation, wishes);
   if (!Ok(status)) return status;
   int shown_in = -1;
-  if (Ok(ProMdlWindowGet(made.drawing, &shown_in)) && shown_in >= 0) ProWindowActivate(shown_in);
+  if (Ok(ProMdlWindowGet(made.drawing, &shown_in)) && shown_in >= 0) ActivateWindow(shown_in);
   if (wishes.exports) ExportToDesktop(made.drawing, name);
   return PRO_TK_NO_ERROR;
 }

@@ -2,7 +2,9 @@
 #include "frame/dialogs/dialog.h"
 
 #include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
 #include "toolkit/owners.h"
+#include "toolkit/status.h"
 
 namespace qm {
 namespace {
@@ -22,6 +24,14 @@ std::optional<std::wstring> DialogView::TryInputValue(const char* component) con
   WideText text;
   const ProError status = ProUIInputpanelValueGet(name(), component, text.put());
   return Taken(status, text);
+}
+
+DialogView::PossibleInput DialogView::InputIfThere(const char* component) const {
+  WideText text;
+  const ProError status = ProUIInputpanelValueGet(name(), component, text.put());
+  // The host's answer for a component that the dialog does not have.
+  if (status == PRO_TK_GENERAL_ERROR) return {false, std::nullopt};
+  return {true, Taken(status, text)};
 }
 
 std::optional<std::wstring> DialogView::TryTextAreaValue(const char* component) const {
@@ -91,6 +101,13 @@ bool Dialog::Create() {
   created_ = Ok(ProUIDialogCreate(name(), name()));
   if (!created_) ShowShortMessage(L"UIDialog Create error!");
   return created_;
+}
+
+ProError Dialog::Bound(const char* component, ProError status) const {
+  if (!Ok(status)) {
+    LogFailure(std::string(component) + " does nothing, the host answered " + StatusName(status));
+  }
+  return status;
 }
 
 void Dialog::BindClose() const {

@@ -38,6 +38,17 @@ class DialogView {
   ProError SetCheck(const char* component, bool checked) const;
   void EnableOption(const char* component, bool enabled) const;
 
+  // What an input panel holds that may not be there.
+  struct PossibleInput {
+    bool is_there = true;
+    std::optional<std::wstring> value;  // nothing when the host does not tell
+  };
+  PossibleInput InputIfThere(const char* component) const;
+
+  // The user goes into an input panel. Also for those that an action makes.
+  template <auto Action>
+  ProError BindFocusIn(const char* component) const;
+
   // Over the window that a command brings up, which would cover the dialog otherwise.
   void KeepAboveActiveWindow() const;
 
@@ -65,6 +76,11 @@ struct DialogAction {
   }
 };
 
+template <auto Action>
+ProError DialogView::BindFocusIn(const char* component) const {
+  return ProUIInputpanelFocusinActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
+}
+
 class Dialog;
 // Binds and fills a new dialog. Any answer but PRO_TK_NO_ERROR, after a message of its own, ends
 // the dialog before it is shown, and is then the command's.
@@ -87,30 +103,38 @@ class Dialog : public DialogView {
 
   template <auto Action>
   ProError BindButton(const char* component) const {
-    return ProUIPushbuttonActivateActionSet(name(), component, &DialogAction<Action>::Call,
-                                            nullptr);
+    return Bound(component, ProUIPushbuttonActivateActionSet(name(), component,
+                                                             &DialogAction<Action>::Call, nullptr));
   }
   // `data` outlives the dialog.
   template <auto Action, typename Data>
   void BindButton(const char* component, Data& data) const {
-    ProUIPushbuttonActivateActionSet(name(), component, &DialogAction<Action, Data>::Call,
-                                     const_cast<std::remove_const_t<Data>*>(&data));
+    Bound(component,
+          ProUIPushbuttonActivateActionSet(name(), component, &DialogAction<Action, Data>::Call,
+                                           const_cast<std::remove_const_t<Data>*>(&data)));
   }
   // The user chose another button of the group.
   template <auto Action>
   void BindRadio(const char* component) const {
-    ProUIRadiogroupSelectActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
+    Bound(component,
+          ProUIRadiogroupSelectActionSet(name(), component, &DialogAction<Action>::Call, nullptr));
   }
   // A double-click on a row.
   template <auto Action>
   void BindTable(const char* component) const {
-    ProUITableActivateActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
+    Bound(component,
+          ProUITableActivateActionSet(name(), component, &DialogAction<Action>::Call, nullptr));
+  }
+  // A cell of the table takes the focus.
+  template <auto Action>
+  void BindCellFocus(const char* component) const {
+    ProUITableArmActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
   }
   // The drawing area has got its place and size.
   template <auto Action>
   void BindDrawingArea(const char* component) const {
-    ProUIDrawingareaPostmanagenotifyActionSet(name(), component, &DialogAction<Action>::Call,
-                                              nullptr);
+    Bound(component, ProUIDrawingareaPostmanagenotifyActionSet(
+                         name(), component, &DialogAction<Action>::Call, nullptr));
   }
   // The dialog's own close action ends the activation with status 0.
   void BindClose() const;
@@ -125,6 +149,8 @@ class Dialog : public DialogView {
   bool Create();
   bool Activate() const;
   void Destroy();
+  // Logs a binding that the host has refused: the user will find that nothing happens.
+  ProError Bound(const char* component, ProError status) const;
 
   bool created_ = false;
   // Whether the user can end the dialog: noted by the binding of its ways out.

@@ -68,6 +68,23 @@ std::optional<std::vector<std::string>> DialogTable::SelectedRows() const {
   return Gathered<NameList>(ProUITableSelectednamesGet, dialog_.name(), component_);
 }
 
+bool DialogTable::SelectRows(std::vector<std::string> rows) const {
+  auto pointers = PointersTo(rows);
+  const auto count = static_cast<int>(rows.size());
+  char** const names = rows.empty() ? nullptr : pointers.data();
+  return Done("ProUITableSelectednamesSet",
+              ProUITableSelectednamesSet(dialog_.name(), component_.c_str(), count, names));
+}
+
+bool DialogTable::AllowManyRowsAndColumns() const {
+  constexpr auto kMany = PROUISELPOLICY_MULTIPLE;
+  const bool rows = Done("ProUITableSelectionpolicySet",
+                         ProUITableSelectionpolicySet(dialog_.name(), component_.c_str(), kMany));
+  return Done("ProUITableColumnselectionpolicySet",
+              ProUITableColumnselectionpolicySet(dialog_.name(), component_.c_str(), kMany)) &&
+         rows;
+}
+
 ProError DialogTable::InsertFirstRow(char** names) const {
   // Which neighbour stands for the start is not certain: null, then an empty name; a host that
   // takes neither is told what the rows are, which is the same while there are none.
@@ -86,6 +103,12 @@ bool DialogTable::InsertRow(const std::string& neighbour, std::string name) cons
                                           ? InsertFirstRow(names)
                                           : ProUITableRowsInsert(dialog_.name(), component_.c_str(),
                                                                  neighbour.c_str(), 1, names));
+}
+
+bool DialogTable::DeleteRow(std::string name) const {
+  char* names[] = {name.data()};
+  return Done("ProUITableRowsDelete",
+              ProUITableRowsDelete(dialog_.name(), component_.c_str(), 1, names));
 }
 
 bool DialogTable::DeleteAllRows() const {
@@ -116,6 +139,30 @@ bool DialogTable::SetColumnLabels(std::vector<std::wstring> labels) const {
       "ProUITableColumnlabelsSet",
       ProUITableColumnlabelsSet(dialog_.name(), component_.c_str(), static_cast<int>(labels.size()),
                                 PointersTo(labels).data()));
+}
+
+bool DialogTable::CopyIntoCell(const std::string& row, const std::string& column,
+                               const char* source, const std::string& name) const {
+  return CellDone(row, column, "ProUITableCellComponentCopy",
+                  ProUITableCellComponentCopy(dialog_.name(), component_.c_str(), row.c_str(),
+                                              column.c_str(), source, name.c_str()));
+}
+
+void DialogTable::ClearCell(const std::string& row, const std::string& column) const {
+  ProUITableCellComponentDelete(dialog_.name(), component_.c_str(), row.c_str(), column.c_str());
+}
+
+std::string DialogTable::FocusedRow() const {
+  NarrowText row;
+  NarrowText column;
+  const ProError status =
+      ProUITableFocusCellGet(dialog_.name(), component_.c_str(), row.put(), column.put());
+  return Ok(status) && row ? row.get() : std::string();
+}
+
+void DialogTable::SetSelectionPolicy(ProUISelectionpolicy policy) const {
+  Done("ProUITableSelectionpolicySet",
+       ProUITableSelectionpolicySet(dialog_.name(), component_.c_str(), policy));
 }
 
 std::optional<std::wstring> DialogTable::Label(const std::string& row,

@@ -1,4 +1,5 @@
-// The host's file picker, and the folders that its configuration names.
+// The host's file pickers, for files to be read and to be written, and the folders that its
+// configuration names.
 #pragma once
 
 #include <optional>
@@ -20,5 +21,10 @@ std::optional<std::wstring> PickFile(std::wstring title, std::wstring filter, st
 // The same for drawings and formats.
 std::optional<std::wstring> PickDrawingFile(std::wstring title, std::wstring filter,
                                             std::wstring folder = FormatFolder());
+
+// Full path of a file to be written, which need not exist; with the extension of `filter` ("*.xls")
+// where the user has typed none. `name` is offered. Nothing when the user cancels.
+std::optional<std::wstring> PickFileToWrite(std::wstring title, std::wstring filter,
+                                            std::wstring name);
 
 }  // namespace qm

@@ -7,9 +7,10 @@ namespace qm {
 
 inline constexpr wchar_t kNoteFile[] = L"qmmsg_display.txt";
 
-// Shows the text of `key`. `argument` fills a "%0w" of the key. A failure is not reported: a note
-// is never a reason to stop.
-void DisplayNote(const char* key, const wchar_t* argument = nullptr);
+// Shows the text of `key`. `argument` fills a "%0w" of the key, `second` a "%1w". A failure is not
+// reported: a note is never a reason to stop.
+void DisplayNote(const char* key, const wchar_t* argument = nullptr,
+                 const wchar_t* second = nullptr);
 
 // The same with a key of "msg_display.txt", the file of the transparency commands.
 void DisplayPrompt(const char* key);

@@ -124,6 +124,10 @@ std::string LoggedName(ProMdl model) {
 
 }  // namespace
 
+std::wstring RunLogFolder() {
+  return LogPath(L"").path;
+}
+
 void LogEvent(std::string_view text) noexcept {
   if (running_command != nullptr) {
     AddLine(running_command->name_, ": ", text);
@@ -136,6 +140,10 @@ void LogEvent(std::string_view text) noexcept {
 // False when the running command has listed enough of them.
 bool CountFailure() noexcept {
   return running_command == nullptr || ++running_command->failures_ <= kMaxFailureLines;
+}
+
+void LogFailure(std::string_view text) noexcept {
+  if (CountFailure()) LogEvent(text);
 }
 
 void LogFailure(ProMdl model, const char* function, ProError status) noexcept {
