@@ -230,7 +230,11 @@ Lines MissingParts(const MenuButton& button, const std::string& icon) {
   const fs::path source = kProject / "src" / fs::path(header).replace_extension(".cpp");
   const fs::path script = fs::path("tests") / "scripts" / *header.begin() / (stem + ".qms");
   const fs::path drawn = fs::path("install") / "icons" / fs::path(icon).replace_extension(".svg");
-  const fs::path dialog = fs::path("install") / "text" / "resource" / (button.name + ".res");
+  const fs::path dialogs = fs::path("install") / "text" / "resource";
+  // A few dialogs bear the command's name without its beginning.
+  const bool is_short = button.name.starts_with("Qm") &&
+                        fs::is_regular_file(kProject / dialogs / (button.name.substr(2) + ".res"));
+  const fs::path dialog = dialogs / (button.name.substr(is_short ? 2 : 0) + ".res");
   Lines missing;
   const auto want = [&](const fs::path& file) {
     if (!fs::is_regular_file(kProject / file)) {

@@ -6,10 +6,14 @@
 #include <iterator>
 #include <utility>
 
+#include "display/batch_color.h"
+#include "display/clear_all_color.h"
 #include "display/hide_reverse.h"
 #include "display/isolate.h"
 #include "display/normal_view.h"
 #include "display/show_all_comp.h"
+#include "display/surf_transparent.h"
+#include "display/transparent.h"
 #include "drawing/change/dim_modify.h"
 #include "drawing/change/drw_scale_check.h"
 #include "drawing/change/frm_replace.h"
@@ -39,7 +43,11 @@
 #include "frame/commands/set_directory.h"
 #include "frame/commands/version.h"
 #include "frame/guard/shield.h"
+#include "params/assign/set_bend_table.h"
+#include "params/assign/set_mat.h"
+#include "params/assign/set_unit.h"
 #include "params/params.h"
+#include "params/relations.h"
 
 namespace qm {
 namespace {
@@ -56,22 +64,22 @@ constexpr CommandRow kCommandTable[] = {
     {"NewPart",               "NewPart_Help",               "NewPart.png",               &NotInBuild,     kAssemblyMode,       true},
     {"NewAsm",                "NewAsm_Help",                "NewAsm.png",                &NotInBuild,     kAssemblyMode,       true},
     {"NewSmt",                "NewSmt_Help",                "NewSmt.png",                &NotInBuild,     kAssemblyMode,       true},
-    {"BatchColor",            "Color_Help",                 "RandomColor.png",           &NotInBuild,     kSolidMode,          true},
-    {"QmClearAllColor",       "QmClearAllColor_Help",       "QmClearAllColor.png",       &NotInBuild,     kSolidMode,          true},
+    {"BatchColor",            "Color_Help",                 "RandomColor.png",           &BatchColor,      kSolidMode,          true},
+    {"QmClearAllColor",       "QmClearAllColor_Help",       "QmClearAllColor.png",       &QmClearAllColor, kSolidMode,          true},
     {"QmBoxSelSur",           "QmBoxSelSur_Help",           "QmBoxSelSur.png",           &QmBoxSelSur,    kSolidMode,          true},
-    {"QmTransparent",         "QmTransparent_Help",         "QmTransparent.png",         &NotInBuild,     kSolidMode,          true},
-    {"SurfTransparent",       "SurfTransparent_Help",       "SurfTransparent.png",       &NotInBuild,     kSolidMode,          true},
+    {"QmTransparent",         "QmTransparent_Help",         "QmTransparent.png",         &QmTransparent,   kSolidMode,          true},
+    {"SurfTransparent",       "SurfTransparent_Help",       "SurfTransparent.png",       &SurfTransparent, kSolidMode,          true},
     {"BoxSel",                "BoxSel_Help",                "BoxSel.png",                &BoxSel,         kAssemblyMode,       true},
-    {"SetMat",                "SetMat_Help",                "SetMat.png",                &NotInBuild,     kPartOrAssemblyMode, true},
-    {"SetBendTable",          "SetBendTable_Help",          "SetBendTable.png",          &NotInBuild,     kPartOrAssemblyMode, true},
+    {"SetMat",                "SetMat_Help",                "SetMat.png",                &SetMat,         kPartOrAssemblyMode, true},
+    {"SetBendTable",          "SetBendTable_Help",          "SetBendTable.png",          &SetBendTable,   kPartOrAssemblyMode, true},
     {"SameScale",             "SameScale_Help",             "SameScale.png",             &SameScale,      kDrawingMode,        true},
     {"QmIsolate",             "QmIsolate_Help",             "QmIsolate.png",             &QmIsolate,      kAssemblyMode,       true},
     {"QmHideReverse",         "QmHideReverse_Help",         "QmHideReverse.png",         &QmHideReverse,  kAssemblyMode,       true},
     {"QmShowAllComp",         "QmShowAllComp_Help",         "QmShowAllComp.png",         &QmShowAllComp,  kAssemblyMode,       true},
     {"QmNormalView",          "QmNormalView_Help",          "QmNormalView.png",          &QmNormalView,   kAlways,             true},
     {"QmParams",              "QmParams_Help",              "QmParams.png",              &QmParams,       kAssemblyMode,       true},
-    {"QmRelations",           "QmRelations_Help",           "QmRelations.png",           &NotInBuild,     kAssemblyMode,       true},
-    {"SetUnit",               "SetUnit_Help",               "SetUnit.png",               &NotInBuild,     kPartOrAssemblyMode, true},
+    {"QmRelations",           "QmRelations_Help",           "QmRelations.png",           &QmRelations,    kAssemblyMode,       true},
+    {"SetUnit",               "SetUnit_Help",               "SetUnit.png",               &SetUnit,        kPartOrAssemblyMode, true},
     {"CloneComp",             "CloneComp_Help",             "CloneComp.png",             &NotInBuild,     kAssemblyMode,       true},
     {"CloneAndReplace",       "CloneAndReplace_Help",       "CloneAndReplace.png",       &NotInBuild,     kAssemblyMode,       true},
     {"QmMerge",               "QmMerge_Help",               "QmMerge.png",               &NotInBuild,     kAssemblyMode,       true},

@@ -55,7 +55,7 @@ std::optional<OutlineBox> Measure(ProMdl model) {
   return box;
 }
 
-ValueForModel Outline(const ParamTarget& target, const OutlineFormat& format) {
+ValueForModel Outline(const ModelTarget& target, const OutlineFormat& format) {
   const auto box = Measure(target.model);
   if (!box) return UnreadModel();
   if (box->empty()) return {};
@@ -90,7 +90,7 @@ void WriteOutlines(const DialogView& dialog, StoredFields& fields) {
     ShowShortMessage(kUnreadableField);
     return;
   }
-  const auto outline_for = [&](const ParamTarget& target) { return Outline(target, *format); };
+  const auto outline_for = [&](const ModelTarget& target) { return Outline(target, *format); };
   RunBatch(dialog, fields, top, {kOutlineFields, outline_for, &WriteText});
 }
 

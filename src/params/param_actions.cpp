@@ -46,7 +46,7 @@ void Run(const DialogView& dialog, const StoredFields& fields, const ParamAction
   const auto top = CurrentModelOrAssembly();
   auto value = AskValue(dialog, action);
   if (!value) return;
-  const auto same_for_all = [&](const ParamTarget&) { return ValueForModel{value}; };
+  const auto same_for_all = [&](const ModelTarget&) { return ValueForModel{value}; };
   // A model that cannot be changed, such as one that has the parameter already, is passed over with
   // a line in the log.
   const auto change = [&](const PlannedParam& param, HostName& name) {

@@ -6,18 +6,11 @@
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
-#include "frame/models/model_name.h"
-#include "frame/models/opening.h"
-#include "frame/models/target_list.h"
-#include "frame/text/keyword_filter.h"
 #include "params/param_value_rules.h"
 #include "toolkit/status.h"
-#include "toolkit/window.h"
 
 namespace qm {
 namespace {
-
-constexpr wchar_t kNoComponents[] = L"当前模型中没有合适的子零件/组件";
 
 // What the user wants, as the fields say it; nothing where one cannot be read.
 struct ParamWishes {
@@ -40,17 +33,6 @@ ParamWishes AskWishes(const DialogView& dialog, const StoredFields& fields,
           fields.Value(dialog, asked.name), fields.Value(dialog, asked.keywords)};
 }
 
-// Nothing, after the message, when there is nothing to work on. A top model alone is not enough.
-std::optional<TargetList> FindTargets(const std::optional<CurrentModel>& top,
-                                      const std::string& class_name) {
-  auto targets = top ? CollectTargets(*top, class_name) : TargetList();
-  std::optional<int> count;
-  if (targets) count = targets->component_count;
-  if (HasComponents(count, kNoComponents)) return targets;
-  if (targets) NoteLeftOut(targets->left_out);
-  return std::nullopt;
-}
-
 // Why the wishes cannot be fulfilled; null when they can.
 const wchar_t* RefusalOf(const ParamWishes& wishes) {
   if (!wishes.param_name) return kUnreadableField;
@@ -60,25 +42,14 @@ const wchar_t* RefusalOf(const ParamWishes& wishes) {
 }
 
 // Adds the model with its value, unless it is excluded or left alone, or, after a line in the log,
-// cannot be read. A model whose name is not known might be an excluded one.
+// cannot be read.
 void PlanModel(ProMdl model, const KeywordFilter& keywords, const ParamBatch& batch,
                ParamPlan* plan) {
-  auto name = ModelName(model);
-  if (!name) {
-    ++plan->left_out;
-    return;
-  }
-  if (keywords.Excludes(*name)) return;
-  ParamTarget target{model, std::move(*name), {}};
-  const ProError status = ProMdlToModelitem(model, &target.owner);
-  if (!Ok(status) || target.owner.owner == nullptr) {
-    LogFailure(target.name, "ProMdlToModelitem", status);
-    ++plan->left_out;
-    return;
-  }
-  auto [value, is_known] = batch.value_for(target);
+  auto target = ReadTarget(model, keywords, &plan->left_out);
+  if (!target) return;
+  auto [value, is_known] = batch.value_for(*target);
   if (!is_known) ++plan->left_out;
-  if (value) plan->params.push_back({std::move(target), std::move(*value)});
+  if (value) plan->params.push_back({std::move(*target), std::move(*value)});
 }
 
 // Nothing, after the message, when there is nothing to plan.
@@ -105,11 +76,6 @@ std::optional<ParamPlan> MakePlan(const ParamWishes& wishes, const std::optional
   plan.params.reserve(targets->models.size());
   for (const ProMdl model : targets->models) PlanModel(model, keywords, batch, &plan);
   return plan;
-}
-
-void RefreshModelTree() {
-  ProMdl current = nullptr;
-  if (Ok(ProMdlCurrentGet(&current)) && current != nullptr) ProTreetoolRefresh(current);
 }
 
 void Apply(ParamPlan& plan, const ParamBatch& batch) {

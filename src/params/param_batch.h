@@ -7,8 +7,8 @@
 #include <string>
 
 #include "frame/dialogs/stored_fields.h"
-#include "frame/models/current_assembly.h"
 #include "frame/models/parameters.h"
+#include "params/model_targets.h"
 #include "params/param_settings.h"
 #include "toolkit/types.h"
 
@@ -26,16 +26,9 @@ inline constexpr BatchFields kParameterFields = {
 inline constexpr BatchFields kOutlineFields = {"TypeRadio2", kToolKeywords, kOutlineName};
 inline constexpr BatchFields kSheetSizeFields = {"TypeRadio2", kToolKeywords, kSheetSizeName};
 
-// One model to work on.
-struct ParamTarget {
-  ProMdl model;
-  std::wstring name;   // as the host gives it
-  ProModelitem owner;  // the model as owner of parameters
-};
-
 // A model and the value that it is to get.
 struct PlannedParam {
-  ParamTarget target;
+  ModelTarget target;
   ParamValue value;
 };
 
@@ -52,7 +45,7 @@ inline ValueForModel UnreadModel() {
 struct ParamBatch {
   BatchFields fields;
   // Plan: what a model is to get.
-  std::function<ValueForModel(const ParamTarget&)> value_for;
+  std::function<ValueForModel(const ModelTarget&)> value_for;
   // Apply: true when it was written, and counts as worked on in the run log.
   std::function<bool(const PlannedParam&, HostName& param_name)> apply;
 };

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kFirstSheet = 1;
 
-ValueForModel SheetSize(const ParamTarget& target) {
+ValueForModel SheetSize(const ModelTarget& target) {
   auto name = HostName::From(target.name);
   ProMdl drawing = nullptr;
   ProError status =

@@ -14,3 +14,5 @@ PRO_FUNCTION(ProError, ProArrayObjectAdd, ProArray* array, int index, int n_obje
 PRO_FUNCTION(ProError, ProStringarrayFree, char** strings, int count);
 PRO_FUNCTION(ProError, ProStringFree, char* text);
 PRO_FUNCTION(ProError, ProWstringFree, wchar_t* text);
+// A ProArray of texts, each of which is freed as well.
+PRO_FUNCTION(ProError, ProWstringproarrayFree, wchar_t** texts);

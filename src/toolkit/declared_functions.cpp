@@ -25,6 +25,7 @@ inline constexpr const char* kDeclaredName = nullptr;
 #include "toolkit/message.h"
 #include "toolkit/model.h"
 #include "toolkit/parameter.h"
+#include "toolkit/properties.h"
 #include "toolkit/selection.h"
 #include "toolkit/ui.h"
 #include "toolkit/ui_table.h"

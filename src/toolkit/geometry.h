@@ -34,5 +34,9 @@ PRO_FUNCTION(ProError, ProSolidOutlineGet, ProSolid solid, Pro3dPnt outline[2]);
 
 PRO_FUNCTION(ProError, ProSolidSurfaceVisit, ProSolid solid, ProSurfaceVisitAction action,
              ProSurfaceFilterAction filter, ProAppData data);
+// The furthest point of the surface in a direction, in the model's own frame and units.
+PRO_FUNCTION(ProError, ProSurfaceExtremesEval, ProSurface surface, ProVector direction,
+             Pro3dPnt extreme);
+PRO_FUNCTION(ProError, ProSurfaceToGeomitem, ProSolid owner, ProSurface surface, ProGeomitem* item);
 PRO_FUNCTION(ProError, ProSurfaceDataGet, ProSurface surface, ProGeomitemdata** data);
 PRO_FUNCTION(ProError, ProGeomitemdataFree, ProGeomitemdata** data);

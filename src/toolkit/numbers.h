@@ -309,6 +309,22 @@ typedef enum {
   PROUISELPOLICY_EXTENDED = 4,
 } ProUISelectionpolicy;
 
+// What a change of a model's units keeps. The numbers are likely; were they exchanged, models would
+// be scaled without a word.
+typedef enum {
+  PRO_UNITCONVERT_SAME_DIMS = 0,
+  PRO_UNITCONVERT_SAME_SIZE = 1,
+} ProUnitConvertType;
+// Mass or force with length and time. The numbers are doubtful: ask a predefined system.
+typedef enum {
+  PRO_UNITSYSTEM_MLT = 0,
+  PRO_UNITSYSTEM_FLT = 1,
+} ProUnitsystemType;
+// How a model regenerates after a change of its units; the number is given.
+inline constexpr int kUnitRegenerationFlags = -1;
+// A regeneration without any option.
+inline constexpr int kPlainRegeneration = 0;
+
 // The record of a model's data (ProMdldata): the two orders of its texts that are known, each in
 // characters from the start of the record.
 struct ProMdldataOrder {

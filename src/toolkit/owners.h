@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "toolkit/array.h"
 #include "toolkit/export.h"
@@ -69,6 +70,9 @@ inline void Data2d(Pro2dExportdata data) {
 inline void PdfOptions(ProPDFOptions options) {
   ProPDFoptionsFree(options);
 }
+inline void ArrayTexts(wchar_t** texts) {
+  ProWstringproarrayFree(texts);
+}
 template <typename T>
 void Array(T* items) {
   ProArray array = items;
@@ -79,6 +83,8 @@ void Array(T* items) {
 
 using WideText = Owner<wchar_t*, &release::Text>;
 using NarrowText = Owner<char*, &release::NarrowText>;
+// An array of the host with texts that are freed with it.
+using TextArray = Owner<wchar_t**, &release::ArrayTexts>;
 using SelectionEnvironment = Owner<ProSelectionEnv, &release::Environment>;
 using ExportData = Owner<Pro2dExportdata, &release::Data2d>;
 using PdfOptions = Owner<ProPDFOptions, &release::PdfOptions>;
@@ -120,16 +126,33 @@ class HostArray : public Owner<T*, &release::Array<T>> {
     ProArray array = this->get();
     T copy = item;
     const ProError status = ProArrayObjectAdd(&array, PRO_VALUE_UNUSED, 1, &copy);
-    if (array != nullptr && array != this->get()) {
-      this->release();
-      this->reset(static_cast<T*>(array));
-    }
+    Adopt(array);
     return status;
+  }
+
+  // An array of these items; fails when it holds fewer or more of them.
+  ProError Assign(std::vector<T>& items) {
+    const ProError allocated = Allocate();
+    if (!Ok(allocated) || items.empty()) return allocated;
+    ProArray array = this->get();
+    const ProError status =
+        ProArrayObjectAdd(&array, PRO_VALUE_UNUSED, static_cast<int>(items.size()), items.data());
+    Adopt(array);
+    if (!Ok(status)) return status;
+    return size() == static_cast<int>(items.size()) ? PRO_TK_NO_ERROR : PRO_TK_OUT_OF_MEMORY;
   }
 
   // Asks the host each time: keep the answer when looping.
   int size() const { return ArraySize(this->get()); }
   T& operator[](int index) const { return this->get()[index]; }
+
+ private:
+  // Where the array is after it may have moved.
+  void Adopt(ProArray array) {
+    if (array == nullptr || array == this->get()) return;
+    this->release();
+    this->reset(static_cast<T*>(array));
+  }
 };
 
 // Copies of the preselected items, as the selection buffer gives them.

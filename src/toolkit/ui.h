@@ -32,6 +32,9 @@ PRO_FUNCTION(ProError, ProUIInputpanelValueGet, const char* dialog, const char* 
 PRO_FUNCTION(ProError, ProUIInputpanelFocusinActionSet, const char* dialog, const char* component,
              ProUIAction action, ProAppData data);
 
+PRO_FUNCTION(ProError, ProUITextareaValueGet, const char* dialog, const char* component,
+             wchar_t** value);
+
 PRO_FUNCTION(ProError, ProUIOptionmenuValueSet, const char* dialog, const char* component,
              wchar_t* value);
 PRO_FUNCTION(ProError, ProUIOptionmenuValueGet, const char* dialog, const char* component,

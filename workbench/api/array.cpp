@@ -1,6 +1,24 @@
 // Host functions of the array family, and of the texts the host hands out.
 #include "workbench/host/arguments.h"
 
+namespace wb {
+namespace {
+
+// An array of texts on account, each text by itself. A fault that keeps the array from being given
+// back does so with the texts in it.
+struct TextsGivenBack : GivenBack<wchar_t*> {
+  using GivenBack::GivenBack;
+  void Forgive(Host& host) const {
+    if (!host.accounts.Check(lent, Resource::kArray).empty()) return;
+    const int count = ArraySize(Call(host, "ProWstringproarrayFree", 0), lent);
+    for (int i = 0; i < count; ++i) host.accounts.Forgive(lent[i]);
+    GivenBack::Forgive(host);
+  }
+};
+
+}  // namespace
+}  // namespace wb
+
 using namespace wb;
 
 ProError ProArrayAlloc(int n_objects, int object_size, int reallocation_size, ProArray* array) {
@@ -58,5 +76,16 @@ ProError ProWstringFree(wchar_t* text) {
   return Crossing(__func__, GivenBack(text)).Run([](const Call& call, wchar_t* lent) {
     call.TakeBack(lent, Resource::kWideText);
     std::free(lent);
+  });
+}
+
+ProError ProWstringproarrayFree(wchar_t** texts) {
+  return Crossing(__func__, TextsGivenBack(texts)).Run([](const Call& call, wchar_t** lent) {
+    const int count = ArraySize(call, lent);
+    for (int i = 0; i < count; ++i) {
+      call.TakeBack(lent[i], Resource::kWideText);
+      std::free(lent[i]);
+    }
+    FreeArray(call, lent);
   });
 }

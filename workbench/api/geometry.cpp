@@ -18,6 +18,20 @@ struct SurfaceIn {
   }
 };
 
+// Where the body writes the corner of a surface's box.
+struct PointPlace {
+  double* place;
+  void operator=(const Point& point) { std::copy(point.begin(), point.end(), place); }
+};
+struct PointOut {
+  double* place;
+  std::string Describe() const { return DescribeArgument(static_cast<const void*>(place)); }
+  PointPlace Look(const Call& call) const { return {&call.Place(place, "point")}; }
+  void Empty() const {
+    if (place != nullptr) std::fill_n(place, 3, 0.0);
+  }
+};
+
 ProSurface HandleOf(const Call& call, Model& model, const Surface& surface) {
   return static_cast<ProSurface>(
       call.host.handles.GiveInside(HandleKind::kSurface, &model, surface.id));
@@ -66,6 +80,28 @@ ProError ProSolidSurfaceVisit(ProSolid solid, ProSurfaceVisitAction action,
         const auto item_at = [&](size_t i) { return HandleOf(call, model, surfaces[i]); };
         return VisitItems(
             call, solid, [&] { return surfaces.size(); }, item_at, action, filter, data);
+      });
+}
+
+ProError ProSurfaceExtremesEval(ProSurface surface, ProVector direction, Pro3dPnt extreme) {
+  return Crossing(__func__, SurfaceIn{surface}, DataIn{direction}, PointOut{extreme})
+      .Run([&](const Call& call, const Surface& from, void*, PointPlace place) {
+        const double* const towards = &call.Place(direction, "direction");
+        Point point = from.box.min;
+        for (size_t axis = 0; axis < point.size(); ++axis) {
+          if (towards[axis] > 0) point[axis] = from.box.max[axis];
+        }
+        place = point;
+      });
+}
+
+ProError ProSurfaceToGeomitem(ProSolid owner, ProSurface surface, ProGeomitem* item) {
+  return Crossing(__func__, SolidIn{{owner}}, SurfaceIn{surface}, Out(item, "item place"))
+      .Run([&](const Call& call, Model& model, const Surface& from, ProGeomitem& place) {
+        if (call.Look(surface, HandleKind::kSurface).object != &model) {
+          call.Fail("the surface is not one of " + model.id.Text());
+        }
+        place = {PRO_SURFACE, from.id, owner};
       });
 }
 

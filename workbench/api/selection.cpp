@@ -5,17 +5,19 @@ namespace wb {
 namespace {
 
 // What may be picked under each filter word, as item types.
-struct FilterTypes {
+struct FilterRow {
   const char* word;
   std::vector<int> types;
 };
-const std::vector<FilterTypes>& KnownFilters() {
-  static const std::vector<FilterTypes> filters = {
+const std::vector<FilterRow>& KnownFilters() {
+  static const std::vector<FilterRow> filters = {
       {"part", {PRO_PART}},
       {"assembly", {PRO_ASSEMBLY}},
       {"prt_or_asm", {PRO_PART, PRO_ASSEMBLY}},
       {"feature", {PRO_FEATURE}},
       {"surface", {PRO_SURFACE}},
+      {"sldface", {PRO_SURFACE}},
+      {"qltface", {PRO_SURFACE}},
       {"edge", {PRO_EDGE}},
       {"dimension", {PRO_DIMENSION}},
       {"view", {PRO_VIEW}},
@@ -23,12 +25,27 @@ const std::vector<FilterTypes>& KnownFilters() {
   return filters;
 }
 
+// The words of a filter, parted by commas, and all types under them.
+struct FilterTypes {
+  std::string words;
+  std::vector<int> types;
+};
+
 struct FilterIn : NarrowIn {
   explicit FilterIn(const char* filter) : NarrowIn{filter, "filter"} {}
-  const FilterTypes& Look(const Call& call) const {
-    const std::string word = NarrowIn::Look(call);
-    for (const FilterTypes& filter : KnownFilters()) {
-      if (word == filter.word) return filter;
+  FilterTypes Look(const Call& call) const {
+    FilterTypes filter{NarrowIn::Look(call), {}};
+    for (size_t at = 0; at <= filter.words.size();) {
+      const size_t comma = std::min(filter.words.find(',', at), filter.words.size());
+      const std::vector<int>& types = TypesOf(call, filter.words.substr(at, comma - at));
+      filter.types.insert(filter.types.end(), types.begin(), types.end());
+      at = comma + 1;
+    }
+    return filter;
+  }
+  static const std::vector<int>& TypesOf(const Call& call, const std::string& word) {
+    for (const FilterRow& row : KnownFilters()) {
+      if (word == row.word) return row.types;
     }
     throw NotModelled{"selection filter \"" + word + "\" in " + call.function};
   }
@@ -57,14 +74,11 @@ struct SelectionsGivenBack : GivenBack<ProSelection> {
   }
 };
 
-void CheckPicks(const FilterTypes& filter, const std::vector<PickedItem>& picks, int max_count) {
-  if (max_count >= 0 && picks.size() > static_cast<size_t>(max_count)) {
-    throw NotModelled{"more picks than the " + std::to_string(max_count) + " asked for"};
-  }
+void CheckPicks(const FilterTypes& filter, const std::vector<PickedItem>& picks) {
   for (const PickedItem& pick : picks) {
     if (std::find(filter.types.begin(), filter.types.end(), pick.type) == filter.types.end()) {
       throw NotModelled{"a pick of item type " + std::to_string(pick.type) + " under filter \"" +
-                        filter.word + "\""};
+                        filter.words + "\""};
     }
   }
 }
@@ -91,9 +105,13 @@ ProError ProSelect(const char* filter, int max_count, ProSelection* initial,
       .Run([](const Call& call, const FilterTypes& known, int most, void*, void*,
               const PickOptionList*, void*, ProSelection*& place, int& number) {
         if (call.host.user == nullptr) return PRO_TK_USER_ABORT;
-        const auto picks = call.host.user->Pick({known.word, most});
+        auto picks = call.host.user->Pick({known.words, most});
         if (!picks) return PRO_TK_USER_ABORT;
-        CheckPicks(known, *picks, most);
+        CheckPicks(known, *picks);
+        // With the last one that was asked for, the host ends the choice.
+        if (most >= 0 && picks->size() > static_cast<size_t>(most)) {
+          picks->resize(static_cast<size_t>(most));
+        }
         ReplaceLastPicks(call.host, *picks);
         place = reinterpret_cast<ProSelection*>(call.host.last_picks.data());
         number = static_cast<int>(picks->size());

@@ -57,6 +57,9 @@ FieldIn<ChoiceState> RadioIn(const char* dialog, const char* group) {
 FieldIn<TextState> InputIn(const char* dialog, const char* panel) {
   return {dialog, panel, FieldKind::kInputPanel};
 }
+FieldIn<TextState> TextAreaIn(const char* dialog, const char* area) {
+  return {dialog, area, FieldKind::kTextArea};
+}
 FieldIn<CheckState> CheckIn(const char* dialog, const char* button) {
   return {dialog, button, FieldKind::kCheckButton};
 }
@@ -152,6 +155,11 @@ ProError ProUIInputpanelFocusinActionSet(const char* dialog, const char* compone
                                          ProUIAction action, ProAppData data) {
   return BindFieldAction(__func__, dialog, component, {FieldKind::kInputPanel, kFocusInEvent},
                          action, data);
+}
+
+ProError ProUITextareaValueGet(const char* dialog, const char* component, wchar_t** value) {
+  return Crossing(__func__, TextAreaIn(dialog, component), OutWide(value, "value place"))
+      .Run([](const TextState& area, WidePlace place) { place = area.Value(); });
 }
 
 ProError ProUIOptionmenuValueSet(const char* dialog, const char* component, wchar_t* value) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <fstream>
 #include <map>
 #include <stdexcept>
 
@@ -51,6 +52,7 @@ class Bench {
     spreadsheet_.Order(orders);
     const std::filesystem::path settings = dll.parent_path() / "QMconfig" / "QmBom.ini";
     ::WritePrivateProfileStringW(L"tableCols_level", L"content", kLevelColumns, settings.c_str());
+    std::ofstream(folder / kBenchMaterial) << "bench\n";
     top_ = &job.shape->build(host_.session, job.occurrences);
     host_.session.ActivateWindow(host_.session.ShowInWindow(*top_).id);
     plugin_.emplace(dll);
@@ -138,6 +140,7 @@ class Bench {
   std::vector<Taken> Command(std::span<const BenchPartRow> parts) {
     const BenchPartRow& first = parts.front();
     DropParameter(first.part == BenchPart::kAddParameter);
+    DropRelations(first.part == BenchPart::kAddRelations);
     host_.dialogs.pictures.clear();
     const auto start = std::chrono::steady_clock::now();
     const CommandRun run = RunCommand(first.command);
@@ -151,10 +154,17 @@ class Bench {
       } else {
         taken.push_back(part.part == BenchPart::kCollection
                             ? Collection()
-                            : Taken{seconds.count(), host_.trace.calls()});
+                            : Taken{seconds.count(), host_.trace.calls() - Notes()});
       }
     }
     return taken;
+  }
+
+  // Those of progress come in steps, which would hide how the other calls grow.
+  long Notes() const {
+    const auto counts = host_.trace.Counts();
+    const auto found = counts.find("ProMessageDisplay");
+    return found == counts.end() ? 0 : found->second;
   }
 
   Taken Collection() const {
@@ -183,6 +193,13 @@ class Bench {
   void DropParameter(bool from_all) {
     if (!from_all) return;
     for (const auto& model : host_.session.models()) model->DeleteParameter(kBenchParameter);
+  }
+
+  void DropRelations(bool from_all) {
+    if (!from_all) return;
+    for (const auto& model : host_.session.models()) {
+      if (SolidContent* const solid = model->As<SolidContent>()) solid->relations.reset();
+    }
   }
 
   // In a run that is not timed. 0 where a part is not told apart.

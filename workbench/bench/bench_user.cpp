@@ -1,6 +1,7 @@
 // Works the dialogs the way a user does.
 #include "workbench/bench/bench_user.h"
 
+#include <algorithm>
 #include <chrono>
 #include <stdexcept>
 
@@ -17,6 +18,9 @@ constexpr char kBillTable[] = "bom_list";
 constexpr char kRenameTable[] = "mdl_list";
 // The spreadsheet program is kept away, so that an export ends when its table has been read.
 constexpr char kNoSpreadsheet[] = "创建Excel失败";
+// What the commands say when they are done.
+constexpr std::string_view kDone[] = {"\t批量关系创建操作已完成\t", "\t模型批量单位设置完成\t",
+                                      "\t材料设置完成\t"};
 
 void Require(const UserOutcome& outcome) {
   if (!outcome.Done()) throw std::runtime_error(outcome.refusal);
@@ -97,11 +101,26 @@ void BenchUser::ListForRenaming(LiveDialog& dialog) {
   RequireRows(dialog, kRenameTable);
 }
 
+void BenchUser::AddRelations(LiveDialog& dialog) {
+  Require(dialog.state.UserSelect("TypeRadio", {"AsmAndPart"}));
+  Require(dialog.state.UserSetField("RelTxtarea", "qm_a=1\nqm_b=2"));
+  Take(BenchPart::kAddRelations, [&] { Press(dialog, "AddRels"); });
+}
+
+void BenchUser::SetUnits(LiveDialog& dialog) {
+  Require(dialog.state.UserSelect("UnitRadio", {"mmKs"}));
+  Take(BenchPart::kSetUnits, [&] { Press(dialog, "ApplyBt"); });
+}
+
 void BenchUser::WorkDialog(LiveDialog& dialog) {
   if (dialog.name == "QmBom") {
     WorkBills(dialog);
   } else if (dialog.name == "QmRename") {
     ListForRenaming(dialog);
+  } else if (dialog.name == "Relations") {
+    AddRelations(dialog);
+  } else if (dialog.name == "SetUnit") {
+    SetUnits(dialog);
   } else {
     AddParameter(dialog);
   }
@@ -113,6 +132,9 @@ std::optional<std::vector<PickedItem>> BenchUser::Pick(const PickRequest& reques
 }
 
 std::optional<std::string> BenchUser::ChooseFile(const FileRequest& request) {
+  if (request.asked_by == "ProFileOpen") {
+    return PathToUtf8(TheHost().session.working_directory() / kBenchMaterial);
+  }
   if (request.asked_by != "GetSaveFileNameW") Unexpected("file for " + request.asked_by);
   return PathToUtf8(TheHost().session.working_directory() / "bench.xlsx");
 }
@@ -122,7 +144,9 @@ std::optional<std::string> BenchUser::AnswerPrompt(const std::string& prompt, in
 }
 
 int BenchUser::AnswerMessageBox(const MessageBox& box) {
-  if (box.text != kNoSpreadsheet) Unexpected("box \"" + box.text + "\"");
+  const bool is_known =
+      box.text == kNoSpreadsheet || std::ranges::find(kDone, box.text) != std::end(kDone);
+  if (!is_known) Unexpected("box \"" + box.text + "\"");
   return 1;  // OK
 }
 

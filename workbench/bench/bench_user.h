@@ -19,6 +19,9 @@ struct BenchPress {
   long long heap_bytes = 0;  // the plug-in's peak; 0 unless it was to be watched
 };
 
+// The material that is picked, in the working directory.
+inline constexpr char kBenchMaterial[] = "bench.mtl";
+
 // Every question that a benchmark does not expect throws std::runtime_error.
 class BenchUser : public User {
  public:
@@ -37,6 +40,8 @@ class BenchUser : public User {
   void AddParameter(LiveDialog& dialog);
   void ListForRenaming(LiveDialog& dialog);
   void WorkBills(LiveDialog& dialog);
+  void AddRelations(LiveDialog& dialog);
+  void SetUnits(LiveDialog& dialog);
   void Take(BenchPart part, const std::function<void()>& press);
 
   void* watched_ = nullptr;

@@ -30,6 +30,10 @@ struct TreeRefresh {
   std::string model;
 };
 
+struct Regeneration {
+  std::string model;
+};
+
 // What an interactive selection was asked to allow: number and value of each option.
 struct PickOptions {
   std::vector<std::pair<int, int>> options;
@@ -53,7 +57,7 @@ struct ExportedFile {
   std::string trouble{};  // why it is none, where it could be; empty: there is nothing to tell
 };
 
-// A macro that the host is to run once the command has ended. None is carried out.
+// A macro that the host runs once the command has ended.
 struct QueuedMacro {
   std::string text;
 };
@@ -87,9 +91,9 @@ struct FileProblem {
   std::string text;
 };
 
-using Event = std::variant<Note, MissingText, Repaint, TreeRefresh, PickOptions, MessageBox,
-                           FileRequest, ShellCall, ExportedFile, QueuedMacro, MouseEvent,
-                           ClassRequest, Breach, Gap, FileProblem>;
+using Event = std::variant<Note, MissingText, Repaint, TreeRefresh, Regeneration, PickOptions,
+                           MessageBox, FileRequest, ShellCall, ExportedFile, QueuedMacro,
+                           MouseEvent, ClassRequest, Breach, Gap, FileProblem>;
 
 class Events {
  public:

@@ -37,8 +37,15 @@ struct Habits {
   bool selection_policy_clears_selection = false;    // of a table's rows
   bool undisplayed_drawing_is_not_exported = false;  // to DWG and DXF
   bool empty_file_list_fails = false;                // with "not found", instead of no files
-  bool file_list_repeats_names = false;      // one for each version, asked for the newest alone
-  bool chosen_folder_has_separator = false;  // at its end
+  bool file_list_repeats_names = false;          // one for each version, asked for the newest alone
+  bool chosen_folder_has_separator = false;      // at its end
+  bool lacking_appearance_is_not_found = false;  // instead of success with the record untouched
+  bool appearance_record_has_unknown_order = false;
+  bool post_relations_are_always_there = false;  // a set that has no lines can be opened
+  bool relations_without_lines_succeed = false;  // with no array, instead of "not found"
+  bool unit_conversions_are_exchanged = false;   // same size is 0, same dimensions is 1
+  bool unit_system_types_are_exchanged = false;  // force-length-time is 0, mass-length-time is 1
+  bool unit_records_are_longer = false;          // those in arrays, by 8 bytes
 };
 
 struct HabitRow {

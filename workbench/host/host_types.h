@@ -18,6 +18,7 @@
 #include "toolkit/message.h"
 #include "toolkit/model.h"
 #include "toolkit/parameter.h"
+#include "toolkit/properties.h"
 #include "toolkit/selection.h"
 #include "toolkit/types.h"
 #include "toolkit/ui.h"

@@ -28,6 +28,11 @@ class User {
     static_cast<void>(function);
     return false;
   }
+  // Whether a macro is meant to be queued and left alone.
+  virtual bool LeavesMacro(const std::string& macro) {
+    static_cast<void>(macro);
+    return false;
+  }
   // Gives the id of the pressed button.
   virtual int AnswerMessageBox(const MessageBox& box) = 0;
 };

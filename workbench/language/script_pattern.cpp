@@ -44,6 +44,7 @@ constexpr ArgumentType kArgumentTypes[] = {
     {"SECOND", IsTimes, "a count from 1"},
     {"TIMES", IsTimes, "a count from 1"},
     {"ID", IsWhole, "a whole number"},
+    {"IDS", IsWhole, "a whole number"},
     {"FLAGS", IsWhole, "a whole number"},
     {"FEATURE_TYPE", IsCount, "a feature type number"},
     {"INTEGER", IsWhole, "a whole number"},

@@ -6,6 +6,7 @@
 
 #include "workbench/base/windows_headers.h"
 #include "workbench/host/call.h"
+#include "workbench/plugin/macro_steps.h"
 #include "workbench/plugin/plugin_entry.h"
 
 namespace wb {
@@ -27,6 +28,16 @@ HMODULE Load(const std::filesystem::path& dll) {
 
 void* EntryOf(void* module, const char* name) {
   return reinterpret_cast<void*>(::GetProcAddress(static_cast<HMODULE>(module), name));
+}
+
+// What the plug-in has queued runs once the user could go on.
+void RunMacros(size_t mark) {
+  Host& host = TheHost();
+  for (const QueuedMacro& macro : host.events.Since<QueuedMacro>(mark)) {
+    if (host.user != nullptr && host.user->LeavesMacro(macro.text)) continue;
+    const std::string gap = PlayMacro(macro.text, host.session);
+    if (!gap.empty()) host.events.Add(Gap{"workbench: not modelled: " + gap});
+  }
 }
 
 int AskAccess(const Command& command) {
@@ -129,6 +140,8 @@ CommandRun RunCommand(const std::string& command) {
   const Command* const found = host.commands.Find(command);
   run.known = found != nullptr;
   if (!run.known) return run;
+  const bool is_outermost = host.running_command.empty();
+  const size_t events_before = host.events.Mark();
   const RunningCommand running(command);
   const long before = host.trace.calls();
   run.directory_before = run.directory_after = host.session.working_directory();
@@ -141,6 +154,7 @@ CommandRun RunCommand(const std::string& command) {
   run.left_out = host.accounts.Describe(before);
   ReportLeftPrograms(before);
   run.directory_after = host.session.working_directory();
+  if (is_outermost) RunMacros(events_before);
   return run;
 }
 

@@ -102,6 +102,11 @@ std::string DrawQuestions(const CommandRecord& command) {
       });
 }
 
+std::string DrawModels(const CommandRecord& command) {
+  const std::string figures = DrawScenes(command);
+  return figures.empty() ? "" : "<h3>The model</h3><div class=\"shown\">" + figures + "</div>";
+}
+
 std::string DrawStates(const CommandRecord& command) {
   return DrawTable("Feature states", {"Model", "Feature", "Before", "After"}, command.states,
                    "feature", [](const StateChange& change) {
@@ -268,6 +273,7 @@ std::string DrawCommand(const CommandRecord& command, const std::string& anchor,
   for (const auto draw : {&DrawDialogs, &DrawBoxes, &DrawQuestions, &DrawNotes}) {
     html += draw(command);
   }
+  html += DrawModels(command);
   html += DrawTrees(command, limits);
   for (const auto draw : {&DrawStates, &DrawParameters, &DrawFacts, &DrawDrawings, &DrawFiles,
                           &DrawWorkbooks, &DrawPrograms, &DrawClipboard, &DrawCalls}) {

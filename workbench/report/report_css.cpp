@@ -68,6 +68,7 @@ section { margin-top: 30px; padding: 16px 18px 18px; border: 1px solid var(--lin
 section > p { margin: 0; color: var(--soft-ink); overflow-wrap: anywhere; }
 .shown { display: flex; flex-wrap: wrap; gap: 20px; align-items: flex-start; }
 .shown figure { margin: 0; max-width: 100%; }
+.scene { display: block; max-width: 100%; border: 1px solid var(--line); border-radius: 4px; }
 .scroll { overflow-x: auto; }
 .shown .scroll { padding: 2px 2px 16px; }
 .shown figcaption { color: var(--soft-ink); font-size: 12px; margin-bottom: 4px;

@@ -3,6 +3,7 @@
 
 #include "workbench/base/html_text.h"
 #include "workbench/report/report_text.h"
+#include "workbench/scene/scene_svg.h"
 #include "workbench/sheet/sheet_svg.h"
 
 namespace wb {
@@ -78,7 +79,24 @@ std::string SheetFigures(const DrawingPicture& drawing, std::size_t number) {
                      DrawSheet(after, before, SheetMoment::kAfter));
 }
 
+std::string SceneFigure(const Scene& scene, const SceneFrame& frame, const char* moment) {
+  if (scene.model.empty()) return {};
+  return "<figure><figcaption>" + EscapeHtml(scene.model) + moment + "</figcaption>" +
+         DrawScene(scene, frame) +
+         MoreLine(scene.boxes.size() + scene.left_out, scene.boxes.size(), "small part") +
+         "</figure>";
+}
+
 }  // namespace
+
+std::string DrawScenes(const CommandRecord& command) {
+  const Scene& before = command.scene_before;
+  const Scene& after = command.scene_after;
+  const SceneFrame frame = Around(FrameOf(before), FrameOf(after));
+  if (after.model.empty()) return SceneFigure(before, frame, "");
+  return SceneFigure(before, frame, " <mark>before</mark>") +
+         SceneFigure(after, frame, " <mark>after</mark>");
+}
 
 std::string DrawMessageBox(const MessageBox& box, int pressed) {
   std::string html =

@@ -11,6 +11,9 @@ namespace wb {
 // that the user pressed, 0 when unknown.
 std::string DrawMessageBox(const MessageBox& box, int pressed);
 
+// The current model as a picture, before and after the command where it looks different.
+std::string DrawScenes(const CommandRecord& command);
+
 // The sheets of a drawing as inline SVG, those that a command changed before and after it.
 std::string DrawSheets(const DrawingPicture& drawing);
 

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "workbench/scene/scene.h"
 #include "workbench/session/user_requests.h"
 #include "workbench/sheet/sheet_picture.h"
 
@@ -123,6 +124,10 @@ struct CommandRecord {
 
   ModelTree tree_before;  // of the current model; no rows: there was none
   ModelTree tree_after;
+  // Of the current model. Where it looks as before the command, that stands in `scene_before` alone
+  // or, where it has been shown in the page already, nowhere.
+  Scene scene_before;
+  Scene scene_after;
   std::vector<StateChange> states;
   std::vector<ValueChange> parameters;
   std::vector<ValueChange> facts;        // other than states and parameters

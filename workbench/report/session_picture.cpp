@@ -232,6 +232,7 @@ SessionPicture TakePicture(const Session& session) {
     picture.current = current->id.Text();
     // A manufacturing model has no components of its own: its assembly is what users work on.
     picture.tree = TakeTree(ShownSolid(*current));
+    picture.scene = TakeScene(ShownSolid(*current));
   }
   for (const auto& model : session.models()) {
     picture.models.emplace(model->id.Text(), *model);
@@ -245,6 +246,8 @@ void NoteChanges(const SessionPicture& before, const SessionPicture& after,
                  CommandRecord& command) {
   command.tree_before = before.tree;
   command.tree_after = after.tree;
+  command.scene_before = before.scene;
+  if (!(before.scene == after.scene)) command.scene_after = after.scene;
   for (const auto& [name, now] : after.models) {
     const auto old = before.models.find(name);
     if (old != before.models.end()) {

@@ -13,6 +13,7 @@ namespace wb {
 struct SessionPicture {
   std::string current;                  // the current model's name; empty: none
   ModelTree tree;                       // of the current model
+  Scene scene;                          // of it
   std::map<std::string, Model> models;  // as they are, by name
   // Sheets of drawings, taken at once: what their views show may be other models' facts.
   std::map<std::string, std::vector<SheetPicture>> sheets;

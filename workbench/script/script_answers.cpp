@@ -50,11 +50,13 @@ constexpr StatementForm kAnswerForms[] = {
     {WB_MESSAGE,                             kAnswerOrDialog, kWhenAsked},
     {"pick cancel",                          kAnswerOrDialog, kWhenAsked},
     {"pick item ITEM ID of MODEL [at PATH]", kAnswerOrDialog, kWhenAsked},
+    {"pick items ITEM of MODEL IDS...",      kAnswerOrDialog, kWhenAsked},
     {"pick PATH...",                         kAnswerOrDialog, kWhenAsked},
     {"file cancel " WB_REQUEST,              kAnswerOrDialog, kWhenAsked},
     {"file PATH " WB_REQUEST,                kAnswerOrDialog, kWhenAsked},
     {"prompt cancel [asks PROMPT]",          kAnswerOrDialog, kWhenAsked},
     {"prompt TEXT [asks PROMPT]",            kAnswerOrDialog, kWhenAsked},
+    {"macro TEXT",                           kAnswerOrDialog, kWhenAsked},
     {"at call NTH of FUNCTION",              kAnswerOrDialog, &AwaitCall, kDialogPlace},
 };
 // clang-format on
@@ -144,6 +146,13 @@ std::optional<std::string> ScriptUser::AnswerText(const std::string& prompt, int
   }
   if (answer->Has("cancel")) return std::nullopt;
   return answer->Text("TEXT");
+}
+
+bool ScriptUser::LeavesMacro(const std::string& macro) {
+  const Statement* const answer = Take("macro");
+  if (answer == nullptr) return false;
+  if (!run_.lenient) run_.CheckText(*answer, "macro", answer->Text("TEXT"), macro);
+  return true;
 }
 
 int ScriptUser::PressedButton(const MessageBox& box) {

@@ -112,6 +112,15 @@ ComponentSpot FindComponentSpot(Model& root, const std::string& path) {
 std::vector<PickedItem> PicksOf(ScriptRun& run, const Statement& statement) {
   std::vector<PickedItem> picks;
   Model& root = run.Root();
+  if (statement.Has("IDS")) {
+    const int type = NumberOf(ItemWords(), statement.Text("ITEM")).value_or(0);
+    for (const std::string& id : statement.Texts("IDS")) {
+      picks.push_back(
+          {type, std::atoi(id.c_str()), &run.ModelNamed(statement.Text("MODEL")), &root, {}});
+      CheckItem(picks.back());
+    }
+    return picks;
+  }
   if (statement.Has("ITEM")) {
     PickedItem pick{NumberOf(ItemWords(), statement.Text("ITEM")).value_or(0),
                     statement.Number("ID"),

@@ -69,8 +69,22 @@ void CommandRecorder::Note(const CommandRun& result) {
   NoteShown();
   NoteCalls();
   NoteChanges(*before_, TakePicture(run_.host.session), record());
+  DropShownScene();
   NoteFiles();
   NoteOpened();
+}
+
+// A page shows an assembly that no command changes once.
+void CommandRecorder::DropShownScene() {
+  if (!record().scene_after.model.empty()) return;
+  std::vector<CommandRecord>& commands = run_.record().commands;
+  for (size_t i = static_cast<size_t>(run_.recording); i-- > 0;) {
+    const Scene& shown =
+        commands[i].scene_after.model.empty() ? commands[i].scene_before : commands[i].scene_after;
+    if (shown.model.empty()) continue;
+    if (shown == record().scene_before) record().scene_before = Scene();
+    return;
+  }
 }
 
 // A folder inside one that is watched already is not watched again.

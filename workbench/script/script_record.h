@@ -37,6 +37,7 @@ class CommandRecorder {
   void Watch(const char* name, const std::filesystem::path& folder);
   void NoteShown();
   void NoteCalls();
+  void DropShownScene();
   void NoteFiles();
   std::string WhatOf(const std::filesystem::path& file, const std::string& change) const;
   void NoteFile(const Watched& watched, const std::filesystem::path& file, const std::string& what);

@@ -29,6 +29,7 @@ class ScriptUser : public User {
   std::optional<std::vector<PickedItem>> Pick(const PickRequest& request) override;
   std::optional<std::string> ChooseFile(const FileRequest& request) override;
   std::optional<std::string> AnswerPrompt(const std::string& prompt, int max_length) override;
+  bool LeavesMacro(const std::string& macro) override;
   int AnswerMessageBox(const MessageBox& box) override;
   bool CallBegins(const char* function) override;
 

@@ -23,17 +23,26 @@ void Enclose(std::optional<Box>& extents, const Point& point) {
   }
 }
 
-bool IsShown(const Feature& component) {
-  return component.status == FeatureStatus::kActive && component.visible && !component.hidden &&
-         component.ComponentModel() != nullptr;
-}
-
 struct Occurrence {
   const Model* model;
   Placement placement;
 };
 
 }  // namespace
+
+bool IsShown(const Feature& component) {
+  return component.status == FeatureStatus::kActive && component.visible && !component.hidden &&
+         component.ComponentModel() != nullptr;
+}
+
+std::optional<Box> OwnExtents(const SolidContent& solid) {
+  std::optional<Box> around;
+  for (const Surface& surface : solid.surfaces) {
+    Enclose(around, surface.box.min);
+    Enclose(around, surface.box.max);
+  }
+  return around;
+}
 
 Point PlacedAt(const Point& point, const Placement& placement) {
   Point placed{};
@@ -54,6 +63,17 @@ Placement PlacedWithin(const Placement& inner, const Placement& outer) {
   return placement;
 }
 
+Placement ComponentPlacement(const Model& assembly, const Feature& component) {
+  Placement placement = component.component->placement;
+  const Model* const model = component.ComponentModel();
+  const double ratio = model == nullptr ? 1 : LengthRatio(*model, assembly);
+  if (ratio == 1) return placement;
+  for (size_t row = 0; row < 3; ++row) {
+    for (size_t axis = 0; axis < 3; ++axis) placement[row][axis] *= ratio;
+  }
+  return placement;
+}
+
 std::optional<Box> ExtentsOf(const Model& solid) {
   std::optional<Box> extents;
   std::vector<Occurrence> pending = {{&solid, kIdentityPlacement}};
@@ -69,8 +89,8 @@ std::optional<Box> ExtentsOf(const Model& solid) {
     }
     for (const Feature& feature : content->features) {
       if (!IsShown(feature)) continue;
-      pending.push_back(
-          {feature.ComponentModel(), PlacedWithin(feature.component->placement, at.placement)});
+      pending.push_back({feature.ComponentModel(),
+                         PlacedWithin(ComponentPlacement(*at.model, feature), at.placement)});
     }
   }
   return extents;

@@ -16,6 +16,7 @@
 #include "workbench/session/facts.h"
 #include "workbench/session/item_list.h"
 #include "workbench/session/model_link.h"
+#include "workbench/session/units.h"
 
 namespace wb {
 
@@ -63,9 +64,42 @@ struct Feature {
 };
 Feature NewComponent(int id, ModelName model, const Placement& placement = kIdentityPlacement);
 
+// Red, green and blue from 0 to 1.
+using Rgb = std::array<double, 3>;
+
+// How a model or one of its surfaces looks. All numbers but the reflection lie between 0 and 1. By
+// default the grey of a model that has no appearance of its own.
+struct Appearance {
+  Rgb colour = {0.6, 0.6, 0.6};
+  double ambient = 0.6;
+  double diffuse = 0.9;
+  double highlight = 0.6;
+  double shininess = 0.6;
+  double transparency = 0;  // 1: clear
+  Rgb highlight_colour = {1, 1, 1};
+  double reflection = 0.3;
+  std::string name{};
+  int finish = 0;  // stands in a part of the host's record that the plug-in does not know
+  bool operator==(const Appearance&) const = default;
+};
+
 struct Surface {
   int id = 0;
   Box box;
+  std::optional<Appearance> appearance = std::nullopt;  // none of its own: its model's
+};
+
+struct SolidDimension {
+  int id = 0;
+  double value = 0;
+};
+
+using RelationLines = std::vector<std::string>;
+
+// A material that a part has read, with the first line of its file.
+struct Material {
+  std::string name;
+  std::string text;
 };
 
 // Parts and assemblies.
@@ -74,6 +108,20 @@ struct SolidContent {
   bool skeleton = false;
   ItemList<Feature> features;
   ItemList<Surface> surfaces;
+  ItemList<SolidDimension> dimensions;
+  std::optional<Appearance> appearance;  // none of its own: the host's grey
+
+  // None: there is no such set.
+  std::optional<RelationLines> relations;
+  std::optional<RelationLines> post_relations;  // those after a regeneration
+
+  std::string units = kDefaultUnits;  // the principal system
+  ItemList<UnitSystem> unit_systems;  // those of its own
+
+  ItemList<Material> materials;
+  std::string material;         // the current one; empty: none
+  std::string bend_table;       // empty: none
+  std::string bend_table_text;  // the first line of its file
 };
 
 struct ManufacturingContent {

@@ -96,31 +96,6 @@ const RecordType& RecordTypeOf<Feature>() {
 }
 
 template <>
-const RecordType& RecordTypeOf<Surface>() {
-  static constexpr FactRow kFacts[] = {
-      Fact<&Surface::id>("id", InFile::kRequired),
-      Fact<&Surface::box, &Box::min>("min", InFile::kRequired),
-      Fact<&Surface::box, &Box::max>("max", InFile::kRequired),
-  };
-  static const RecordType kType = TypeWith<Surface>(kFacts);
-  return kType;
-}
-
-template <>
-const RecordType& RecordTypeOf<SolidContent>() {
-  static constexpr FactRow kFacts[] = {
-      Fact<&SolidContent::sheet_metal>("sheet_metal"),
-      Fact<&SolidContent::skeleton>("skeleton"),
-  };
-  static constexpr ListRow kLists[] = {
-      List<&SolidContent::features>("features"),
-      List<&SolidContent::surfaces>("surfaces"),
-  };
-  static const RecordType kType = TypeWith<SolidContent>(kFacts, kLists);
-  return kType;
-}
-
-template <>
 const RecordType& RecordTypeOf<ManufacturingContent>() {
   static constexpr FactRow kFacts[] = {Fact<&ManufacturingContent::assembly>("assembly")};
   static const RecordType kType = TypeWith<ManufacturingContent>(kFacts);

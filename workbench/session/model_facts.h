@@ -12,6 +12,11 @@
 
 namespace wb {
 
+// In solid_facts.cpp.
+template <>
+const RecordType& RecordTypeOf<Surface>();
+template <>
+const RecordType& RecordTypeOf<SolidContent>();
 // In drawing_facts.cpp.
 template <>
 const RecordType& RecordTypeOf<DrawingContent>();

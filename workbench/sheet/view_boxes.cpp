@@ -28,24 +28,6 @@ struct ProjectedBox {
   bool is_dot = false;
 };
 
-bool IsShown(const Feature& component) {
-  return component.status == FeatureStatus::kActive && component.visible && !component.hidden &&
-         component.ComponentModel() != nullptr;
-}
-
-std::optional<Box> BoxAround(const SolidContent& solid) {
-  std::optional<Box> around;
-  for (const Surface& surface : solid.surfaces) {
-    if (!around) around = Box{surface.box.min, surface.box.min};
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-      const auto [low, high] = std::minmax(surface.box.min[axis], surface.box.max[axis]);
-      around->min[axis] = std::min(around->min[axis], low);
-      around->max[axis] = std::max(around->max[axis], high);
-    }
-  }
-  return around;
-}
-
 // The corners of the face of a box at one end of an axis, one after the other around it.
 std::array<Point, 4> CornersOf(const Box& box, std::size_t axis, bool upper) {
   const std::size_t u = (axis + 1) % 3;
@@ -152,11 +134,11 @@ std::vector<PlacedBox> BoxesOf(const Model& model) {
     pending.pop_back();
     const SolidContent* const solid = at.model->As<SolidContent>();
     if (solid == nullptr) continue;
-    if (const auto box = BoxAround(*solid)) boxes.push_back({*box, at.placement});
+    if (const auto box = OwnExtents(*solid)) boxes.push_back({*box, at.placement});
     for (const Feature& feature : solid->features) {
       if (!IsShown(feature) || pending.size() >= kMostOccurrences) continue;
-      pending.push_back(
-          {feature.ComponentModel(), PlacedWithin(feature.component->placement, at.placement)});
+      pending.push_back({feature.ComponentModel(),
+                         PlacedWithin(ComponentPlacement(*at.model, feature), at.placement)});
     }
   }
   return boxes;

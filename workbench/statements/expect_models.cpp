@@ -137,6 +137,23 @@ void ExpectRefresh(ScriptRun& run, const Statement& statement) {
             "refresh of the model tree", wanted, all.empty() ? "none" : Join(", ", all));
 }
 
+void ExpectRegenerated(ScriptRun& run, const Statement& statement) {
+  std::vector<std::string> wanted;
+  for (const std::string& name : statement.Texts("MODEL")) {
+    wanted.push_back(run.ModelNamed(name).id.Text());
+  }
+  std::vector<std::string> got;
+  for (const Regeneration& event : run.host.events.Since<Regeneration>(run.marks.begin)) {
+    got.push_back(event.model);
+  }
+  const auto told = [](const std::vector<std::string>& names) {
+    return names.empty() ? "none" : Join(", ", names);
+  };
+  std::ranges::sort(wanted);
+  std::ranges::sort(got);
+  run.Check(statement, wanted == got, "models regenerated", told(wanted), told(got));
+}
+
 // clang-format off
 constexpr StatementForm kExpectModelsForms[] = {
     {"expect parameter MODEL NAME is missing",            kTopOrDialog, &ExpectParameter},
@@ -160,6 +177,8 @@ constexpr StatementForm kExpectModelsForms[] = {
     {"expect repaint",                                    kTopOrDialog, &ExpectRepaint},
     {"expect no repaint",                                 kTopOrDialog, &ExpectRepaint},
     {"expect refresh MODEL",                              kTopOrDialog, &ExpectRefresh},
+    {"expect regenerated none",                           kTopOrDialog, &ExpectRegenerated},
+    {"expect regenerated MODEL...",                       kTopOrDialog, &ExpectRegenerated},
 };
 // clang-format on
 

@@ -1,5 +1,6 @@
-// Timers wait until they are fired, and pauses take no time.
+// Timers wait until they are fired, pauses take no time, and the clock always begins alike.
 #include <algorithm>
+#include <ctime>
 
 #include "workbench/base/windows_headers.h"
 #include "workbench/windows/windows_crossing.h"
@@ -57,6 +58,15 @@ ULONGLONG WINAPI HookGetTickCount64() {
   return ::GetTickCount64() + (slept ? TheHost().windows.slept_ms : 0);
 }
 
+// What a command draws at random begins with the time: two runs draw the same.
+__time64_t HookTime64(__time64_t* place) {
+  constexpr __time64_t kStart = 1'600'000'000;  // some second of 2020
+  if (!HasHost() || !TheHost().OnUiThread()) return ::_time64(place);
+  const auto now = kStart + static_cast<__time64_t>(TheHost().windows.slept_ms / 1000);
+  if (place != nullptr) *place = now;
+  return now;
+}
+
 }  // namespace
 
 HookRows TimeHooks() {
@@ -65,6 +75,7 @@ HookRows TimeHooks() {
       HookRow<decltype(KillTimer)>("KillTimer", &HookKillTimer),
       HookRow<decltype(Sleep)>("Sleep", &HookSleep, false),
       HookRow<decltype(GetTickCount64)>("GetTickCount64", &HookGetTickCount64, false),
+      HookRow<decltype(_time64)>("_time64", &HookTime64, false),
   };
   return kRows;
 }

@@ -34,6 +34,12 @@ DialogView::PossibleInput DialogView::InputIfThere(const char* component) const 
   return {true, Taken(status, text)};
 }
 
+std::optional<std::wstring> DialogView::TryTextAreaValue(const char* component) const {
+  WideText text;
+  const ProError status = ProUITextareaValueGet(name(), component, text.put());
+  return Taken(status, text);
+}
+
 ProError DialogView::SetInputValue(const char* component, std::wstring value) const {
   return ProUIInputpanelValueSet(name(), component, value.data());
 }

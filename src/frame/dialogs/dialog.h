@@ -24,6 +24,8 @@ class DialogView {
 
   // Nothing when the host does not tell, which differs from an empty field.
   std::optional<std::wstring> TryInputValue(const char* component) const;
+  // Its lines parted by line feeds.
+  std::optional<std::wstring> TryTextAreaValue(const char* component) const;
   // Name of the first selected button; empty when none is.
   std::optional<std::string> TryRadioValue(const char* component) const;
   std::optional<std::wstring> TryOptionValue(const char* component) const;

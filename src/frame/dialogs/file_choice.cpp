@@ -1,6 +1,8 @@
 // Asks for files through the host.
 #include "frame/dialogs/file_choice.h"
 
+#include <utility>
+
 #include "frame/messages/run_log.h"
 #include "frame/text/fixed_text.h"
 #include "toolkit/owners.h"
@@ -9,15 +11,19 @@
 
 namespace qm {
 
-std::wstring FormatFolder() {
-  ProName option = L"pro_format_dir";
+std::wstring OptionFolder(std::wstring_view option) {
+  ProName name = {};
   HostArray<ProPath> folders;
-  if (!Ok(ProConfigoptArrayGet(option, folders.put())) || folders.size() < 1) return {};
+  if (!FillFixedText(option, name)) return {};
+  if (!Ok(ProConfigoptArrayGet(name, folders.put())) || folders.size() < 1) return {};
   return std::wstring(FixedText(folders[0]));
 }
 
-std::optional<std::wstring> PickDrawingFile(std::wstring title, std::wstring filter,
-                                            std::wstring folder) {
+std::wstring FormatFolder() {
+  return OptionFolder(L"pro_format_dir");
+}
+
+std::optional<std::wstring> PickFile(std::wstring title, std::wstring filter, std::wstring folder) {
   ProPath chosen = {};
   const ProError status = ProFileOpen(title.data(), filter.data(), nullptr, nullptr,
                                       folder.empty() ? nullptr : folder.data(), nullptr, chosen);
@@ -27,6 +33,11 @@ std::optional<std::wstring> PickDrawingFile(std::wstring title, std::wstring fil
   const std::wstring path(FixedText(chosen));
   if (Ok(status) && path.empty()) LogFailure("ProFileOpen answered success and gave no file");
   return Ok(status) && !path.empty() ? std::optional(path) : std::nullopt;
+}
+
+std::optional<std::wstring> PickDrawingFile(std::wstring title, std::wstring filter,
+                                            std::wstring folder) {
+  return PickFile(std::move(title), std::move(filter), std::move(folder));
 }
 
 std::optional<std::wstring> PickFileToWrite(std::wstring title, std::wstring filter,

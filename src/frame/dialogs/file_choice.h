@@ -1,16 +1,24 @@
-// The host's file pickers: for drawing templates and formats, and for files to be written.
+// The host's file pickers, for files to be read and to be written, and the folders that its
+// configuration names.
 #pragma once
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace qm {
+
+// The first folder of an option such as "pro_material_dir"; empty when there is none.
+std::wstring OptionFolder(std::wstring_view option);
 
 // The folder of the drawing formats in the host's configuration; empty when it names none.
 std::wstring FormatFolder();
 
 // Full path of the file that the user picks, perhaps with its version behind ("a3.frm.2"). Opens in
-// `folder`, unless that is empty. `filter` is like "*.drw". Nothing when the user cancels.
+// `folder`, unless that is empty. `filter` is like "*.drw", or "*.mtl,*.mat". Nothing when the user
+// cancels.
+std::optional<std::wstring> PickFile(std::wstring title, std::wstring filter, std::wstring folder);
+// The same for drawings and formats.
 std::optional<std::wstring> PickDrawingFile(std::wstring title, std::wstring filter,
                                             std::wstring folder = FormatFolder());
 

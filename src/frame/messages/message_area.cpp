@@ -19,6 +19,11 @@ void DisplayNote(const char* key, const wchar_t* argument, const wchar_t* second
   }
 }
 
+void DisplayPrompt(const char* key) {
+  std::wstring file_name = L"msg_display.txt";
+  ProMessageDisplay(file_name.data(), key);
+}
+
 void NoteLeftOut(long long count) {
   if (count <= 0) return;
   LogLeftOutCount(count);

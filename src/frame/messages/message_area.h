@@ -12,6 +12,9 @@ inline constexpr wchar_t kNoteFile[] = L"qmmsg_display.txt";
 void DisplayNote(const char* key, const wchar_t* argument = nullptr,
                  const wchar_t* second = nullptr);
 
+// The same with a key of "msg_display.txt", the file of the transparency commands.
+void DisplayPrompt(const char* key);
+
 // Says how many components, rows or cells a command could not work on, and that the run log has the
 // reasons; nothing when it has worked on all. Once, at a command's end.
 void NoteLeftOut(long long count);

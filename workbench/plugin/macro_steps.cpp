@@ -1,0 +1,132 @@
+// Steps of macros, and the gallery of appearances as they go through it.
+#include "workbench/plugin/macro_steps.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace wb {
+namespace {
+
+std::string Trimmed(std::string_view text) {
+  const size_t first = text.find_first_not_of(" \t\r\n");
+  if (first == text.npos) return {};
+  return std::string(text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1));
+}
+
+// Up to the next semicolon outside of backquotes.
+size_t EndOfStep(std::string_view macro) {
+  bool quoted = false;
+  for (size_t i = 0; i < macro.size(); ++i) {
+    if (macro[i] == '`') quoted = !quoted;
+    if (macro[i] == ';' && !quoted) return i;
+  }
+  return macro.size();
+}
+
+MacroStep ParseStep(const std::string& text) {
+  MacroStep step{text, "", {}};
+  if (!text.starts_with('~')) return step;
+  const size_t quote = std::min(text.find('`'), text.size());
+  step.action = Trimmed(std::string_view(text).substr(1, quote - 1));
+  for (size_t at = quote; at < text.size();) {
+    const size_t end = text.find('`', at + 1);
+    if (end == text.npos) break;
+    step.names.push_back(text.substr(at + 1, end - at - 1));
+    at = std::min(text.find('`', end + 1), text.size());
+  }
+  return step;
+}
+
+void ClearOne(SolidContent& solid) {
+  solid.appearance.reset();
+  for (Surface& surface : solid.surfaces) surface.appearance.reset();
+}
+
+void ClearAppearances(Model& top) {
+  std::unordered_set<Model*> met = {&top};
+  std::vector<Model*> pending = {&top};
+  while (!pending.empty()) {
+    Model& model = *pending.back();
+    pending.pop_back();
+    SolidContent* const solid = model.As<SolidContent>();
+    if (solid == nullptr) continue;
+    ClearOne(*solid);
+    model.modified = true;
+    for (Feature& feature : solid->features) {
+      Model* const below = feature.ComponentModel();
+      if (below != nullptr && met.insert(below).second) pending.push_back(below);
+    }
+  }
+}
+
+// What is open while a macro runs.
+enum class Opened { kNothing, kGallery, kClearMenu, kQuestion };
+
+struct StepRow {
+  const char* action;
+  const char* name;  // the last one of the step
+  Opened at_least;   // what must be open
+  Opened then;       // what is open afterwards
+  bool clears;
+};
+constexpr char kClearMenu[] = "ProCmdViewGallery_layoutph.palette_holder.clearAppearance";
+constexpr char kGallery[] = "ProCmdViewGallery.view";
+constexpr char kQuestionDialog[] = "UI Message Dialog";
+// clang-format off
+constexpr StepRow kSteps[] = {
+    {"Select",   kGallery,             Opened::kNothing,   Opened::kGallery,   false},
+    {"Select",   kClearMenu,           Opened::kGallery,   Opened::kClearMenu, false},
+    {"Activate", "clearAllAppearance", Opened::kClearMenu, Opened::kQuestion,  false},
+    {"FocusIn",  "yes",                Opened::kQuestion,  Opened::kQuestion,  false},
+    {"FocusIn",  "no",                 Opened::kQuestion,  Opened::kQuestion,  false},
+    {"Activate", "yes",                Opened::kQuestion,  Opened::kNothing,   true},
+    {"Activate", "no",                 Opened::kQuestion,  Opened::kNothing,   false},
+};
+// clang-format on
+
+// Menus that are closed behind the question leave it open.
+bool IsClosing(const MacroStep& step) {
+  return step.action == "Close" &&
+         (step.names.back() == kClearMenu || step.names.back() == kGallery);
+}
+
+const StepRow* FindStep(const MacroStep& step) {
+  const auto* const row = std::ranges::find_if(kSteps, [&](const StepRow& known) {
+    const bool in_question = step.names.front() == kQuestionDialog;
+    const bool is_answer =
+        known.name == std::string_view("yes") || known.name == std::string_view("no");
+    return step.action == known.action && step.names.back() == known.name &&
+           in_question == is_answer;
+  });
+  return row == std::end(kSteps) ? nullptr : row;
+}
+
+}  // namespace
+
+std::vector<MacroStep> ParseMacro(std::string_view macro) {
+  std::vector<MacroStep> steps;
+  while (!macro.empty()) {
+    const size_t end = EndOfStep(macro);
+    const std::string text = Trimmed(macro.substr(0, end));
+    if (!text.empty()) steps.push_back(ParseStep(text));
+    macro.remove_prefix(std::min(end + 1, macro.size()));
+  }
+  return steps;
+}
+
+std::string PlayMacro(std::string_view macro, Session& session) {
+  Opened opened = Opened::kNothing;
+  for (const MacroStep& step : ParseMacro(macro)) {
+    if (step.names.empty()) return "macro step \"" + step.text + "\"";
+    if (IsClosing(step)) continue;
+    const StepRow* const row = FindStep(step);
+    if (row == nullptr) return "macro step \"" + step.text + "\"";
+    if (opened < row->at_least) return "macro step \"" + step.text + "\" with nothing open for it";
+    opened = row->then;
+    if (row->clears && session.Current() != nullptr)
+      ClearAppearances(ShownSolid(*session.Current()));
+  }
+  return opened == Opened::kQuestion ? "a question that a macro leaves open" : "";
+}
+
+}  // namespace wb

@@ -1,0 +1,25 @@
+// Macros of the host: text parted into steps, and those carried out that are modelled.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "workbench/session/session.h"
+
+namespace wb {
+
+// "~ Select `main_dlg_cur` `clear`;" is the action "Select" on two named things.
+struct MacroStep {
+  std::string text;    // as it stands, for what is said of it
+  std::string action;  // empty: no step of this form
+  std::vector<std::string> names;
+};
+std::vector<MacroStep> ParseMacro(std::string_view macro);
+
+// Carries a macro out in the session: clearing all appearances of the current model, of the models
+// under it and of their surfaces, with the host's question. Stops at a step that is not modelled.
+// Empty, or why it stopped.
+std::string PlayMacro(std::string_view macro, Session& session);
+
+}  // namespace wb
