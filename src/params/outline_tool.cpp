@@ -4,7 +4,7 @@
 #include "frame/guard/visit.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
-#include "params/outline_rules.h"
+#include "frame/text/outline_rules.h"
 #include "params/param_batch.h"
 #include "params/param_settings.h"
 #include "toolkit/owners.h"

@@ -25,11 +25,4 @@ ValueOrRefusal ValueToAdd(std::wstring_view type, std::wstring_view text);
 // The value for updating: as for creating, but a yes/no parameter is always set to yes.
 ValueOrRefusal ValueToUpdate(std::wstring_view type, std::wstring_view text);
 
-// The number that a text begins with after blanks and a sign, 0 when there is none; too large a
-// number gives the largest or smallest one. As the C library's _wtoi.
-int LeadingInteger(std::wstring_view text);
-
-// The same for real numbers with point and exponent; too large gives infinity. As _wtof.
-double LeadingReal(std::wstring_view text);
-
 }  // namespace qm

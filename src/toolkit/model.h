@@ -25,6 +25,9 @@ PRO_FUNCTION(ProError, ProMdlDisplay, ProMdl model);
 // The window that shows it; 0 is one.
 PRO_FUNCTION(ProError, ProMdlWindowGet, ProMdl model, int* window);
 PRO_FUNCTION(ProError, ProMdlSave, ProMdl model);
+// Into the folder of the record; of an assembly likely with all that it uses. The session keeps its
+// names and folders.
+PRO_FUNCTION(ProError, ProMdlBackup, ProMdl model, ProMdldata* target);
 // In session and on disk. Users of the model keep pointing at it; their files know the new name
 // only once they are saved.
 PRO_FUNCTION(ProError, ProMdlRename, ProMdl model, ProName new_name);

@@ -301,6 +301,17 @@ typedef enum {
   PRO_PRINT_SELECTED_SHEETS = 2
 } ProPrintSheets;
 
+// What a simplified representation does with a component. Both numbers are doubtful: were they
+// exchanged, what is to be kept would be left out.
+typedef enum {
+  PRO_SIMPREP_INCLUDE = 1,
+  PRO_SIMPREP_EXCLUDE = 2,
+} ProSimprepActionType;
+// An item of a representation that stands for a component; doubtful as well.
+typedef enum {
+  PRO_SIMPREP_COMPONENT_ITEM = 1,
+} ProSimprepItemType;
+
 // How many rows or columns of a table the user can select.
 typedef enum {
   PROUISELPOLICY_SINGLE = 1,
@@ -320,6 +331,11 @@ typedef enum {
   PRO_UNITSYSTEM_MLT = 0,
   PRO_UNITSYSTEM_FLT = 1,
 } ProUnitsystemType;
+// Kinds of units of a system. The number is doubtful: were it another one, sizes would be told in
+// grams or seconds.
+typedef enum {
+  PRO_UNITTYPE_LENGTH = 0,
+} ProUnitType;
 // How a model regenerates after a change of its units; the number is given.
 inline constexpr int kUnitRegenerationFlags = -1;
 // A regeneration without any option.

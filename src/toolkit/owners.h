@@ -12,6 +12,7 @@
 #include "toolkit/export.h"
 #include "toolkit/geometry.h"
 #include "toolkit/selection.h"
+#include "toolkit/simplified_rep.h"
 #include "toolkit/status.h"
 #include "toolkit/types.h"
 #include "toolkit/ui_table.h"
@@ -73,6 +74,9 @@ inline void PdfOptions(ProPDFOptions options) {
 inline void ArrayTexts(wchar_t** texts) {
   ProWstringproarrayFree(texts);
 }
+inline void RepData(ProSimprepdata* data) {
+  ProSimprepdataFree(&data);
+}
 template <typename T>
 void Array(T* items) {
   ProArray array = items;
@@ -88,6 +92,7 @@ using TextArray = Owner<wchar_t**, &release::ArrayTexts>;
 using SelectionEnvironment = Owner<ProSelectionEnv, &release::Environment>;
 using ExportData = Owner<Pro2dExportdata, &release::Data2d>;
 using PdfOptions = Owner<ProPDFOptions, &release::PdfOptions>;
+using SimplifiedRepData = Owner<ProSimprepdata*, &release::RepData>;
 using GeometryData = Owner<ProGeomitemdata*, &release::Geometry>;
 
 // Number of elements of one of the host's arrays, 0 for no array; nothing when the host does not

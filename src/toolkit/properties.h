@@ -73,6 +73,9 @@ PRO_FUNCTION(ProError, ProUnitsystemTypeGet, ProUnitsystem* system, ProUnitsyste
 PRO_FUNCTION(ProError, ProMdlUnitsystemCreate, ProMdl model, ProUnitsystemType type, ProName name,
              ProUnititem* units, ProUnitsystem* created);
 PRO_FUNCTION(ProError, ProMdlPrincipalunitsystemGet, ProMdl model, ProUnitsystem* system);
+// The system's unit for lengths, masses and so on.
+PRO_FUNCTION(ProError, ProUnitsystemUnitGet, ProUnitsystem* system, ProUnitType type,
+             ProUnititem* unit);
 PRO_FUNCTION(ProError, ProMdlPrincipalunitsystemSet, ProMdl model, ProUnitsystem* system,
              ProUnitConvertType conversion, ProBoolean ignore_param_units, int regeneration_flags);
 

@@ -28,6 +28,8 @@ PRO_FUNCTION(ProError, ProUIInputpanelValueSet, const char* dialog, const char* 
 PRO_FUNCTION(ProError, ProUIInputpanelValueGet, const char* dialog, const char* component,
              wchar_t** value);
 
+PRO_FUNCTION(ProError, ProUILabelTextSet, const char* dialog, const char* component, wchar_t* text);
+
 // The user goes into the field.
 PRO_FUNCTION(ProError, ProUIInputpanelFocusinActionSet, const char* dialog, const char* component,
              ProUIAction action, ProAppData data);

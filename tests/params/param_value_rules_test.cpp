@@ -7,6 +7,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "frame/text/number_rules.h"
+
 namespace qm {
 namespace {
 

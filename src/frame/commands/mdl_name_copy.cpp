@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "frame/commands/clipboard.h"
+#include "frame/messages/clipboard.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/pointed_model.h"

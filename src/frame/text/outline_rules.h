@@ -1,4 +1,4 @@
-// The outline of a model: the size of its surfaces' common box, as a text such as "120.5×80.0×6.0".
+// Outlines of models: the size of a common box, as a text such as "120.5×80.0×6.0".
 #pragma once
 
 #include <array>
@@ -26,6 +26,10 @@ class OutlineBox {
 
 // Decimals for the text, from the number at the start of `option`: 0 when there is none, at most 6.
 int OutlineDecimals(std::wstring_view option);
+
+// With fixed decimals, halves rounded up, whatever decimal sign the host's locale has. Empty for
+// what is no number or has too many digits.
+std::wstring FixedNumberText(double number, int decimals);
 
 // The three sizes with fixed decimals, halves rounded up, and "×" between them: from the largest to
 // the smallest, or in x, y, z order. Nothing when a size is no number or the text too long for a

@@ -1,5 +1,5 @@
 // The outline text of models: measure, order, decimals.
-#include "params/outline_rules.h"
+#include "frame/text/outline_rules.h"
 
 #include <gtest/gtest.h>
 

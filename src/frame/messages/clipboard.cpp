@@ -1,5 +1,5 @@
 // The Windows clipboard.
-#include "frame/commands/clipboard.h"
+#include "frame/messages/clipboard.h"
 
 #include <windows.h>
 

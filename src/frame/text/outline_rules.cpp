@@ -1,18 +1,21 @@
 // Measure and text of a model's outline.
-#include "params/outline_rules.h"
+#include "frame/text/outline_rules.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <functional>
 
-#include "params/param_value_rules.h"
+#include "frame/text/number_rules.h"
+#include "toolkit/numbers.h"
 
 namespace qm {
 namespace {
 
 constexpr wchar_t kTimes[] = L"×";
 constexpr int kMaxDecimals = 6;
+// What a parameter of the host stores.
+constexpr std::size_t kMaxTextLength = PRO_LINE_SIZE - 1;
 
 // False also for corners that are no numbers.
 bool SpanBox(const double (&min)[3], const double (&max)[3]) {
@@ -24,19 +27,18 @@ bool SpanBox(const double (&min)[3], const double (&max)[3]) {
   return true;
 }
 
-// Independent of the locale that the host has set. Empty when it cannot be written or is too long.
-std::wstring SizeText(double size, int decimals) {
+}  // namespace
+
+std::wstring FixedNumberText(double number, int decimals) {
   // Sizes often end in an exact half, which drawings round up and the library to the even digit.
   const double scale = std::pow(10.0, decimals);
-  const double rounded = std::round(size * scale) / scale;
+  const double rounded = std::round(number * scale) / scale;
   if (!std::isfinite(rounded)) return {};
-  char digits[kMaxParamTextLength];
+  char digits[kMaxTextLength];
   const auto [end, error] =
       std::to_chars(digits, digits + sizeof(digits), rounded, std::chars_format::fixed, decimals);
   return error == std::errc() ? std::wstring(digits, end) : std::wstring();
 }
-
-}  // namespace
 
 bool OutlineBox::Include(const double (&min)[3], const double (&max)[3]) {
   if (!SpanBox(min, max)) return false;
@@ -61,12 +63,12 @@ std::optional<std::wstring> OutlineText(std::array<double, 3> sizes, int decimal
   if (descending) std::sort(sizes.begin(), sizes.end(), std::greater<>());
   std::wstring text;
   for (const double size : sizes) {
-    const std::wstring one = SizeText(size, decimals);
+    const std::wstring one = FixedNumberText(size, decimals);
     if (one.empty()) return std::nullopt;
     if (!text.empty()) text += kTimes;
     text += one;
   }
-  if (text.size() > kMaxParamTextLength) return std::nullopt;
+  if (text.size() > kMaxTextLength) return std::nullopt;
   return text;
 }
 

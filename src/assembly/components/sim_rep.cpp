@@ -1,0 +1,168 @@
+// QmSimRep: reads the structure, asks for a name until the host takes it, makes the representation
+// and activates it. What is left out is named branch by branch; all else is kept by default.
+#include "assembly/components/sim_rep.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "assembly/components/sim_rep_rules.h"
+#include "frame/messages/message_area.h"
+#include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
+#include "frame/models/assembly_levels.h"
+#include "frame/models/current_assembly.h"
+#include "frame/models/host_name.h"
+#include "frame/models/opening.h"
+#include "frame/models/preselected_components.h"
+#include "frame/text/fixed_text.h"
+#include "frame/text/text.h"
+#include "toolkit/owners.h"
+#include "toolkit/window.h"
+
+namespace qm {
+namespace {
+
+constexpr wchar_t kNothingSelected[] = L"\t请先选择要在简化表示中保留的元件\t";
+constexpr wchar_t kRefusedName[] = L"名称已存在或输入非法，请重新输入";
+constexpr char kPrompt[] = "Enter the name of the simplified representation:|||%0w";
+constexpr int kLongestName = PRO_NAME_SIZE - 1;
+
+// What the user wants, and what it means for the structure.
+struct RepPlan {
+  ProMdl root;
+  std::vector<LeftOutComponent> left_out;
+  long long unread;  // components that nobody could read
+};
+
+ComponentTree TreeOf(const std::vector<SelectedComponent>& selected) {
+  ComponentTree tree;
+  for (const SelectedComponent& component : selected) {
+    std::vector<int> path;
+    for (const ProFeature& level : component.levels) path.push_back(level.id);
+    tree.Add(path);
+  }
+  return tree;
+}
+
+// Nothing, after the message, when nothing fit is preselected or the structure cannot be read.
+std::optional<RepPlan> MakePlan(ProMdl root) {
+  const ComponentSelection selection = PreselectedComponents(root);
+  if (selection.components.empty()) {
+    ShowMessage(kNothingSelected);
+    NoteLeftOut(selection.left_out);
+    return std::nullopt;
+  }
+  ComponentList components;
+  if (!Ok(CollectComponents(root, ComponentKind::kAll, &components))) {
+    ShowNotCollected();
+    return std::nullopt;
+  }
+  const AssemblyLevels levels(root, components);
+  LogCount("kept", static_cast<long long>(selection.components.size()));
+  return RepPlan{root, ComponentsToLeaveOut(TreeOf(selection.components), levels.ids()),
+                 selection.left_out + static_cast<long long>(components.left_out().size())};
+}
+
+// An answer that fills nothing in is none.
+bool IsTaken(ProMdl root, const std::wstring& name) {
+  auto host_name = HostName::From(name);
+  ProSimprep rep{};
+  static constexpr ProSimprep kUntouched = {};
+  return host_name && Ok(ProSimprepInit(host_name->name, PRO_VALUE_UNUSED, root, &rep)) &&
+         std::memcmp(&rep, &kUntouched, sizeof(rep)) != 0;
+}
+
+// Nothing when the user quits.
+std::optional<std::wstring> AskName(const std::wstring& offered) {
+  DisplayNote(kPrompt, offered.c_str());
+  ProLine reply = {};
+  const ProError status = ProMessageStringRead(kLongestName, reply);
+  if (!Ok(status) && status != PRO_TK_MSG_USER_QUIT) {
+    LogFailure(std::string("ProMessageStringRead answered ") + StatusName(status));
+  }
+  return Ok(status) ? std::optional<std::wstring>(FixedText(reply)) : std::nullopt;
+}
+
+ProError AddItem(const LeftOutComponent& component, ProSimprepdata* data) {
+  ProSimprepAction action{};
+  ProError status = ProSimprepActionInit(PRO_SIMPREP_EXCLUDE, nullptr, &action);
+  if (!Ok(status)) return status;
+  // The host's table has a fixed size; no path of its own is longer.
+  if (component.path.size() > PRO_MAX_ASSEM_LEVEL) return PRO_TK_BAD_INPUTS;
+  ProIdTable path = {};
+  std::copy(component.path.begin(), component.path.end(), path);
+  ProSimprepitem item{};
+  status = ProSimprepdataitemInit(path, static_cast<int>(component.path.size()), component.id,
+                                  &action, &item);
+  return Ok(status) ? ProSimprepdataitemAdd(data, PRO_SIMPREP_COMPONENT_ITEM, &item) : status;
+}
+
+// False where a component could not be left out: such a representation is not made.
+bool AddItems(const RepPlan& plan, ProSimprepdata* data) {
+  for (const LeftOutComponent& component : plan.left_out) {
+    const ProError status = AddItem(component, data);
+    if (Ok(status)) continue;
+    LogLeftOut({PRO_FEATURE, component.id, plan.root}, "ProSimprepdataitemAdd", status);
+    LogOutcome("nothing done, a component cannot be left out");
+    return false;
+  }
+  return true;
+}
+
+enum class Making { kMade, kNameRefused, kFailed };
+
+Making Make(const RepPlan& plan, const std::wstring& text, ProSimprep* rep) {
+  auto name = HostName::From(text);
+  if (!name) return Making::kNameRefused;
+  SimplifiedRepData data;
+  ProError status = ProSimprepdataAlloc(name->name, PRO_B_FALSE, PRO_SIMPREP_INCLUDE, data.put());
+  if (Ok(status) && data) {
+    if (!AddItems(plan, data.get())) return Making::kFailed;
+    status = ProSimprepCreate(plan.root, data.get(), rep);
+    if (Ok(status)) return Making::kMade;
+  }
+  // Which status a bad name has is not known for sure: the user may try another one, or quit.
+  LogEvent("no representation " + ToUtf8(text) + ": the host answered " + StatusName(status));
+  return Making::kNameRefused;
+}
+
+// Asks until the host has taken a name. A failure is the command's answer: nothing is made then.
+ProError MakeByName(const RepPlan& plan, ProSimprep* rep) {
+  const auto is_taken = [&](const std::wstring& name) { return IsTaken(plan.root, name); };
+  const std::wstring offered = FreeRepName(is_taken).value_or(std::wstring());
+  while (const auto name = AskName(offered)) {
+    const Making made = Make(plan, *name, rep);
+    if (made == Making::kMade) return PRO_TK_NO_ERROR;
+    if (made == Making::kFailed) return PRO_TK_GENERAL_ERROR;
+    ShowMessage(kRefusedName);
+  }
+  LogOutcome("nothing done, no name");
+  return PRO_TK_USER_ABORT;
+}
+
+}  // namespace
+
+ProError QmSimRep() {
+  const auto root = CurrentAssembly();
+  if (!root) {
+    LogOutcome("nothing done, no current assembly");
+    return PRO_TK_NO_ERROR;
+  }
+  const auto plan = MakePlan(*root);
+  if (!plan) return PRO_TK_NO_ERROR;
+  ProSimprep rep{};
+  ProError status = MakeByName(*plan, &rep);
+  if (!Ok(status)) return status;
+  LogCount("branches left out", static_cast<long long>(plan->left_out.size()));
+  status = ProSimprepActivate(*root, &rep);
+  if (!Ok(status)) LogFailure(*root, "ProSimprepActivate", status);
+  // Not the box about a name that the host has refused before.
+  LogOutcome(Ok(status) ? "the representation is made and active"
+                        : "the representation is made, but not active");
+  ProTreetoolRefresh(*root);
+  ProWindowRepaint(kAllWindows);
+  NoteLeftOut(plan->unread);
+  return status;
+}
+
+}  // namespace qm

@@ -1,0 +1,27 @@
+// The components that the user has preselected, with the way down to each of them.
+#pragma once
+
+#include <vector>
+
+#include "toolkit/feature.h"
+#include "toolkit/model.h"
+
+namespace qm {
+
+// A preselected part or subassembly.
+struct SelectedComponent {
+  std::vector<ProFeature> levels;  // from the top level down to the component itself
+  ProMdl model = nullptr;          // the root itself when there are no levels
+  ProMdlType type = PRO_MDL_UNUSED;
+};
+
+struct ComponentSelection {
+  std::vector<SelectedComponent> components;
+  long long left_out = 0;  // items that cannot be read
+};
+
+// Parts, subassemblies and components picked as features, under the assembly `root`; without any
+// when nothing of the kind is preselected.
+ComponentSelection PreselectedComponents(ProMdl root);
+
+}  // namespace qm
