@@ -30,6 +30,7 @@ class ColourSource {
       : mode_(ColourModeOf(ReadSetting(L"QmRandomColorOpt", kValueKey, ConfigPath(kConfigFile)))) {
     if (mode_ == ColourMode::kHues) table_ = ConfigPath(L"QmUGColor.ini");
     if (mode_ == ColourMode::kDistinct) table_ = ConfigPath(L"QmOptiColor.ini");
+    if (mode_ == ColourMode::kNone) LogOutcome("no colour mode is set: black");
     std::srand(static_cast<unsigned>(std::time(nullptr)));
   }
 
@@ -42,7 +43,9 @@ class ColourSource {
   Colour TableColour(int section) {
     const auto [known, is_new] = known_.try_emplace(section);
     if (is_new) {
-      known->second = ParseColour(ReadSetting(std::to_wstring(section).c_str(), kValueKey, table_));
+      const std::wstring text = ReadSetting(std::to_wstring(section).c_str(), kValueKey, table_);
+      if (text.empty()) LogFailure("a section of the colour table is missing: black");
+      known->second = ParseColour(text);
     }
     return known->second;
   }

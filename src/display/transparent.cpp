@@ -64,7 +64,11 @@ bool SwitchPicked() {
   if (!Ok(status) || count < 1 || selections == nullptr) return false;
   for (int i = 0; i < count; ++i) {
     const ProMdl model = ComponentModelOf(selections[i]);
-    if (model != nullptr) Switch(model);
+    if (model != nullptr) {
+      Switch(model);
+    } else {
+      LogFailure("a pick is left out: it has no component path");
+    }
   }
   LogCount("picked", count);
   return true;

@@ -30,9 +30,6 @@ PRO_FUNCTION(ProError, ProConfigoptSet, wchar_t* option, wchar_t* value);
 // `values` is a ProArray of ProPath that the caller frees.
 PRO_FUNCTION(ProError, ProConfigoptArrayGet, ProName option, ProPath** values);
 
-// For this session only.
-PRO_FUNCTION(ProError, ProConfigoptSet, wchar_t* option, wchar_t* value);
-
 // Optional arguments may be null; PRO_TK_USER_ABORT when the user cancels.
 PRO_FUNCTION(ProError, ProFileOpen, wchar_t* title, wchar_t* filter, ProPath* shortcut_paths,
              ProName* shortcut_names, wchar_t* start_folder, wchar_t* preselected, ProPath chosen);

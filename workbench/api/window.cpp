@@ -193,14 +193,6 @@ ProError ProConfigoptArrayGet(ProName option, ProPath** values) {
       });
 }
 
-ProError ProConfigoptSet(wchar_t* option, wchar_t* value) {
-  return Crossing(__func__, TextIn{option, PRO_NAME_SIZE, "option"},
-                  TextIn{value, PRO_PATH_SIZE, "value"})
-      .Run([](const Call& call, const std::string& name, const std::string& text) {
-        call.host.options[FoldCase(name)] = {text};
-      });
-}
-
 ProError ProFileOpen(wchar_t* title, wchar_t* filter, ProPath* shortcut_paths,
                      ProName* shortcut_names, wchar_t* start_folder, wchar_t* preselected,
                      ProPath chosen) {

@@ -4,14 +4,10 @@
 #include <algorithm>
 #include <unordered_set>
 
+#include "workbench/base/text.h"
+
 namespace wb {
 namespace {
-
-std::string Trimmed(std::string_view text) {
-  const size_t first = text.find_first_not_of(" \t\r\n");
-  if (first == text.npos) return {};
-  return std::string(text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1));
-}
 
 // Up to the next semicolon outside of backquotes.
 size_t EndOfStep(std::string_view macro) {

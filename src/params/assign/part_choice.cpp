@@ -44,9 +44,8 @@ class PartChooser {
 
  private:
   // Ends at the first one that cannot be used: the parts before it are worked on all the same.
-  void AddSelected(const SelectionArray& selected) {
-    const int count = selected.size();
-    for (int i = 0; i < count && choice_.refusal == nullptr; ++i) AddItem(selected[i]);
+  void AddSelected(const Preselected& selected) {
+    for (int i = 0; i < selected.size() && choice_.refusal == nullptr; ++i) AddItem(selected[i]);
   }
 
   void AddItem(ProSelection selection) {
@@ -55,7 +54,7 @@ class PartChooser {
     ProMdlType type = PRO_MDL_UNUSED;
     if (model == nullptr || !Ok(ProMdlTypeGet(model, &type))) {
       ++choice_.left_out;
-      LogEvent("a preselected item left out: it cannot be read");
+      LogFailure("a preselected item left out: it cannot be read");
     } else if (type == PRO_MDL_PART) {
       AddPart(model);
     } else if (type == PRO_MDL_ASSEMBLY) {
