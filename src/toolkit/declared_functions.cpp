@@ -13,6 +13,7 @@ inline constexpr const char* kDeclaredName = nullptr;
 #include "toolkit/array.h"
 #include "toolkit/assembly.h"
 #include "toolkit/command.h"
+#include "toolkit/component.h"
 #include "toolkit/dimension.h"
 #include "toolkit/drawing.h"
 #include "toolkit/drawing_table.h"

@@ -312,6 +312,18 @@ typedef enum {
   PRO_SIMPREP_COMPONENT_ITEM = 1,
 } ProSimprepItemType;
 
+// Certain is the use of the first for coordinate systems and of the second for a fixed place.
+typedef enum {
+  PRO_ASM_UNDEFINED = -1,
+  PRO_ASM_CSYS = 6,
+  PRO_ASM_FIX = 13,
+} ProAsmcompConstrType;
+typedef enum {
+  PRO_DATUM_SIDE_RED = -1,
+  PRO_DATUM_SIDE_NONE = 0,
+  PRO_DATUM_SIDE_YELLOW = 1,
+} ProDatumside;
+
 // How many rows or columns of a table the user can select.
 typedef enum {
   PROUISELPOLICY_SINGLE = 1,

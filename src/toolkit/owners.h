@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "toolkit/array.h"
+#include "toolkit/component.h"
 #include "toolkit/export.h"
 #include "toolkit/geometry.h"
 #include "toolkit/selection.h"
@@ -59,6 +60,9 @@ inline void NarrowText(char* text) {
 inline void Selections(ProSelection* selections) {
   ProSelectionarrayFree(selections);
 }
+inline void Constraint(ProAsmcompconstraint constraint) {
+  ProAsmcompconstraintFree(constraint);
+}
 inline void Environment(ProSelectionEnv environment) {
   ProSelectionEnvFree(environment);
 }
@@ -92,6 +96,7 @@ using TextArray = Owner<wchar_t**, &release::ArrayTexts>;
 using SelectionEnvironment = Owner<ProSelectionEnv, &release::Environment>;
 using ExportData = Owner<Pro2dExportdata, &release::Data2d>;
 using PdfOptions = Owner<ProPDFOptions, &release::PdfOptions>;
+using Constraint = Owner<ProAsmcompconstraint, &release::Constraint>;
 using SimplifiedRepData = Owner<ProSimprepdata*, &release::RepData>;
 using GeometryData = Owner<ProGeomitemdata*, &release::Geometry>;
 
@@ -169,6 +174,13 @@ class SelectionArray : public Owner<ProSelection*, &release::Selections> {
 
 namespace release {
 
+// Each constraint, and then the array.
+inline void Constraints(ProAsmcompconstraint* constraints) {
+  const int count = ArraySize(constraints);
+  for (int i = 0; i < count; ++i) ProAsmcompconstraintFree(constraints[i]);
+  Array(constraints);
+}
+
 inline void NarrowTexts(char** texts, int count) {
   ProStringarrayFree(texts, count);
 }
@@ -177,6 +189,9 @@ inline void WideTexts(wchar_t** texts, int count) {
 }
 
 }  // namespace release
+
+// Constraints as the host collects them.
+using ConstraintArray = Owner<ProAsmcompconstraint*, &release::Constraints>;
 
 // Texts with their count, as list-like dialog components give them.
 template <typename Char, auto Release>

@@ -40,6 +40,10 @@ std::optional<std::wstring> DialogView::TryTextAreaValue(const char* component) 
   return Taken(status, text);
 }
 
+ProError DialogView::SetLabel(const char* component, std::wstring text) const {
+  return ProUILabelTextSet(name(), component, text.data());
+}
+
 ProError DialogView::SetInputValue(const char* component, std::wstring value) const {
   return ProUIInputpanelValueSet(name(), component, value.data());
 }

@@ -32,6 +32,7 @@ class DialogView {
   std::optional<bool> CheckState(const char* component) const;
 
   // The host's answer, which is no proof that the field shows the value.
+  ProError SetLabel(const char* component, std::wstring text) const;
   ProError SetInputValue(const char* component, std::wstring value) const;
   ProError SetRadioValue(const char* component, std::string button) const;
   ProError SetOptionValue(const char* component, std::wstring value) const;

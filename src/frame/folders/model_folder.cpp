@@ -46,4 +46,8 @@ std::optional<std::wstring> FolderOf(ProMdl model) {
   return FolderOfOrigin(model);
 }
 
+bool PointToFolder(std::wstring_view name, std::wstring_view folder, ProMdldata* record) {
+  return SetFolderInModelRecord(record->texts, name, folder);
+}
+
 }  // namespace qm

@@ -32,17 +32,19 @@ bool WorkingDirectory::IsBack() const {
   return !Ok(ProDirectoryCurrentGet(current)) || FixedText(current) == FixedText(remembered_);
 }
 
-void WorkingDirectory::Return() {
-  if (!is_away_) return;
+bool WorkingDirectory::Return() {
+  if (!is_away_) return !is_lost_;
   is_away_ = false;
   // Twice, since all that the user does next would happen in the wrong folder.
   ProError status = ProDirectoryChange(remembered_);
-  if (Ok(status) && IsBack()) return;
+  if (Ok(status) && IsBack()) return true;
   status = ProDirectoryChange(remembered_);
-  if (Ok(status) && IsBack()) return;
+  if (Ok(status) && IsBack()) return true;
   LogEvent("ProDirectoryChange back to " + ToUtf8(FixedText(remembered_)) + " answered " +
            StatusName(status));
   DisplayNote("The working directory could not be changed back to %0w", remembered_);
+  is_lost_ = true;
+  return false;
 }
 
 }  // namespace qm

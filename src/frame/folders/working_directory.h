@@ -18,8 +18,9 @@ class WorkingDirectory {
 
   // A refused change leaves the directory as it is, with a line in the run log.
   ProError Enter(const std::wstring& folder);
-  // Back to the remembered directory, if another one was entered.
-  void Return();
+  // Back to the remembered directory, if another one was entered. False when the host has not gone
+  // back, which the user is told.
+  bool Return();
 
  private:
   bool IsBack() const;
@@ -27,6 +28,7 @@ class WorkingDirectory {
   ProPath remembered_ = {};
   bool is_known_ = false;
   bool is_away_ = false;
+  bool is_lost_ = false;  // the host has not gone back
 };
 
 }  // namespace qm

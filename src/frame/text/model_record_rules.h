@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -12,5 +13,11 @@ namespace qm {
 // Then the text with a separator is the path, and a drive letter, with or without its colon, the
 // device. No value: the record has another order and says nothing.
 std::optional<std::wstring> FolderInModelRecord(std::wstring_view record, std::wstring_view name);
+
+// Makes `folder` the folder in such a record, in the form that the record has: with the drive apart
+// from the path or in it, with or without a separator at the end. False, and the record is as it
+// was, when its order is not known or the folder does not fit.
+bool SetFolderInModelRecord(std::span<wchar_t> record, std::wstring_view name,
+                            std::wstring_view folder);
 
 }  // namespace qm

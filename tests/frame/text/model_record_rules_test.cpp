@@ -56,5 +56,53 @@ TEST(ModelRecord, SaysNothingWithoutTheNameAtAKnownPlace) {
   EXPECT_EQ(FolderIn({20, 60, 70, 110, 150, 500}, texts), std::nullopt);
 }
 
+// What the record says after it was pointed to another folder, and its device and path.
+struct Pointed {
+  std::optional<std::wstring> folder;
+  std::wstring device, path;
+  bool operator==(const Pointed&) const = default;
+};
+
+Pointed PointedTo(std::wstring_view folder, const ProMdldataOrder& order, const Texts& texts) {
+  std::wstring record(2048, L'\0');
+  const auto put = [&](int place, std::wstring_view text) {
+    record.replace(static_cast<std::size_t>(place), text.size(), text);
+  };
+  put(order.name, L"bolt");
+  put(order.device, texts.device);
+  put(order.path, texts.path);
+  if (!SetFolderInModelRecord(record, L"BOLT", folder)) return {};
+  return {FolderInModelRecord(record, L"bolt"), record.c_str() + order.device,
+          record.c_str() + order.path};
+}
+
+TEST(ModelRecord, IsPointedToAnotherFolderInItsOwnForm) {
+  const struct {
+    const wchar_t *device, *path, *folder, *new_device, *new_path;
+  } cases[] = {
+      {L"C:", L"\\work\\parts\\", L"D:\\备份", L"D:", L"\\备份\\"},
+      {L"C", L"\\work\\parts", L"D:\\backup\\", L"D", L"\\backup"},
+      {L"", L"C:\\work\\", L"D:\\b", L"", L"D:\\b\\"},
+      {L"", L"", L"D:\\b", L"", L"D:\\b"},
+      {L"C:", L"\\work\\", L"\\\\server\\b", L"", L"\\\\server\\b\\"},
+      {L"C:", L"\\a long path that is followed by a short one", L"D:\\", L"D:", L"\\"},
+  };
+  for (const ProMdldataOrder& order : {kModelDataNameLast, kModelDataNameFirst}) {
+    for (const auto& c : cases) {
+      const Pointed pointed = PointedTo(c.folder, order, {L"", c.device, c.path});
+      EXPECT_EQ(pointed.device, c.new_device);
+      EXPECT_EQ(pointed.path, c.new_path);
+      EXPECT_TRUE(pointed.folder.has_value());
+    }
+  }
+}
+
+TEST(ModelRecord, IsNotPointedWhereTheFolderDoesNotFitOrTheOrderIsUnknown) {
+  const std::wstring long_folder = L"D:\\" + std::wstring(PRO_PATH_SIZE - 1, L'x');
+  EXPECT_EQ(PointedTo(long_folder, kModelDataNameLast, {L"", L"C:", L"\\a"}), Pointed());
+  const ProMdldataOrder unknown = {12, 44, 48, 80, 112, 372};
+  EXPECT_EQ(PointedTo(L"D:\\b", unknown, {L"", L"C:", L"\\a"}), Pointed());
+}
+
 }  // namespace
 }  // namespace qm

@@ -1,0 +1,133 @@
+// QmRemoveCons: counts the components for the dialog's text; its OK fixes them one by one. The fix
+// constraint of a component is made before anything of it is removed, so that a failure leaves the
+// component as it was.
+#include "assembly/components/remove_cons.h"
+
+#include "assembly/components/remove_cons_click.h"
+#include "frame/dialogs/dialog.h"
+#include "frame/messages/message_area.h"
+#include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
+#include "frame/models/component_list.h"
+#include "frame/models/current_assembly.h"
+#include "frame/models/opening.h"
+#include "toolkit/component.h"
+#include "toolkit/owners.h"
+#include "toolkit/properties.h"
+
+namespace qm {
+namespace {
+
+constexpr wchar_t kDone[] = L"\t\t所有带约束元件均已更改为固定约束！\t\t";
+
+// The constraint, and the array of it that the host is given.
+struct FixConstraint {
+  Constraint constraint;
+  HostArray<ProAsmcompconstraint> array;
+};
+
+// How a step on a component ended: the host's function that decided it, and its status.
+struct StepResult {
+  const char* function = nullptr;
+  ProError status = PRO_TK_NO_ERROR;
+};
+
+StepResult MakeFix(FixConstraint* fix) {
+  ProError status = ProAsmcompconstraintAlloc(fix->constraint.put());
+  if (Ok(status) && !fix->constraint) status = PRO_TK_OUT_OF_MEMORY;
+  if (!Ok(status)) return {"ProAsmcompconstraintAlloc", status};
+  status = ProAsmcompconstraintTypeSet(fix->constraint.get(), PRO_ASM_FIX);
+  if (!Ok(status)) return {"ProAsmcompconstraintTypeSet", status};
+  status = fix->array.Allocate();
+  if (!Ok(status)) return {"ProArrayAlloc", status};
+  return {"ProArrayObjectAdd", fix->array.Append(fix->constraint.get())};
+}
+
+// Deliberately a success without constraints counts as none: hosts answer either way.
+int CountConstraints(ProAsmcomp& component) {
+  ConstraintArray constraints;
+  if (!Ok(ProAsmcompConstraintsGet(&component, constraints.put()))) return 0;
+  return ArraySize(constraints.get());
+}
+
+// A packaged component gets a placement by the host's own dialog.
+void PlaceByDialog(ProAsmcomp& component) {
+  QueueMiddleClick();
+  const ProError status = ProAsmcompConstrRedefUI(&component);
+  if (!Ok(status)) LogLeftOut(component, "ProAsmcompConstrRedefUI", status);
+}
+
+// The indices grow while the list shrinks, which has always been so: soon they lie beyond the rest,
+// which the host refuses and which is no failure. What is left is replaced by the fix constraint.
+void RemoveConstraints(ProAsmcomp& component, int count) {
+  for (int index = 0; index < count; ++index) ProAsmcompConstrRemove(&component, index);
+}
+
+// False, after a line in the log, when the component is not fixed.
+bool FixComponent(ProAsmcomp& component) {
+  FixConstraint fix;
+  StepResult step = MakeFix(&fix);
+  if (Ok(step.status)) {
+    const int count = CountConstraints(component);
+    if (count == 0) {
+      PlaceByDialog(component);
+    } else {
+      RemoveConstraints(component, count);
+    }
+    step = {"ProAsmcompRegenerate", ProAsmcompRegenerate(&component, PRO_B_TRUE)};
+    if (!Ok(step.status)) LogFailure(component.owner, step.function, step.status);
+    step = {"ProAsmcompConstraintsSet",
+            ProAsmcompConstraintsSet(nullptr, &component, fix.array.get())};
+  }
+  if (!Ok(step.status)) LogLeftOut(component, step.function, step.status);
+  return Ok(step.status);
+}
+
+void FixAll(ProMdl root, const ComponentList& components) {
+  long long fixed = 0;
+  long long left_out = static_cast<long long>(components.left_out().size());
+  for (int i = 0; i < components.size(); ++i) {
+    // One that was fixed in its assembly before is fixed in all placements of that assembly.
+    if (components.repeated(i)) continue;
+    ++(FixComponent(*components.feature(i)) ? fixed : left_out);
+  }
+  const ProError status = ProSolidRegenerate(root, kPlainRegeneration);
+  if (!Ok(status)) LogFailure(root, "ProSolidRegenerate", status);
+  LogCount("components", components.size());
+  LogCount("fixed", fixed);
+  NoteLeftOut(left_out);
+}
+
+void Confirm(const DialogView&) {
+  CommandLog log("OK");
+  const auto root = CurrentAssembly();
+  if (!root) return ShowShortMessage(kAssembliesOnly);
+  ComponentList components;
+  if (!Ok(CollectComponents(*root, ComponentKind::kAll, &components))) return ShowNotCollected();
+  FixAll(*root, components);
+  ShowMessage(kDone);
+}
+
+// The text stays without a number when there is no assembly to count in; the refusal follows OK.
+void TellCount(const Dialog& dialog) {
+  const auto root = CurrentAssembly();
+  ComponentList components;
+  if (!root || !Ok(CollectComponents(*root, ComponentKind::kAll, &components))) return;
+  const std::wstring text = L"当前组件中的元件数量：" + std::to_wstring(components.size());
+  const ProError status = dialog.SetLabel("CountLabel", text);
+  if (!Ok(status)) LogFailure(*root, "ProUILabelTextSet", status);
+}
+
+}  // namespace
+
+ProError QmRemoveCons() {
+  return RunDialog("QmRemoveCons", [](const Dialog& dialog) {
+    dialog.BindButton<&Confirm>("OK");
+    dialog.BindCloseButton("Cancel");
+    dialog.BindClose();
+    TellCount(dialog);
+    return PRO_TK_NO_ERROR;
+  });
+}
+
+}  // namespace qm
