@@ -6,6 +6,11 @@
 #include <iterator>
 #include <utility>
 
+#include "assembly/components/backup.h"
+#include "assembly/components/box.h"
+#include "assembly/components/mdl_count.h"
+#include "assembly/components/remove_cons.h"
+#include "assembly/components/sim_rep.h"
 #include "display/batch_color.h"
 #include "display/clear_all_color.h"
 #include "display/hide_reverse.h"
@@ -60,7 +65,7 @@ using enum AccessRule;
 constexpr CommandRow kCommandTable[] = {
 //   name                     help key                      icon                         action            access rule           designated
     {"QmOpenDir",             "QmOpenDir_Help",             "QmOpenDir.png",             &QmOpenDir,      kAlways,             true},
-    {"QmBackup",              "QmBackup_Help",              "QmBackup.png",              &NotInBuild,     kAssemblyMode,       true},
+    {"QmBackup",              "QmBackup_Help",              "QmBackup.png",              &QmBackup,       kAssemblyMode,       true},
     {"NewPart",               "NewPart_Help",               "NewPart.png",               &NotInBuild,     kAssemblyMode,       true},
     {"NewAsm",                "NewAsm_Help",                "NewAsm.png",                &NotInBuild,     kAssemblyMode,       true},
     {"NewSmt",                "NewSmt_Help",                "NewSmt.png",                &NotInBuild,     kAssemblyMode,       true},
@@ -91,15 +96,15 @@ constexpr CommandRow kCommandTable[] = {
     {"QmExSat",               "QmExSat_Help",               "QmExSat.png",               &NotInBuild,     kAssemblyMode,       true},
     {"QmBom",                 "QmBom_Help",                 "QmBom.png",                 &QmBom,          kAssemblyMode,       true},
     {"QmRename",              "QmRename_Help",              "QmRename.png",              &QmRename,       kAssemblyMode,       true},
-    {"QmRemoveCons",          "QmRemoveCons_Help",          "QmRemoveCons.png",          &NotInBuild,     kAssemblyMode,       true},
+    {"QmRemoveCons",          "QmRemoveCons_Help",          "QmRemoveCons.png",          &QmRemoveCons,   kAssemblyMode,       true},
     {"QmExport",              "QmExport_Help",              "QmExport.png",              &QmExport,       kAlways,             true},
-    {"QmMdlCount",            "QmMdlCount_Help",            "QmMdlCount.png",            &NotInBuild,     kAssemblyMode,       true},
+    {"QmMdlCount",            "QmMdlCount_Help",            "QmMdlCount.png",            &QmMdlCount,     kAssemblyMode,       true},
     {"QmNewDrw",              "QmNewDrw_Help",              "QmNewDrw.png",              &QmNewDrw,       kAssemblyMode,       true},
     {"QmDimModify",           "QmDimModify_Help",           "QmDimModify.png",           &QmDimModify,    kDrawingMode,        true},
     {"QmFrmReplace",          "QmFrmReplace_Help",          "QmFrmReplace.png",          &QmFrmReplace,   kAlways,             true},
     {"QmDrwScaleCheck",       "QmDrwScaleCheck_Help",       "QmDrwScaleCheck.png",       &QmDrwScaleCheck, kAlways,             true},
-    {"QmSimRep",              "QmSimRep_Help",              "QmSimRep.png",              &NotInBuild,     kAssemblyMode,       true},
-    {"QmBox",                 "QmBox_Help",                 "QmBox.png",                 &NotInBuild,     kAssemblyMode,       true},
+    {"QmSimRep",              "QmSimRep_Help",              "QmSimRep.png",              &QmSimRep,       kAssemblyMode,       true},
+    {"QmBox",                 "QmBox_Help",                 "QmBox.png",                 &QmBox,          kAssemblyMode,       true},
     {"QmExportDwg",           "QmExportDwg_Help",           "QmExportDwg.png",           &QmExportDwg,    kDrawingMode,        true},
     {"QmExportPdf",           "QmExportPdf_Help",           "QmExportPdf.png",           &QmExportPdf,    kDrawingMode,        true},
     {"QmMdlNameCopy",         "QmMdlNameCopy_Help",         "QmMdlNameCopy.png",         &QmMdlNameCopy,  kAssemblyMode,       true},

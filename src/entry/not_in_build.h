@@ -9,9 +9,8 @@
 namespace qm {
 
 inline constexpr std::string_view kNotInBuild[] = {
-    "QmBackup",  "NewPart", "NewAsm",  "NewSmt",  "CloneComp",    "CloneAndReplace", "QmMerge",
-    "QmMergeTo", "QmExStp", "QmExIgs", "QmExSat", "QmRemoveCons", "QmMdlCount",      "QmSimRep",
-    "QmBox",
+    "NewPart", "NewAsm",    "NewSmt",  "CloneComp", "CloneAndReplace",
+    "QmMerge", "QmMergeTo", "QmExStp", "QmExIgs",   "QmExSat",
 };
 
 // Says in a caption box that the command is not in this build.

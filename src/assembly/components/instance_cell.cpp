@@ -16,6 +16,7 @@ namespace {
 // How a step ended: the host's function that decided it, and its status.
 using Step = ParameterResult;
 constexpr Step kDone = {"", PRO_TK_NO_ERROR};
+constexpr Step kLoggedAlready = {nullptr, PRO_TK_GENERAL_ERROR};
 constexpr Step kReadOnly = {"adding a column to the generic, whose file is not writable,",
                             PRO_TK_NO_PERMISSION};
 constexpr Step kUnfitType = {"a count in a parameter that is neither number nor text",
@@ -56,7 +57,7 @@ class InstanceCell {
     ProError status = ProMdlToModelitem(generic_, &owner);
     if (!Ok(status) || owner.owner == nullptr) return {"ProMdlToModelitem", Failing(status)};
     const ReadValue held = ReadParameter(owner, parameter_);
-    if (!held.is_known) return {"ProParameterValueGet", PRO_TK_GENERAL_ERROR};
+    if (!held.is_known) return kLoggedAlready;
     if (!held.value) {
       // A column cannot be without the generic's own value, and the generic is not counted here.
       if (!IsWritable(generic_)) return kReadOnly;
@@ -105,7 +106,7 @@ class InstanceCell {
 bool WriteInstanceCount(ProMdl generic, const std::wstring& instance, HostName& parameter,
                         int count) {
   const auto [function, status] = InstanceCell(generic, parameter).Write(instance, count);
-  if (!Ok(status)) LogFailure(instance, function, status);
+  if (!Ok(status) && function != nullptr) LogFailure(instance, function, status);
   return Ok(status);
 }
 

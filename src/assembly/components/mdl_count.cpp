@@ -100,6 +100,8 @@ Tally Plan(const Tally& occurrences, InstanceCounts instances, long long* left_o
   return plan;
 }
 
+constexpr ParameterResult kLoggedAlready = {nullptr, PRO_TK_GENERAL_ERROR};
+
 // In the type that the parameter has; a new one is a whole number.
 ParameterResult WriteParameter(ProMdl model, HostName& name, int count) {
   ProModelitem owner{};
@@ -108,7 +110,7 @@ ParameterResult WriteParameter(ProMdl model, HostName& name, int count) {
     return {"ProMdlToModelitem", Ok(status) ? PRO_TK_GENERAL_ERROR : status};
   }
   const ReadValue held = ReadParameter(owner, name);
-  if (!held.is_known) return {"ProParameterValueGet", PRO_TK_GENERAL_ERROR};
+  if (!held.is_known) return kLoggedAlready;
   if (!held.value) return CreateParameter(owner, name, *HostValue(ParamValue(count)));
   const auto value = CountAs(held.value->type, count);
   if (!value) return {"a parameter that is neither number nor text", PRO_TK_INVALID_TYPE};
@@ -121,7 +123,7 @@ bool Write(const ModelCount& counted, HostName& name) {
     return instance && WriteInstanceCount(counted.generic, *instance, name, counted.count);
   }
   const auto [function, status] = WriteParameter(counted.model, name, counted.count);
-  if (!Ok(status)) LogFailure(counted.model, function, status);
+  if (!Ok(status) && function != nullptr) LogFailure(counted.model, function, status);
   return Ok(status);
 }
 

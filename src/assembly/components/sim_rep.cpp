@@ -34,16 +34,6 @@ struct RepPlan {
   long long unread;  // components that nobody could read
 };
 
-ComponentTree TreeOf(const std::vector<SelectedComponent>& selected) {
-  ComponentTree tree;
-  for (const SelectedComponent& component : selected) {
-    std::vector<int> path;
-    for (const ProFeature& level : component.levels) path.push_back(level.id);
-    tree.Add(path);
-  }
-  return tree;
-}
-
 // Nothing, after the message, when nothing fit is preselected or the structure cannot be read.
 std::optional<RepPlan> MakePlan(ProMdl root) {
   const ComponentSelection selection = PreselectedComponents(root);

@@ -18,6 +18,18 @@ Matrix Identity() {
   return matrix;
 }
 
+Matrix PlacedWithin(const Matrix& inner, const Matrix& outer) {
+  Matrix placed;
+  for (int row = 0; row <= kAxisCount; ++row) {
+    for (int column = 0; column <= kAxisCount; ++column) {
+      for (int k = 0; k <= kAxisCount; ++k) {
+        placed.rows[row][column] += inner.rows[row][k] * outer.rows[k][column];
+      }
+    }
+  }
+  return placed;
+}
+
 std::optional<Matrix> Normalised(const Matrix& matrix) {
   const double length = std::hypot(matrix.rows[0][0], matrix.rows[0][1], matrix.rows[0][2]);
   if (!std::isfinite(length) || length == 0.0) return std::nullopt;

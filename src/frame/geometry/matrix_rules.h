@@ -1,5 +1,5 @@
-// Matrices of views as the host means them: rows 0 to 2 are the axes, row 3 is the shift, and a
-// point stands on their left.
+// Matrices of views and of placements as the host means them: rows 0 to 2 are the axes, row 3 is
+// the shift, and a point stands on their left.
 #pragma once
 
 #include <array>
@@ -15,6 +15,9 @@ inline constexpr int kAxisCount = 3;
 enum class Axis { kX, kY, kZ };
 
 Matrix Identity();
+
+// A placement within a placement: `inner` followed by `outer`.
+Matrix PlacedWithin(const Matrix& inner, const Matrix& outer);
 
 // The rotation entries divided by the length of the first row, which is the view's scale, and no
 // shift. Nothing for a first row that has no length.

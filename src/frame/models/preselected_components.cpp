@@ -83,4 +83,14 @@ ComponentSelection PreselectedComponents(ProMdl root) {
   return preselection;
 }
 
+ComponentTree TreeOf(const std::vector<SelectedComponent>& selected) {
+  ComponentTree tree;
+  for (const SelectedComponent& component : selected) {
+    std::vector<int> path;
+    for (const ProFeature& level : component.levels) path.push_back(level.id);
+    tree.Add(path);
+  }
+  return tree;
+}
+
 }  // namespace qm

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "frame/models/component_tree.h"
 #include "toolkit/feature.h"
 #include "toolkit/model.h"
 
@@ -23,5 +24,8 @@ struct ComponentSelection {
 // Parts, subassemblies and components picked as features, under the assembly `root`; without any
 // when nothing of the kind is preselected.
 ComponentSelection PreselectedComponents(ProMdl root);
+
+// The same by their ids alone.
+ComponentTree TreeOf(const std::vector<SelectedComponent>& selected);
 
 }  // namespace qm
