@@ -8,6 +8,8 @@
 #include <utility>
 
 #include "toolkit/array.h"
+#include "toolkit/component.h"
+#include "toolkit/element.h"
 #include "toolkit/export.h"
 #include "toolkit/geometry.h"
 #include "toolkit/selection.h"
@@ -57,6 +59,18 @@ inline void NarrowText(char* text) {
 inline void Selections(ProSelection* selections) {
   ProSelectionarrayFree(selections);
 }
+inline void Selection(ProSelection selection) {
+  ProSelectionFree(&selection);
+}
+inline void Constraint(ProAsmcompconstraint constraint) {
+  ProAsmcompconstraintFree(constraint);
+}
+inline void Element(ProElement element) {
+  ProElementFree(&element);
+}
+inline void Value(ProValue value) {
+  ProValueFree(value);
+}
 inline void Environment(ProSelectionEnv environment) {
   ProSelectionEnvFree(environment);
 }
@@ -79,6 +93,11 @@ void Array(T* items) {
 
 using WideText = Owner<wchar_t*, &release::Text>;
 using NarrowText = Owner<char*, &release::NarrowText>;
+using OwnSelection = Owner<ProSelection, &release::Selection>;
+using Constraint = Owner<ProAsmcompconstraint, &release::Constraint>;
+// An element that is joined to no tree yet, or the root of one.
+using Element = Owner<ProElement, &release::Element>;
+using ElementValue = Owner<ProValue, &release::Value>;
 using SelectionEnvironment = Owner<ProSelectionEnv, &release::Environment>;
 using ExportData = Owner<Pro2dExportdata, &release::Data2d>;
 using PdfOptions = Owner<ProPDFOptions, &release::PdfOptions>;
@@ -141,6 +160,13 @@ class SelectionArray : public Owner<ProSelection*, &release::Selections> {
 
 namespace release {
 
+// Each constraint, and then the array.
+inline void Constraints(ProAsmcompconstraint* constraints) {
+  const int count = ArraySize(constraints);
+  for (int i = 0; i < count; ++i) ProAsmcompconstraintFree(constraints[i]);
+  Array(constraints);
+}
+
 inline void NarrowTexts(char** texts, int count) {
   ProStringarrayFree(texts, count);
 }
@@ -181,6 +207,9 @@ class TextList {
   Char** texts_ = nullptr;
   int count_ = 0;
 };
+
+// Constraints as the host collects them.
+using ConstraintArray = Owner<ProAsmcompconstraint*, &release::Constraints>;
 
 using NameList = TextList<char, &release::NarrowTexts>;
 using WideTextList = TextList<wchar_t, &release::WideTexts>;
