@@ -18,7 +18,6 @@ inline constexpr const char* kDeclaredName = nullptr;
 #include "toolkit/drawing.h"
 #include "toolkit/drawing_table.h"
 #include "toolkit/drawing_view.h"
-#include "toolkit/element.h"
 #include "toolkit/export.h"
 #include "toolkit/feature.h"
 #include "toolkit/file.h"

@@ -9,8 +9,8 @@
 
 #include "toolkit/array.h"
 #include "toolkit/component.h"
-#include "toolkit/element.h"
 #include "toolkit/export.h"
+#include "toolkit/feature.h"
 #include "toolkit/geometry.h"
 #include "toolkit/selection.h"
 #include "toolkit/status.h"

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "assembly/create/free_name.h"
-#include "assembly/create/model_copy.h"
-#include "assembly/create/typed_copy.h"
+#include "assembly/new_model/free_name.h"
+#include "assembly/new_model/model_copy.h"
+#include "assembly/new_model/typed_copy.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/current_assembly.h"

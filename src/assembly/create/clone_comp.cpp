@@ -2,7 +2,7 @@
 #include "assembly/create/clone_comp.h"
 
 #include "assembly/create/clone.h"
-#include "assembly/create/new_component.h"
+#include "assembly/new_model/new_component.h"
 #include "frame/messages/run_log.h"
 #include "toolkit/status.h"
 

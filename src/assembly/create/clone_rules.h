@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "assembly/create/new_name_rules.h"
+#include "assembly/new_model/new_name_rules.h"
 
 namespace qm {
 

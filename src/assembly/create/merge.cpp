@@ -4,10 +4,10 @@
 #include <optional>
 
 #include "assembly/create/merge_feature.h"
-#include "assembly/create/model_copy.h"
-#include "assembly/create/new_component.h"
-#include "assembly/create/start_template.h"
-#include "assembly/create/typed_copy.h"
+#include "assembly/new_model/model_copy.h"
+#include "assembly/new_model/new_component.h"
+#include "assembly/new_model/start_template.h"
+#include "assembly/new_model/typed_copy.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/current_assembly.h"

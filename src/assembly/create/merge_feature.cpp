@@ -6,7 +6,7 @@
 
 #include "assembly/create/merge_rules.h"
 #include "frame/messages/run_log.h"
-#include "toolkit/element.h"
+#include "toolkit/feature.h"
 #include "toolkit/geometry.h"
 #include "toolkit/model.h"
 #include "toolkit/owners.h"

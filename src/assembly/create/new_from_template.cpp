@@ -2,13 +2,13 @@
 #include <optional>
 #include <string>
 
-#include "assembly/create/free_name.h"
-#include "assembly/create/model_copy.h"
 #include "assembly/create/new_asm.h"
-#include "assembly/create/new_component.h"
 #include "assembly/create/new_part.h"
 #include "assembly/create/new_smt.h"
-#include "assembly/create/start_template.h"
+#include "assembly/new_model/free_name.h"
+#include "assembly/new_model/model_copy.h"
+#include "assembly/new_model/new_component.h"
+#include "assembly/new_model/start_template.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/current_assembly.h"

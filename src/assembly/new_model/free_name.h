@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "assembly/create/new_name_rules.h"
+#include "assembly/new_model/new_name_rules.h"
 
 namespace qm {
 

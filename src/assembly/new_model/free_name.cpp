@@ -1,5 +1,5 @@
 // Tries one name after another.
-#include "assembly/create/free_name.h"
+#include "assembly/new_model/free_name.h"
 
 #include "frame/messages/message_box.h"
 #include "frame/models/retrieve.h"

@@ -1,11 +1,11 @@
 // Asks for names in the message area.
-#include "assembly/create/typed_copy.h"
+#include "assembly/new_model/typed_copy.h"
 
 #include <optional>
 #include <string>
 
-#include "assembly/create/model_copy.h"
-#include "assembly/create/new_name_rules.h"
+#include "assembly/new_model/model_copy.h"
+#include "assembly/new_model/new_name_rules.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"

@@ -1,5 +1,5 @@
 // Copies and saves.
-#include "assembly/create/model_copy.h"
+#include "assembly/new_model/model_copy.h"
 
 #include "frame/messages/run_log.h"
 #include "frame/models/host_name.h"

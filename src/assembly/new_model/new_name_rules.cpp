@@ -1,5 +1,5 @@
 // How new components are numbered.
-#include "assembly/create/new_name_rules.h"
+#include "assembly/new_model/new_name_rules.h"
 
 namespace qm {
 namespace {

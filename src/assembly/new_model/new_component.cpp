@@ -1,5 +1,5 @@
 // Assembling, and the constraint of two coordinate systems.
-#include "assembly/create/new_component.h"
+#include "assembly/new_model/new_component.h"
 
 #include "frame/guard/visit.h"
 #include "frame/messages/message_box.h"

@@ -1,5 +1,5 @@
 // Loads templates by the host's configuration.
-#include "assembly/create/start_template.h"
+#include "assembly/new_model/start_template.h"
 
 #include <string>
 
