@@ -57,6 +57,18 @@ struct SelectionsGivenBack : GivenBack<ProSelection> {
   }
 };
 
+// May be left out.
+struct PathOrNoneIn {
+  ProAsmcomppath* path;
+  std::string Describe() const { return DescribeArgument(static_cast<const void*>(path)); }
+  ProAsmcomppath* Look(const Call& call) const {
+    if (path == nullptr) return nullptr;
+    if (path->table_num < 0 || path->table_num > PRO_MAX_ASSEM_LEVEL) call.Fail("path length");
+    call.SolidAt(path->owner);
+    return path;
+  }
+};
+
 void CheckPicks(const FilterTypes& filter, const std::vector<PickedItem>& picks, int max_count) {
   if (max_count >= 0 && picks.size() > static_cast<size_t>(max_count)) {
     throw NotModelled{"more picks than the " + std::to_string(max_count) + " asked for"};
@@ -181,5 +193,27 @@ ProError ProSelectionAsmcomppathGet(ProSelection selection, ProAsmcomppath* path
         place.table_num = static_cast<int>(picked.path.size());
         std::copy(picked.path.begin(), picked.path.end(), place.comp_id_table);
         return PRO_TK_NO_ERROR;
+      });
+}
+
+ProError ProSelectionAlloc(ProAsmcomppath* path, ProModelitem* item, ProSelection* selection) {
+  return Crossing(__func__, PathOrNoneIn{path}, RecordIn(item, "item"),
+                  Out(selection, "selection place"))
+      .Run([](const Call& call, const ProAsmcomppath* way, const ProModelitem& of,
+              ProSelection& place) {
+        PickedItem picked{of.type, of.id, &call.ModelAt(of.owner), nullptr, {}};
+        if (way != nullptr) {
+          picked.root = &call.SolidAt(way->owner);
+          picked.path.assign(way->comp_id_table, way->comp_id_table + way->table_num);
+        }
+        place = NewSelection(call, picked);
+      });
+}
+
+ProError ProSelectionFree(ProSelection* selection) {
+  return Crossing(__func__, PlaceGivenBack(selection, "selection place"))
+      .Run([](const Call& call, ProSelection& place) {
+        FreeSelection(call, place);
+        place = nullptr;
       });
 }

@@ -30,6 +30,16 @@ struct TreeRefresh {
   std::string model;
 };
 
+struct Regeneration {
+  std::string model;
+};
+
+// A tree that a feature was made of, in one line: each element with its value, and in brackets what
+// hangs below it.
+struct ElementTree {
+  std::string text;
+};
+
 // What an interactive selection was asked to allow: number and value of each option.
 struct PickOptions {
   std::vector<std::pair<int, int>> options;
@@ -53,7 +63,8 @@ struct ExportedFile {
   std::string trouble{};  // why it is none, where it could be; empty: there is nothing to tell
 };
 
-// A macro that the host is to run once the command has ended. None is carried out.
+// A macro that the host is to run once the command has ended. Those that replace a component are
+// carried out.
 struct QueuedMacro {
   std::string text;
 };
@@ -87,9 +98,9 @@ struct FileProblem {
   std::string text;
 };
 
-using Event = std::variant<Note, MissingText, Repaint, TreeRefresh, PickOptions, MessageBox,
-                           FileRequest, ShellCall, ExportedFile, QueuedMacro, MouseEvent,
-                           ClassRequest, Breach, Gap, FileProblem>;
+using Event = std::variant<Note, MissingText, Repaint, TreeRefresh, Regeneration, ElementTree,
+                           PickOptions, MessageBox, FileRequest, ShellCall, ExportedFile,
+                           QueuedMacro, MouseEvent, ClassRequest, Breach, Gap, FileProblem>;
 
 class Events {
  public:

@@ -7,6 +7,7 @@
 #include "workbench/base/windows_headers.h"
 #include "workbench/host/call.h"
 #include "workbench/plugin/plugin_entry.h"
+#include "workbench/plugin/replace_macro.h"
 
 namespace wb {
 namespace {
@@ -27,6 +28,19 @@ HMODULE Load(const std::filesystem::path& dll) {
 
 void* EntryOf(void* module, const char* name) {
   return reinterpret_cast<void*>(::GetProcAddress(static_cast<HMODULE>(module), name));
+}
+
+// What the plug-in has queued runs once the user could go on. What the host says then is a note.
+void RunMacros(size_t mark) {
+  Host& host = TheHost();
+  for (const QueuedMacro& macro : host.events.Since<QueuedMacro>(mark)) {
+    if (!IsReplaceMacro(macro.text)) continue;
+    const PlayedReplacement played = PlayReplaceMacro(macro.text, host.session);
+    if (!played.unknown.empty()) {
+      host.events.Add(Gap{"workbench: not modelled: " + played.unknown});
+    }
+    if (!played.refused.empty()) host.events.Add(Note{"macro stopped: " + played.refused});
+  }
 }
 
 int AskAccess(const Command& command) {
@@ -83,14 +97,15 @@ Plugin::~Plugin() {
 
 int Plugin::Start() {
   std::string path = ToAnsi(PathToUtf8(dll_));
-  char version[] = "30";
+  std::string version = TheHost().release;
   char build[] = "C000";
   char* arguments[] = {path.data(), nullptr};
   constexpr size_t kReasonSize = 80;
   wchar_t reason[kReasonSize] = {};
   int answer = PRO_TK_GENERAL_ERROR;
   const auto entry = reinterpret_cast<InitializeEntry>(EntryOf(module_, kInitialize));
-  EnterPluginAndSettle(kInitialize, [&] { answer = entry(1, arguments, version, build, reason); });
+  EnterPluginAndSettle(kInitialize,
+                       [&] { answer = entry(1, arguments, version.data(), build, reason); });
   reason[kReasonSize - 1] = L'\0';
   refusal_ = FromWide(reason);
   started_ = answer == 0;
@@ -129,6 +144,8 @@ CommandRun RunCommand(const std::string& command) {
   const Command* const found = host.commands.Find(command);
   run.known = found != nullptr;
   if (!run.known) return run;
+  const bool is_outermost = host.running_command.empty();
+  const size_t events_before = host.events.Mark();
   const RunningCommand running(command);
   const long before = host.trace.calls();
   run.directory_before = run.directory_after = host.session.working_directory();
@@ -141,6 +158,7 @@ CommandRun RunCommand(const std::string& command) {
   run.left_out = host.accounts.Describe(before);
   ReportLeftPrograms(before);
   run.directory_after = host.session.working_directory();
+  if (is_outermost) RunMacros(events_before);
   return run;
 }
 

@@ -48,6 +48,20 @@ struct ComponentPart {
   Placement placement = kIdentityPlacement;
 };
 
+// One end of a constraint: an item by type and id, and the side of it.
+struct ConstraintEnd {
+  int type = 0;  // 0: there is none
+  int id = 0;
+  int side = 0;
+};
+
+// What places a component: an item of its assembly and one of its own model.
+struct ComponentConstraint {
+  int type = 0;  // the host's number
+  ConstraintEnd in_assembly;
+  ConstraintEnd in_model;
+};
+
 struct Feature {
   int id = 0;
   int type = kComponentFeatureType;
@@ -56,6 +70,9 @@ struct Feature {
   int status_flags = 0;
   bool hidden = false;
   std::optional<ComponentPart> component = std::nullopt;
+  std::vector<ComponentConstraint> constraints{};  // of a component
+  std::string name{};                              // empty: the host's own
+  std::string merged{};  // of a merge feature: the part whose geometry it has brought
 
   bool IsComponent() const { return component.has_value(); }
   // Of the component's model; null also for other features.
@@ -68,12 +85,19 @@ struct Surface {
   Box box;
 };
 
+// Its axes and origin in the model's frame.
+struct CoordinateSystem {
+  int id = 0;
+  Placement placement = kIdentityPlacement;
+};
+
 // Parts and assemblies.
 struct SolidContent {
   bool sheet_metal = false;
   bool skeleton = false;
   ItemList<Feature> features;
   ItemList<Surface> surfaces;
+  ItemList<CoordinateSystem> coordinate_systems;
 };
 
 struct ManufacturingContent {

@@ -137,6 +137,33 @@ void ExpectRefresh(ScriptRun& run, const Statement& statement) {
             "refresh of the model tree", wanted, all.empty() ? "none" : Join(", ", all));
 }
 
+void ExpectRegenerated(ScriptRun& run, const Statement& statement) {
+  std::vector<std::string> wanted;
+  for (const std::string& name : statement.Texts("MODEL")) {
+    wanted.push_back(run.ModelNamed(name).id.Text());
+  }
+  std::vector<std::string> got;
+  for (const Regeneration& event : run.host.events.Since<Regeneration>(run.marks.begin)) {
+    got.push_back(event.model);
+  }
+  const auto told = [](const std::vector<std::string>& names) {
+    return names.empty() ? "none" : Join(", ", names);
+  };
+  std::ranges::sort(wanted);
+  std::ranges::sort(got);
+  run.Check(statement, wanted == got, "models regenerated", told(wanted), told(got));
+}
+
+void ExpectElementTrees(ScriptRun& run, const Statement& statement) {
+  const auto got = run.host.events.TextsSince<ElementTree>(run.marks.begin);
+  run.Check(statement, got == statement.Texts("TEXT"), "element trees",
+            Join("; ", statement.Texts("TEXT")), Join("; ", got));
+}
+
+void ExpectActiveComponent(ScriptRun& run, const Statement& statement) {
+  CheckWindow(run, statement, "active component", run.host.session.Active());
+}
+
 // clang-format off
 constexpr StatementForm kExpectModelsForms[] = {
     {"expect parameter MODEL NAME is missing",            kTopOrDialog, &ExpectParameter},
@@ -152,6 +179,7 @@ constexpr StatementForm kExpectModelsForms[] = {
     {"expect directory PATH",                             kTopOrDialog, &ExpectDirectory},
     {"expect window none",                                kTopOrDialog, &ExpectWindow},
     {"expect window MODEL",                               kTopOrDialog, &ExpectWindow},
+    {"expect active model MODEL",                         kTopOrDialog, &ExpectActiveComponent},
     {"expect active none",                                kTopOrDialog, &ExpectActive},
     {"expect active MODEL",                               kTopOrDialog, &ExpectActive},
     {"expect selection none",                             kTopOrDialog, &ExpectSelection},
@@ -160,6 +188,9 @@ constexpr StatementForm kExpectModelsForms[] = {
     {"expect repaint",                                    kTopOrDialog, &ExpectRepaint},
     {"expect no repaint",                                 kTopOrDialog, &ExpectRepaint},
     {"expect refresh MODEL",                              kTopOrDialog, &ExpectRefresh},
+    {"expect regenerated none",                           kTopOrDialog, &ExpectRegenerated},
+    {"expect regenerated MODEL...",                       kTopOrDialog, &ExpectRegenerated},
+    {"expect element_trees TEXT...",                      kTopOrDialog, &ExpectElementTrees},
 };
 // clang-format on
 
