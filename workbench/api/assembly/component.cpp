@@ -1,7 +1,7 @@
 // Host functions that put components into assemblies and place them there.
+#include "workbench/assembly/merging.h"
 #include "workbench/host/arguments.h"
 #include "workbench/session/extents.h"
-#include "workbench/session/merging.h"
 #include "workbench/session/model_cycle.h"
 
 namespace wb {

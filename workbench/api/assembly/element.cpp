@@ -1,8 +1,8 @@
 // Host functions for element trees, and for the merge features that are made of them.
 #include "workbench/api/assembly/element_tree.h"
+#include "workbench/assembly/merging.h"
 #include "workbench/host/arguments.h"
 #include "workbench/session/extents.h"
-#include "workbench/session/merging.h"
 
 namespace wb {
 namespace {

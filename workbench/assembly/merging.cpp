@@ -1,5 +1,5 @@
 // Finds occurrences and brings surfaces over.
-#include "workbench/session/merging.h"
+#include "workbench/assembly/merging.h"
 
 #include <cmath>
 #include <deque>
