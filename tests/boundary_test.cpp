@@ -89,7 +89,7 @@ std::vector<Lines> Matches(const std::string& text, const char* expression) {
 }
 
 // A host function that takes a function of ours without standing in the shield's table would be
-// tried by no probe. The two visits have a test of their own above.
+// tried by no probe. Visits have a test of their own above.
 TEST_F(Boundary, EveryHostFunctionThatTakesAFunctionHasItsProbe) {
   std::string headers;
   for (const auto& file : fs::directory_iterator(SourceFolder() / "src" / "toolkit")) {
@@ -102,7 +102,8 @@ TEST_F(Boundary, EveryHostFunctionThatTakesAFunctionHasItsProbe) {
     callbacks.insert(type[1]);
   }
   ASSERT_GE(callbacks.size(), 8u);
-  const std::set<std::string> visits = {"ProSolidFeatVisit", "ProSolidSurfaceVisit"};
+  const std::set<std::string> visits = {"ProSolidFeatVisit", "ProSolidSurfaceVisit",
+                                        "ProSolidCsysVisit"};
   int checked = 0;
   for (const auto& function : Matches(headers, R"(PRO_FUNCTION\(\w+, (\w+)([^()]*)\))")) {
     for (const auto& word : Matches(function[2], R"(\w+)")) {

@@ -11,6 +11,13 @@
 #include "assembly/components/mdl_count.h"
 #include "assembly/components/remove_cons.h"
 #include "assembly/components/sim_rep.h"
+#include "assembly/create/clone_and_replace.h"
+#include "assembly/create/clone_comp.h"
+#include "assembly/create/merge.h"
+#include "assembly/create/merge_to.h"
+#include "assembly/create/new_asm.h"
+#include "assembly/create/new_part.h"
+#include "assembly/create/new_smt.h"
 #include "display/batch_color.h"
 #include "display/clear_all_color.h"
 #include "display/hide_reverse.h"
@@ -66,9 +73,9 @@ constexpr CommandRow kCommandTable[] = {
 //   name                     help key                      icon                         action            access rule           designated
     {"QmOpenDir",             "QmOpenDir_Help",             "QmOpenDir.png",             &QmOpenDir,      kAlways,             true},
     {"QmBackup",              "QmBackup_Help",              "QmBackup.png",              &QmBackup,       kAssemblyMode,       true},
-    {"NewPart",               "NewPart_Help",               "NewPart.png",               &NotInBuild,     kAssemblyMode,       true},
-    {"NewAsm",                "NewAsm_Help",                "NewAsm.png",                &NotInBuild,     kAssemblyMode,       true},
-    {"NewSmt",                "NewSmt_Help",                "NewSmt.png",                &NotInBuild,     kAssemblyMode,       true},
+    {"NewPart",               "NewPart_Help",               "NewPart.png",               &NewPart,        kAssemblyMode,       true},
+    {"NewAsm",                "NewAsm_Help",                "NewAsm.png",                &NewAsm,         kAssemblyMode,       true},
+    {"NewSmt",                "NewSmt_Help",                "NewSmt.png",                &NewSmt,         kAssemblyMode,       true},
     {"BatchColor",            "Color_Help",                 "RandomColor.png",           &BatchColor,      kSolidMode,          true},
     {"QmClearAllColor",       "QmClearAllColor_Help",       "QmClearAllColor.png",       &QmClearAllColor, kSolidMode,          true},
     {"QmBoxSelSur",           "QmBoxSelSur_Help",           "QmBoxSelSur.png",           &QmBoxSelSur,    kSolidMode,          true},
@@ -85,10 +92,10 @@ constexpr CommandRow kCommandTable[] = {
     {"QmParams",              "QmParams_Help",              "QmParams.png",              &QmParams,       kAssemblyMode,       true},
     {"QmRelations",           "QmRelations_Help",           "QmRelations.png",           &QmRelations,    kAssemblyMode,       true},
     {"SetUnit",               "SetUnit_Help",               "SetUnit.png",               &SetUnit,        kPartOrAssemblyMode, true},
-    {"CloneComp",             "CloneComp_Help",             "CloneComp.png",             &NotInBuild,     kAssemblyMode,       true},
-    {"CloneAndReplace",       "CloneAndReplace_Help",       "CloneAndReplace.png",       &NotInBuild,     kAssemblyMode,       true},
-    {"QmMerge",               "QmMerge_Help",               "QmMerge.png",               &NotInBuild,     kAssemblyMode,       true},
-    {"QmMergeTo",             "QmMergeTo_Help",             "QmMergeTo.png",             &NotInBuild,     kAssemblyMode,       true},
+    {"CloneComp",             "CloneComp_Help",             "CloneComp.png",             &CloneComp,      kAssemblyMode,       true},
+    {"CloneAndReplace",       "CloneAndReplace_Help",       "CloneAndReplace.png",       &CloneAndReplace, kAssemblyMode,       true},
+    {"QmMerge",               "QmMerge_Help",               "QmMerge.png",               &QmMerge,        kAssemblyMode,       true},
+    {"QmMergeTo",             "QmMergeTo_Help",             "QmMergeTo.png",             &QmMergeTo,      kAssemblyMode,       true},
     {"TweViews",              "TweViews_Help",              "TweViews.png",              &TweViews,       kSolidMode,          true},
     {"NewDraw",               "NewDraw_Help",               "NewDraw.png",               &NewDraw,        kSolidMode,          true},
     {"QmExStp",               "QmExStp_Help",               "QmExStp.png",               &NotInBuild,     kAssemblyMode,       true},

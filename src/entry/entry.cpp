@@ -8,6 +8,7 @@
 #include "entry/restore_directory.h"
 #include "entry/save_directory.h"
 #include "frame/guard/host_binding.h"
+#include "frame/guard/host_release.h"
 #include "frame/guard/reserve.h"
 #include "frame/guard/shield.h"
 #include "frame/messages/run_log.h"
@@ -74,7 +75,8 @@ void Stop() {
 }  // namespace
 }  // namespace qm
 
-extern "C" int user_initialize(int, char*[], char*, char*, wchar_t errbuf[80]) {
+extern "C" int user_initialize(int, char*[], char* version, char*, wchar_t errbuf[80]) {
+  qm::KeepHostRelease(version);
   const bool has_memory = qm::PrepareExceptions();
   // Nothing of a start would work, and nobody would learn why: the message area is the host's.
   if (has_memory && qm::IsForeignHost()) return qm::RefuseForeignHost(errbuf);

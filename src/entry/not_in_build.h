@@ -9,8 +9,9 @@
 namespace qm {
 
 inline constexpr std::string_view kNotInBuild[] = {
-    "NewPart", "NewAsm",    "NewSmt",  "CloneComp", "CloneAndReplace",
-    "QmMerge", "QmMergeTo", "QmExStp", "QmExIgs",   "QmExSat",
+    "QmExStp",
+    "QmExIgs",
+    "QmExSat",
 };
 
 // Says in a caption box that the command is not in this build.

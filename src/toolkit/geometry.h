@@ -1,10 +1,11 @@
-// Surfaces of a solid and their extents, and the box around a solid.
+// Surfaces of a solid and their extents, coordinate systems, the box around a solid.
 #pragma once
 
 #include "toolkit/host_function.h"
 #include "toolkit/types.h"
 
 typedef struct geom_surface_handle* ProSurface;
+typedef struct csys_handle* ProCsys;
 
 // Leading fields of a surface's data; the shape data behind them is not used.
 typedef struct {
@@ -40,3 +41,12 @@ PRO_FUNCTION(ProError, ProSurfaceExtremesEval, ProSurface surface, ProVector dir
 PRO_FUNCTION(ProError, ProSurfaceToGeomitem, ProSolid owner, ProSurface surface, ProGeomitem* item);
 PRO_FUNCTION(ProError, ProSurfaceDataGet, ProSurface surface, ProGeomitemdata** data);
 PRO_FUNCTION(ProError, ProGeomitemdataFree, ProGeomitemdata** data);
+
+typedef ProError (*ProCsysFilterAction)(ProCsys csys, ProAppData data) QM_CALLBACK;
+typedef ProError (*ProCsysVisitAction)(ProCsys csys, ProError filter_status,
+                                       ProAppData data) QM_CALLBACK;
+
+// Those of the solid itself, without those of its components.
+PRO_FUNCTION(ProError, ProSolidCsysVisit, ProSolid solid, ProCsysVisitAction action,
+             ProCsysFilterAction filter, ProAppData data);
+PRO_FUNCTION(ProError, ProCsysToGeomitem, ProSolid owner, ProCsys csys, ProGeomitem* item);

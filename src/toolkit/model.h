@@ -11,6 +11,8 @@ typedef struct {
 } ProMdldata;
 
 PRO_FUNCTION(ProError, ProMdlCurrentGet, ProMdl* model);
+// The model of the component that the user has activated; without one the current model.
+PRO_FUNCTION(ProError, ProMdlActiveGet, ProMdl* model);
 PRO_FUNCTION(ProError, ProMdlTypeGet, ProMdl model, ProMdlType* type);
 PRO_FUNCTION(ProError, ProMdlSubtypeGet, ProMdl model, ProMdlsubtype* subtype);
 PRO_FUNCTION(ProError, ProMdlNameGet, ProMdl model, ProName name);
@@ -21,6 +23,11 @@ PRO_FUNCTION(ProError, ProMdlToModelitem, ProMdl model, ProModelitem* item);
 PRO_FUNCTION(ProError, ProModelitemMdlGet, ProModelitem* item, ProMdl* model);
 // By name, or by the full path of its file.
 PRO_FUNCTION(ProError, ProMdlRetrieve, ProFamilyName name, ProMdlType type, ProMdl* model);
+// The file of a full path; type -1 takes that of its extension.
+PRO_FUNCTION(ProError, ProMdlLoad, ProPath path, ProMdlType type, ProBoolean ask_for_representation,
+             ProMdl* model);
+// In session and, in the working directory, on disk.
+PRO_FUNCTION(ProError, ProMdlCopy, ProMdl model, ProName new_name, ProMdl* copy);
 PRO_FUNCTION(ProError, ProMdlDisplay, ProMdl model);
 // The window that shows it; 0 is one.
 PRO_FUNCTION(ProError, ProMdlWindowGet, ProMdl model, int* window);

@@ -140,6 +140,8 @@ enum {
   // Further feature types that the show-all command accepts on the top level.
   PRO_FEAT_TOP_LEVEL_1104 = 1104,
   PRO_FEAT_TOP_LEVEL_1232 = 1232,
+  // One part's geometry in another one.
+  PRO_FEAT_MERGE = 1238,
 };
 
 // Certain are the first two, the order of the others is likely.
@@ -312,18 +314,6 @@ typedef enum {
   PRO_SIMPREP_COMPONENT_ITEM = 1,
 } ProSimprepItemType;
 
-// Certain is the use of the first for coordinate systems and of the second for a fixed place.
-typedef enum {
-  PRO_ASM_UNDEFINED = -1,
-  PRO_ASM_CSYS = 6,
-  PRO_ASM_FIX = 13,
-} ProAsmcompConstrType;
-typedef enum {
-  PRO_DATUM_SIDE_RED = -1,
-  PRO_DATUM_SIDE_NONE = 0,
-  PRO_DATUM_SIDE_YELLOW = 1,
-} ProDatumside;
-
 // How many rows or columns of a table the user can select.
 typedef enum {
   PROUISELPOLICY_SINGLE = 1,
@@ -352,6 +342,41 @@ typedef enum {
 inline constexpr int kUnitRegenerationFlags = -1;
 // A regeneration without any option.
 inline constexpr int kPlainRegeneration = 0;
+
+// Certain is the use of the first for coordinate systems and of the second for a fixed place.
+typedef enum {
+  PRO_ASM_UNDEFINED = -1,
+  PRO_ASM_CSYS = 6,
+  PRO_ASM_FIX = 13,
+} ProAsmcompConstrType;
+typedef enum {
+  PRO_DATUM_SIDE_RED = -1,
+  PRO_DATUM_SIDE_NONE = 0,
+  PRO_DATUM_SIDE_YELLOW = 1,
+} ProDatumside;
+
+typedef enum {
+  PRO_VALUE_TYPE_INT = 1,
+  PRO_VALUE_TYPE_WSTRING = 5,
+  PRO_VALUE_TYPE_SELECTION = 6,
+} ProValueDataType;
+typedef enum {
+  PRO_FEAT_CR_NO_OPTS = 0,
+} ProFeatureCreateOptions;
+// Elements of any feature, and those of a merge feature, which are known by their numbers alone.
+enum {
+  PRO_E_FEATURE_TREE = 386,
+  PRO_E_FEATURE_TYPE = 387,
+  PRO_E_MERGE_605 = 605,
+  PRO_E_MERGE_606 = 606,
+  PRO_E_MERGE_607 = 607,
+  PRO_E_FEATURE_NAME = 1964,
+  PRO_E_MERGE_3386 = 3386,
+  PRO_E_MERGE_3388 = 3388,
+  PRO_E_MERGE_3389 = 3389,
+  PRO_E_MERGE_SOURCE = 3390,
+  PRO_E_MERGE_3391 = 3391,
+};
 
 // The record of a model's data (ProMdldata): the two orders of its texts that are known, each in
 // characters from the start of the record.

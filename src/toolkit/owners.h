@@ -11,6 +11,7 @@
 #include "toolkit/array.h"
 #include "toolkit/component.h"
 #include "toolkit/export.h"
+#include "toolkit/feature.h"
 #include "toolkit/geometry.h"
 #include "toolkit/selection.h"
 #include "toolkit/simplified_rep.h"
@@ -60,8 +61,17 @@ inline void NarrowText(char* text) {
 inline void Selections(ProSelection* selections) {
   ProSelectionarrayFree(selections);
 }
+inline void Selection(ProSelection selection) {
+  ProSelectionFree(&selection);
+}
 inline void Constraint(ProAsmcompconstraint constraint) {
   ProAsmcompconstraintFree(constraint);
+}
+inline void Element(ProElement element) {
+  ProElementFree(&element);
+}
+inline void Value(ProValue value) {
+  ProValueFree(value);
 }
 inline void Environment(ProSelectionEnv environment) {
   ProSelectionEnvFree(environment);
@@ -93,10 +103,14 @@ using WideText = Owner<wchar_t*, &release::Text>;
 using NarrowText = Owner<char*, &release::NarrowText>;
 // An array of the host with texts that are freed with it.
 using TextArray = Owner<wchar_t**, &release::ArrayTexts>;
+using OwnSelection = Owner<ProSelection, &release::Selection>;
+using Constraint = Owner<ProAsmcompconstraint, &release::Constraint>;
+// An element that is joined to no tree yet, or the root of one.
+using Element = Owner<ProElement, &release::Element>;
+using ElementValue = Owner<ProValue, &release::Value>;
 using SelectionEnvironment = Owner<ProSelectionEnv, &release::Environment>;
 using ExportData = Owner<Pro2dExportdata, &release::Data2d>;
 using PdfOptions = Owner<ProPDFOptions, &release::PdfOptions>;
-using Constraint = Owner<ProAsmcompconstraint, &release::Constraint>;
 using SimplifiedRepData = Owner<ProSimprepdata*, &release::RepData>;
 using GeometryData = Owner<ProGeomitemdata*, &release::Geometry>;
 

@@ -42,3 +42,9 @@ PRO_FUNCTION(ProError, ProSelbufferSelectionAdd, ProSelection selection);
 
 PRO_FUNCTION(ProError, ProSelectionModelitemGet, ProSelection selection, ProModelitem* item);
 PRO_FUNCTION(ProError, ProSelectionAsmcomppathGet, ProSelection selection, ProAsmcomppath* path);
+
+// Copies both; `path` may be null.
+PRO_FUNCTION(ProError, ProSelectionAlloc, ProAsmcomppath* path, ProModelitem* item,
+             ProSelection* selection);
+// Only of one's own, never of those that a pick gives.
+PRO_FUNCTION(ProError, ProSelectionFree, ProSelection* selection);

@@ -13,6 +13,7 @@ PRO_FUNCTION(ProError, ProWindowCurrentSet, int window);
 PRO_FUNCTION(ProError, ProWindowActivate, int window);
 PRO_FUNCTION(ProError, ProWindowMdlGet, int window, ProMdl* model);
 PRO_FUNCTION(ProError, ProWindowRepaint, int window);
+PRO_FUNCTION(ProError, ProWindowRefresh, int window);
 PRO_FUNCTION(ProError, ProObjectwindowCreate, ProName name, ProType type, int* window);
 // As the user's Close: the window goes, its model stays in session.
 PRO_FUNCTION(ProError, ProWindowCurrentClose);

@@ -16,6 +16,21 @@ struct TextsGivenBack : GivenBack<wchar_t*> {
   }
 };
 
+// Who is not told how many elements there are cannot free the constraints among them.
+struct CountedArrayIn : DataIn {
+  void Forgive(Host& host) const {
+    if (!host.accounts.Check(data, Resource::kArray).empty()) return;
+    if (ArrayObjectSize(data) != static_cast<int>(sizeof(void*))) return;
+    const int count = ArraySize(Call(host, "ProArraySizeGet", 0), data);
+    for (int i = 0; i < count; ++i) {
+      const void* const element = static_cast<void**>(data)[i];
+      if (host.accounts.Check(element, Resource::kConstraint).empty()) {
+        host.accounts.Forgive(element);
+      }
+    }
+  }
+};
+
 }  // namespace
 }  // namespace wb
 
@@ -38,7 +53,7 @@ ProError ProArrayFree(ProArray* array) {
 }
 
 ProError ProArraySizeGet(ProArray array, int* size) {
-  return Crossing(__func__, DataIn{array}, Out(size, "size place"))
+  return Crossing(__func__, CountedArrayIn{{array}}, Out(size, "size place"))
       .Run([](const Call& call, ProArray from, int& place) { place = ArraySize(call, from); });
 }
 

@@ -1,4 +1,4 @@
-// Host functions for surfaces of solids.
+// Host functions for surfaces and coordinate systems of solids, and for their regeneration.
 #include <cstdlib>
 
 #include "workbench/api/matrix.h"
@@ -36,6 +36,15 @@ ProSurface HandleOf(const Call& call, Model& model, const Surface& surface) {
   return static_cast<ProSurface>(
       call.host.handles.GiveInside(HandleKind::kSurface, &model, surface.id));
 }
+
+struct CsysIn {
+  ProCsys handle;
+  std::string Describe() const { return DescribeArgument(static_cast<const void*>(handle)); }
+  std::pair<Model*, int> Look(const Call& call) const {
+    const HandleTable::Found found = call.Look(handle, HandleKind::kCsys);
+    return {static_cast<Model*>(found.object), found.id};
+  }
+};
 
 // Where the orientation stands when a host puts something else in its place: no orientation.
 constexpr auto kNoOrientation = static_cast<ProSurfaceOrient>(120);
@@ -122,5 +131,28 @@ ProError ProGeomitemdataFree(ProGeomitemdata** data) {
         call.TakeBack(place, Resource::kGeometryData);
         std::free(place);
         place = nullptr;
+      });
+}
+
+ProError ProSolidCsysVisit(ProSolid solid, ProCsysVisitAction action, ProCsysFilterAction filter,
+                           ProAppData data) {
+  return Crossing(__func__, SolidIn{{solid}}, action, filter, DataIn{data})
+      .Run([&](const Call& call, Model& model, auto, auto, void*) {
+        const ItemList<CoordinateSystem>& all = model.solid().coordinate_systems;
+        const auto item_at = [&](size_t i) {
+          return static_cast<ProCsys>(
+              call.host.handles.GiveInside(HandleKind::kCsys, &model, all[i].id));
+        };
+        return VisitItems(
+            call, solid, [&] { return all.size(); }, item_at, action, filter, data);
+      });
+}
+
+ProError ProCsysToGeomitem(ProSolid owner, ProCsys csys, ProGeomitem* item) {
+  return Crossing(__func__, SolidIn{{owner}}, CsysIn{csys}, Out(item, "item place"))
+      .Run([](const Call& call, const Model& of, const std::pair<Model*, int>& from,
+              ProGeomitem& place) {
+        if (from.first != &of) call.Fail("a coordinate system of another model");
+        place = {PRO_CSYS, from.second, of.handle};
       });
 }

@@ -71,14 +71,6 @@ Model* FormatOfFolders(const Call& call, const std::string& name) {
   return nullptr;
 }
 
-// Erased models count until the host has control again.
-bool IsTaken(const Call& call, const ModelName& name) {
-  const auto is_it = [&](const ModelName& leaving) {
-    return EqualFolded(leaving.Text(), name.Text());
-  };
-  return call.host.session.Find(name) != nullptr || std::ranges::any_of(call.host.leaving, is_it);
-}
-
 std::filesystem::path FolderOf(const Call& call, const Model& model) {
   return model.folder.empty() ? call.host.session.working_directory() : model.folder;
 }
@@ -95,7 +87,7 @@ ProError Rename(const Call& call, Model& model, const std::string& name) {
   const ModelName after{name, model.id.kind};
   const std::filesystem::path folder = FolderOf(call, model);
   if (!IsLegalModelName(name)) return PRO_TK_INVALID_NAME;
-  const bool is_free = !IsTaken(call, after) && !HasModelFile(folder, after) &&
+  const bool is_free = !call.host.IsTaken(after) && !HasModelFile(folder, after) &&
                        !HasModelFile(call.host.session.working_directory(), after);
   if (!is_free) return PRO_TK_E_FOUND;
   if (call.host.session.IsReadOnly(folder)) return PRO_TK_NO_PERMISSION;
@@ -106,6 +98,32 @@ ProError Rename(const Call& call, Model& model, const std::string& name) {
   }
   call.host.session.Rename(model, name);
   return PRO_TK_NO_ERROR;
+}
+
+// In session, and on disk unless the host waits for a save.
+ProError Copy(const Call& call, const Model& source, const std::string& name, ProMdl& place) {
+  Session& session = call.host.session;
+  const ModelName wanted{name, source.id.kind};
+  if (!IsLegalModelName(name)) return PRO_TK_INVALID_NAME;
+  if (call.host.IsTaken(wanted) || HasModelFile(session.working_directory(), wanted)) {
+    return PRO_TK_E_FOUND;
+  }
+  if (session.IsReadOnly(session.working_directory())) return PRO_TK_NO_PERMISSION;
+  Model& copy = session.Copy(source, name);
+  if (!call.host.habits.copy_stays_in_session) session.Save(copy);
+  place = copy.handle;
+  return PRO_TK_NO_ERROR;
+}
+
+ProError LoadFile(const Call& call, const std::filesystem::path& file, ProMdlType type,
+                  ProMdl& place) {
+  const std::string text = PathToUtf8(file.filename());
+  const auto versioned = ParseFileName(text);
+  const auto name = versioned ? versioned->model : ParseModelName(text);
+  if (!name) return PRO_TK_E_NOT_FOUND;
+  const bool is_of_type = type == PRO_MDL_UNUSED || static_cast<int>(name->kind) == type;
+  if (!is_of_type) return PRO_TK_INVALID_TYPE;
+  return Answer(call.host.session.RetrieveFile(file, name->kind), place);
 }
 
 bool IsUsed(Session& session, const Model& model) {
@@ -132,6 +150,15 @@ ProError ProMdlCurrentGet(ProMdl* model) {
     const Model* const current = call.host.session.Current();
     if (current == nullptr) return PRO_TK_BAD_CONTEXT;
     place = current->handle;
+    return PRO_TK_NO_ERROR;
+  });
+}
+
+ProError ProMdlActiveGet(ProMdl* model) {
+  return Crossing(__func__, Out(model, "model place")).Run([](const Call& call, ProMdl& place) {
+    const Model* const active = call.host.session.Active();
+    if (active == nullptr) return PRO_TK_BAD_CONTEXT;
+    place = active->handle;
     return PRO_TK_NO_ERROR;
   });
 }
@@ -195,6 +222,34 @@ ProError ProMdlRetrieve(ProFamilyName name, ProMdlType type, ProMdl* model) {
         } catch (const ModelFileError& error) {
           call.host.events.Add(FileProblem{error.what()});
           return PRO_TK_INVALID_FILE;
+        }
+      });
+}
+
+ProError ProMdlLoad(ProPath path, ProMdlType type, ProBoolean ask_for_representation,
+                    ProMdl* model) {
+  return Crossing(__func__, PathIn{path, "model path"}, type, ask_for_representation,
+                  Out(model, "model place"))
+      .Run([](const Call& call, const std::filesystem::path& file, ProMdlType kind, ProBoolean ask,
+              ProMdl& place) {
+        if (ask != PRO_B_FALSE) throw NotModelled{"a question about representations"};
+        try {
+          return LoadFile(call, file, kind, place);
+        } catch (const ModelFileError& error) {
+          call.host.events.Add(FileProblem{error.what()});
+          return PRO_TK_INVALID_FILE;
+        }
+      });
+}
+
+ProError ProMdlCopy(ProMdl model, ProName new_name, ProMdl* copy) {
+  return Crossing(__func__, ModelIn{model}, ModelNameIn{new_name}, Out(copy, "copy place"))
+      .Run([](const Call& call, const Model& source, const std::string& name, ProMdl& place) {
+        try {
+          return Copy(call, source, name, place);
+        } catch (const ModelFileError& error) {
+          call.host.events.Add(FileProblem{error.what()});
+          return PRO_TK_CANT_WRITE;
         }
       });
 }
@@ -266,7 +321,7 @@ ProError ProSolidCreate(ProName name, ProType type, ProSolid* solid) {
         if (kind != PRO_PART && kind != PRO_ASSEMBLY) call.Fail("neither a part nor an assembly");
         const ModelName id{wanted, static_cast<ModelKind>(kind)};
         if (!IsLegalModelName(wanted)) return PRO_TK_INVALID_NAME;
-        if (IsTaken(call, id)) return PRO_TK_E_FOUND;
+        if (call.host.IsTaken(id)) return PRO_TK_E_FOUND;
         Model& made = call.host.session.Add(Model(id));
         made.modified = true;
         place = made.handle;

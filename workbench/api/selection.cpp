@@ -74,6 +74,18 @@ struct SelectionsGivenBack : GivenBack<ProSelection> {
   }
 };
 
+// May be left out.
+struct PathOrNoneIn {
+  ProAsmcomppath* path;
+  std::string Describe() const { return DescribeArgument(static_cast<const void*>(path)); }
+  ProAsmcomppath* Look(const Call& call) const {
+    if (path == nullptr) return nullptr;
+    if (path->table_num < 0 || path->table_num > PRO_MAX_ASSEM_LEVEL) call.Fail("path length");
+    call.SolidAt(path->owner);
+    return path;
+  }
+};
+
 void CheckPicks(const FilterTypes& filter, const std::vector<PickedItem>& picks) {
   for (const PickedItem& pick : picks) {
     if (std::find(filter.types.begin(), filter.types.end(), pick.type) == filter.types.end()) {
@@ -199,5 +211,27 @@ ProError ProSelectionAsmcomppathGet(ProSelection selection, ProAsmcomppath* path
         place.table_num = static_cast<int>(picked.path.size());
         std::copy(picked.path.begin(), picked.path.end(), place.comp_id_table);
         return PRO_TK_NO_ERROR;
+      });
+}
+
+ProError ProSelectionAlloc(ProAsmcomppath* path, ProModelitem* item, ProSelection* selection) {
+  return Crossing(__func__, PathOrNoneIn{path}, RecordIn(item, "item"),
+                  Out(selection, "selection place"))
+      .Run([](const Call& call, const ProAsmcomppath* way, const ProModelitem& of,
+              ProSelection& place) {
+        PickedItem picked{of.type, of.id, &call.ModelAt(of.owner), nullptr, {}};
+        if (way != nullptr) {
+          picked.root = &call.SolidAt(way->owner);
+          picked.path.assign(way->comp_id_table, way->comp_id_table + way->table_num);
+        }
+        place = NewSelection(call, picked);
+      });
+}
+
+ProError ProSelectionFree(ProSelection* selection) {
+  return Crossing(__func__, PlaceGivenBack(selection, "selection place"))
+      .Run([](const Call& call, ProSelection& place) {
+        FreeSelection(call, place);
+        place = nullptr;
       });
 }

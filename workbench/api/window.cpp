@@ -110,6 +110,10 @@ ProError ProWindowRepaint(int window) {
   });
 }
 
+ProError ProWindowRefresh(int window) {
+  return Crossing(__func__, WindowIn{window}).Run([](const Window&) {});
+}
+
 ProError ProObjectwindowCreate(ProName name, ProType type, int* window) {
   return Crossing(__func__, ModelNameIn{name}, type, Out(window, "window place"))
       .Run([](const Call& call, const std::string& wanted, ProType kind, int& place) {

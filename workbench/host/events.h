@@ -34,6 +34,12 @@ struct Regeneration {
   std::string model;
 };
 
+// A tree that a feature was made of, in one line: each element with its value, and in brackets what
+// hangs below it.
+struct ElementTree {
+  std::string text;
+};
+
 // What an interactive selection was asked to allow: number and value of each option.
 struct PickOptions {
   std::vector<std::pair<int, int>> options;
@@ -91,9 +97,9 @@ struct FileProblem {
   std::string text;
 };
 
-using Event = std::variant<Note, MissingText, Repaint, TreeRefresh, Regeneration, PickOptions,
-                           MessageBox, FileRequest, ShellCall, ExportedFile, QueuedMacro,
-                           MouseEvent, ClassRequest, Breach, Gap, FileProblem>;
+using Event = std::variant<Note, MissingText, Repaint, TreeRefresh, Regeneration, ElementTree,
+                           PickOptions, MessageBox, FileRequest, ShellCall, ExportedFile,
+                           QueuedMacro, MouseEvent, ClassRequest, Breach, Gap, FileProblem>;
 
 class Events {
  public:

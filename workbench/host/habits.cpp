@@ -37,6 +37,7 @@ std::span<const HabitRow> HabitRows() {
       {"untouched_dimension_has_no_lines", &Habits::untouched_dimension_has_no_lines, true},
       {"untouched_dimension_text_fails", &Habits::untouched_dimension_text_fails},
       {"tolerances_are_taken_for_numbers", &Habits::tolerances_are_taken_for_numbers},
+      {"copy_stays_in_session", &Habits::copy_stays_in_session, true},
       {"rename_leaves_files", &Habits::rename_leaves_files},
       {"erasing_acts_at_the_end", &Habits::erasing_acts_at_the_end},
       {"selection_policy_clears_selection", &Habits::selection_policy_clears_selection},

@@ -1,8 +1,10 @@
 // The one host of a process.
 #include "workbench/host/host.h"
 
+#include <algorithm>
 #include <stdexcept>
 
+#include "workbench/base/text.h"
 #include "workbench/base/windows_headers.h"
 #include "workbench/host/host_types.h"
 
@@ -38,6 +40,11 @@ void Host::Forget(Model& model) {
     if (item->owner == &model) item->owner = nullptr;
     if (item->root == &model) item->root = nullptr;
   }
+}
+
+bool Host::IsTaken(const ModelName& name) {
+  const auto is_it = [&](const ModelName& other) { return EqualFolded(other.Text(), name.Text()); };
+  return session.Find(name) != nullptr || std::ranges::any_of(leaving, is_it);
 }
 
 void Host::ReportBreach(const std::string& function, const std::string& why) {

@@ -44,6 +44,7 @@ struct Host {
   User* user = nullptr;
 
   std::filesystem::path install_folder;  // holds the DLL, text/, resource/ and QMconfig/
+  std::string release = "30";            // as the plug-in is told at its start
   std::string language = "chinese_cn";   // folder of the message files
   std::map<std::string, std::vector<std::string>> options;  // configuration options, lower case
   Habits habits;
@@ -59,6 +60,8 @@ struct Host {
   std::string running_command;  // empty: the plug-in is idle
   unsigned long ui_thread = 0;
 
+  // Erased models count until the plug-in's action has come back.
+  bool IsTaken(const ModelName& name);
   void ReportBreach(const std::string& function, const std::string& why);
   bool OnUiThread() const;
   // An action of the plug-in has come back: what waited for that is done.

@@ -23,6 +23,10 @@ class User {
   virtual std::optional<std::vector<PickedItem>> Pick(const PickRequest& request) = 0;
   virtual std::optional<std::string> ChooseFile(const FileRequest& request) = 0;
   virtual std::optional<std::string> AnswerPrompt(const std::string& prompt, int max_length) = 0;
+  virtual std::optional<PlacementAnswer> PlaceComponent(const PlacementRequest& request) {
+    static_cast<void>(request);
+    return std::nullopt;
+  }
   // A call of the plug-in begins; true: the user did something before it is carried out.
   virtual bool CallBegins(const char* function) {
     static_cast<void>(function);

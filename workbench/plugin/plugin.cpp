@@ -8,6 +8,7 @@
 #include "workbench/host/call.h"
 #include "workbench/plugin/macro_steps.h"
 #include "workbench/plugin/plugin_entry.h"
+#include "workbench/plugin/replace_macro.h"
 
 namespace wb {
 namespace {
@@ -30,10 +31,18 @@ void* EntryOf(void* module, const char* name) {
   return reinterpret_cast<void*>(::GetProcAddress(static_cast<HMODULE>(module), name));
 }
 
-// What the plug-in has queued runs once the user could go on.
+// What the plug-in has queued runs once the user could go on. What the host says then is a note.
 void RunMacros(size_t mark) {
   Host& host = TheHost();
   for (const QueuedMacro& macro : host.events.Since<QueuedMacro>(mark)) {
+    if (IsReplaceMacro(macro.text)) {
+      const PlayedReplacement played = PlayReplaceMacro(macro.text, host.session);
+      if (!played.unknown.empty()) {
+        host.events.Add(Gap{"workbench: not modelled: " + played.unknown});
+      }
+      if (!played.refused.empty()) host.events.Add(Note{"macro stopped: " + played.refused});
+      continue;
+    }
     if (host.user != nullptr && host.user->LeavesMacro(macro.text)) continue;
     const std::string gap = PlayMacro(macro.text, host.session);
     if (!gap.empty()) host.events.Add(Gap{"workbench: not modelled: " + gap});
@@ -94,14 +103,15 @@ Plugin::~Plugin() {
 
 int Plugin::Start() {
   std::string path = ToAnsi(PathToUtf8(dll_));
-  char version[] = "30";
+  std::string version = TheHost().release;
   char build[] = "C000";
   char* arguments[] = {path.data(), nullptr};
   constexpr size_t kReasonSize = 80;
   wchar_t reason[kReasonSize] = {};
   int answer = PRO_TK_GENERAL_ERROR;
   const auto entry = reinterpret_cast<InitializeEntry>(EntryOf(module_, kInitialize));
-  EnterPluginAndSettle(kInitialize, [&] { answer = entry(1, arguments, version, build, reason); });
+  EnterPluginAndSettle(kInitialize,
+                       [&] { answer = entry(1, arguments, version.data(), build, reason); });
   reason[kReasonSize - 1] = L'\0';
   refusal_ = FromWide(reason);
   started_ = answer == 0;

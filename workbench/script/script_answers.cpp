@@ -57,6 +57,9 @@ constexpr StatementForm kAnswerForms[] = {
     {"prompt cancel [asks PROMPT]",          kAnswerOrDialog, kWhenAsked},
     {"prompt TEXT [asks PROMPT]",            kAnswerOrDialog, kWhenAsked},
     {"macro TEXT",                           kAnswerOrDialog, kWhenAsked},
+    {"placement cancel",                     kAnswerOrDialog, kWhenAsked},
+    {"placement fix",                        kAnswerOrDialog, kWhenAsked},
+    {"placement at X Y Z",                   kAnswerOrDialog, kWhenAsked},
     {"at call NTH of FUNCTION",              kAnswerOrDialog, &AwaitCall, kDialogPlace},
 };
 // clang-format on
@@ -155,6 +158,18 @@ bool ScriptUser::LeavesMacro(const std::string& macro) {
   return true;
 }
 
+std::optional<PlacementAnswer> ScriptUser::AnswerPlacement(const PlacementRequest& request) {
+  const Statement* const answer = Take("placement");
+  if (answer == nullptr) {
+    Unanswered("the placement of " + request.component + " in " + request.assembly +
+               " was asked for and nobody answers");
+    return std::nullopt;
+  }
+  if (answer->Has("cancel")) return std::nullopt;
+  if (answer->Has("fix")) return PlacementAnswer{};
+  return PlacementAnswer{Point{answer->Decimal("X"), answer->Decimal("Y"), answer->Decimal("Z")}};
+}
+
 int ScriptUser::PressedButton(const MessageBox& box) {
   const Statement* const answer = Take("message");
   if (answer == nullptr) {
@@ -192,6 +207,18 @@ std::optional<std::string> ScriptUser::AnswerPrompt(const std::string& prompt, i
   const auto text = AnswerText(prompt, max_length);
   NoteQuestion("prompt", prompt, text);
   return text;
+}
+
+std::optional<PlacementAnswer> ScriptUser::PlaceComponent(const PlacementRequest& request) {
+  const auto answer = AnswerPlacement(request);
+  std::optional<std::string> text;
+  if (answer && !answer->at) text = "fixed";
+  if (answer && answer->at) {
+    const Point& at = *answer->at;
+    text = "at " + NumberText(at[0]) + " " + NumberText(at[1]) + " " + NumberText(at[2]);
+  }
+  NoteQuestion("placement", request.component + " in " + request.assembly, text);
+  return answer;
 }
 
 int ScriptUser::AnswerMessageBox(const MessageBox& box) {

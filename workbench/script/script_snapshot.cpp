@@ -110,6 +110,8 @@ SessionSnapshot::SessionSnapshot(const Host& host, const std::vector<fs::path>& 
     windows_.push_back({window.id, window.model != nullptr ? window.model->id : ModelName(),
                         window.model != nullptr});
   }
+  const Model* const active = host.session.Active();
+  if (active != host.session.Current()) activated_ = active->id;
   for (const fs::path& folder : folders) folders_.emplace_back(folder);
 }
 
@@ -135,6 +137,7 @@ void SessionSnapshot::RestoreWindows(Session& session) const {
   session.PutWindows(std::move(windows));
   session.ActivateWindow(active_window_);
   session.SetCurrentWindow(current_window_);
+  session.ActivateComponent(activated_ ? session.Find(*activated_) : nullptr);
 }
 
 void SessionSnapshot::Restore(Host& host) const {

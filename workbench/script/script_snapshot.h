@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -55,6 +56,7 @@ class SessionSnapshot {
   std::vector<HeldWindow> windows_;
   int current_window_;
   int active_window_;
+  std::optional<ModelName> activated_;  // the model of a component
   std::filesystem::path working_directory_;
   std::filesystem::path current_folder_;  // the process's
   std::string clipboard_;

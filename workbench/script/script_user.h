@@ -30,6 +30,7 @@ class ScriptUser : public User {
   std::optional<std::string> ChooseFile(const FileRequest& request) override;
   std::optional<std::string> AnswerPrompt(const std::string& prompt, int max_length) override;
   bool LeavesMacro(const std::string& macro) override;
+  std::optional<PlacementAnswer> PlaceComponent(const PlacementRequest& request) override;
   int AnswerMessageBox(const MessageBox& box) override;
   bool CallBegins(const char* function) override;
 
@@ -60,6 +61,7 @@ class ScriptUser : public User {
   std::optional<std::vector<PickedItem>> AnswerPick(const PickRequest& request);
   std::optional<std::string> AnswerFile(const FileRequest& request);
   std::optional<std::string> AnswerText(const std::string& prompt, int max_length);
+  std::optional<PlacementAnswer> AnswerPlacement(const PlacementRequest& request);
   int PressedButton(const MessageBox& box);
 
   const Statement& Place() const;

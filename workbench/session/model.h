@@ -49,6 +49,20 @@ struct ComponentPart {
   Placement placement = kIdentityPlacement;
 };
 
+// One end of a constraint: an item by type and id, and the side of it.
+struct ConstraintEnd {
+  int type = 0;  // 0: there is none
+  int id = 0;
+  int side = 0;
+};
+
+// What places a component: an item of its assembly and one of its own model.
+struct ComponentConstraint {
+  int type = 0;  // the host's number
+  ConstraintEnd in_assembly;
+  ConstraintEnd in_model;
+};
+
 struct Feature {
   int id = 0;
   int type = kComponentFeatureType;
@@ -57,6 +71,9 @@ struct Feature {
   int status_flags = 0;
   bool hidden = false;
   std::optional<ComponentPart> component = std::nullopt;
+  std::vector<ComponentConstraint> constraints{};  // of a component
+  std::string name{};                              // empty: the host's own
+  std::string merged{};  // of a merge feature: the part whose geometry it has brought
 
   bool IsComponent() const { return component.has_value(); }
   // Of the component's model; null also for other features.
@@ -102,6 +119,12 @@ struct Material {
   std::string text;
 };
 
+// Its axes and origin in the model's frame.
+struct CoordinateSystem {
+  int id = 0;
+  Placement placement = kIdentityPlacement;
+};
+
 // Parts and assemblies.
 struct SolidContent {
   bool sheet_metal = false;
@@ -122,6 +145,7 @@ struct SolidContent {
   std::string material;         // the current one; empty: none
   std::string bend_table;       // empty: none
   std::string bend_table_text;  // the first line of its file
+  ItemList<CoordinateSystem> coordinate_systems;
 };
 
 struct ManufacturingContent {

@@ -80,6 +80,32 @@ const RecordType& RecordTypeOf<Parameter>() {
 }
 
 template <>
+const RecordType& RecordTypeOf<ComponentConstraint>() {
+  using Constraint = ComponentConstraint;
+  static constexpr FactRow kFacts[] = {
+      Fact<&Constraint::type>("type", InFile::kRequired),
+      Fact<&Constraint::in_assembly, &ConstraintEnd::type>("assembly_type"),
+      Fact<&Constraint::in_assembly, &ConstraintEnd::id>("assembly_id"),
+      Fact<&Constraint::in_assembly, &ConstraintEnd::side>("assembly_side"),
+      Fact<&Constraint::in_model, &ConstraintEnd::type>("model_type"),
+      Fact<&Constraint::in_model, &ConstraintEnd::id>("model_id"),
+      Fact<&Constraint::in_model, &ConstraintEnd::side>("model_side"),
+  };
+  static const RecordType kType = TypeWith<ComponentConstraint>(kFacts);
+  return kType;
+}
+
+template <>
+const RecordType& RecordTypeOf<CoordinateSystem>() {
+  static constexpr FactRow kFacts[] = {
+      Fact<&CoordinateSystem::id>("id", InFile::kRequired),
+      Fact<&CoordinateSystem::placement>("placement"),
+  };
+  static const RecordType kType = TypeWith<CoordinateSystem>(kFacts);
+  return kType;
+}
+
+template <>
 const RecordType& RecordTypeOf<Feature>() {
   static constexpr FactRow kFacts[] = {
       Fact<&Feature::id>("id", InFile::kRequired),
@@ -90,8 +116,11 @@ const RecordType& RecordTypeOf<Feature>() {
       Fact<&Feature::status_flags>("flags"),
       Fact<&Feature::hidden>("hidden"),
       ComponentFact<&ComponentPart::placement>("placement"),
+      Fact<&Feature::name>("name"),
+      Fact<&Feature::merged>("merged"),
   };
-  static const RecordType kType = TypeWith<Feature>(kFacts);
+  static constexpr ListRow kLists[] = {List<&Feature::constraints>("constraints")};
+  static const RecordType kType = TypeWith<Feature>(kFacts, kLists);
   return kType;
 }
 

@@ -194,6 +194,16 @@ bool Session::IsReadOnly(const std::filesystem::path& folder) const {
   });
 }
 
+Model& Session::Copy(const Model& model, const std::string& name) {
+  Model copy = model;
+  copy.id.name = name;
+  copy.handle = nullptr;
+  copy.folder = working_directory_;
+  copy.version = 0;
+  copy.modified = true;
+  return Add(std::move(copy));
+}
+
 void Session::Erase(Model& model) {
   EraseAll({&model});
 }
@@ -210,6 +220,7 @@ void Session::EraseAll(const std::unordered_set<Model*>& models) {
   std::erase_if(selection_buffer, [&](const PickedItem& item) {
     return models.contains(item.owner) || models.contains(item.root);
   });
+  if (models.contains(activated_) || models.contains(activated_in_)) activated_ = nullptr;
   for (Model* const model : models) {
     if (on_leave) on_leave(*model);
     by_name_.erase(Key(model->id));
@@ -273,6 +284,11 @@ Model* Session::Current() const {
     if (window.id == current_window_) return window.model;
   }
   return nullptr;
+}
+
+Model* Session::Active() const {
+  const bool counts = activated_ != nullptr && activated_in_ == Current();
+  return counts ? activated_ : Current();
 }
 
 Window& Session::ShowInWindow(Model& model) {

@@ -79,6 +79,8 @@ class Session {
   std::optional<Model> Template(const std::filesystem::path& file);
   // Takes over a model made in memory; resolves its components from session only.
   Model& Add(Model model);
+  // A copy under another name of the same kind, whose first save goes into the working directory.
+  Model& Copy(const Model& model, const std::string& name);
   // Links components to models in session, wherever that has become possible.
   void Resolve(Model& model);
   // The same, and what follows from it in a drawing: what has been left out of its views.
@@ -95,6 +97,14 @@ class Session {
 
   // The model of the current window; null when no window shows one.
   Model* Current() const;
+  // The model of the component that the user has activated in the current model; without one the
+  // current model.
+  Model* Active() const;
+  // Null: none is activated.
+  void ActivateComponent(Model* model) {
+    activated_ = model;
+    activated_in_ = Current();
+  }
   Window& ShowInWindow(Model& model);
   // The window goes, its model stays in session. The base window stays, empty; it is what remains
   // to be current and active.
@@ -132,6 +142,8 @@ class Session {
   int current_window_ = kNoWindow;
   int active_window_ = kNoWindow;
   int next_window_ = 0;
+  Model* activated_ = nullptr;
+  Model* activated_in_ = nullptr;
   std::vector<std::filesystem::path> read_only_;
 };
 

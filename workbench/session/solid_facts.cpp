@@ -151,6 +151,7 @@ const RecordType& RecordTypeOf<SolidContent>() {
   static constexpr ListRow kLists[] = {
       List<&SolidContent::features>("features"),
       List<&SolidContent::surfaces>("surfaces"),
+      List<&SolidContent::coordinate_systems>("coordinate_systems"),
       List<&SolidContent::dimensions>("dimensions"),
       List<&SolidContent::unit_systems>("unit_systems"),
       List<&SolidContent::materials>("materials"),

@@ -1,7 +1,10 @@
 // What a user can be asked, whoever asks it.
 #pragma once
 
+#include <optional>
 #include <string>
+
+#include "workbench/session/model_link.h"
 
 namespace wb {
 
@@ -24,6 +27,15 @@ struct FileRequest {
 struct PickRequest {
   std::string filter;
   int max_count = 0;
+};
+
+// The host's dialog that places a component.
+struct PlacementRequest {
+  std::string assembly;   // "pump.asm"
+  std::string component;  // "bolt.prt"
+};
+struct PlacementAnswer {
+  std::optional<Point> at;  // the component's origin in the assembly; none: fixed where it is
 };
 
 }  // namespace wb

@@ -154,6 +154,16 @@ void ExpectRegenerated(ScriptRun& run, const Statement& statement) {
   run.Check(statement, wanted == got, "models regenerated", told(wanted), told(got));
 }
 
+void ExpectElementTrees(ScriptRun& run, const Statement& statement) {
+  const auto got = run.host.events.TextsSince<ElementTree>(run.marks.begin);
+  run.Check(statement, got == statement.Texts("TEXT"), "element trees",
+            Join("; ", statement.Texts("TEXT")), Join("; ", got));
+}
+
+void ExpectActiveComponent(ScriptRun& run, const Statement& statement) {
+  CheckWindow(run, statement, "active component", run.host.session.Active());
+}
+
 // clang-format off
 constexpr StatementForm kExpectModelsForms[] = {
     {"expect parameter MODEL NAME is missing",            kTopOrDialog, &ExpectParameter},
@@ -169,6 +179,7 @@ constexpr StatementForm kExpectModelsForms[] = {
     {"expect directory PATH",                             kTopOrDialog, &ExpectDirectory},
     {"expect window none",                                kTopOrDialog, &ExpectWindow},
     {"expect window MODEL",                               kTopOrDialog, &ExpectWindow},
+    {"expect active model MODEL",                         kTopOrDialog, &ExpectActiveComponent},
     {"expect active none",                                kTopOrDialog, &ExpectActive},
     {"expect active MODEL",                               kTopOrDialog, &ExpectActive},
     {"expect selection none",                             kTopOrDialog, &ExpectSelection},
@@ -179,6 +190,7 @@ constexpr StatementForm kExpectModelsForms[] = {
     {"expect refresh MODEL",                              kTopOrDialog, &ExpectRefresh},
     {"expect regenerated none",                           kTopOrDialog, &ExpectRegenerated},
     {"expect regenerated MODEL...",                       kTopOrDialog, &ExpectRegenerated},
+    {"expect element_trees TEXT...",                      kTopOrDialog, &ExpectElementTrees},
 };
 // clang-format on
 

@@ -93,6 +93,11 @@ void PluginAs(ScriptRun& run, const Statement& statement) {
   run.plugin_name = statement.Text("NAME");
 }
 
+void HostRelease(ScriptRun& run, const Statement& statement) {
+  CheckNotInstalled(run);
+  run.host.release = statement.Text("TEXT");
+}
+
 void RequireCodePage(ScriptRun&, const Statement& statement) {
   if (AnsiCodePage() == static_cast<unsigned>(statement.Number("N"))) return;
   throw ScriptSkip{"it needs code page " + statement.Text("N") + ", and here it is " +
@@ -109,6 +114,7 @@ constexpr StatementForm kFolderForms[] = {
     {"delete PATH",            kTopOrDialog, &Delete},
     {"install as NAME",        kTopPlace, &InstallAs},
     {"plugin as NAME",         kTopPlace, &PluginAs},
+    {"host_release TEXT",      kTopPlace, &HostRelease},
     {"require code_page N",    kTopPlace, &RequireCodePage},
 };
 // clang-format on

@@ -7,6 +7,7 @@
 #include "workbench/reasons/missing_model.h"
 #include "workbench/reasons/own_path.h"
 #include "workbench/script/script_arguments.h"
+#include "workbench/script/script_paths.h"
 #include "workbench/script/script_runner.h"
 #include "workbench/session/bench_shapes.h"
 #include "workbench/session/model_cycle.h"
@@ -162,6 +163,18 @@ void Surface(ScriptRun& run, const Statement& statement) {
   surfaces.Add({NextId(surfaces), box});
 }
 
+void Csys(ScriptRun& run, const Statement& statement) {
+  ItemList<CoordinateSystem>& all = SolidNamed(run, statement).solid().coordinate_systems;
+  CoordinateSystem csys{statement.Has("id") ? statement.Number("ID") : NextId(all)};
+  if (statement.Has("at")) {
+    csys.placement[3] = {statement.Decimal("X"), statement.Decimal("Y"), statement.Decimal("Z"), 1};
+  }
+  if (all.Find(csys.id) != nullptr) {
+    throw ScriptError("there is a coordinate system " + std::to_string(csys.id) + " already");
+  }
+  all.Add(csys);
+}
+
 void Bulk(ScriptRun& run, const Statement& statement) {
   FindBenchShape(statement.Text("SHAPE"))->build(run.host.session, statement.Number("TIMES"));
 }
@@ -205,6 +218,17 @@ void Activate(ScriptRun& run, const Statement& statement) {
   Window* const window = run.host.session.FindWindowOf(model);
   if (window == nullptr) throw ScriptError(model.id.Text() + " is shown in no window");
   run.host.session.ActivateWindow(window->id);
+}
+
+void ActivateComponent(ScriptRun& run, const Statement& statement) {
+  if (statement.Has("none")) {
+    run.host.session.ActivateComponent(nullptr);
+    return;
+  }
+  const ComponentSpot spot = FindComponentSpot(run.Root(), statement.Text("PATH"));
+  Model* const model = spot.feature->ComponentModel();
+  if (model == nullptr) throw ScriptError(statement.Text("PATH") + " is not in session");
+  run.host.session.ActivateComponent(model);
 }
 
 void CloseWindow(ScriptRun& run, const Statement&) {
@@ -253,10 +277,13 @@ constexpr StatementForm kModelForms[] = {
     {"parameter MODEL NAME yes_no FLAG:yes|no",                    kTopOrDialog, &SetParameter},
     {"parameter MODEL NAME missing",                               kTopOrDialog, &DeleteParameter},
     {"surface MODEL X Y Z X2 Y2 Z2",                               kTopOrDialog, &Surface},
+    {"csys MODEL {[id ID] [at X Y Z]}",                            kTopOrDialog, &Csys},
     {"bulk SHAPE:flat|tree|chain|single|half|repeated|pool TIMES", kTopPlace,    &Bulk},
     {"import PATH",                                                kTopPlace,    &Import},
     {"retrieve MODEL",                                             kTopPlace,    &Retrieve},
     {"open MODEL",                                                 kTopPlace,    &Open},
+    {"activate component none",                                    kTopOrDialog, &ActivateComponent},
+    {"activate component PATH",                                    kTopOrDialog, &ActivateComponent},
     {"activate MODEL",                                             kTopOrDialog, &Activate},
     {"close window",                                               kTopOrDialog, &CloseWindow},
     {"erase MODEL",                                                kTopOrDialog, &Erase},

@@ -46,6 +46,7 @@ void AddWindows(Session& session, SessionState* state) {
   }
   (*state)["base window"] = ShownIn(session, kBaseWindow);
   (*state)["current window"] = ShownIn(session, session.current_window());
+  (*state)["active model"] = NameOf(session.Active());
   (*state)["active window"] = ShownIn(session, session.active_window());
 }
 

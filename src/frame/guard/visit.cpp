@@ -17,6 +17,11 @@ struct SurfaceVisit {
   std::exception_ptr failure;
 };
 
+struct CsysVisit {
+  const CsysAction& action;
+  std::exception_ptr failure;
+};
+
 // A filter cannot end a visit: after an exception it and its successors only skip.
 ProError FilterFeature(ProFeature* feature, ProAppData data) noexcept {
   auto& visit = *static_cast<FeatureVisit*>(data);
@@ -48,6 +53,10 @@ ProError ActOnSurface(ProSurface surface, ProError, ProAppData data) noexcept {
   return Act(*static_cast<SurfaceVisit*>(data), surface);
 }
 
+ProError ActOnCsys(ProCsys csys, ProError, ProAppData data) noexcept {
+  return Act(*static_cast<CsysVisit*>(data), csys);
+}
+
 }  // namespace
 
 ProError VisitFeatures(ProSolid solid, const FeatureFilter& filter, const FeatureAction& action) {
@@ -60,6 +69,13 @@ ProError VisitFeatures(ProSolid solid, const FeatureFilter& filter, const Featur
 ProError VisitSurfaces(ProSolid solid, const SurfaceAction& action) {
   SurfaceVisit visit{action, nullptr};
   const ProError status = ProSolidSurfaceVisit(solid, &ActOnSurface, nullptr, &visit);
+  if (visit.failure != nullptr) std::rethrow_exception(visit.failure);
+  return status;
+}
+
+ProError VisitCoordinateSystems(ProSolid solid, const CsysAction& action) {
+  CsysVisit visit{action, nullptr};
+  const ProError status = ProSolidCsysVisit(solid, &ActOnCsys, nullptr, &visit);
   if (visit.failure != nullptr) std::rethrow_exception(visit.failure);
   return status;
 }

@@ -6,6 +6,12 @@
 namespace qm {
 namespace {
 
+std::optional<CurrentModel> WithType(ProMdl model) {
+  ProMdlType type = PRO_MDL_UNUSED;
+  if (!Ok(ProMdlTypeGet(model, &type))) return std::nullopt;
+  return CurrentModel{model, type};
+}
+
 std::optional<CurrentModel> WithoutManufacturing(const std::optional<CurrentModel>& current) {
   if (!current || current->type != PRO_MDL_MFG) return current;
   ProAssembly assembly = nullptr;
@@ -17,10 +23,14 @@ std::optional<CurrentModel> WithoutManufacturing(const std::optional<CurrentMode
 
 std::optional<CurrentModel> CurrentModelItself() {
   ProMdl model = nullptr;
-  ProMdlType type = PRO_MDL_UNUSED;
   if (!Ok(ProMdlCurrentGet(&model)) || model == nullptr) return std::nullopt;
-  if (!Ok(ProMdlTypeGet(model, &type))) return std::nullopt;
-  return CurrentModel{model, type};
+  return WithType(model);
+}
+
+std::optional<CurrentModel> ActiveModel() {
+  ProMdl model = nullptr;
+  if (!Ok(ProMdlActiveGet(&model)) || model == nullptr) return std::nullopt;
+  return WithType(model);
 }
 
 std::optional<CurrentModel> CurrentModelOrAssembly() {

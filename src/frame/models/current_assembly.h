@@ -23,6 +23,9 @@ std::optional<CurrentModel> CurrentModelItself();
 // The same; for a manufacturing model its assembly.
 std::optional<CurrentModel> CurrentModelOrAssembly();
 
+// The model of the component that the user has activated, and without one the current model.
+std::optional<CurrentModel> ActiveModel();
+
 // For commands that work on assemblies only: `current`, or its assembly where it is a manufacturing
 // model; nothing for any other type of model.
 std::optional<ProMdl> AssemblyOf(const std::optional<CurrentModel>& current);

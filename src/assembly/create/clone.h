@@ -1,0 +1,27 @@
+// What the two cloning commands share: what is selected, and its copy under a new name.
+#pragma once
+
+#include <optional>
+
+#include "assembly/create/clone_rules.h"
+#include "frame/models/preselection.h"
+#include "toolkit/model.h"
+
+namespace qm {
+
+struct CloneJob {
+  Preselected selected;  // one component
+  ProMdl source;
+  ProMdlType source_type;
+  ProAssembly assembly;  // the active one
+  CloneMode mode;
+};
+
+// Nothing, after a message or a line in the run log, where nothing can be cloned.
+std::optional<CloneJob> PrepareClone();
+
+// The saved copy. `replies` is how many the user gives to one prompt. Null, after a message or a
+// line in the run log, when there is no copy.
+ProMdl MakeClone(const CloneJob& job, int replies);
+
+}  // namespace qm

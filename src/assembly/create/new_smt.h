@@ -1,0 +1,11 @@
+// NewSmt: a new sheet-metal part from the user's start template, named after the assembly and put
+// into it.
+#pragma once
+
+#include "toolkit/types.h"
+
+namespace qm {
+
+ProError NewSmt();
+
+}  // namespace qm

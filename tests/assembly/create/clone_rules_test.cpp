@@ -1,0 +1,55 @@
+// How copies and new components are named.
+#include "assembly/create/clone_rules.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+namespace qm {
+namespace {
+
+TEST(CloneRules, TheModeIsAWordWithoutCaseAndBlanks) {
+  EXPECT_EQ(CloneModeOf(L"byComp"), CloneMode::kByComponent);
+  EXPECT_EQ(CloneModeOf(L" By Asm "), CloneMode::kByAssembly);
+  EXPECT_EQ(CloneModeOf(L"BYUSER"), CloneMode::kByUser);
+  for (const wchar_t* other : {L"", L" ", L"by", L"byComp2", L"1", L"by\tComp"}) {
+    EXPECT_EQ(CloneModeOf(other), std::nullopt);
+  }
+}
+
+// "_01" ... "_09", "_10" ... as another program's format writes them.
+std::wstring Formatted(const wchar_t* base, const char* format, int number) {
+  char text[16] = {};
+  std::snprintf(text, sizeof(text), format, number);
+  return base + std::wstring(text, text + std::char_traits<char>::length(text));
+}
+
+TEST(CloneRules, NumbersStandBehindTheBase) {
+  const NewNaming parts = NamingBelow(L"PUMP_00", PRO_MDL_PART);
+  const NewNaming assemblies = NamingBelow(L"PUMP_00", PRO_MDL_ASSEMBLY);
+  const NewNaming copies = NamingAfterComponent(L"Valve_00");
+  for (int number = 1; number <= 120; ++number) {
+    EXPECT_EQ(NumberedName(parts, number), Formatted(L"PUMP", "-%d", number));
+    EXPECT_EQ(NumberedName(assemblies, number), Formatted(L"PUMP", "_%02d", number));
+    EXPECT_EQ(NumberedName(copies, number), Formatted(L"Valve_00", "-%d", number));
+  }
+  EXPECT_EQ(parts.probed_as, PRO_MDL_PART);
+  EXPECT_EQ(assemblies.probed_as, PRO_MDL_ASSEMBLY);
+}
+
+TEST(CloneRules, DeliberatelyACopyIsProbedAsAPartWhateverItIs) {
+  EXPECT_EQ(NamingAfterComponent(L"SUB").probed_as, PRO_MDL_PART);
+}
+
+TEST(CloneRules, OnlyTheEndOfATopAssemblyIsCutOff) {
+  const auto base = [](const wchar_t* name) { return NamingBelow(name, PRO_MDL_PART).base; };
+  EXPECT_EQ(base(L"M_00"), L"M");
+  EXPECT_EQ(base(L"_00"), L"");
+  EXPECT_EQ(base(L"M_00_00"), L"M_00");
+  for (const wchar_t* kept : {L"M", L"M_0", L"X_000", L"M_01", L"M00", L"M_00a", L""}) {
+    EXPECT_EQ(base(kept), kept);
+  }
+}
+
+}  // namespace
+}  // namespace qm

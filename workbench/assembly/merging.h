@@ -1,0 +1,29 @@
+// One part's geometry in another one.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "workbench/session/model.h"
+
+namespace wb {
+
+// Where the occurrence at the end of the path lies in `root`; none for a way that leads nowhere.
+std::optional<Placement> PlacementAt(const Model& root, const std::vector<int>& path);
+
+// The same for the first occurrence of a model, an assembly's own components before those inside
+// them; none when it is not there.
+std::optional<Placement> FirstPlacementOf(const Model& root, const Model& model);
+
+// The way back, of a placement that neither scales nor mirrors.
+Placement Inverse(const Placement& placement);
+// Whether it does neither.
+bool IsRigid(const Placement& placement);
+
+// Gives `target` a merge feature with the surfaces of `source`, which lies at `placement` in the
+// target's own frame. Gives the feature's id.
+int AddMergeFeature(Model& target, const Model& source, const Placement& placement,
+                    const std::string& name);
+
+}  // namespace wb
