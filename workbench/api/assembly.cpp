@@ -1,5 +1,8 @@
-// Host functions for component paths and for the hide state of components.
+// Host functions for component paths, for places and constraints of components, and for their hide
+// state.
+#include "workbench/api/matrix.h"
 #include "workbench/host/arguments.h"
+#include "workbench/session/extents.h"
 
 namespace wb {
 namespace {
@@ -19,6 +22,16 @@ void SetHidden(const FeaturePlace& at, bool hidden) {
   if (at.feature.hidden != hidden) at.owner.modified = true;
   at.feature.hidden = hidden;
 }
+
+struct AsmcompIn : FeatureIn {
+  FeaturePlace Look(const Call& call) const {
+    const FeaturePlace place = FeatureIn::Look(call);
+    if (!place.feature.IsComponent()) {
+      call.Fail("feature " + std::to_string(place.feature.id) + " is no component");
+    }
+    return place;
+  }
+};
 
 // The model of the component that a path's next step names; null: not in session.
 Model* Below(const Call& call, Model& parent, int id) {
@@ -59,6 +72,37 @@ ProError ProAsmcomppathMdlGet(ProAsmcomppath* path, ProMdl* model) {
         if (at == nullptr) return PRO_TK_E_NOT_FOUND;
         place = at->handle;
         return PRO_TK_NO_ERROR;
+      });
+}
+
+ProError ProAsmcompPositionGet(ProAsmcomp* component, ProMatrix position) {
+  return Crossing(__func__, AsmcompIn{{component}}, OutMatrix{position})
+      .Run([](const FeaturePlace& at, MatrixPlace place) {
+        place = ComponentPlacement(at.owner, at.feature);
+      });
+}
+
+ProError ProAsmcompConstrRemove(ProAsmcomp* component, int index) {
+  return Crossing(__func__, AsmcompIn{{component}}, index)
+      .Run([](const FeaturePlace& at, int removed) {
+        std::vector<ComponentConstraint>& held = at.feature.constraints;
+        const bool is_all = removed == PRO_VALUE_UNUSED;
+        if (!is_all && (removed < 0 || removed >= static_cast<int>(held.size()))) {
+          return PRO_TK_E_NOT_FOUND;
+        }
+        // Those behind it move down.
+        if (is_all) held.clear();
+        if (!is_all) held.erase(held.begin() + removed);
+        at.owner.modified = true;
+        return PRO_TK_NO_ERROR;
+      });
+}
+
+// The place of a component does not follow from its constraints here.
+ProError ProAsmcompRegenerate(ProAsmcomp* component, ProBoolean update_soft) {
+  return Crossing(__func__, AsmcompIn{{component}}, update_soft)
+      .Run([](const FeaturePlace&, ProBoolean soft) {
+        if (soft != PRO_B_TRUE) throw NotModelled{"a regeneration that leaves soft things alone"};
       });
 }
 

@@ -1,4 +1,6 @@
 // Host functions of the model family.
+#include <unordered_set>
+
 #include "workbench/api/model_record.h"
 #include "workbench/host/arguments.h"
 #include "workbench/session/model_file.h"
@@ -124,6 +126,52 @@ ProError LoadFile(const Call& call, const std::filesystem::path& file, ProMdlTyp
   const bool is_of_type = type == PRO_MDL_UNUSED || static_cast<int>(name->kind) == type;
   if (!is_of_type) return PRO_TK_INVALID_TYPE;
   return Answer(call.host.session.RetrieveFile(file, name->kind), place);
+}
+
+// The model, and with an assembly all that it uses, each once.
+std::vector<const Model*> BackedUpWith(const Call& call, Model& model) {
+  std::vector<const Model*> models = {&model};
+  if (model.id.kind != ModelKind::kAssembly || call.host.habits.backup_leaves_what_is_used) {
+    return models;
+  }
+  std::unordered_set<const Model*> met = {&model};
+  std::vector<Model*> pending = {&model};
+  while (!pending.empty()) {
+    Model* const at = pending.back();
+    pending.pop_back();
+    ForEachLink(*at, [&](const ModelLink& link) {
+      if (link.model == nullptr || !met.insert(link.model).second) return;
+      models.push_back(link.model);
+      pending.push_back(link.model);
+    });
+  }
+  return models;
+}
+
+// Next versions in the folder; the session's models know nothing of them.
+void WriteBackups(const std::vector<const Model*>& models, const std::filesystem::path& folder) {
+  const FolderIndex index(folder);
+  for (const Model* const model : models) {
+    const int version = index.NewestVersion(model->id) + 1;
+    WriteModelFile(*model, folder / PathFromUtf8(model->id.Text() + "." + std::to_string(version)));
+  }
+}
+
+ProError BackUp(const Call& call, Model& model, const ProMdldata& record) {
+  const ModelRecordText target = ReadRecord(call, record);
+  if (!EqualFolded(target.name, model.id.name)) call.Fail("the record is that of another model");
+  const std::filesystem::path folder =
+      call.host.session.working_directory() / PathFromUtf8(target.folder);
+  std::error_code error;
+  if (!std::filesystem::is_directory(folder, error)) return PRO_TK_INVALID_DIR;
+  if (call.host.session.IsReadOnly(folder)) return PRO_TK_NO_PERMISSION;
+  try {
+    WriteBackups(BackedUpWith(call, model), folder);
+    return PRO_TK_NO_ERROR;
+  } catch (const ModelFileError& problem) {
+    call.host.events.Add(FileProblem{problem.what()});
+    return PRO_TK_CANT_WRITE;
+  }
 }
 
 bool IsUsed(Session& session, const Model& model) {
@@ -293,6 +341,10 @@ ProError ProMdlSave(ProMdl model) {
       return PRO_TK_CANT_WRITE;
     }
   });
+}
+
+ProError ProMdlBackup(ProMdl model, ProMdldata* target) {
+  return Crossing(__func__, ModelIn{model}, RecordIn(target, "record")).Run(&BackUp);
 }
 
 ProError ProMdlRename(ProMdl model, ProName new_name) {

@@ -1,4 +1,6 @@
 // Host functions of the parameter family.
+#include "workbench/api/parameter.h"
+
 #include "workbench/host/arguments.h"
 
 namespace wb {
@@ -127,6 +129,21 @@ ProParameter RecordOf(const Call& call, const ProModelitem& owner, const std::st
 }
 
 }  // namespace
+
+ParameterValue ParameterValueAt(const Call& call, const ProParamvalue& value) {
+  return ValueArgument(call, value);
+}
+
+void FillParameterValue(const Call& call, const ParameterValue& held, ProParamvalue& value) {
+  FillValue(call, held, value);
+}
+
+std::string ParameterNameAt(const Call& call, const ProParameter& record, Model** model) {
+  *model = &OwnerAt(call, &record.owner.who.item);
+  ProParameter copy = record;
+  return call.Text(NameIn(call, copy), PRO_NAME_SIZE, "parameter name");
+}
+
 }  // namespace wb
 
 using namespace wb;

@@ -157,6 +157,12 @@ ProError ProUIInputpanelFocusinActionSet(const char* dialog, const char* compone
                          action, data);
 }
 
+ProError ProUILabelTextSet(const char* dialog, const char* component, wchar_t* text) {
+  return Crossing(__func__, FieldIn<Field>{dialog, component, FieldKind::kLabel},
+                  FieldValueIn(text))
+      .Run([](Field& label, const std::string& wanted) { label.label = wanted; });
+}
+
 ProError ProUITextareaValueGet(const char* dialog, const char* component, wchar_t** value) {
   return Crossing(__func__, TextAreaIn(dialog, component), OutWide(value, "value place"))
       .Run([](const TextState& area, WidePlace place) { place = area.Value(); });

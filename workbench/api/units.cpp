@@ -157,6 +157,14 @@ ProError ProMdlPrincipalunitsystemGet(ProMdl model, ProUnitsystem* system) {
       });
 }
 
+ProError ProUnitsystemUnitGet(ProUnitsystem* system, ProUnitType type, ProUnititem* unit) {
+  return Crossing(__func__, UnitSystemIn(system), type, Out(unit, "unit place"))
+      .Run([](const Call& call, const SystemPlace& from, ProUnitType wanted, ProUnititem& place) {
+        if (wanted != PRO_UNITTYPE_LENGTH) throw NotModelled{"units other than those of lengths"};
+        place = UnitRecord<ProUnititem>(call, from.model, from.system.length);
+      });
+}
+
 ProError ProMdlPrincipalunitsystemSet(ProMdl model, ProUnitsystem* system,
                                       ProUnitConvertType conversion, ProBoolean ignore_param_units,
                                       int regeneration_flags) {

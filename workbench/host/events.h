@@ -73,6 +73,10 @@ struct MouseEvent {
   unsigned dx = 0;
   unsigned dy = 0;
   unsigned data = 0;
+
+  // The middle button, down and up.
+  static constexpr unsigned kMiddleClick = 0x60;
+  bool IsMiddleClick() const { return flags == kMiddleClick; }
 };
 
 // The class id of an object asked for, "{...}".

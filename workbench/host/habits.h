@@ -47,6 +47,7 @@ struct Habits {
   bool unit_conversions_are_exchanged = false;   // same size is 0, same dimensions is 1
   bool unit_system_types_are_exchanged = false;  // force-length-time is 0, mass-length-time is 1
   bool unit_records_are_longer = false;          // those in arrays, by 8 bytes
+  bool backup_leaves_what_is_used = false;       // of an assembly the file alone is written
 };
 
 struct HabitRow {

@@ -55,6 +55,32 @@ bool Host::OnUiThread() const {
   return ::GetCurrentThreadId() == ui_thread;
 }
 
+void Host::TakeInput() {
+  for (const MouseEvent& event : windows.input.Take()) {
+    events.Add(event);
+    if (event.IsMiddleClick()) ++windows.middle_clicks;
+  }
+}
+
+bool Host::TakeMiddleClick() {
+  TakeInput();
+  if (windows.middle_clicks == 0) return false;
+  --windows.middle_clicks;
+  return true;
+}
+
+void Host::ControlIsBack() {
+  leaving.clear();
+  for (const PluginThread& thread : std::exchange(windows.threads, {})) {
+    if (!thread.waited_for) ReportBreach("CreateThread", "nobody has waited for the thread's end");
+    if (!thread.is_closed) ReportBreach("CreateThread", "the thread's handle was not closed");
+  }
+  TakeInput();
+  if (std::exchange(windows.middle_clicks, 0) > 0) {
+    ReportBreach("mouse_event", "a middle click that no dialog has taken");
+  }
+}
+
 bool Host::LetUserIn(const char* function) {
   return user != nullptr && user->CallBegins(function);
 }

@@ -64,8 +64,13 @@ struct Host {
   bool IsTaken(const ModelName& name);
   void ReportBreach(const std::string& function, const std::string& why);
   bool OnUiThread() const;
-  // An action of the plug-in has come back: what waited for that is done.
-  void ControlIsBack() { leaving.clear(); }
+  // An action of the plug-in has come back: what waited for that is done, and nothing that it has
+  // started or queued may be left.
+  void ControlIsBack();
+  // What the plug-in has queued becomes an event of its own.
+  void TakeInput();
+  // Confirms a dialog that opens now; false: no click of the plug-in's waits for one.
+  bool TakeMiddleClick();
   // Whether the user did something at this moment, in the middle of a call of `function`.
   bool LetUserIn(const char* function);
   // Ends every handle to a model that leaves the session and to what is inside it.

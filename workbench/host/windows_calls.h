@@ -5,9 +5,13 @@
 
 #include <filesystem>
 #include <functional>
+#include <mutex>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "workbench/host/events.h"
 
 namespace wb {
 
@@ -16,6 +20,32 @@ struct Timer {
   unsigned milliseconds = 0;
   void* procedure = nullptr;  // TIMERPROC
   bool kill_failed = false;   // by a fault: that it is pending is not held against the plug-in
+};
+
+// A thread that the plug-in has started: before control is back it has to be waited for, and its
+// handle closed.
+struct PluginThread {
+  void* handle = nullptr;
+  bool waited_for = false;
+  bool is_closed = false;
+};
+
+// Input that the plug-in has made itself: what waits for the next dialog of the host. Threads of
+// the plug-in may queue it, and nothing else.
+class QueuedInput {
+ public:
+  void Add(const MouseEvent& event) {
+    const std::lock_guard lock(mutex_);
+    waiting_.push_back(event);
+  }
+  std::vector<MouseEvent> Take() {
+    const std::lock_guard lock(mutex_);
+    return std::exchange(waiting_, {});
+  }
+
+ private:
+  std::mutex mutex_;
+  std::vector<MouseEvent> waiting_;
 };
 
 struct WindowsCalls {
@@ -27,6 +57,9 @@ struct WindowsCalls {
   std::filesystem::path local_app_folder;  // what the local application data look-up answers
   std::set<std::string> withheld;          // host functions that this host does not offer
   unsigned long long next_timer = 0x5000;
+  std::vector<PluginThread> threads;  // started since control was given to the plug-in
+  QueuedInput input;
+  int middle_clicks = 0;  // queued, and not taken by a dialog yet
 };
 
 struct Interception {

@@ -124,6 +124,7 @@ void ForEachLink(Model& model, const std::function<void(ModelLink&)>& use) {
     for (Feature& feature : solid_content->features) {
       if (feature.component) use(feature.component->link);
     }
+    if (solid_content->generic) use(*solid_content->generic);
   } else if (DrawingContent* const drawing = model.As<DrawingContent>()) {
     if (drawing->shows) use(*drawing->shows);
     for (DrawnModel& drawn : drawing->models) use(drawn.link);

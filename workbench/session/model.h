@@ -125,6 +125,33 @@ struct CoordinateSystem {
   Placement placement = kIdentityPlacement;
 };
 
+// A family table, which its generic holds: a column for each parameter that instances have a value
+// of their own for, and what their cells say. An instance is a model of its own that names its
+// generic.
+struct FamilyColumn {
+  std::string name;
+};
+struct FamilyInstance {
+  std::string name;
+  ItemList<Parameter> cells;  // by column; none: the generic's value
+};
+
+// What a simplified representation does with components. Values are the host's numbers.
+enum class RepAction {
+  kInclude = PRO_SIMPREP_INCLUDE,
+  kExclude = PRO_SIMPREP_EXCLUDE,
+};
+struct RepItem {
+  std::vector<int> path;  // ids from the top down to the assembly that has the component
+  int component = 0;
+  RepAction action = RepAction::kInclude;
+};
+struct SimplifiedRep {
+  std::string name;
+  RepAction action = RepAction::kInclude;  // for what no item names
+  std::vector<RepItem> items;
+};
+
 // Parts and assemblies.
 struct SolidContent {
   bool sheet_metal = false;
@@ -145,6 +172,13 @@ struct SolidContent {
   std::string material;         // the current one; empty: none
   std::string bend_table;       // empty: none
   std::string bend_table_text;  // the first line of its file
+
+  std::optional<ModelLink> generic;  // none: no instance of a family
+  ItemList<FamilyColumn> family_columns;
+  ItemList<FamilyInstance> family_instances;
+
+  ItemList<SimplifiedRep> reps;
+  std::string active_rep;  // empty: the master representation
   ItemList<CoordinateSystem> coordinate_systems;
 };
 

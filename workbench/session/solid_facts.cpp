@@ -14,6 +14,15 @@ std::span<const EnumerationWord<UnitSystemType>> WordsOf() {
   return kWords;
 }
 
+template <>
+std::span<const EnumerationWord<RepAction>> WordsOf() {
+  static constexpr EnumerationWord<RepAction> kWords[] = {
+      {RepAction::kInclude, "include"},
+      {RepAction::kExclude, "exclude"},
+  };
+  return kWords;
+}
+
 // A set of relations as one text, its lines parted by line breaks. "none" is no set.
 template <>
 struct FactTraits<std::optional<RelationLines>> {
@@ -136,6 +145,43 @@ const RecordType& RecordTypeOf<Material>() {
 }
 
 template <>
+const RecordType& RecordTypeOf<FamilyColumn>() {
+  static constexpr FactRow kFacts[] = {Fact<&FamilyColumn::name>("name", InFile::kRequired)};
+  static const RecordType kType = TypeWith<FamilyColumn>(kFacts);
+  return kType;
+}
+
+template <>
+const RecordType& RecordTypeOf<FamilyInstance>() {
+  static constexpr FactRow kFacts[] = {Fact<&FamilyInstance::name>("name", InFile::kRequired)};
+  static constexpr ListRow kLists[] = {List<&FamilyInstance::cells>("cells")};
+  static const RecordType kType = TypeWith<FamilyInstance>(kFacts, kLists);
+  return kType;
+}
+
+template <>
+const RecordType& RecordTypeOf<RepItem>() {
+  static constexpr FactRow kFacts[] = {
+      Fact<&RepItem::path>("path", InFile::kAlways),
+      Fact<&RepItem::component>("component", InFile::kRequired),
+      Fact<&RepItem::action>("action", InFile::kRequired),
+  };
+  static const RecordType kType = TypeWith<RepItem>(kFacts);
+  return kType;
+}
+
+template <>
+const RecordType& RecordTypeOf<SimplifiedRep>() {
+  static constexpr FactRow kFacts[] = {
+      Fact<&SimplifiedRep::name>("name", InFile::kRequired),
+      Fact<&SimplifiedRep::action>("action", InFile::kAlways),
+  };
+  static constexpr ListRow kLists[] = {List<&SimplifiedRep::items>("items")};
+  static const RecordType kType = TypeWith<SimplifiedRep>(kFacts, kLists);
+  return kType;
+}
+
+template <>
 const RecordType& RecordTypeOf<SolidContent>() {
   static constexpr FactRow kFacts[] = {
       Fact<&SolidContent::sheet_metal>("sheet_metal"),
@@ -147,6 +193,8 @@ const RecordType& RecordTypeOf<SolidContent>() {
       Fact<&SolidContent::material>("material"),
       Fact<&SolidContent::bend_table>("bend_table"),
       Fact<&SolidContent::bend_table_text>("bend_table_text"),
+      Fact<&SolidContent::generic>("generic"),
+      Fact<&SolidContent::active_rep>("active_rep"),
   };
   static constexpr ListRow kLists[] = {
       List<&SolidContent::features>("features"),
@@ -155,6 +203,9 @@ const RecordType& RecordTypeOf<SolidContent>() {
       List<&SolidContent::dimensions>("dimensions"),
       List<&SolidContent::unit_systems>("unit_systems"),
       List<&SolidContent::materials>("materials"),
+      List<&SolidContent::family_columns>("family_columns"),
+      List<&SolidContent::family_instances>("family_instances"),
+      List<&SolidContent::reps>("reps"),
   };
   static const RecordType kType = TypeWith<SolidContent>(kFacts, kLists);
   return kType;

@@ -26,6 +26,7 @@ Hook HookRow(const char* name, std::type_identity_t<Function>* replacement,
 #define WB_HOOK_FAMILIES(FAMILY) \
   FAMILY(ShellHooks)             \
   FAMILY(MouseHooks)             \
+  FAMILY(ThreadHooks)            \
   FAMILY(TimeHooks)              \
   FAMILY(FolderHooks)            \
   FAMILY(ComHooks)               \

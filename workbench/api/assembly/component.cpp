@@ -140,6 +140,12 @@ ProError Assemble(Model& assembly, Model& model, const Placement& placement, Pro
   return PRO_TK_NO_ERROR;
 }
 
+// A component whose dialog is opened. Where a fault keeps it from opening, no click is left over
+// that the plug-in should not have made.
+struct DialogComponentIn : PlacedComponentIn {
+  void Forgive(Host& host) const { host.TakeMiddleClick(); }
+};
+
 // What the user has chosen in the host's dialog.
 void Place(const FeaturePlace& at, const PlacementAnswer& answer) {
   Placement& placement = at.feature.component->placement;
@@ -167,8 +173,10 @@ ProError ProAsmcompAssemble(ProAssembly assembly, ProSolid model, ProMatrix plac
 }
 
 ProError ProAsmcompConstrRedefUI(ProAsmcomp* component) {
-  return Crossing(__func__, PlacedComponentIn{{component}})
+  return Crossing(__func__, DialogComponentIn{{{component}}})
       .Run([](const Call& call, const FeaturePlace& at) {
+        // The component stays where it is, without a constraint.
+        if (call.host.TakeMiddleClick()) return PRO_TK_NO_ERROR;
         if (call.host.user == nullptr) return PRO_TK_USER_ABORT;
         const int id = at.feature.id;
         const auto answer = call.host.user->PlaceComponent(

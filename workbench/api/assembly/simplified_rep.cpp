@@ -1,0 +1,191 @@
+// Host functions of simplified representations.
+#include "workbench/host/arguments.h"
+#include "workbench/session/renaming.h"
+
+namespace wb {
+namespace {
+
+// What stands in the records of this family, which the plug-in does not know.
+struct ActionRecord {
+  uint64_t mark = 0;
+  int action = 0;
+};
+struct ItemRecord {
+  uint64_t mark = 0;
+  int action = 0;
+  int component = 0;
+  int path_size = 0;
+  ProIdTable path = {};
+};
+struct RepRecord {
+  uint64_t mark = 0;
+  ProMdl solid = nullptr;
+  wchar_t name[PRO_NAME_SIZE] = {};
+};
+constexpr uint64_t kActionMark = 0x616374;
+constexpr uint64_t kItemMark = 0x6974656D;
+constexpr uint64_t kRepMark = 0x726570;
+
+// A record that a call of this family has filled.
+template <typename Content, typename Record>
+struct FilledIn : RecordIn<Record> {
+  uint64_t mark;
+  FilledIn(Record* record, uint64_t wanted, const char* what)
+      : RecordIn<Record>(record, what), mark(wanted) {}
+  Content Look(const Call& call) const {
+    static_assert(sizeof(Content) <= sizeof(Record));
+    Content content;
+    std::memcpy(&content, &RecordIn<Record>::Look(call), sizeof(content));
+    if (content.mark != mark) call.Fail(std::string(this->what) + " that no call has filled");
+    return content;
+  }
+};
+
+// What a handle of such data stands for.
+using RepDraft = SimplifiedRep;
+
+struct RepDataIn {
+  ProSimprepdata* handle;
+  std::string Describe() const { return DescribeArgument(static_cast<const void*>(handle)); }
+  RepDraft& Look(const Call& call) const {
+    return *static_cast<RepDraft*>(call.Look(handle, HandleKind::kRepData).object);
+  }
+};
+
+struct RepActionIn {
+  ProSimprepActionType type;
+  std::string Describe() const { return DescribeArgument(type); }
+  RepAction Look(const Call&) const {
+    if (type == PRO_SIMPREP_INCLUDE || type == PRO_SIMPREP_EXCLUDE) {
+      return static_cast<RepAction>(type);
+    }
+    throw NotModelled{"what a representation does with a component by the number " +
+                      std::to_string(static_cast<int>(type))};
+  }
+};
+
+// The assembly at the end of a path of ids, which must have the component of an item.
+void CheckRepItem(const Call& call, const Model& top, const RepItem& item) {
+  const Model* at = &top;
+  const auto step = [&](int id) {
+    const Feature* const feature = at == nullptr ? nullptr : at->FindFeature(id);
+    if (feature == nullptr || !feature->IsComponent()) {
+      call.Fail("an item for a component " + std::to_string(id) + " that is not there");
+    }
+    at = feature->ComponentModel();
+  };
+  for (const int id : item.path) step(id);
+  step(item.component);
+}
+
+RepRecord RecordOfRep(const Call& call, const Model& solid, const std::string& name) {
+  RepRecord record{kRepMark, solid.handle, {}};
+  call.CopyText(record.name, PRO_NAME_SIZE, name);
+  return record;
+}
+
+}  // namespace
+}  // namespace wb
+
+using namespace wb;
+
+ProError ProSimprepdataAlloc(ProName name, ProBoolean temporary,
+                             ProSimprepActionType default_action, ProSimprepdata** data) {
+  return Crossing(__func__, TextIn{name, PRO_NAME_SIZE, "name"}, temporary,
+                  RepActionIn{default_action}, Out(data, "data place"))
+      .Run([](const Call& call, const std::string& wanted, ProBoolean is_temporary,
+              RepAction action, ProSimprepdata*& place) {
+        if (is_temporary != PRO_B_FALSE) throw NotModelled{"a temporary representation"};
+        auto* const draft = new RepDraft{wanted, action, {}};
+        place = static_cast<ProSimprepdata*>(call.host.handles.Give(HandleKind::kRepData, draft));
+        call.Give(place, Resource::kRepData);
+      });
+}
+
+ProError ProSimprepdataFree(ProSimprepdata** data) {
+  return Crossing(__func__, PlaceGivenBack(data, "data place"))
+      .Run([](const Call& call, ProSimprepdata*& place) {
+        call.TakeBack(place, Resource::kRepData);
+        delete &RepDataIn{place}.Look(call);
+        call.host.handles.End(place);
+        place = nullptr;
+      });
+}
+
+ProError ProSimprepActionInit(ProSimprepActionType type, ProAppData parameter,
+                              ProSimprepAction* action) {
+  return Crossing(__func__, RepActionIn{type}, DataIn{parameter}, Out(action, "action place"))
+      .Run([](RepAction wanted, void* given, ProSimprepAction& place) {
+        if (given != nullptr) throw NotModelled{"an action with a parameter"};
+        const ActionRecord record{kActionMark, static_cast<int>(wanted)};
+        std::memcpy(&place, &record, sizeof(record));
+      });
+}
+
+ProError ProSimprepdataitemInit(ProIdTable path, int path_size, int item_id,
+                                ProSimprepAction* action, ProSimprepitem* item) {
+  return Crossing(__func__, DataIn{path}, path_size, item_id,
+                  FilledIn<ActionRecord, ProSimprepAction>(action, kActionMark, "action"),
+                  Out(item, "item place"))
+      .Run([&](const Call& call, void*, int size, int id, const ActionRecord& wanted,
+               ProSimprepitem& place) {
+        if (size < 0 || size > PRO_MAX_ASSEM_LEVEL) call.Fail("path length");
+        if (size > 0) call.Place(path, "path");
+        ItemRecord record{kItemMark, wanted.action, id, size, {}};
+        if (size > 0) std::copy(path, path + size, record.path);
+        std::memcpy(&place, &record, sizeof(record));
+      });
+}
+
+ProError ProSimprepdataitemAdd(ProSimprepdata* data, ProSimprepItemType type,
+                               ProSimprepitem* item) {
+  return Crossing(__func__, RepDataIn{data}, type,
+                  FilledIn<ItemRecord, ProSimprepitem>(item, kItemMark, "item"))
+      .Run([](RepDraft& draft, ProSimprepItemType kind, const ItemRecord& added) {
+        if (kind != PRO_SIMPREP_COMPONENT_ITEM) throw NotModelled{"items other than components"};
+        draft.items.push_back({std::vector<int>(added.path, added.path + added.path_size),
+                               added.component, static_cast<RepAction>(added.action)});
+      });
+}
+
+ProError ProSimprepCreate(ProSolid solid, ProSimprepdata* data, ProSimprep* rep) {
+  return Crossing(__func__, SolidIn{{solid}}, RepDataIn{data}, Out(rep, "representation place"))
+      .Run([](const Call& call, Model& to, const RepDraft& draft, ProSimprep& place) {
+        ItemList<SimplifiedRep>& reps = to.solid().reps;
+        if (!IsLegalModelName(draft.name)) return PRO_TK_INVALID_NAME;
+        if (reps.Find(FoldCase(draft.name)) != nullptr) return PRO_TK_E_FOUND;
+        for (const RepItem& item : draft.items) CheckRepItem(call, to, item);
+        reps.Add(draft);
+        to.modified = true;
+        const RepRecord record = RecordOfRep(call, to, draft.name);
+        std::memcpy(&place, &record, sizeof(record));
+        return PRO_TK_NO_ERROR;
+      });
+}
+
+ProError ProSimprepInit(ProName name, int id, ProSolid solid, ProSimprep* rep) {
+  return Crossing(__func__, TextIn{name, PRO_NAME_SIZE, "name"}, id, SolidIn{{solid}},
+                  Out(rep, "representation place"))
+      .Run([](const Call& call, const std::string& wanted, int number, Model& of,
+              ProSimprep& place) {
+        if (number != PRO_VALUE_UNUSED) throw NotModelled{"a representation by its id"};
+        const SimplifiedRep* const held = of.solid().reps.Find(FoldCase(wanted));
+        if (held == nullptr) return PRO_TK_E_NOT_FOUND;
+        const RepRecord record = RecordOfRep(call, of, held->name);
+        std::memcpy(&place, &record, sizeof(record));
+        return PRO_TK_NO_ERROR;
+      });
+}
+
+ProError ProSimprepActivate(ProSolid solid, ProSimprep* rep) {
+  return Crossing(__func__, SolidIn{{solid}},
+                  FilledIn<RepRecord, ProSimprep>(rep, kRepMark, "representation"))
+      .Run([](const Call& call, Model& of, const RepRecord& wanted) {
+        if (wanted.solid != of.handle) call.Fail("a representation of another model");
+        const std::string name = FromWide(wanted.name);
+        if (of.solid().reps.Find(FoldCase(name)) == nullptr) return PRO_TK_E_NOT_FOUND;
+        of.solid().active_rep = name;
+        of.modified = true;
+        return PRO_TK_NO_ERROR;
+      });
+}
