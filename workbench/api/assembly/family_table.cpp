@@ -1,4 +1,5 @@
 // Host functions of family tables: instances, their generics, columns and cells.
+#include "workbench/api/assembly/opaque_record.h"
 #include "workbench/api/parameter.h"
 #include "workbench/host/arguments.h"
 
@@ -6,49 +7,47 @@ namespace wb {
 
 namespace {
 
-// What stands in the records of this family, which the plug-in does not know: a mark that tells
-// them apart, the generic and a name.
+// What stands in the records of this family: the generic, and the name of a column or an instance.
+template <uint64_t Mark>
 struct FamilyRecord {
-  uint64_t mark = 0;
+  static constexpr uint64_t kMark = Mark;
+  uint64_t mark = Mark;
   ProMdl generic = nullptr;
   wchar_t name[PRO_NAME_SIZE] = {};
 };
-constexpr uint64_t kTableMark = 0x7461626C65;
-constexpr uint64_t kColumnMark = 0x636F6C756D6E;
-constexpr uint64_t kInstanceMark = 0x696E7374;
+using TableContent = FamilyRecord<1>;
+using ColumnContent = FamilyRecord<2>;
+using InstanceContent = FamilyRecord<3>;
 
-template <typename Record>
-void FillFamilyRecord(const Call& call, Record& place, const FamilyRecord& family,
-                      const std::string& name) {
-  static_assert(sizeof(FamilyRecord) <= sizeof(Record));
-  FamilyRecord filled = family;
-  if (!name.empty()) call.CopyText(filled.name, PRO_NAME_SIZE, name);
-  std::memcpy(&place, &filled, sizeof(filled));
+template <typename Content>
+Content FamilyContent(const Call& call, const Model& generic, const std::string& name) {
+  Content content;
+  content.generic = generic.handle;
+  call.CopyText(content.name, PRO_NAME_SIZE, name);
+  return content;
 }
 
-// A record that a call of this family has filled.
 struct FamilyPlace {
   Model& generic;
   std::string name;
-  FamilyRecord record;
 };
 
-template <typename Record>
-struct FamilyIn : RecordIn<Record> {
-  uint64_t mark;
-  FamilyIn(Record* record, uint64_t wanted, const char* what)
-      : RecordIn<Record>(record, what), mark(wanted) {}
+template <typename Content, typename Record>
+struct FamilyIn : OpaqueIn<Content, Record> {
   FamilyPlace Look(const Call& call) const {
-    FamilyRecord record;
-    std::memcpy(&record, &RecordIn<Record>::Look(call), sizeof(record));
-    if (record.mark != mark) call.Fail(std::string(this->what) + " that no call has filled");
-    return {call.SolidAt(record.generic), FromWide(record.name), record};
+    const Content content = OpaqueIn<Content, Record>::Look(call);
+    return {call.SolidAt(content.generic), FromWide(content.name)};
   }
 };
-
-using FamilyTableIn = FamilyIn<ProFamtable>;
-using FamilyColumnIn = FamilyIn<ProFamtableItem>;
-using FamilyInstanceIn = FamilyIn<ProFaminstance>;
+FamilyIn<TableContent, ProFamtable> FamilyTableIn(const ProFamtable* table) {
+  return {{table, "family table"}};
+}
+FamilyIn<ColumnContent, ProFamtableItem> ColumnIn(const ProFamtableItem* item) {
+  return {{item, "column"}};
+}
+FamilyIn<InstanceContent, ProFaminstance> InstanceIn(const ProFaminstance* instance) {
+  return {{instance, "instance"}};
+}
 
 Model* GenericOf(Model& model) {
   SolidContent* const solid = model.As<SolidContent>();
@@ -86,16 +85,16 @@ ProError ProFaminstanceGenericGet(ProMdl instance, ProBoolean immediate, ProMdl*
 ProError ProFamtableInit(ProMdl generic, ProFamtable* table) {
   return Crossing(__func__, SolidIn{{generic}}, Out(table, "table place"))
       .Run([](const Call& call, const Model& of, ProFamtable& place) {
-        FillFamilyRecord(call, place, {kTableMark, of.handle, {}}, "");
+        FillOpaque(place, FamilyContent<TableContent>(call, of, ""));
       });
 }
 
 ProError ProFaminstanceInit(ProName name, ProFamtable* table, ProFaminstance* instance) {
-  return Crossing(__func__, ModelNameIn{name}, FamilyTableIn(table, kTableMark, "family table"),
+  return Crossing(__func__, ModelNameIn{name}, FamilyTableIn(table),
                   Out(instance, "instance place"))
       .Run([](const Call& call, const std::string& wanted, const FamilyPlace& of,
               ProFaminstance& place) {
-        FillFamilyRecord(call, place, {kInstanceMark, of.generic.handle, {}}, wanted);
+        FillOpaque(place, FamilyContent<InstanceContent>(call, of.generic, wanted));
       });
 }
 
@@ -105,14 +104,13 @@ ProError ProParameterToFamtableItem(ProParameter* parameter, ProFamtableItem* it
         Model* model = nullptr;
         const std::string name = ParameterNameAt(call, from, &model);
         if (model->FindParameter(name) == nullptr) return PRO_TK_E_NOT_FOUND;
-        FillFamilyRecord(call, place, {kColumnMark, model->handle, {}}, name);
+        FillOpaque(place, FamilyContent<ColumnContent>(call, *model, name));
         return PRO_TK_NO_ERROR;
       });
 }
 
 ProError ProFamtableItemAdd(ProFamtable* table, ProFamtableItem* item) {
-  return Crossing(__func__, FamilyTableIn(table, kTableMark, "family table"),
-                  FamilyColumnIn(item, kColumnMark, "column"))
+  return Crossing(__func__, FamilyTableIn(table), ColumnIn(item))
       .Run([](const Call& call, const FamilyPlace& to, const FamilyPlace& column) {
         CheckSameGeneric(call, to, column);
         ItemList<FamilyColumn>& columns = to.generic.solid().family_columns;
@@ -125,8 +123,7 @@ ProError ProFamtableItemAdd(ProFamtable* table, ProFamtableItem* item) {
 
 ProError ProFaminstanceValueGet(ProFaminstance* instance, ProFamtableItem* item,
                                 ProParamvalue* value) {
-  return Crossing(__func__, FamilyInstanceIn(instance, kInstanceMark, "instance"),
-                  FamilyColumnIn(item, kColumnMark, "column"), Out(value, "value place"))
+  return Crossing(__func__, InstanceIn(instance), ColumnIn(item), Out(value, "value place"))
       .Run([](const Call& call, const FamilyPlace& of, const FamilyPlace& column,
               ProParamvalue& place) {
         CheckSameGeneric(call, of, column);
@@ -143,8 +140,7 @@ ProError ProFaminstanceValueGet(ProFaminstance* instance, ProFamtableItem* item,
 
 ProError ProFaminstanceValueSet(ProFaminstance* instance, ProFamtableItem* item,
                                 ProParamvalue* value) {
-  return Crossing(__func__, FamilyInstanceIn(instance, kInstanceMark, "instance"),
-                  FamilyColumnIn(item, kColumnMark, "column"), RecordIn(value, "value"))
+  return Crossing(__func__, InstanceIn(instance), ColumnIn(item), RecordIn(value, "value"))
       .Run([](const Call& call, const FamilyPlace& of, const FamilyPlace& column,
               const ProParamvalue& wanted) {
         CheckSameGeneric(call, of, column);

@@ -1,44 +1,30 @@
 // Host functions of simplified representations.
+#include "workbench/api/assembly/opaque_record.h"
 #include "workbench/host/arguments.h"
 #include "workbench/session/renaming.h"
 
 namespace wb {
 namespace {
 
-// What stands in the records of this family, which the plug-in does not know.
-struct ActionRecord {
-  uint64_t mark = 0;
+// What stands in the records of this family.
+struct ActionContent {
+  static constexpr uint64_t kMark = 11;
+  uint64_t mark = kMark;
   int action = 0;
 };
-struct ItemRecord {
-  uint64_t mark = 0;
+struct ItemContent {
+  static constexpr uint64_t kMark = 12;
+  uint64_t mark = kMark;
   int action = 0;
   int component = 0;
   int path_size = 0;
   ProIdTable path = {};
 };
-struct RepRecord {
-  uint64_t mark = 0;
+struct RepContent {
+  static constexpr uint64_t kMark = 13;
+  uint64_t mark = kMark;
   ProMdl solid = nullptr;
   wchar_t name[PRO_NAME_SIZE] = {};
-};
-constexpr uint64_t kActionMark = 0x616374;
-constexpr uint64_t kItemMark = 0x6974656D;
-constexpr uint64_t kRepMark = 0x726570;
-
-// A record that a call of this family has filled.
-template <typename Content, typename Record>
-struct FilledIn : RecordIn<Record> {
-  uint64_t mark;
-  FilledIn(Record* record, uint64_t wanted, const char* what)
-      : RecordIn<Record>(record, what), mark(wanted) {}
-  Content Look(const Call& call) const {
-    static_assert(sizeof(Content) <= sizeof(Record));
-    Content content;
-    std::memcpy(&content, &RecordIn<Record>::Look(call), sizeof(content));
-    if (content.mark != mark) call.Fail(std::string(this->what) + " that no call has filled");
-    return content;
-  }
 };
 
 // What a handle of such data stands for.
@@ -78,10 +64,11 @@ void CheckRepItem(const Call& call, const Model& top, const RepItem& item) {
   step(item.component);
 }
 
-RepRecord RecordOfRep(const Call& call, const Model& solid, const std::string& name) {
-  RepRecord record{kRepMark, solid.handle, {}};
-  call.CopyText(record.name, PRO_NAME_SIZE, name);
-  return record;
+RepContent ContentOfRep(const Call& call, const Model& solid, const std::string& name) {
+  RepContent content;
+  content.solid = solid.handle;
+  call.CopyText(content.name, PRO_NAME_SIZE, name);
+  return content;
 }
 
 }  // namespace
@@ -117,31 +104,35 @@ ProError ProSimprepActionInit(ProSimprepActionType type, ProAppData parameter,
   return Crossing(__func__, RepActionIn{type}, DataIn{parameter}, Out(action, "action place"))
       .Run([](RepAction wanted, void* given, ProSimprepAction& place) {
         if (given != nullptr) throw NotModelled{"an action with a parameter"};
-        const ActionRecord record{kActionMark, static_cast<int>(wanted)};
-        std::memcpy(&place, &record, sizeof(record));
+        ActionContent content;
+        content.action = static_cast<int>(wanted);
+        FillOpaque(place, content);
       });
 }
 
 ProError ProSimprepdataitemInit(ProIdTable path, int path_size, int item_id,
                                 ProSimprepAction* action, ProSimprepitem* item) {
   return Crossing(__func__, DataIn{path}, path_size, item_id,
-                  FilledIn<ActionRecord, ProSimprepAction>(action, kActionMark, "action"),
+                  OpaqueIn<ActionContent, ProSimprepAction>{action, "action"},
                   Out(item, "item place"))
-      .Run([&](const Call& call, void*, int size, int id, const ActionRecord& wanted,
+      .Run([&](const Call& call, void*, int size, int id, const ActionContent& wanted,
                ProSimprepitem& place) {
         if (size < 0 || size > PRO_MAX_ASSEM_LEVEL) call.Fail("path length");
         if (size > 0) call.Place(path, "path");
-        ItemRecord record{kItemMark, wanted.action, id, size, {}};
-        if (size > 0) std::copy(path, path + size, record.path);
-        std::memcpy(&place, &record, sizeof(record));
+        ItemContent content;
+        content.action = wanted.action;
+        content.component = id;
+        content.path_size = size;
+        if (size > 0) std::copy(path, path + size, content.path);
+        FillOpaque(place, content);
       });
 }
 
 ProError ProSimprepdataitemAdd(ProSimprepdata* data, ProSimprepItemType type,
                                ProSimprepitem* item) {
   return Crossing(__func__, RepDataIn{data}, type,
-                  FilledIn<ItemRecord, ProSimprepitem>(item, kItemMark, "item"))
-      .Run([](RepDraft& draft, ProSimprepItemType kind, const ItemRecord& added) {
+                  OpaqueIn<ItemContent, ProSimprepitem>{item, "item"})
+      .Run([](RepDraft& draft, ProSimprepItemType kind, const ItemContent& added) {
         if (kind != PRO_SIMPREP_COMPONENT_ITEM) throw NotModelled{"items other than components"};
         draft.items.push_back({std::vector<int>(added.path, added.path + added.path_size),
                                added.component, static_cast<RepAction>(added.action)});
@@ -157,8 +148,7 @@ ProError ProSimprepCreate(ProSolid solid, ProSimprepdata* data, ProSimprep* rep)
         for (const RepItem& item : draft.items) CheckRepItem(call, to, item);
         reps.Add(draft);
         to.modified = true;
-        const RepRecord record = RecordOfRep(call, to, draft.name);
-        std::memcpy(&place, &record, sizeof(record));
+        FillOpaque(place, ContentOfRep(call, to, draft.name));
         return PRO_TK_NO_ERROR;
       });
 }
@@ -171,16 +161,15 @@ ProError ProSimprepInit(ProName name, int id, ProSolid solid, ProSimprep* rep) {
         if (number != PRO_VALUE_UNUSED) throw NotModelled{"a representation by its id"};
         const SimplifiedRep* const held = of.solid().reps.Find(FoldCase(wanted));
         if (held == nullptr) return PRO_TK_E_NOT_FOUND;
-        const RepRecord record = RecordOfRep(call, of, held->name);
-        std::memcpy(&place, &record, sizeof(record));
+        FillOpaque(place, ContentOfRep(call, of, held->name));
         return PRO_TK_NO_ERROR;
       });
 }
 
 ProError ProSimprepActivate(ProSolid solid, ProSimprep* rep) {
   return Crossing(__func__, SolidIn{{solid}},
-                  FilledIn<RepRecord, ProSimprep>(rep, kRepMark, "representation"))
-      .Run([](const Call& call, Model& of, const RepRecord& wanted) {
+                  OpaqueIn<RepContent, ProSimprep>{rep, "representation"})
+      .Run([](const Call& call, Model& of, const RepContent& wanted) {
         if (wanted.solid != of.handle) call.Fail("a representation of another model");
         const std::string name = FromWide(wanted.name);
         if (of.solid().reps.Find(FoldCase(name)) == nullptr) return PRO_TK_E_NOT_FOUND;
