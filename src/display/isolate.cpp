@@ -15,7 +15,7 @@
 #include "frame/messages/run_log.h"
 #include "frame/models/current_assembly.h"
 #include "frame/models/opening.h"
-#include "frame/models/preselected_components.h"
+#include "frame/structure/preselected_components.h"
 #include "toolkit/window.h"
 
 namespace qm {

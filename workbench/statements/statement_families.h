@@ -10,6 +10,7 @@ namespace wb {
 
 StatementForms FolderStatements();
 StatementForms ModelStatements();
+StatementForms AssemblyStatements();
 StatementForms FactStatements();
 StatementForms StateStatements();
 StatementForms LifeStatements();

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "frame/geometry/matrix_rules.h"
-#include "frame/models/assembly_levels.h"
+#include "frame/structure/assembly_levels.h"
 
 namespace qm {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/models/component_tree.h"
+#include "frame/structure/component_tree.h"
 
 namespace qm {
 

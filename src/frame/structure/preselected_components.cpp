@@ -1,5 +1,5 @@
 // Components of the selection buffer, level by level.
-#include "frame/models/preselected_components.h"
+#include "frame/structure/preselected_components.h"
 
 #include <optional>
 #include <utility>

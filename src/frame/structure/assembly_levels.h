@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "frame/models/component_list.h"
-#include "frame/models/component_tree.h"
+#include "frame/structure/component_tree.h"
 
 namespace qm {
 

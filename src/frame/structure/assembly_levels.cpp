@@ -1,5 +1,5 @@
 // Levels by the owners of component features.
-#include "frame/models/assembly_levels.h"
+#include "frame/structure/assembly_levels.h"
 
 #include "frame/models/handle_index.h"
 

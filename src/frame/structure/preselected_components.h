@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "frame/models/component_tree.h"
+#include "frame/structure/component_tree.h"
 #include "toolkit/feature.h"
 #include "toolkit/model.h"
 
