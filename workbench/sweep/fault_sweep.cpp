@@ -137,8 +137,9 @@ void Sweep::Tell(const std::string& which, const std::string& at,
   if (complaints.empty()) return;
   ++bad_runs_;
   const std::string what = Join("; ", complaints);
-  const bool is_new = told_.size() < kMostToldRuns && told_.insert(at + what).second;
-  if (!is_new) return;
+  const bool is_first = told_functions_.insert(at).second;
+  const bool is_new = told_.insert(at + what).second && told_.size() <= kMostToldRuns;
+  if (!is_first && !is_new) return;
   run_.Fail(statement_, which + (at.empty() ? "" : " at " + at) + " (" + run_.host.trace.last() +
                             " was the last call): " + what);
 }
