@@ -72,6 +72,12 @@ print_changes() {
     command == "QmIsolate" && / ProModelitemHide\(/ && !hidden[item]++ { hidden_count++ }
     command == "QmIsolate" && / ProModelitemUnhide\(/ && hidden[item] { hidden[item] = 0; shown++ }
 
+    command == "BatchColor" && / ProSurfaceAppearancepropsSet\(.* = no_error$/ { coloured++ }
+    command == "QmTransparent" && / ProSurfaceAppearancepropsGet\(.* = no_error$/ { clear++ }
+    command == "QmRelations" && / ProRelsetCreate\(.* = no_error$/ { related++ }
+    command == "SetUnit" && / ProMdlPrincipalunitsystemSet\(.* = no_error$/ { measured++ }
+    command == "SetMat" && / ProMaterialCurrentSet\(.* = no_error$/ { made++ }
+
     command == "TweViews" && / ProDrawingFromTmpltCreate\(/ {
       split($0, quoted, "\"")
       drawn = drawn " " quoted[2]
@@ -86,12 +92,14 @@ print_changes() {
     command == "QmDimModify" && / ProDimension(Text|Tolerance)Set\(.* = no_error$/ { dimensions++ }
 
     END {
-      if (count == 0 || hidden_count == 0 || views == 0 || framed == "") exit 1
+      if (count == 0 || hidden_count == 0 || coloured == 0 || measured == 0 || views == 0 || framed == "") exit 1
       for (i = 1; i <= count; ++i) if (!(met[i] in tried)) { excluded++; names = names " " met[i] }
       printf "QmParams   added %s to %d models\n", name, added
       printf "           %d excluded:%s\n", excluded, names
       if (there != "") printf "           there already:%s\n", there
       printf "QmIsolate  shows %s with its %d parts; %d parts hidden\n", branch, shown, hidden_count - shown
+      printf "BatchColor coloured %d models, QmTransparent made %d see-through\n", coloured, clear
+      printf "Batches    relation for %d models, units for %d, material for %d parts\n", related, measured, made
       printf "TweViews   made%s, %d views in all\n", drawn, views
       printf "Drawings   %d checked for their scales, %s mended; frame %s on%s;\n", checked, mended, frame, framed
       printf "           %d changes of dimensions\n", dimensions

@@ -7,7 +7,7 @@
 
 #include "workbench/bench/bench_folder.h"
 #include "workbench/bench/bench_parts.h"
-#include "workbench/session/bench_shapes.h"
+#include "workbench/shapes/bench_shapes.h"
 
 namespace wb {
 

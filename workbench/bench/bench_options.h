@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "workbench/session/bench_shapes.h"
+#include "workbench/shapes/bench_shapes.h"
 
 namespace wb {
 

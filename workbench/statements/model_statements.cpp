@@ -9,8 +9,8 @@
 #include "workbench/script/script_arguments.h"
 #include "workbench/script/script_paths.h"
 #include "workbench/script/script_runner.h"
-#include "workbench/session/bench_shapes.h"
 #include "workbench/session/model_cycle.h"
+#include "workbench/shapes/bench_shapes.h"
 #include "workbench/statements/statement_families.h"
 #include "workbench/step/import.h"
 

@@ -31,7 +31,7 @@ MemorySweep::MemorySweep(ScriptRun& run, const Statement& statement)
       start_(run.host, command_.Folders()),
       folders_(command_.Folders()),
       before_(StateNow(run.host, folders_)) {
-  command_.IgnoreDirectory();
+  command_.IgnoreRestoring();
 }
 
 void MemorySweep::Run(const MemorySweepOptions& options) {

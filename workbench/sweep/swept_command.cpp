@@ -59,6 +59,7 @@ std::vector<std::filesystem::path> SweptCommand::Folders() const {
 
 void SweptCommand::CheckRestored(const CommandRun& result,
                                  std::vector<std::string>* complaints) const {
+  if (ignores_restoring_) return;
   const auto cannot_restore = [&](const char* function) {
     return strikes_again_ && run_.host.faults.HasStruck(function);
   };

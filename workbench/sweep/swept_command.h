@@ -33,8 +33,8 @@ class SweptCommand {
   std::vector<std::string> Complaints(const CommandRun& result);
   // Tells what was wrong with the run without faults, and learns from it.
   std::vector<std::string> ComplaintsOfClean(const CommandRun& clean);
-  // For who compares whole sessions, of which the directory is a part.
-  void IgnoreDirectory() { changes_directory_ = true; }
+  // For who compares whole sessions, of which the directory and the options are a part.
+  void IgnoreRestoring() { ignores_restoring_ = true; }
   // The folders whose files belong to the session of a sweep.
   std::vector<std::filesystem::path> Folders() const;
 
@@ -46,6 +46,7 @@ class SweptCommand {
   const bool kept_lines_;
   const std::map<std::string, std::vector<std::string>> options_;             // before the sweep
   std::map<std::string, std::vector<std::string>> options_after_ = options_;  // without faults
+  bool ignores_restoring_ = false;
   bool changes_directory_ = false;  // the command does so without any fault
   bool strikes_again_ = false;      // the fault does, where it did before
 };

@@ -40,8 +40,8 @@ bool WorkingDirectory::Return() {
   if (Ok(status) && IsBack()) return true;
   status = ProDirectoryChange(remembered_);
   if (Ok(status) && IsBack()) return true;
-  LogEvent("ProDirectoryChange back to " + ToUtf8(FixedText(remembered_)) + " answered " +
-           StatusName(status));
+  LogFailure("ProDirectoryChange back to " + ToUtf8(FixedText(remembered_)) + " answered " +
+             StatusName(status));
   DisplayNote("The working directory could not be changed back to %0w", remembered_);
   is_lost_ = true;
   return false;

@@ -1,5 +1,5 @@
 // Each shape stresses one thing: breadth, depth, branching, repetition, components to leave out.
-#include "workbench/session/bench_shapes.h"
+#include "workbench/shapes/bench_shapes.h"
 
 #include <algorithm>
 

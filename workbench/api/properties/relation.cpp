@@ -1,5 +1,5 @@
 // Host functions of the relation family.
-#include "workbench/api/relation_lines.h"
+#include "workbench/api/properties/relation_lines.h"
 #include "workbench/host/arguments.h"
 
 namespace wb {

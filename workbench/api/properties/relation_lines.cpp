@@ -1,5 +1,5 @@
 // A rough reading of relations.
-#include "workbench/api/relation_lines.h"
+#include "workbench/api/properties/relation_lines.h"
 
 #include <algorithm>
 
