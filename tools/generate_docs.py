@@ -11,7 +11,7 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TOOLKIT = ROOT / "src" / "toolkit"
-FAMILIES = ["array", "model", "feature", "assembly", "selection", "parameter", "geometry",
+FAMILIES = ["array", "model", "feature", "assembly", "component", "selection", "parameter", "geometry",
             "view", "drawing", "drawing_view", "drawing_table", "dimension", "file", "export",
             "macro", "window", "message", "command", "ui", "ui_table"]
 
