@@ -221,8 +221,7 @@ class Exporter : public AbsentUser {
     TheHost().trace.keep_lines = true;
     Press(dialog, "ApplyBt");
     TheHost().trace.keep_lines = false;
-    // The run log asks for its folder each time that its lines are a lot, which is no host call.
-    calls = TheHost().trace.calls() - TheHost().trace.Count("SHGetFolderPathW");
+    calls = TheHost().trace.HostCalls();
     asked = AskedFor(TheHost().trace.lines(), TheHost().events.All<ExportedFile>());
     erasures = TheHost().trace.Count("ProMdlEraseNotDisplayed");
     Press(dialog, "Close");
