@@ -17,6 +17,7 @@ enum class BenchPart {
   kReadTable,     // the press of QmExportBom up to the start of the spreadsheet program
   kLevelBill,     // the press of QmLoadBom for all levels
   kRenameList,    // the press of UpdateRenameIni in the dialog of QmRename
+  kFindActive,    // QmMergeTo up to its pick, which is cancelled
 };
 
 struct BenchPartRow {
