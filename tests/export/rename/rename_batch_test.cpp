@@ -261,7 +261,8 @@ TEST_F(RenameBatch, EachRowCostsTheSameNumberOfCalls) {
   Plugin plugin(Installed().dll());
   ASSERT_EQ(plugin.Start(), 0);
   std::vector<long> calls;
-  for (const int count : {30, 60, 90}) {
+  // The first batch gives the option its value.
+  for (const int count : {3, 30, 60, 90}) {
     while (!host_.session.models().empty()) host_.session.Erase(*host_.session.models().front());
     for (const auto& item : fs::directory_iterator(folder_)) fs::remove(item);
     rows_.clear();
@@ -269,7 +270,7 @@ TEST_F(RenameBatch, EachRowCostsTheSameNumberOfCalls) {
     for (size_t i = 0; i < rows_.size(); ++i) Give(i, Kind::kFresh);
     calls.push_back(Run());
   }
-  EXPECT_EQ(calls[2] - calls[1], calls[1] - calls[0]);
+  EXPECT_EQ(calls[3] - calls[2], calls[2] - calls[1]);
 }
 
 // A process that ends before any of the calls leaves what the journal says; between a step and its
