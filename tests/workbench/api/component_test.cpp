@@ -89,8 +89,10 @@ TEST_F(ComponentContract, ReferencesAreChecked) {
       {"no such one", [&] { return set(in_box, unknown); }, PRO_TK_BAD_INPUTS,
        "ProAsmcompConstraintsSet: a reference is no coordinate system"},
       {"both right", [&] { return set(in_box, in_lid); }, PRO_TK_NO_ERROR},
-      {"another type", [&] { return SetOne(NewConstraint(PRO_ASM_UNDEFINED)); },
-       PRO_TK_NOT_IMPLEMENTED, "", "ProAsmcompConstraintsSet: a constraint of type -1"},
+      {"no type", [&] { return SetOne(NewConstraint(PRO_ASM_UNDEFINED)); }, PRO_TK_BAD_INPUTS,
+       "ProAsmcompConstraintsSet: a constraint without a type"},
+      {"another type", [&] { return SetOne(NewConstraint(static_cast<ProAsmcompConstrType>(1))); },
+       PRO_TK_NOT_IMPLEMENTED, "", "ProAsmcompConstraintsSet: a constraint of type 1"},
   });
   ProSelectionFree(&in_lid);
   Check({{"freed before it is set", [&] { return SetOne(constraint); }, PRO_TK_BAD_INPUTS,
