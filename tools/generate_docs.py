@@ -11,8 +11,8 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TOOLKIT = ROOT / "src" / "toolkit"
-FAMILIES = ["array", "model", "feature", "assembly", "simplified_rep", "family_table", "selection", "parameter", "geometry",
-            "properties",
+FAMILIES = ["array", "model", "feature", "assembly", "component", "simplified_rep", "family_table",
+            "selection", "parameter", "geometry", "properties",
             "view", "drawing", "drawing_view", "drawing_table", "dimension", "file", "export",
             "macro", "window", "message", "command", "ui", "ui_table"]
 

@@ -55,6 +55,7 @@ class Bench {
     std::ofstream(folder / kBenchMaterial) << "bench\n";
     top_ = &job.shape->build(host_.session, job.occurrences);
     host_.session.ActivateWindow(host_.session.ShowInWindow(*top_).id);
+    host_.session.ActivateComponent(SomePart());
     plugin_.emplace(dll);
     if (plugin_->Start() != 0) throw std::runtime_error("the plug-in does not start");
   }
@@ -85,6 +86,14 @@ class Bench {
     long walk_calls = 0;
     long parameters = 0;
   };
+
+  // One that the assembly holds; null: it has none.
+  Model* SomePart() {
+    for (const auto& model : host_.session.models()) {
+      if (model->id.kind == ModelKind::kPart) return model.get();
+    }
+    return nullptr;
+  }
 
   int Rounds() const {
     constexpr int kOccurrencesInAll = 400'000;

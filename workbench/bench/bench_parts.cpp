@@ -17,6 +17,7 @@ constexpr BenchPartRow kParts[] = {
     {BenchPart::kAddRelations, "QmRelations AddRels", "QmRelations", BenchWork::kCollect, true},
     {BenchPart::kSetUnits, "SetUnit", "SetUnit", BenchWork::kCollect, true},
     {BenchPart::kSetMaterial, "SetMat", "SetMat", BenchWork::kCollect, false},
+    {BenchPart::kFindActive, "QmMergeTo", "QmMergeTo", BenchWork::kCollect, false},
 };
 
 }  // namespace

@@ -102,6 +102,13 @@ ProError CaughtInCrossing(Host& host, const char* function, bool user_acted) {
   }
 }
 
+void Call::FailUnlessMisled(const std::string& why) const {
+  if (host.faults.claims_success() && host.faults.struck() > 0) {
+    throw RefusedByHabit{PRO_TK_GENERAL_ERROR};
+  }
+  Fail(why);
+}
+
 HandleTable::Found Call::Look(const void* handle, HandleKind kind) const {
   HandleTable::Found found = host.handles.Look(handle, kind);
   if (found.object == nullptr) Fail(found);

@@ -57,6 +57,8 @@ class Call {
       : host(host_of_call), function(name), call(number) {}
 
   [[noreturn]] void Fail(const std::string& why) const { throw Misuse{why}; }
+  // A misuse, unless the plug-in was told that something had been done which had not.
+  [[noreturn]] void FailUnlessMisled(const std::string& why) const;
   [[noreturn]] void Fail(const HandleTable::Found& found) const {
     throw Misuse{found.why, found.stale};
   }

@@ -41,7 +41,8 @@ std::optional<std::wstring> FileOf(ProMdl copy) {
   ProMdlType type = PRO_MDL_UNUSED;
   const auto name = ModelName(copy);
   const ProError status = name ? ProMdlTypeGet(copy, &type) : PRO_TK_GENERAL_ERROR;
-  if (name && Ok(status)) return ReplacingFile(*name, type);
+  const bool is_component = type == PRO_MDL_PART || type == PRO_MDL_ASSEMBLY;
+  if (name && Ok(status) && is_component) return ReplacingFile(*name, type);
   LogOutcome("nothing replaced, the copy's file is not known");
   return std::nullopt;
 }

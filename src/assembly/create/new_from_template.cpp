@@ -1,14 +1,12 @@
-// NewPart, NewAsm and NewSmt: one procedure over a table of what differs.
+// The procedure of NewPart, NewAsm and NewSmt.
+#include "assembly/create/new_from_template.h"
+
 #include <optional>
 #include <string>
 
-#include "assembly/create/new_asm.h"
-#include "assembly/create/new_part.h"
-#include "assembly/create/new_smt.h"
 #include "assembly/new_model/free_name.h"
 #include "assembly/new_model/model_copy.h"
 #include "assembly/new_model/new_component.h"
-#include "assembly/new_model/start_template.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/current_assembly.h"
@@ -20,25 +18,6 @@
 
 namespace qm {
 namespace {
-
-struct NewKind {
-  StartTemplate start;
-  bool loads_first;        // before it is known whether there is an assembly
-  const wchar_t* section;  // of the setting that asks for a constraint
-  const wchar_t* no_csys;  // in the template
-};
-constexpr NewKind kNewAsm = {{L"template_designasm", PRO_MDL_ASSEMBLY,
-                              L"\t组件模板加载失败，请确认template_designasm选项是否配置正确\t"},
-                             true,
-                             L"AsmAssembly",
-                             L"\t组件模板无坐标系,无法缺省装配新零件\t"};
-constexpr NewKind kNewPart = {kPartTemplate, false, L"PrtAssembly", kNoCsysInPartTemplate};
-constexpr NewKind kNewSmt = {
-    {L"template_sheetmetalpart", PRO_MDL_PART,
-     L"\t钣金件模板加载失败，请确认template_sheetmetalpart选项是否配置正确\t"},
-    false,
-    L"SmtAssembly",
-    L"\t钣金件模板无坐标系,无法缺省装配新零件\t"};
 
 // What is to be made, and where.
 struct NewJob {
@@ -86,6 +65,8 @@ bool WantsConstraint(const NewKind& kind) {
   return value && EqualIgnoringCase(WithoutBlanks(*value), L"1");
 }
 
+}  // namespace
+
 ProError MakeNew(const NewKind& kind) {
   const auto job = Prepare(kind);
   if (!job) return PRO_TK_NO_ERROR;
@@ -98,20 +79,6 @@ ProError MakeNew(const NewKind& kind) {
     ProTreetoolRefresh(job->assembly);
   }
   return PRO_TK_NO_ERROR;
-}
-
-}  // namespace
-
-ProError NewPart() {
-  return MakeNew(kNewPart);
-}
-
-ProError NewAsm() {
-  return MakeNew(kNewAsm);
-}
-
-ProError NewSmt() {
-  return MakeNew(kNewSmt);
 }
 
 }  // namespace qm

@@ -32,7 +32,11 @@ ProCsys FirstCsys(ProSolid solid) {
 OwnSelection SelectCsys(ProSolid owner, ProCsys csys, ProAsmcomppath* path) {
   OwnSelection selection;
   ProGeomitem item = {PRO_TYPE_INVALID, -1, nullptr};
-  if (!Done(owner, "ProCsysToGeomitem", ProCsysToGeomitem(owner, csys, &item))) return selection;
+  const ProError told = ProCsysToGeomitem(owner, csys, &item);
+  if (!Ok(told) || item.owner == nullptr) {
+    LogFailure(owner, "ProCsysToGeomitem", told);
+    return selection;
+  }
   const ProError status = ProSelectionAlloc(path, &item, selection.put());
   if (Ok(status) && !selection) LogFailure(owner, "ProSelectionAlloc", PRO_TK_OUT_OF_MEMORY);
   Done(owner, "ProSelectionAlloc", status);
@@ -43,8 +47,9 @@ OwnSelection SelectAssemblyCsys(ProAssembly assembly, ProCsys csys) {
   ProIdTable no_levels = {};
   ProAsmcomppath path = {};
   const ProError status = ProAsmcomppathInit(assembly, no_levels, 0, &path);
-  return Done(assembly, "ProAsmcomppathInit", status) ? SelectCsys(assembly, csys, &path)
-                                                      : OwnSelection();
+  if (Ok(status) && path.owner != nullptr) return SelectCsys(assembly, csys, &path);
+  LogFailure(assembly, "ProAsmcomppathInit", status);
+  return OwnSelection();
 }
 
 ProError Fill(ProAsmcompconstraint constraint, ProSelection in_assembly, ProSelection in_model) {

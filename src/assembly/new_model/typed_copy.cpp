@@ -16,6 +16,9 @@
 namespace qm {
 namespace {
 
+// A host that can show a prompt and never read it would ask for ever.
+constexpr int kMostEmptyReplies = 20;
+
 ProError ShowPrompt(const NamePrompt& prompt) {
   std::wstring file = kNoteFile;
   return prompt.offered != nullptr ? ProMessageDisplay(file.data(), prompt.key, prompt.offered)
@@ -57,9 +60,15 @@ std::optional<std::wstring> AskForName(const NamePrompt& prompt) {
 }  // namespace
 
 ProMdl CopyUnderTypedName(ProMdl source, const NamePrompt& prompt) {
+  int empty = 0;  // replies in a row
   while (const auto name = AskForName(prompt)) {
     if (const ProMdl copy = CopyModel(source, *name)) return copy;
     ShowMessage(L"\t名称已存在或输入非法，请重新输入\t");
+    empty = name->empty() ? empty + 1 : 0;
+    if (empty == kMostEmptyReplies) {
+      LogOutcome("nothing made, no name was typed");
+      break;
+    }
   }
   return nullptr;
 }

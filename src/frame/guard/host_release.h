@@ -1,4 +1,4 @@
-// The release of the host, as it told it at the plug-in's start.
+// The release of the host, as it told it at the start.
 #pragma once
 
 #include <string_view>

@@ -153,7 +153,9 @@ TEST_F(CloneWorld, NamesEndWhereTheHostsDo) {
     EXPECT_EQ(Run(row.command).size(), row.makes ? 1u : 0u);
     const auto boxes = host_.events.All<MessageBox>();
     ASSERT_EQ(boxes.size(), row.box[0] != '\0' ? 1u : 0u);
-    if (!boxes.empty()) EXPECT_EQ(boxes[0].text, row.box);
+    if (!boxes.empty()) {
+      EXPECT_EQ(boxes[0].text, row.box);
+    }
     EXPECT_EQ(FeaturesOf(top).size(), row.makes ? 3u : 2u);
     host_.session.Erase(top);
   }

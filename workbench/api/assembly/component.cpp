@@ -89,10 +89,11 @@ const CoordinateSystem* CsysOf(const Reference& reference) {
 Placement PlacedByCsys(const Call& call, const ConstraintDraft& draft, const FeaturePlace& at) {
   const bool from_assembly = draft.in_assembly.root == &at.owner &&
                              draft.in_assembly.owner == &at.owner && !draft.in_assembly.has_levels;
-  if (!from_assembly) call.Fail("the reference in the assembly has no path from it");
+  if (!from_assembly) call.FailUnlessMisled("the reference in the assembly has no path from it");
   const bool from_model =
       draft.in_model.root == nullptr && draft.in_model.owner == at.feature.ComponentModel();
-  if (!from_model) call.Fail("the component's reference is not one of its model without a path");
+  if (!from_model)
+    call.FailUnlessMisled("the component's reference is not one of its model without a path");
   const CoordinateSystem* const fixed = CsysOf(draft.in_assembly);
   const CoordinateSystem* const moved = CsysOf(draft.in_model);
   if (fixed == nullptr || moved == nullptr) call.Fail("a reference is no coordinate system");
@@ -114,6 +115,7 @@ void SetConstraints(const Call& call, const FeaturePlace& at,
     const ConstraintDraft& draft = ConstraintIn{handle}.Look(call);
     CheckStillSelected(call, draft.in_assembly);
     CheckStillSelected(call, draft.in_model);
+    if (draft.type == PRO_ASM_UNDEFINED) call.FailUnlessMisled("a constraint without a type");
     if (draft.type == PRO_ASM_CSYS) {
       placement = PlacedByCsys(call, draft, at);
     } else if (draft.type != PRO_ASM_FIX) {

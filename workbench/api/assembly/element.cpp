@@ -87,7 +87,7 @@ ProError Merge(const Call& call, const PickedItem& into, const TreeElement& tree
 
 void CheckMergeTree(const Call& call, const TreeElement& tree) {
   const std::string wrong = WrongInMergeTree(tree);
-  if (!wrong.empty()) call.Fail(wrong);
+  if (!wrong.empty()) call.FailUnlessMisled(wrong);
   const int type = ValueAt(tree, {PRO_E_FEATURE_TYPE})->number;
   if (type != PRO_FEAT_MERGE) throw NotModelled{"a feature of type " + std::to_string(type)};
 }
@@ -157,7 +157,7 @@ ProError ProValueDataSet(ProValue value, ProValueData* data) {
 ProError ProElementValueSet(ProElement element, ProValue value) {
   return Crossing(__func__, ElementIn{element}, TakenOver<ValueIn>{{value}})
       .Run([&](const Call& call, TreeElement& of, const TreeValue& given) {
-        if (given.type == 0) call.Fail("a value without data");
+        if (given.type == 0) call.FailUnlessMisled("a value without data");
         of.value = given;
         call.TakeBack(value, Resource::kValue);
         FreeValue(call, value);

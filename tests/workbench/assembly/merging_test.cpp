@@ -1,0 +1,87 @@
+// Where components lie, and what a merge feature brings along.
+#include "workbench/assembly/merging.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "workbench/session/extents.h"
+#include "workbench/session/session.h"
+
+namespace wb {
+namespace {
+
+// A quarter turn about z, then a shift.
+constexpr Placement kTurned = {{{0, 1, 0, 0}, {-1, 0, 0, 0}, {0, 0, 1, 0}, {10, 20, 30, 1}}};
+constexpr Placement kShifted = {{{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {1, 2, 3, 1}}};
+
+class Merging : public testing::Test {
+ protected:
+  Merging() {
+    Model bolt({"bolt", ModelKind::kPart});
+    bolt.solid().surfaces.Add({1, {{0, 0, 0}, {4, 2, 1}}});
+    bolt_ = &session_.Add(std::move(bolt));
+    body_ = &session_.Add(Model({"body", ModelKind::kPart}));
+    Model rotor({"rotor", ModelKind::kAssembly});
+    rotor.solid().features.Add(NewComponent(3, bolt_->id, kShifted));
+    rotor.solid().features.Add(NewComponent(4, body_->id, kIdentityPlacement));
+    rotor_ = &session_.Add(std::move(rotor));
+    Model pump({"pump", ModelKind::kAssembly});
+    pump.solid().features.Add(NewComponent(7, rotor_->id, kTurned));
+    pump.solid().features.Add(NewComponent(8, body_->id, kShifted));
+    pump_ = &session_.Add(std::move(pump));
+  }
+
+  Session session_;
+  Model* bolt_;
+  Model* body_;
+  Model* rotor_;
+  Model* pump_;
+};
+
+TEST_F(Merging, APathLeadsThroughTheLevels) {
+  const auto at = PlacementAt(*pump_, {7, 3});
+  ASSERT_TRUE(at);
+  EXPECT_EQ(PlacedAt({0, 0, 0}, *at), (Point{8, 21, 33}));
+  EXPECT_EQ(PlacedAt({1, 0, 0}, *at), (Point{8, 22, 33}));
+  EXPECT_FALSE(PlacementAt(*pump_, {7, 99}));
+  EXPECT_FALSE(PlacementAt(*pump_, {7, 3, 1}));
+}
+
+TEST_F(Merging, AnAssemblysOwnComponentsComeFirst) {
+  EXPECT_EQ(FirstPlacementOf(*pump_, *body_), kShifted);
+  EXPECT_EQ(FirstPlacementOf(*rotor_, *pump_), std::nullopt);
+}
+
+TEST_F(Merging, TheWayBackUndoesAPlacement) {
+  const Placement undone = PlacedWithin(kTurned, Inverse(kTurned));
+  for (size_t row = 0; row < 4; ++row) {
+    for (size_t column = 0; column < 4; ++column) {
+      EXPECT_NEAR(undone[row][column], kIdentityPlacement[row][column], 1e-12);
+    }
+  }
+}
+
+TEST_F(Merging, OnlyTurnsAndShiftsAreRigid) {
+  EXPECT_TRUE(IsRigid(kTurned));
+  const Placement scaled = {{{2, 0, 0, 0}, {0, 2, 0, 0}, {0, 0, 2, 0}, {0, 0, 0, 1}}};
+  const Placement mirrored = {{{-1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}}};
+  const Placement open = {{{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 0}}};
+  for (const Placement& other : {scaled, mirrored, open, Placement{}}) {
+    EXPECT_FALSE(IsRigid(other));
+  }
+}
+
+TEST_F(Merging, SurfacesLieWhereTheAssemblyShowsThem) {
+  const Placement from = *PlacementAt(*pump_, {7, 3});
+  const Placement to = *FirstPlacementOf(*pump_, *body_);
+  const int id = AddMergeFeature(*body_, *bolt_, PlacedWithin(from, Inverse(to)), "joined");
+  EXPECT_EQ(body_->FindFeature(id)->merged, "bolt.prt");
+  EXPECT_TRUE(body_->modified);
+  const Box box = body_->solid().surfaces[0].box;
+  EXPECT_EQ(box.min, (Point{5, 19, 30}));
+  EXPECT_EQ(box.max, (Point{7, 23, 31}));
+}
+
+}  // namespace
+}  // namespace wb

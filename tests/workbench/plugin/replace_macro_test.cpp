@@ -1,0 +1,71 @@
+// The macro that replaces a component, step by step.
+#include "workbench/plugin/replace_macro.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/workbench/host/host_fixture.h"
+
+namespace wb {
+namespace {
+
+constexpr char kOpen[] = "~ Command `ProCmdReplace` ;";
+constexpr char kUnrelated[] =
+    "~ Select `gen_repl_dlg` `ByCompPH.rpl_method_radio` 1 `Unrelated Component`;";
+constexpr char kNew[] = "~ Activate `gen_repl_dlg` `PB_NewComp`;";
+constexpr char kFolder[] = "~ Activate `file_open` `Current Dir`;";
+constexpr char kDone[] = "~ Activate `gen_repl_dlg` `DoneBtn`;";
+
+class ReplaceMacro : public HostFixture {
+ protected:
+  ReplaceMacro() {
+    Model& pin = host_.session.Add(Model({"pin", ModelKind::kPart}));
+    pin.folder = folder_;
+    host_.session.Save(pin);
+    lid_ = &host_.session.Add(Model({"lid", ModelKind::kPart}));
+    box_ = &ShowAssembly();
+    host_.session.Resolve(*box_);
+    host_.session.selection_buffer = {{PRO_PART, 0, lid_, box_, {7}}};
+  }
+  static std::string Choose(const std::string& file) {
+    return "~ Activate `file_open` `Ph_list.Filelist` 1 `" + file + "`;";
+  }
+  std::string Refusal(const std::string& file) {
+    const std::string macro =
+        std::string(kOpen) + kUnrelated + kNew + kFolder + Choose(file) + kDone;
+    const PlayedReplacement played = PlayReplaceMacro(macro, host_.session);
+    EXPECT_EQ(played.unknown, "");
+    return played.refused;
+  }
+
+  Model* lid_ = nullptr;
+  Model* box_ = nullptr;
+};
+
+TEST_F(ReplaceMacro, TheListShowsFilesOfTheWorkingDirectoryInLowerCase) {
+  EXPECT_EQ(Refusal("PIN.prt"), "the list of files has no PIN.prt");
+  EXPECT_EQ(Refusal("lid.prt"), "the list of files has no lid.prt");
+  EXPECT_EQ(box_->FindFeature(7)->ComponentModel(), lid_);
+  EXPECT_EQ(Refusal("pin.prt"), "");
+  EXPECT_EQ(box_->FindFeature(7)->component->link.name.Text(), "pin.prt");
+  EXPECT_EQ(Refusal("pin.prt"), "no component is selected");
+}
+
+TEST_F(ReplaceMacro, NoAssemblyTakesItsOwnPlace) {
+  box_->folder = folder_;
+  host_.session.Save(*box_);
+  EXPECT_EQ(Refusal("box.asm"), "box.asm would hold itself");
+  EXPECT_EQ(box_->FindFeature(7)->ComponentModel(), lid_);
+}
+
+TEST_F(ReplaceMacro, AStepThatComesTooEarlyIsUnknown) {
+  const std::string begun = std::string(kOpen) + kUnrelated;
+  for (const std::string& wrong :
+       {begun + kFolder, begun + kDone, std::string(kNew), begun + "~ Activate `other` `x`;",
+        std::string(kOpen) + "~ Select `gen_repl_dlg` `ByCompPH.rpl_method_radio` 1 `Family`;",
+        begun + kNew}) {
+    EXPECT_NE(PlayReplaceMacro(wrong, host_.session).unknown, "") << wrong;
+  }
+}
+
+}  // namespace
+}  // namespace wb
