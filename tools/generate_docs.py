@@ -11,9 +11,9 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TOOLKIT = ROOT / "src" / "toolkit"
-FAMILIES = ["array", "model", "feature", "assembly", "component", "simplified_rep", "family_table",
+FAMILIES = ["array", "model", "feature", "assembly", "component",
             "selection", "parameter", "geometry", "properties",
-            "view", "drawing", "drawing_view", "drawing_table", "dimension", "file", "export",
+            "view", "drawing", "drawing_view", "drawing_table", "dimension", "export",
             "macro", "window", "message", "command", "ui", "ui_table"]
 
 

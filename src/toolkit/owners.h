@@ -14,7 +14,6 @@
 #include "toolkit/feature.h"
 #include "toolkit/geometry.h"
 #include "toolkit/selection.h"
-#include "toolkit/simplified_rep.h"
 #include "toolkit/status.h"
 #include "toolkit/types.h"
 #include "toolkit/ui_table.h"

@@ -1,4 +1,4 @@
-// Modes, windows, model tree, working directory, configuration options and file choice.
+// Modes, windows, model tree, working directory, configuration options, files and their choice.
 #pragma once
 
 #include "toolkit/host_function.h"
@@ -40,6 +40,14 @@ PRO_FUNCTION(ProError, ProFileSave, wchar_t* title, wchar_t* filter, ProPath* sh
 // As for files; the folder may or may not end with a separator.
 PRO_FUNCTION(ProError, ProDirectoryChoose, wchar_t* title, ProPath* shortcut_paths,
              ProName* shortcut_names, wchar_t* start_folder, ProPath chosen);
+
+// A null folder is the working directory. Both arrays are ProArrays that the caller has made; the
+// paths are added to them. Filters are like "*.drw", several parted by commas.
+PRO_FUNCTION(ProError, ProFilesList, wchar_t* folder, wchar_t* filter, ProFileListOpt option,
+             ProPath** files, ProPath** folders);
+// Buffers of PRO_PATH_SIZE characters; the folder keeps its separator, the extension has no dot.
+PRO_FUNCTION(ProError, ProFilenameParse, ProPath full, wchar_t* folder, wchar_t* name,
+             wchar_t* extension, int* version);
 
 // Folder that holds the application's text folder, as registered with the host.
 PRO_FUNCTION(ProError, ProToolkitApplTextPathGet, ProPath path);

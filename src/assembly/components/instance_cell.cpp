@@ -7,7 +7,7 @@
 #include "frame/messages/run_log.h"
 #include "frame/models/parameters.h"
 #include "frame/text/fixed_text.h"
-#include "toolkit/family_table.h"
+#include "toolkit/parameter.h"
 #include "toolkit/status.h"
 
 namespace qm {

@@ -17,7 +17,7 @@
 #include "frame/models/parameters.h"
 #include "frame/settings/config.h"
 #include "frame/text/list_rules.h"
-#include "toolkit/family_table.h"
+#include "toolkit/parameter.h"
 #include "toolkit/status.h"
 
 namespace qm {

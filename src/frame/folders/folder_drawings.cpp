@@ -10,8 +10,8 @@
 #include "frame/text/fixed_text.h"
 #include "frame/text/letter_case.h"
 #include "frame/text/text.h"
-#include "toolkit/file.h"
 #include "toolkit/owners.h"
+#include "toolkit/window.h"
 
 namespace qm {
 namespace {

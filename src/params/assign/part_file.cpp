@@ -7,8 +7,8 @@
 #include "frame/messages/progress.h"
 #include "frame/messages/run_log.h"
 #include "frame/text/fixed_text.h"
-#include "toolkit/file.h"
 #include "toolkit/status.h"
+#include "toolkit/window.h"
 
 namespace qm {
 namespace {
