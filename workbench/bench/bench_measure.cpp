@@ -150,6 +150,7 @@ class Bench {
     const BenchPartRow& first = parts.front();
     DropParameter(first.part == BenchPart::kAddParameter);
     DropRelations(first.part == BenchPart::kAddRelations);
+    DropCounts(first.part == BenchPart::kModelCount);
     host_.dialogs.pictures.clear();
     const auto start = std::chrono::steady_clock::now();
     const CommandRun run = RunCommand(first.command);
@@ -202,6 +203,11 @@ class Bench {
   void DropParameter(bool from_all) {
     if (!from_all) return;
     for (const auto& model : host_.session.models()) model->DeleteParameter(kBenchParameter);
+  }
+
+  void DropCounts(bool from_all) {
+    if (!from_all) return;
+    for (const auto& model : host_.session.models()) model->DeleteParameter("数量");
   }
 
   void DropRelations(bool from_all) {

@@ -17,6 +17,8 @@ constexpr BenchPartRow kParts[] = {
     {BenchPart::kAddRelations, "QmRelations AddRels", "QmRelations", BenchWork::kCollect, true},
     {BenchPart::kSetUnits, "SetUnit", "SetUnit", BenchWork::kCollect, true},
     {BenchPart::kSetMaterial, "SetMat", "SetMat", BenchWork::kCollect, false},
+    {BenchPart::kModelCount, "QmMdlCount", "QmMdlCount", BenchWork::kCollect, false},
+    {BenchPart::kBox, "QmBox", "QmBox", BenchWork::kCollect, false},
     {BenchPart::kFindActive, "QmMergeTo", "QmMergeTo", BenchWork::kCollect, false},
 };
 

@@ -21,6 +21,8 @@ enum class BenchPart {
   kAddRelations,  // the press of AddRels in the dialog of QmRelations, class AsmAndPart
   kSetUnits,      // the press of ApplyBt in the dialog of SetUnit
   kSetMaterial,   // SetMat with nothing selected
+  kModelCount,    // QmMdlCount
+  kBox,           // QmBox with nothing selected
   kFindActive,    // QmMergeTo up to its pick, which is cancelled
 };
 

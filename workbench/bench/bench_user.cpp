@@ -20,7 +20,8 @@ constexpr char kRenameTable[] = "mdl_list";
 constexpr char kNoSpreadsheet[] = "创建Excel失败";
 // What the commands say when they are done.
 constexpr std::string_view kDone[] = {"\t批量关系创建操作已完成\t", "\t模型批量单位设置完成\t",
-                                      "\t材料设置完成\t"};
+                                      "\t材料设置完成\t", "\t元件数量统计已完成\t",
+                                      "\t所选元件没有几何体\t"};
 
 void Require(const UserOutcome& outcome) {
   if (!outcome.Done()) throw std::runtime_error(outcome.refusal);
