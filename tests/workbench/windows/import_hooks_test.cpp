@@ -51,6 +51,32 @@ TEST_F(ImportHooks, ABoxOnAnotherThreadIsABreachButAnswered) {
                                "user-interface thread"}));
 }
 
+TEST_F(ImportHooks, AThreadMayClickWhatADialogTakes) {
+  EXPECT_EQ(Run("ThreadClick"), 0);
+  const auto clicks = host_.events.All<MouseEvent>();
+  ASSERT_EQ(clicks.size(), 1u);
+  EXPECT_TRUE(clicks[0].IsMiddleClick());
+  EXPECT_EQ(Breaches(),
+            Lines{"plug-in misused mouse_event: a middle click that no dialog has taken"});
+  host_.events.Forget<Breach>();
+  Run("Mouse");
+  EXPECT_EQ(Breaches(), Lines());
+  host_.faults.Order({.function = "CreateThread", .nth = 1});
+  EXPECT_EQ(Run("ThreadClick"), 1);
+  EXPECT_EQ(Breaches(), Lines());
+}
+
+TEST_F(ImportHooks, AThreadIsWaitedForAndCallsNothingOfTheHost) {
+  Run("LeftThread");
+  EXPECT_EQ(Breaches(),
+            (Lines{"plug-in misused CreateThread: nobody has waited for the thread's end",
+                   "plug-in misused CreateThread: the thread's handle was not closed"}));
+  host_.events.Forget<Breach>();
+  Run("HostThread");
+  EXPECT_EQ(Breaches(), (Lines{"plug-in misused ProMdlCurrentGet: called from a thread that is not "
+                               "the user-interface thread"}));
+}
+
 TEST_F(ImportHooks, ProgramsAreRecordedInsteadOfStarted) {
   EXPECT_GT(Run("Explorer"), 32);
   EXPECT_GT(Run("Notepad"), 31);

@@ -111,6 +111,37 @@ int Mouse() {
   return 0;
 }
 
+DWORD WINAPI MiddleClick(void*) {
+  ::mouse_event(MOUSEEVENTF_MIDDLEDOWN | MOUSEEVENTF_MIDDLEUP, 0, 0, 0, 0);
+  return 0;
+}
+
+int ThreadClick() {
+  const HANDLE thread = ::CreateThread(nullptr, 0, &MiddleClick, nullptr, 0, nullptr);
+  if (thread == nullptr) return 1;
+  ::WaitForSingleObject(thread, INFINITE);
+  ::CloseHandle(thread);
+  return 0;
+}
+
+DWORD WINAPI CallHost(void*) {
+  ProMdl model = nullptr;
+  return static_cast<DWORD>(ProMdlCurrentGet(&model));
+}
+
+// Lets it run on.
+int LeftThread() {
+  const HANDLE thread = ::CreateThread(nullptr, 0, &CallHost, nullptr, CREATE_SUSPENDED, nullptr);
+  return thread == nullptr;
+}
+
+int HostThread() {
+  const HANDLE thread = ::CreateThread(nullptr, 0, &CallHost, nullptr, 0, nullptr);
+  ::WaitForSingleObject(thread, INFINITE);
+  ::CloseHandle(thread);
+  return 0;
+}
+
 int LastErrorUnless(bool succeeded) {
   return succeeded ? 0 : static_cast<int>(::GetLastError());
 }
@@ -169,6 +200,9 @@ void RegisterCommands() {
   Register<&Object>("Object");
   Register<&Spreadsheet>("Spreadsheet");
   Register<&Mouse>("Mouse");
+  Register<&ThreadClick>("ThreadClick");
+  Register<&LeftThread>("LeftThread");
+  Register<&HostThread>("HostThread");
   Register<&NumberByValue>("NumberByValue");
   Register<&OpenFile>("OpenNul");
   Register<&DeleteNothing>("DeleteNothing");
