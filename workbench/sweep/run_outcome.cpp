@@ -157,8 +157,17 @@ RunOutcome OutcomeOf(ScriptRun& run, const CommandRun& result, const RunMark& ma
   outcome.shown.assign(run.user.shown().begin() + static_cast<long>(mark.shown),
                        run.user.shown().end());
   outcome.logged = Logged(run, mark.log);
-  outcome.state = StateNow(run.host, folders);
+  outcome.files = ContentsOf(folders);
+  outcome.state = StateNow(run.host, folders, outcome.files);
   return outcome;
+}
+
+std::vector<std::string> PutBack(Host& host, const SessionSnapshot& start, const RunOutcome& outcome,
+                                 const SessionState& before,
+                                 const std::vector<std::filesystem::path>& folders) {
+  const bool has_touched = start.Restore(host, outcome.files);
+  return NotPutBack(before, has_touched ? StateNow(host, folders)
+                                        : StateNow(host, folders, outcome.files));
 }
 
 std::string SilentHarm(const RunOutcome& outcome, const RunOutcome& clean,
