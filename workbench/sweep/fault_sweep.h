@@ -33,7 +33,7 @@ class Sweep {
   bool RunOne(const FaultPlan& plan, const std::string& which);
   void CheckOutcome(const RunOutcome& outcome, const FaultPlan& plan,
                     std::vector<std::string>* complaints) const;
-  void PutBack(std::vector<std::string>* complaints);
+  void PutBack(const RunOutcome& outcome, std::vector<std::string>* complaints);
   // Where `at` the same has been told before, the run is only counted. Of each function one is told
   // whatever the bound.
   void Tell(const std::string& which, const std::string& at,
