@@ -17,7 +17,7 @@ struct SeenBox {
 SeenBox SeenFrom(const Box& box, const Placement& placement);
 
 // Places in the list, what is behind first. Boxes that lie in each other go by their nearest
-// corners, so that a shaft comes before the casing around it.
+// corners, so that a shaft comes before the casing around it, unless that puts others wrong.
 std::vector<std::size_t> PaintersOrder(const std::vector<SeenBox>& boxes);
 
 }  // namespace wb
