@@ -79,14 +79,44 @@ struct Judgement {
   bool is_sure = true;
 };
 
+double Middle(const Span& span) {
+  return (span.low + span.high) / 2;
+}
+
+bool Holds(const Span& outer, const Span& inner) {
+  return outer.low <= inner.low && inner.high <= outer.high;
+}
+
+// Of boxes that lie in each other as if they touched where they do so least, as a motor stands on a
+// tray whose rim reaches beside it. Where one holds the other along each axis, by their nearest
+// corners.
+Order Guess(const SeenBox& a, const SeenBox& b, const Bounds& of_a, const Bounds& of_b) {
+  Order order = of_a.z.high < of_b.z.high ? Order::kFirst : Order::kSecond;
+  double least = HUGE_VAL;
+  for (const auto* const normals : {&a.normals, &b.normals}) {
+    for (const Point& normal : *normals) {
+      const Span in_a = SpanAlong(normal, a);
+      const Span in_b = SpanAlong(normal, b);
+      const double depth = std::min(in_a.high, in_b.high) - std::max(in_a.low, in_b.low);
+      const bool says_nothing =
+          std::abs(normal[kTowards]) <= kEdgeOnCosine || Holds(in_a, in_b) || Holds(in_b, in_a);
+      if (says_nothing || depth >= least) continue;
+      least = depth;
+      const bool is_b_nearer = (normal[kTowards] > 0) == (Middle(in_b) > Middle(in_a));
+      order = is_b_nearer ? Order::kFirst : Order::kSecond;
+    }
+  }
+  return order;
+}
+
 Judgement Compare(const SeenBox& a, const SeenBox& b, const Bounds& of_a, const Bounds& of_b,
                   double margin) {
   if (!Overlap(of_a.x, of_b.x, margin) || !Overlap(of_a.y, of_b.y, margin)) return {};
   bool found = false;
   Order order = ByPlanesOf(a, b, margin, &found);
   if (order == Order::kEither) order = Opposite(ByPlanesOf(b, a, margin, &found));
-  if (order != Order::kEither || found || of_a.z.high == of_b.z.high) return {order, true};
-  return {of_a.z.high < of_b.z.high ? Order::kFirst : Order::kSecond, false};
+  if (order != Order::kEither || found) return {order, true};
+  return {Guess(a, b, of_a, of_b), false};
 }
 
 // Which boxes come behind which.

@@ -62,6 +62,16 @@ TEST_F(PicturedAssembly, PaintsWhatIsBehindAndBelowFirst) {
   EXPECT_EQ(scene.boxes.front().faces.size(), 3u);
 }
 
+// Around a tray with a rim is a box that reaches above its ground.
+TEST_F(PicturedAssembly, PaintsWhatStandsInATrayAfterIt) {
+  Model& tray = AddPart("tray", {{0, 0, 0}, {1500, 500, 35}});
+  Model& motor = AddPart("motor", {{0, 0, 0}, {500, 320, 330}});
+  Model& top = AddAssembly("top");
+  Place(top, motor, At(200, 90, 33));
+  Place(top, tray, At(0, 0, 0));
+  EXPECT_EQ(NamesIn(TakeScene(top)), (Names{"tray.prt", "motor.prt"}));
+}
+
 TEST_F(PicturedAssembly, LeavesOutWhatIsNotShown) {
   Model& cube = AddPart("cube", {{0, 0, 0}, {1, 1, 1}});
   Model& empty = session_.Add(Model({"empty", ModelKind::kPart}));
