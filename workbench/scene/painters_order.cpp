@@ -15,6 +15,8 @@ namespace {
 constexpr std::size_t kTowards = 2;  // the axis to the viewer
 // Faces that are seen from their edge up to this cosine hide nothing.
 constexpr double kEdgeOnCosine = 1e-9;
+// Boxes that lie in each other by less than this part of the thinner one hardly do so at all.
+constexpr double kHardlyInside = 0.2;
 // Boxes that touch are apart by less than this part of their size.
 constexpr double kTouching = 1e-7;
 
@@ -72,8 +74,8 @@ Order ByPlanesOf(const SeenBox& a, const SeenBox& b, double margin, bool* found)
   return Order::kEither;
 }
 
-// Which of two boxes is painted first, and whether that is certain: of boxes that lie in each other
-// neither is right.
+// Which of two boxes is painted first, and whether that is certain: of boxes that lie deep in each
+// other neither is right.
 struct Judgement {
   Order order = Order::kEither;
   bool is_sure = true;
@@ -90,8 +92,8 @@ bool Holds(const Span& outer, const Span& inner) {
 // Of boxes that lie in each other as if they touched where they do so least, as a motor stands on a
 // tray whose rim reaches beside it. Where one holds the other along each axis, by their nearest
 // corners.
-Order Guess(const SeenBox& a, const SeenBox& b, const Bounds& of_a, const Bounds& of_b) {
-  Order order = of_a.z.high < of_b.z.high ? Order::kFirst : Order::kSecond;
+Judgement Guess(const SeenBox& a, const SeenBox& b, const Bounds& of_a, const Bounds& of_b) {
+  Judgement judged{of_a.z.high < of_b.z.high ? Order::kFirst : Order::kSecond, false};
   double least = HUGE_VAL;
   for (const auto* const normals : {&a.normals, &b.normals}) {
     for (const Point& normal : *normals) {
@@ -103,10 +105,11 @@ Order Guess(const SeenBox& a, const SeenBox& b, const Bounds& of_a, const Bounds
       if (says_nothing || depth >= least) continue;
       least = depth;
       const bool is_b_nearer = (normal[kTowards] > 0) == (Middle(in_b) > Middle(in_a));
-      order = is_b_nearer ? Order::kFirst : Order::kSecond;
+      const double thinner = std::min(in_a.high - in_a.low, in_b.high - in_b.low);
+      judged = {is_b_nearer ? Order::kFirst : Order::kSecond, depth <= kHardlyInside * thinner};
     }
   }
-  return order;
+  return judged;
 }
 
 Judgement Compare(const SeenBox& a, const SeenBox& b, const Bounds& of_a, const Bounds& of_b,
@@ -116,7 +119,7 @@ Judgement Compare(const SeenBox& a, const SeenBox& b, const Bounds& of_a, const 
   Order order = ByPlanesOf(a, b, margin, &found);
   if (order == Order::kEither) order = Opposite(ByPlanesOf(b, a, margin, &found));
   if (order != Order::kEither || found) return {order, true};
-  return {Guess(a, b, of_a, of_b), false};
+  return Guess(a, b, of_a, of_b);
 }
 
 // Which boxes come behind which.
