@@ -38,8 +38,8 @@ RunOutcome OutcomeOf(ScriptRun& run, const CommandRun& result, const RunMark& ma
 
 // Puts everything back that the run of this outcome changed. A complaint for each fact that is not
 // as it was: one that the snapshot forgets would go from one run into the next.
-std::vector<std::string> PutBack(Host& host, const SessionSnapshot& start, const RunOutcome& outcome,
-                                 const SessionState& before,
+std::vector<std::string> PutBack(Host& host, const SessionSnapshot& start,
+                                 const RunOutcome& outcome, const SessionState& before,
                                  const std::vector<std::filesystem::path>& folders);
 
 // A command that meets a fault does its work all the same, or refuses it whole, or says something
