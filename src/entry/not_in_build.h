@@ -9,9 +9,9 @@
 namespace qm {
 
 inline constexpr std::string_view kNotInBuild[] = {
-    "QmBackup",  "NewPart", "NewAsm",  "NewSmt",  "CloneComp",    "CloneAndReplace", "QmMerge",
-    "QmMergeTo", "QmExStp", "QmExIgs", "QmExSat", "QmRemoveCons", "QmMdlCount",      "QmSimRep",
-    "QmBox",
+    "QmBackup",        "NewPart",      "NewAsm",     "NewSmt",   "CloneComp",
+    "CloneAndReplace", "QmMerge",      "QmMergeTo",  "QmExStp",  "QmExIgs",
+    "QmExSat",         "QmRemoveCons", "QmMdlCount", "QmSimRep", "QmBox",
 };
 
 // Says in a caption box that the command is not in this build.
