@@ -60,7 +60,13 @@ def hue_table():
         # Both steps have no divisor in common with what they go through.
         hue = number * 12 % HUES
         shade = number * 3 % SHADES
-        colours.append(with_lightness(hue * 360 / HUES, *shades[shade]))
+        saturation, lightness = shades[shade]
+        colour = with_lightness(hue * 360 / HUES, saturation, lightness)
+        # Two shades of a hue may end at the brightest that it has.
+        while colour in colours:
+            lightness -= 4
+            colour = with_lightness(hue * 360 / HUES, saturation, lightness)
+        colours.append(colour)
     return colours
 
 

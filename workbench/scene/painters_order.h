@@ -16,8 +16,8 @@ struct SeenBox {
 };
 SeenBox SeenFrom(const Box& box, const Placement& placement);
 
-// Places in the list, what is behind first. Boxes that lie in each other go by their nearest
-// corners, so that a shaft comes before the casing around it.
+// Places in the list, what is behind first. Boxes that lie in each other go as if they were parted
+// where they do so least, unless that puts others wrong.
 std::vector<std::size_t> PaintersOrder(const std::vector<SeenBox>& boxes);
 
 }  // namespace wb

@@ -28,7 +28,10 @@ struct SceneBox {
   Rgb colour{};
   double transparency = 0;
   std::vector<SceneFace> faces;
-  bool operator==(const SceneBox&) const = default;
+  // Whether it looks the same, under whatever name.
+  bool operator==(const SceneBox& other) const {
+    return colour == other.colour && transparency == other.transparency && faces == other.faces;
+  }
 };
 
 struct Scene {

@@ -62,6 +62,16 @@ TEST_F(PicturedAssembly, PaintsWhatIsBehindAndBelowFirst) {
   EXPECT_EQ(scene.boxes.front().faces.size(), 3u);
 }
 
+// Around a tray with a rim is a box that reaches above its ground.
+TEST_F(PicturedAssembly, PaintsWhatStandsInATrayAfterIt) {
+  Model& tray = AddPart("tray", {{0, 0, 0}, {1500, 500, 35}});
+  Model& motor = AddPart("motor", {{0, 0, 0}, {500, 320, 330}});
+  Model& top = AddAssembly("top");
+  Place(top, motor, At(200, 90, 33));
+  Place(top, tray, At(0, 0, 0));
+  EXPECT_EQ(NamesIn(TakeScene(top)), (Names{"tray.prt", "motor.prt"}));
+}
+
 TEST_F(PicturedAssembly, LeavesOutWhatIsNotShown) {
   Model& cube = AddPart("cube", {{0, 0, 0}, {1, 1, 1}});
   Model& empty = session_.Add(Model({"empty", ModelKind::kPart}));
@@ -141,60 +151,82 @@ bool Covers(const SceneFace& face, const ScenePoint& at) {
   return true;
 }
 
-// A picture of boxes beside each other, against rays: at each point the box that is painted last
-// must be the one that a ray from the viewer meets first.
-TEST_F(PicturedAssembly, PaintsLastWhatARayMeetsFirst) {
-  std::mt19937 random(15);
-  const auto number = [&](int most) { return static_cast<int>(random() % most); };
-  Model& top = AddAssembly("top");
-  std::vector<Box> boxes;
-  for (int i = 0; i < 300 && boxes.size() < 60; ++i) {
-    const Point low = {double(number(40)), double(number(40)), double(number(40))};
-    const Box box{low, {low[0] + 1 + number(9), low[1] + 1 + number(9), low[2] + 1 + number(9)}};
-    const bool is_free = std::ranges::none_of(boxes, [&](const Box& other) {
-      for (size_t k = 0; k < 3; ++k) {
-        if (box.max[k] <= other.min[k] || other.max[k] <= box.min[k]) return false;
-      }
-      return true;
-    });
-    if (!is_free) continue;
-    Place(top, AddPart("b" + std::to_string(boxes.size()), box), At(0, 0, 0));
-    boxes.push_back(box);
+bool LieInEachOther(const Box& a, const Box& b) {
+  for (size_t k = 0; k < 3; ++k) {
+    if (a.max[k] <= b.min[k] || b.max[k] <= a.min[k]) return false;
   }
-  const Scene scene = TakeScene(top);
-  ASSERT_EQ(scene.boxes.size(), boxes.size());
+  return true;
+}
+
+// The place of the box that is painted last at a point; -1 for none.
+int PaintedAt(const Scene& scene, const ScenePoint& at) {
+  std::string painted = "b-1";
+  for (const SceneBox& box : scene.boxes) {
+    for (const SceneFace& face : box.faces) {
+      if (Covers(face, at)) painted = box.model;
+    }
+  }
+  return std::stoi(painted.substr(1));
+}
+
+// The place of the box that a ray from the viewer meets first there; -1 for none.
+int MetAt(const std::vector<Box>& boxes, const ScenePoint& at) {
   const double side = std::sqrt(0.5), rise = std::sqrt(1.0 / 6), depth = std::sqrt(1.0 / 3);
-  int compared = 0;
-  for (int i = 0; i < 4000; ++i) {
-    const ScenePoint at = {number(7000) / 100.0, number(9000) / 100.0 - 30};
-    std::string painted;
-    for (const SceneBox& box : scene.boxes) {
-      for (const SceneFace& face : box.faces) {
-        if (Covers(face, at)) painted = box.model;
-      }
+  const Point from = {side * at[0] - rise * at[1], side * at[0] + rise * at[1], 2 * rise * at[1]};
+  const Point way = {depth, -depth, depth};
+  int met = -1;
+  double nearest = -HUGE_VAL;
+  for (size_t b = 0; b < boxes.size(); ++b) {
+    double enter = -HUGE_VAL, leave = HUGE_VAL;
+    for (size_t k = 0; k < 3; ++k) {
+      const double one = (boxes[b].min[k] - from[k]) / way[k];
+      const double two = (boxes[b].max[k] - from[k]) / way[k];
+      enter = std::max(enter, std::min(one, two));
+      leave = std::min(leave, std::max(one, two));
     }
-    // The ray through the point, towards the viewer.
-    const Point from = {side * at[0] - rise * at[1], side * at[0] + rise * at[1], 2 * rise * at[1]};
-    const Point way = {depth, -depth, depth};
-    std::string met;
-    double nearest = -HUGE_VAL;
-    for (size_t b = 0; b < boxes.size(); ++b) {
-      double enter = -HUGE_VAL, leave = HUGE_VAL;
-      for (size_t k = 0; k < 3; ++k) {
-        const double one = (boxes[b].min[k] - from[k]) / way[k];
-        const double two = (boxes[b].max[k] - from[k]) / way[k];
-        enter = std::max(enter, std::min(one, two));
-        leave = std::min(leave, std::max(one, two));
-      }
-      if (leave - enter < 1e-6 || leave <= nearest) continue;
-      nearest = leave;
-      met = "b" + std::to_string(b) + ".prt";
-    }
-    if (painted.empty() || met.empty()) continue;
-    ++compared;
-    EXPECT_EQ(painted, met) << at[0] << " " << at[1];
+    if (leave - enter < 1e-6 || leave <= nearest) continue;
+    nearest = leave;
+    met = static_cast<int>(b);
   }
-  EXPECT_GT(compared, 1000);
+  return met;
+}
+
+// Many boxes, every third of which may lie in others, as shafts lie in casings. At each point of
+// the picture the box that is painted last is the one that a ray from the viewer meets first, or
+// lies in it. (Boxes that cover each other in a ring have no right order; these form none.)
+TEST_F(PicturedAssembly, PaintsLastWhatARayMeetsFirst) {
+  for (const unsigned seed : {15u, 40u, 60u, 65u}) {
+    std::mt19937 random(seed);
+    const auto number = [&](int most) { return static_cast<int>(random() % most); };
+    Model& top = AddAssembly("top" + std::to_string(seed));
+    std::vector<Box> boxes;
+    for (int i = 0; i < 300 && boxes.size() < 60; ++i) {
+      const Point low = {double(number(40)), double(number(40)), double(number(40))};
+      const bool may_lie_in_others = seed > 15 && boxes.size() % 3 == 0;
+      const int most = may_lie_in_others ? 18 : 9;
+      const auto high = [&](size_t axis) { return low[axis] + 1 + number(most); };
+      const Box box{low, {high(0), high(1), high(2)}};
+      const auto meets = [&](const Box& other) { return LieInEachOther(box, other); };
+      if (!may_lie_in_others && std::ranges::any_of(boxes, meets)) continue;
+      const std::string name = "b" + std::to_string(boxes.size());
+      Place(top, AddPart(name + "_" + std::to_string(seed), box), At(0, 0, 0));
+      boxes.push_back(box);
+    }
+    const Scene scene = TakeScene(top);
+    ASSERT_EQ(scene.boxes.size(), boxes.size());
+    int compared = 0;
+    for (int i = 0; i < 4000; ++i) {
+      const ScenePoint at = {number(7000) / 100.0, number(9000) / 100.0 - 30};
+      const int painted = PaintedAt(scene, at);
+      const int met = MetAt(boxes, at);
+      if (painted < 0 || met < 0) continue;
+      ++compared;
+      const bool is_right = painted == met || LieInEachOther(boxes[static_cast<size_t>(painted)],
+                                                             boxes[static_cast<size_t>(met)]);
+      EXPECT_TRUE(is_right) << seed << ": " << painted << " over " << met;
+    }
+    EXPECT_GT(compared, 500);
+  }
 }
 
 TEST_F(PicturedAssembly, IsDrawnForOneBoxAndForTwoThousand) {
