@@ -1,5 +1,4 @@
-// Components put into assemblies, the constraints that place them, and simplified representations,
-// which keep some of them and leave out others.
+// Components put into assemblies, their constraints, and simplified representations.
 #pragma once
 
 #include "toolkit/host_function.h"

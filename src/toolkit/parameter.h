@@ -1,5 +1,4 @@
-// Parameters of model items, and family tables: generic models, their instances and the cells of
-// these.
+// Parameters of model items, and family tables.
 #pragma once
 
 #include "toolkit/host_function.h"
