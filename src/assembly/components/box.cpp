@@ -29,10 +29,17 @@ constexpr wchar_t kNoGeometry[] = L"\t所选元件没有几何体\t";
 // The file of the parameter dialog, where the user sets how outlines are written.
 constexpr wchar_t kOutlineFile[] = L"QmParams.ini";
 
+// Empty, after a line in the log, when the file cannot be read.
+std::wstring OutlineSetting(const wchar_t* section, const std::wstring& path) {
+  const auto setting = TryReadSetting(section, kContentKey, path);
+  if (!setting) LogFailure("a setting of outlines cannot be read");
+  return setting.value_or(std::wstring());
+}
+
 BoxFormat AskFormat() {
   const std::wstring path = TextFolderConfigPath(kOutlineFile);
-  return {OutlineDecimals(ReadSetting(L"QmOutlineNum", kContentKey, path)),
-          WithoutBlanks(ReadSetting(L"QmOutlineOrder", kContentKey, path)) == L"1"};
+  return {OutlineDecimals(OutlineSetting(L"QmOutlineNum", path)),
+          WithoutBlanks(OutlineSetting(L"QmOutlineOrder", path)) == L"1"};
 }
 
 struct MeasuredBox {

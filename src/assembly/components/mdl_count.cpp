@@ -29,7 +29,7 @@ constexpr wchar_t kDefaultName[] = L"数量";
 
 // What the user has set.
 struct CountWishes {
-  std::optional<HostName> parameter;  // nothing: its name is too long for any
+  std::wstring parameter;
   InstanceCounts instances;
 };
 
@@ -54,12 +54,15 @@ class Tally {
   std::vector<ModelCount> counts_;
 };
 
-CountWishes AskWishes() {
+// Nothing when they cannot be read: counts would go where nobody wants them.
+std::optional<CountWishes> AskWishes() {
   const std::wstring path = ConfigPath(kConfigFile);
-  std::wstring name = WithoutBlanks(ReadSetting(L"QmMdlCountName", kContentKey, path));
-  if (name.empty()) name = kDefaultName;
-  return {HostName::From(name),
-          InstanceCountsBy(WithoutBlanks(ReadSetting(L"QmCountForInstance", kValueKey, path)))};
+  const auto name = TryReadSetting(L"QmMdlCountName", kContentKey, path);
+  const auto instances = TryReadSetting(L"QmCountForInstance", kValueKey, path);
+  if (!name || !instances) return std::nullopt;
+  const std::wstring parameter = WithoutBlanks(*name);
+  return CountWishes{parameter.empty() ? kDefaultName : parameter,
+                     InstanceCountsBy(WithoutBlanks(*instances))};
 }
 
 Tally Occurrences(const ComponentList& components) {
@@ -130,19 +133,23 @@ bool Write(const ModelCount& counted, HostName& name) {
 }  // namespace
 
 ProError QmMdlCount() {
-  const CountWishes wishes = AskWishes();
-  if (!wishes.parameter) {
+  const auto wishes = AskWishes();
+  if (!wishes) {
+    LogOutcome("nothing counted, the settings cannot be read");
+    return PRO_TK_CANT_ACCESS;
+  }
+  auto name = HostName::From(wishes->parameter);
+  if (!name) {
     LogOutcome("nothing counted, the parameter's name is too long");
     return PRO_TK_LINE_TOO_LONG;
   }
   Opening opening = OpenCurrentAssembly(ComponentsOf(ComponentKind::kAll), kNoComponents);
   if (opening.components.empty()) return opening.status;
-  const Tally plan = Plan(Occurrences(opening.components), wishes.instances, &opening.left_out);
+  const Tally plan = Plan(Occurrences(opening.components), wishes->instances, &opening.left_out);
   opening.components = ComponentList();
-  HostName name = *wishes.parameter;
   long long written = 0;
   for (const ModelCount& counted : plan.counts()) {
-    ++(Write(counted, name) ? written : opening.left_out);
+    ++(Write(counted, *name) ? written : opening.left_out);
   }
   LogCount("models", static_cast<long long>(plan.counts().size()));
   LogCount("written", written);

@@ -44,10 +44,19 @@ StepResult MakeFix(FixConstraint* fix) {
 }
 
 // Deliberately a success without constraints counts as none: hosts answer either way.
+// Any failure means that there are none, but one that is not the usual answer is logged.
 int CountConstraints(ProAsmcomp& component) {
   ConstraintArray constraints;
-  if (!Ok(ProAsmcompConstraintsGet(&component, constraints.put()))) return 0;
-  return ArraySize(constraints.get());
+  const ProError status = ProAsmcompConstraintsGet(&component, constraints.put());
+  if (!Ok(status)) {
+    if (status != PRO_TK_E_NOT_FOUND) {
+      LogFailure(component.owner, "ProAsmcompConstraintsGet", status);
+    }
+    return 0;
+  }
+  const auto count = ToldArraySize(constraints.get());
+  if (!count) LogFailure(component.owner, "ProArraySizeGet", PRO_TK_GENERAL_ERROR);
+  return count.value_or(0);
 }
 
 // A packaged component gets a placement by the host's own dialog.

@@ -23,7 +23,7 @@ namespace qm {
 namespace {
 
 constexpr wchar_t kNothingSelected[] = L"\t请先选择要在简化表示中保留的元件\t";
-constexpr wchar_t kRefusedName[] = L"名称已存在或输入非法，请重新输入";
+constexpr wchar_t kRefusedName[] = L"\t名称已存在或输入非法，请重新输入\t";
 constexpr char kPrompt[] = "Enter the name of the simplified representation:|||%0w";
 constexpr int kLongestName = PRO_NAME_SIZE - 1;
 
@@ -62,15 +62,24 @@ bool IsTaken(ProMdl root, const std::wstring& name) {
          std::memcmp(&rep, &kUntouched, sizeof(rep)) != 0;
 }
 
-// Nothing when the user quits.
+// Nothing, after a line in the log, when the user quits, or when the prompt cannot be shown or
+// gives no text: asking again would never end then.
 std::optional<std::wstring> AskName(const std::wstring& offered) {
-  DisplayNote(kPrompt, offered.c_str());
-  ProLine reply = {};
-  const ProError status = ProMessageStringRead(kLongestName, reply);
-  if (!Ok(status) && status != PRO_TK_MSG_USER_QUIT) {
-    LogFailure(std::string("ProMessageStringRead answered ") + StatusName(status));
+  std::wstring file = kNoteFile;
+  ProError status = ProMessageDisplay(file.data(), kPrompt, offered.c_str());
+  if (!Ok(status)) {
+    LogFailure(std::string("the prompt cannot be shown: ProMessageDisplay answered ") +
+               StatusName(status));
+    return std::nullopt;
   }
-  return Ok(status) ? std::optional<std::wstring>(FixedText(reply)) : std::nullopt;
+  ProLine reply = {};
+  status = ProMessageStringRead(kLongestName, reply);
+  if (Ok(status) && !FixedText(reply).empty()) return std::wstring(FixedText(reply));
+  if (status != PRO_TK_MSG_USER_QUIT) {
+    LogFailure(std::string("the prompt cannot be read: ProMessageStringRead answered ") +
+               StatusName(status));
+  }
+  return std::nullopt;
 }
 
 ProError AddItem(const LeftOutComponent& component, ProSimprepdata* data) {
