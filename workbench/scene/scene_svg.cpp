@@ -1,4 +1,5 @@
-// Paints boxes one over the other.
+// Paints faces one over the other. Pieces of a face are filled without a smoothed rim, which would
+// show where they meet, and only the edges of the box are drawn.
 #include "workbench/scene/scene_svg.h"
 
 #include <algorithm>
@@ -64,28 +65,69 @@ class ScenePainter {
            "\"><rect width=\"100%\" height=\"100%\" fill=\"" + kGround + "\"/><g stroke=\"" +
            kSceneInk + "\" stroke-linejoin=\"round\" stroke-width=\"" +
            Short(are_few ? kThickEdge : kThinEdge) + "\">";
-    for (const SceneBox& box : scene_.boxes) PaintBox(box, are_few);
+    are_few ? PaintNamed() : PaintAll();
     return svg_ + "</g></svg>";
   }
 
  private:
-  void PaintBox(const SceneBox& box, bool is_named) {
-    const double opacity = std::max(1 - std::clamp(box.transparency, 0.0, 1.0), kLeastOpacity);
-    svg_ += "<g";
-    if (opacity < 1) svg_ += " fill-opacity=\"" + OpacityText(opacity) + "\"";
-    svg_ += ">";
-    if (is_named) svg_ += "<title>" + EscapeHtml(box.model) + "</title>";
-    for (const SceneFace& face : box.faces) PaintFace(face, box.colour);
-    svg_ += "</g>";
+  void PaintAll() {
+    for (const SceneFace& face : scene_.faces) PaintFace(face);
   }
 
-  void PaintFace(const SceneFace& face, const Rgb& colour) {
-    svg_ += "<path d=\"M";
-    for (const auto& [x, y] : face.corners) {
-      svg_ += Short(kEdge + (x - frame_[0]) * scale_) + " " +
-              Short(kEdge + (frame_[3] - y) * scale_) + " ";
+  // Faces of a box that come after each other are one thing that bears its name.
+  void PaintNamed() {
+    for (std::size_t i = 0; i < scene_.faces.size(); ++i) {
+      const std::size_t box = scene_.faces[i].box;
+      if (i == 0 || scene_.faces[i - 1].box != box) {
+        svg_ += (i == 0 ? "<g><title>" : "</g><g><title>");
+        svg_ += EscapeHtml(scene_.boxes[box].model) + "</title>";
+      }
+      PaintFace(scene_.faces[i]);
     }
-    svg_ += "Z\" fill=\"" + ColourText(colour, face.light) + "\"/>";
+    if (!scene_.faces.empty()) svg_ += "</g>";
+  }
+
+  void PaintFace(const SceneFace& face) {
+    const auto is_edge = [](const SceneCorner& corner) { return corner.is_edge; };
+    if (std::ranges::all_of(face.corners, is_edge)) {
+      svg_ += "<path d=\"" + Outline(face) + "\"" + Fill(face) + "/>";
+      return;
+    }
+    svg_ += "<path d=\"" + Outline(face) + "\"" + Fill(face) +
+            " stroke=\"none\" shape-rendering=\"crispEdges\"/>";
+    if (std::ranges::any_of(face.corners, is_edge)) {
+      svg_ += "<path d=\"" + Edges(face) + "\" fill=\"none\"/>";
+    }
+  }
+
+  std::string At(const SceneCorner& corner) const {
+    return Short(kEdge + (corner.at[0] - frame_[0]) * scale_) + " " +
+           Short(kEdge + (frame_[3] - corner.at[1]) * scale_) + " ";
+  }
+
+  std::string Outline(const SceneFace& face) const {
+    std::string path = "M";
+    for (const SceneCorner& corner : face.corners) path += At(corner);
+    return path + "Z";
+  }
+
+  std::string Edges(const SceneFace& face) const {
+    std::string path;
+    for (std::size_t i = 0; i < face.corners.size(); ++i) {
+      if (!face.corners[i].is_edge) continue;
+      const bool goes_on = i > 0 && face.corners[i - 1].is_edge;
+      if (!goes_on) path += "M" + At(face.corners[i]);
+      path += "L" + At(face.corners[(i + 1) % face.corners.size()]);
+    }
+    return path;
+  }
+
+  std::string Fill(const SceneFace& face) const {
+    const SceneBox& box = scene_.boxes[face.box];
+    const double opacity = std::max(1 - std::clamp(box.transparency, 0.0, 1.0), kLeastOpacity);
+    std::string fill = " fill=\"" + ColourText(box.colour, face.light) + "\"";
+    if (opacity < 1) fill += " fill-opacity=\"" + OpacityText(opacity) + "\"";
+    return fill;
   }
 
   static std::string OpacityText(double opacity) {
