@@ -47,7 +47,9 @@ std::string ColourText(const Rgb& colour, double light) {
 class ScenePainter {
  public:
   ScenePainter(const Scene& scene, const SceneFrame& frame)
-      : scene_(scene), frame_(frame[0] <= frame[2] ? frame : SceneFrame{}) {
+      : scene_(scene),
+        are_few_(scene.boxes.size() <= kFewBoxes),
+        frame_(frame[0] <= frame[2] ? frame : SceneFrame{}) {
     const double width = frame_[2] - frame_[0];
     const double height = frame_[3] - frame_[1];
     const double by_width = width > 0 ? (kWidest - 2 * kEdge) / width : HUGE_VAL;
@@ -59,32 +61,38 @@ class ScenePainter {
   }
 
   std::string Paint() {
-    const bool are_few = scene_.boxes.size() <= kFewBoxes;
     svg_ = "<svg class=\"scene\" xmlns=\"http://www.w3.org/2000/svg\" width=\"" + Short(width_) +
            "\" viewBox=\"0 0 " + Short(width_) + " " + Short(height_) +
            "\"><rect width=\"100%\" height=\"100%\" fill=\"" + kGround + "\"/><g stroke=\"" +
            kSceneInk + "\" stroke-linejoin=\"round\" stroke-width=\"" +
-           Short(are_few ? kThickEdge : kThinEdge) + "\">";
-    are_few ? PaintNamed() : PaintAll();
-    return svg_ + "</g></svg>";
+           Short(are_few_ ? kThickEdge : kThinEdge) + "\">";
+    for (std::size_t i = 0; i < scene_.faces.size(); ++i) {
+      if (StartsRun(i)) StartRun(i);
+      PaintFace(scene_.faces[i]);
+    }
+    return svg_ + (scene_.faces.empty() ? "</g></svg>" : "</g></g></svg>");
   }
 
  private:
-  void PaintAll() {
-    for (const SceneFace& face : scene_.faces) PaintFace(face);
+  // Faces that come after each other are one thing: those of a box, which bears its name, or of
+  // many boxes those that are as clear.
+  bool StartsRun(std::size_t i) const {
+    if (i == 0) return true;
+    const std::size_t box = scene_.faces[i].box;
+    const std::size_t last = scene_.faces[i - 1].box;
+    return are_few_ ? box != last : Opacity(box) != Opacity(last);
   }
 
-  // Faces of a box that come after each other are one thing that bears its name.
-  void PaintNamed() {
-    for (std::size_t i = 0; i < scene_.faces.size(); ++i) {
-      const std::size_t box = scene_.faces[i].box;
-      if (i == 0 || scene_.faces[i - 1].box != box) {
-        svg_ += (i == 0 ? "<g><title>" : "</g><g><title>");
-        svg_ += EscapeHtml(scene_.boxes[box].model) + "</title>";
-      }
-      PaintFace(scene_.faces[i]);
-    }
-    if (!scene_.faces.empty()) svg_ += "</g>";
+  void StartRun(std::size_t i) {
+    const std::size_t box = scene_.faces[i].box;
+    svg_ += i == 0 ? "<g" : "</g><g";
+    if (Opacity(box) < 1) svg_ += " fill-opacity=\"" + OpacityText(Opacity(box)) + "\"";
+    svg_ += ">";
+    if (are_few_) svg_ += "<title>" + EscapeHtml(scene_.boxes[box].model) + "</title>";
+  }
+
+  double Opacity(std::size_t box) const {
+    return std::max(1 - std::clamp(scene_.boxes[box].transparency, 0.0, 1.0), kLeastOpacity);
   }
 
   void PaintFace(const SceneFace& face) {
@@ -123,11 +131,7 @@ class ScenePainter {
   }
 
   std::string Fill(const SceneFace& face) const {
-    const SceneBox& box = scene_.boxes[face.box];
-    const double opacity = std::max(1 - std::clamp(box.transparency, 0.0, 1.0), kLeastOpacity);
-    std::string fill = " fill=\"" + ColourText(box.colour, face.light) + "\"";
-    if (opacity < 1) fill += " fill-opacity=\"" + OpacityText(opacity) + "\"";
-    return fill;
+    return " fill=\"" + ColourText(scene_.boxes[face.box].colour, face.light) + "\"";
   }
 
   static std::string OpacityText(double opacity) {
@@ -137,6 +141,7 @@ class ScenePainter {
   }
 
   const Scene& scene_;
+  bool are_few_;
   SceneFrame frame_;
   double scale_ = 1;
   double width_ = 0;
