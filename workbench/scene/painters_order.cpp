@@ -1,260 +1,301 @@
-// Compares boxes by the planes of their faces, and sorts what the comparisons say.
+// Compares each two faces where they cover each other, and sorts what the comparisons say. Faces in
+// a ring are cut by the plane of one of them: what is behind it goes before what is in front.
 #include "workbench/scene/painters_order.h"
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
-#include <queue>
-#include <tuple>
+#include <cstdint>
 
-#include "workbench/session/extents.h"
+#include "workbench/scene/rings.h"
 
 namespace wb {
 namespace {
 
-constexpr std::size_t kTowards = 2;  // the axis to the viewer
-// Faces that are seen from their edge up to this cosine hide nothing.
-constexpr double kEdgeOnCosine = 1e-9;
-// Boxes that lie in each other by less than this part of the thinner one hardly do so at all.
-constexpr double kHardlyInside = 0.2;
-// Boxes that touch are apart by less than this part of their size.
+using FacePlace = std::uint32_t;
+constexpr FacePlace kNoFace = ~FacePlace{0};
+
+// Faces that touch are apart by less than this part of the whole.
 constexpr double kTouching = 1e-7;
+// So many planes are tried where something has to be cut.
+constexpr std::size_t kMostTries = 24;
+// A piece more is as bad as so many faces that lie unevenly to both sides.
+constexpr std::size_t kCostOfCut = 8;
 
-double Along(const Point& direction, const Point& point) {
-  return direction[0] * point[0] + direction[1] * point[1] + direction[2] * point[2];
-}
-
-struct Span {
-  double low;
-  double high;
+struct FacePair {
+  FacePlace first;
+  FacePlace second;
+  Covering covering;
 };
 
-Span SpanAlong(const Point& direction, const SeenBox& box) {
-  Span span{HUGE_VAL, -HUGE_VAL};
-  for (const Point& corner : box.corners) {
-    const double at = Along(direction, corner);
-    span.low = std::min(span.low, at);
-    span.high = std::max(span.high, at);
+// Faces that have to be sorted among each other.
+struct FaceGroup {
+  std::vector<FacePlace> members;
+  std::vector<FacePair> pairs;  // of those that cover each other
+};
+
+// The rectangle around a face in the picture.
+struct FaceBounds {
+  FacePlace face;
+  double left = HUGE_VAL, right = -HUGE_VAL, low = HUGE_VAL, high = -HUGE_VAL;
+};
+
+FaceBounds BoundsOf(FacePlace place, const SeenFace& face) {
+  FaceBounds bounds{place};
+  for (const SeenCorner& corner : face.corners) {
+    bounds.left = std::min(bounds.left, corner.at[0]);
+    bounds.right = std::max(bounds.right, corner.at[0]);
+    bounds.low = std::min(bounds.low, corner.at[1]);
+    bounds.high = std::max(bounds.high, corner.at[1]);
   }
-  return span;
+  return bounds;
 }
 
-// The rectangle around a box in the picture, and its nearest corner.
-struct Bounds {
-  Span x, y, z;
-};
-
-Bounds BoundsOf(const SeenBox& box) {
-  return {SpanAlong({1, 0, 0}, box), SpanAlong({0, 1, 0}, box), SpanAlong({0, 0, 1}, box)};
-}
-
-bool Overlap(const Span& a, const Span& b, double margin) {
-  return a.low < b.high - margin && b.low < a.high - margin;
-}
-
-enum class Order { kEither, kFirst, kSecond };  // which one is painted first
-
-Order Opposite(Order order) {
-  if (order == Order::kEither) return order;
-  return order == Order::kFirst ? Order::kSecond : Order::kFirst;
-}
-
-// By the planes of the faces of `a`: a box beyond one that looks at the viewer is before `a`.
-// `found` tells whether any plane parts them.
-Order ByPlanesOf(const SeenBox& a, const SeenBox& b, double margin, bool* found) {
-  for (const Point& normal : a.normals) {
-    const Span of_a = SpanAlong(normal, a);
-    const Span of_b = SpanAlong(normal, b);
-    const bool beyond = of_b.low >= of_a.high - margin;
-    if (!beyond && of_b.high > of_a.low + margin) continue;
-    *found = true;
-    if (std::abs(normal[kTowards]) <= kEdgeOnCosine) continue;
-    return (normal[kTowards] > 0) == beyond ? Order::kFirst : Order::kSecond;
-  }
-  return Order::kEither;
-}
-
-// Which of two boxes is painted first, and whether that is certain: of boxes that lie deep in each
-// other neither is right.
-struct Judgement {
-  Order order = Order::kEither;
-  bool is_sure = true;
-};
-
-double Middle(const Span& span) {
-  return (span.low + span.high) / 2;
-}
-
-bool Holds(const Span& outer, const Span& inner) {
-  return outer.low <= inner.low && inner.high <= outer.high;
-}
-
-// Of boxes that lie in each other as if they touched where they do so least, as a motor stands on a
-// tray whose rim reaches beside it. Where one holds the other along each axis, by their nearest
-// corners.
-Judgement Guess(const SeenBox& a, const SeenBox& b, const Bounds& of_a, const Bounds& of_b) {
-  Judgement judged{of_a.z.high < of_b.z.high ? Order::kFirst : Order::kSecond, false};
-  double least = HUGE_VAL;
-  for (const auto* const normals : {&a.normals, &b.normals}) {
-    for (const Point& normal : *normals) {
-      const Span in_a = SpanAlong(normal, a);
-      const Span in_b = SpanAlong(normal, b);
-      const double depth = std::min(in_a.high, in_b.high) - std::max(in_a.low, in_b.low);
-      const bool says_nothing =
-          std::abs(normal[kTowards]) <= kEdgeOnCosine || Holds(in_a, in_b) || Holds(in_b, in_a);
-      if (says_nothing || depth >= least) continue;
-      least = depth;
-      const bool is_b_nearer = (normal[kTowards] > 0) == (Middle(in_b) > Middle(in_a));
-      const double thinner = std::min(in_a.high - in_a.low, in_b.high - in_b.low);
-      judged = {is_b_nearer ? Order::kFirst : Order::kSecond, depth <= kHardlyInside * thinner};
+double SizeOfAll(const std::vector<SeenFace>& faces) {
+  double size = 0;
+  for (const SeenFace& face : faces) {
+    for (const SeenCorner& corner : face.corners) {
+      for (const double at : corner.at) size = std::max(size, std::abs(at));
     }
   }
-  return judged;
+  return size;
 }
 
-Judgement Compare(const SeenBox& a, const SeenBox& b, const Bounds& of_a, const Bounds& of_b,
-                  double margin) {
-  if (!Overlap(of_a.x, of_b.x, margin) || !Overlap(of_a.y, of_b.y, margin)) return {};
-  bool found = false;
-  Order order = ByPlanesOf(a, b, margin, &found);
-  if (order == Order::kEither) order = Opposite(ByPlanesOf(b, a, margin, &found));
-  if (order != Order::kEither || found) return {order, true};
-  return Guess(a, b, of_a, of_b);
+double MiddleDepth(const SeenFace& face) {
+  double sum = 0;
+  for (const SeenCorner& corner : face.corners) sum += corner.at[2];
+  return sum / static_cast<double>(face.corners.size());
 }
 
-// Which boxes come behind which.
-struct Sequence {
-  explicit Sequence(std::size_t count) : later(count), earlier(count), waits_for(count) {}
-  void Add(std::size_t first, std::size_t second) {
-    later[first].push_back(second);
-    earlier[second].push_back(first);
-    ++waits_for[second];
-  }
-  std::vector<std::vector<std::size_t>> later;
-  std::vector<std::vector<std::size_t>> earlier;
-  std::vector<std::size_t> waits_for;  // how many are still to be painted before each
+struct Reach {
+  bool behind = false;
+  bool before = false;
 };
 
-// Takes the boxes that nothing has to be painted before, the furthest first. What is certain is
-// kept above what is not: a shaft in its casing must not bring a plate below them in front of both.
-// Where boxes cover each other in a ring, the furthest in the ring breaks it.
-class Sorter {
+// Cutting a group of faces by the plane of one of them.
+struct Parting {
+  FacePlace by;
+  std::size_t cuts = 0;
+  std::size_t cost = 0;
+};
+
+class FaceSorter {
  public:
-  explicit Sorter(const std::vector<SeenBox>& boxes)
-      : sure_(boxes.size()), guessed_(boxes.size()), is_taken_(boxes.size()) {
-    for (const SeenBox& box : boxes) bounds_.push_back(BoundsOf(box));
-    const double margin = kTouching * Size();
-    for (std::size_t a = 0; a < boxes.size(); ++a) {
-      for (std::size_t b = a + 1; b < boxes.size(); ++b) {
-        const auto [order, is_sure] = Compare(boxes[a], boxes[b], bounds_[a], bounds_[b], margin);
-        Sequence& sequence = is_sure ? sure_ : guessed_;
-        if (order == Order::kFirst) sequence.Add(a, b);
-        if (order == Order::kSecond) sequence.Add(b, a);
-      }
-    }
-  }
+  FaceSorter(std::vector<SeenFace> faces, std::size_t most_pieces)
+      : faces_(std::move(faces)),
+        most_pieces_(most_pieces),
+        pieces_(faces_.size()),
+        touching_(kTouching * SizeOfAll(faces_)),
+        is_hidden_(faces_.size()),
+        local_(faces_.size()) {}
 
-  std::vector<std::size_t> Sorted() {
-    for (std::size_t i = 0; i < bounds_.size(); ++i) Offer(i);
-    while (sorted_.size() < bounds_.size()) Take(free_.empty() ? RingBreaker() : TakeFree());
+  std::vector<SeenFace> Sorted() {
+    FaceGroup all;
+    for (FacePlace i = 0; i < faces_.size(); ++i) all.members.push_back(i);
+    all.pairs = PairsAmong(all.members);
+    pending_.push_back(std::move(all));
+    while (!pending_.empty()) {
+      FaceGroup group = std::move(pending_.back());
+      pending_.pop_back();
+      Sort(std::move(group));
+    }
     return std::move(sorted_);
   }
 
  private:
-  double Depth(std::size_t i) const { return bounds_[i].z.high; }
+  void Sort(FaceGroup group) {
+    DropHidden(group);
+    if (group.pairs.empty()) return Give(group.members);
+    const auto rings = RingsInOrder(group.members.size(), FollowingsIn(group));
+    if (rings.size() == 1) return Part(group);
+    Distribute(group, rings);
+  }
 
-  double Size() const {
-    double size = 0;
-    for (const Bounds& bounds : bounds_) {
-      for (const Span& span : {bounds.x, bounds.y, bounds.z}) {
-        size = std::max({size, std::abs(span.low), std::abs(span.high)});
+  void Give(const std::vector<FacePlace>& members) {
+    for (const FacePlace place : members) sorted_.push_back(std::move(faces_[place]));
+  }
+
+  void DropHidden(FaceGroup& group) {
+    std::erase_if(group.members, [this](FacePlace place) { return is_hidden_[place]; });
+    std::erase_if(group.pairs, [this](const FacePair& pair) {
+      return is_hidden_[pair.first] || is_hidden_[pair.second];
+    });
+  }
+
+  // Adds the pair where one has to be painted before the other.
+  void Compare(FacePlace first, FacePlace second, std::vector<FacePair>& pairs) {
+    if (is_hidden_[first] || is_hidden_[second]) return;
+    if (faces_[first].box == faces_[second].box) return;
+    const Covering covering = CoveringOf(faces_[first], faces_[second], touching_);
+    if (covering.hides_one) {
+      is_hidden_[covering.first_is_behind ? first : second] = true;
+    } else if (covering.first_is_behind || covering.second_is_behind) {
+      pairs.push_back({first, second, covering});
+    }
+  }
+
+  // By a line that sweeps over the picture from the left.
+  std::vector<FacePair> PairsAmong(const std::vector<FacePlace>& members) {
+    std::vector<FaceBounds> bounds;
+    for (const FacePlace place : members) bounds.push_back(BoundsOf(place, faces_[place]));
+    std::ranges::sort(bounds, {}, &FaceBounds::left);
+    std::vector<FacePair> pairs;
+    std::vector<FaceBounds> under_line;
+    for (const FaceBounds& next : bounds) {
+      std::erase_if(under_line, [&](const FaceBounds& other) { return other.right <= next.left; });
+      for (const FaceBounds& other : under_line) {
+        if (other.low < next.high && next.low < other.high) Compare(other.face, next.face, pairs);
+      }
+      under_line.push_back(next);
+    }
+    return pairs;
+  }
+
+  std::vector<Following> FollowingsIn(const FaceGroup& group) {
+    for (FacePlace i = 0; i < group.members.size(); ++i) local_[group.members[i]] = i;
+    std::vector<Following> followings;
+    for (const auto& [first, second, covering] : group.pairs) {
+      if (covering.first_is_behind) followings.push_back({local_[first], local_[second]});
+      if (covering.second_is_behind) followings.push_back({local_[second], local_[first]});
+    }
+    return followings;
+  }
+
+  // What is to be painted first is taken up first: it is put on top.
+  void Distribute(const FaceGroup& group, const std::vector<std::vector<FacePlace>>& rings) {
+    std::vector<FaceGroup> parts(rings.size());
+    for (FacePlace i = 0; i < rings.size(); ++i) {
+      for (const FacePlace at : rings[i]) {
+        parts[i].members.push_back(group.members[at]);
+        local_[group.members[at]] = i;
       }
     }
-    return size;
-  }
-
-  // Into the queue, where nothing certain stands before it.
-  void Offer(std::size_t i) {
-    if (is_taken_[i] || sure_.waits_for[i] != 0) return;
-    free_.push({guessed_.waits_for[i] != 0, Depth(i), i});
-  }
-
-  // One that has been offered twice is taken at the better place.
-  std::size_t TakeFree() {
-    const std::size_t next = std::get<2>(free_.top());
-    free_.pop();
-    return next;
-  }
-
-  std::size_t FurthestLeft() const {
-    std::size_t furthest = bounds_.size();
-    for (std::size_t i = 0; i < bounds_.size(); ++i) {
-      if (is_taken_[i]) continue;
-      if (furthest == bounds_.size() || Depth(i) < Depth(furthest)) furthest = i;
+    for (const FacePair& pair : group.pairs) {
+      const FacePlace ring = local_[pair.first];
+      if (ring == local_[pair.second]) parts[ring].pairs.push_back(pair);
     }
-    return furthest;
+    std::move(parts.rbegin(), parts.rend(), std::back_inserter(pending_));
   }
 
-  std::size_t OneBefore(std::size_t i) const {
-    return *std::ranges::find_if(sure_.earlier[i],
-                                 [this](std::size_t before) { return !is_taken_[before]; });
-  }
-
-  // Everything left waits for something: going back from any of them ends in a ring.
-  std::size_t RingBreaker() const {
-    std::vector<bool> is_met(bounds_.size());
-    std::size_t at = FurthestLeft();
-    for (; !is_met[at]; at = OneBefore(at)) is_met[at] = true;
-    std::size_t furthest = at;
-    for (std::size_t i = OneBefore(at); i != at; i = OneBefore(i)) {
-      if (Depth(i) < Depth(furthest)) furthest = i;
+  // Where a face reaches to from the plane of another.
+  Reach ReachOf(FacePlace place, const SeenFace& by) const {
+    Reach reach;
+    for (const SeenCorner& corner : faces_[place].corners) {
+      const double at = BeforePlane(by, corner.at);
+      reach.behind = reach.behind || at < -touching_;
+      reach.before = reach.before || at > touching_;
     }
-    return furthest;
+    return reach;
   }
 
-  void Take(std::size_t next) {
-    if (is_taken_[next]) return;
-    is_taken_[next] = true;
-    sorted_.push_back(next);
-    for (Sequence* const sequence : {&sure_, &guessed_}) {
-      for (const std::size_t follower : sequence->later[next]) {
-        if (--sequence->waits_for[follower] == 0) Offer(follower);
+  Parting PartingBy(FacePlace by, const std::vector<FacePlace>& members) const {
+    Parting parting{by};
+    std::size_t behind = 0, before = 0;
+    for (const FacePlace place : members) {
+      const Reach reach = ReachOf(place, faces_[by]);
+      if (reach.behind && reach.before) ++parting.cuts;
+      if (reach.behind) ++behind;
+      if (reach.before) ++before;
+    }
+    parting.cost = kCostOfCut * parting.cuts + std::max(behind, before);
+    return parting;
+  }
+
+  Parting BestParting(const std::vector<FacePlace>& members) const {
+    const std::size_t step = (members.size() + kMostTries - 1) / kMostTries;
+    Parting best = PartingBy(members.front(), members);
+    for (std::size_t i = step; i < members.size(); i += step) {
+      const Parting other = PartingBy(members[i], members);
+      if (other.cost < best.cost) best = other;
+    }
+    return best;
+  }
+
+  // What became of a group's faces on one side of a plane.
+  struct Side {
+    std::vector<FacePlace> piece_of;  // by the face's place in the group
+    FaceGroup group;
+  };
+
+  void Part(const FaceGroup& group) {
+    const Parting parting = BestParting(group.members);
+    if (pieces_ + parting.cuts > most_pieces_) return GiveByDepth(group.members);
+    pieces_ += parting.cuts;
+    const SeenFace by = faces_[parting.by];
+    Side behind, before;
+    FaceGroup between;
+    for (FacePlace i = 0; i < group.members.size(); ++i) {
+      local_[group.members[i]] = i;
+      if (!PutAside(group.members[i], by, behind, before)) {
+        between.members.push_back(group.members[i]);
+      }
+    }
+    for (Side* const side : {&behind, &before}) KeepPairs(group.pairs, *side);
+    pending_.push_back(std::move(before.group));
+    pending_.push_back(std::move(between));
+    pending_.push_back(std::move(behind.group));
+  }
+
+  void GiveByDepth(std::vector<FacePlace> members) {
+    std::ranges::stable_sort(members, {},
+                             [this](FacePlace place) { return MiddleDepth(faces_[place]); });
+    Give(members);
+  }
+
+  // Whether a face has anything on either side of a plane.
+  bool PutAside(FacePlace place, const SeenFace& by, Side& behind, Side& before) {
+    const Reach reach = ReachOf(place, by);
+    FacePlace lower = reach.behind ? place : kNoFace;
+    FacePlace upper = reach.before ? place : kNoFace;
+    if (reach.behind && reach.before) {
+      CutFace cut = CutBy(faces_[place], by, touching_);
+      lower = Added(std::move(cut.behind));
+      upper = Added(std::move(cut.before));
+    }
+    AddTo(behind, lower);
+    AddTo(before, upper);
+    return reach.behind || reach.before;
+  }
+
+  FacePlace Added(SeenFace piece) {
+    faces_.push_back(std::move(piece));
+    is_hidden_.push_back(false);
+    local_.push_back(0);
+    return static_cast<FacePlace>(faces_.size() - 1);
+  }
+
+  static void AddTo(Side& side, FacePlace piece) {
+    side.piece_of.push_back(piece);
+    if (piece != kNoFace) side.group.members.push_back(piece);
+  }
+
+  // Only what was cut is compared anew.
+  void KeepPairs(const std::vector<FacePair>& pairs, Side& side) {
+    for (const FacePair& pair : pairs) {
+      const FacePlace first = side.piece_of[local_[pair.first]];
+      const FacePlace second = side.piece_of[local_[pair.second]];
+      if (first == kNoFace || second == kNoFace) continue;
+      if (first == pair.first && second == pair.second) {
+        side.group.pairs.push_back(pair);
+      } else {
+        Compare(first, second, side.group.pairs);
       }
     }
   }
 
-  // Whether a guess stands before it, and how near it comes to the viewer.
-  using FreeBox = std::tuple<bool, double, std::size_t>;
-
-  std::vector<Bounds> bounds_;
-  Sequence sure_;
-  Sequence guessed_;
-  std::vector<bool> is_taken_;
-  std::priority_queue<FreeBox, std::vector<FreeBox>, std::greater<>> free_;
-  std::vector<std::size_t> sorted_;
+  std::vector<SeenFace> faces_;  // pieces behind the faces they were cut from
+  std::size_t most_pieces_;
+  std::size_t pieces_;
+  double touching_;
+  std::vector<bool> is_hidden_;
+  std::vector<FacePlace> local_;  // a face's place in what is looked at
+  std::vector<FaceGroup> pending_;
+  std::vector<SeenFace> sorted_;
 };
 
 }  // namespace
 
-SeenBox SeenFrom(const Box& box, const Placement& placement) {
-  SeenBox seen;
-  for (std::size_t i = 0; i < seen.corners.size(); ++i) {
-    Point corner;
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-      corner[axis] = (i >> axis & 1) != 0 ? box.max[axis] : box.min[axis];
-    }
-    seen.corners[i] = PlacedAt(corner, placement);
-  }
-  for (std::size_t axis = 0; axis < 3; ++axis) {
-    const auto& row = placement[axis];
-    const double length = std::hypot(row[0], row[1], row[2]);
-    for (std::size_t k = 0; k < 3; ++k) seen.normals[axis][k] = length > 0 ? row[k] / length : 0;
-  }
-  return seen;
-}
-
-std::vector<std::size_t> PaintersOrder(const std::vector<SeenBox>& boxes) {
-  return Sorter(boxes).Sorted();
+std::vector<SeenFace> PaintersOrder(std::vector<SeenFace> faces, std::size_t most_pieces) {
+  return FaceSorter(std::move(faces), most_pieces).Sorted();
 }
 
 }  // namespace wb

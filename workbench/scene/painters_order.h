@@ -1,23 +1,21 @@
-// In which order boxes are painted so that what is in front covers what is behind it.
+// In which order faces are painted so that what is in front covers what is behind it.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <vector>
 
-#include "workbench/session/model_link.h"
+#include "workbench/scene/seen_face.h"
 
 namespace wb {
 
-// A box as the viewer sees it: x to the right, y up, z towards him.
-struct SeenBox {
-  std::array<Point, 8> corners{};
-  std::array<Point, 3> normals{};  // of the faces at the upper ends of its edges, length 1
-};
-SeenBox SeenFrom(const Box& box, const Placement& placement);
+// Beyond so many pieces nothing is cut any more.
+inline constexpr std::size_t kMostFacePieces = 20'000;
 
-// Places in the list, what is behind first. Boxes that lie in each other go as if they were parted
-// where they do so least, unless that puts others wrong.
-std::vector<std::size_t> PaintersOrder(const std::vector<SeenBox>& boxes);
+// What is behind first. Faces that pass through each other, or cover each other in a ring, are cut;
+// those that a single opaque one hides are left out. Of faces in one plane the later one is painted
+// last. Up to `most_pieces` nothing that is further away covers anything nearer; of what is not cut
+// any more, the middles are sorted.
+std::vector<SeenFace> PaintersOrder(std::vector<SeenFace> faces,
+                                    std::size_t most_pieces = kMostFacePieces);
 
 }  // namespace wb

@@ -66,7 +66,7 @@ struct SeenPart {
 double SizeOf(const SeenBox& box) {
   ScenePoint low = {HUGE_VAL, HUGE_VAL};
   ScenePoint high = {-HUGE_VAL, -HUGE_VAL};
-  for (const Point& corner : box.corners) {
+  for (const Point& corner : box) {
     for (std::size_t axis = 0; axis < 2; ++axis) {
       low[axis] = std::min(low[axis], corner[axis]);
       high[axis] = std::max(high[axis], corner[axis]);
@@ -107,31 +107,26 @@ void KeepLargest(std::vector<SeenPart>& parts, std::size_t most) {
   parts.resize(most);
 }
 
-SceneFace FaceOf(const SeenBox& box, std::size_t axis, bool upper) {
-  const std::size_t u = (axis + 1) % 3;
-  const std::size_t v = (axis + 2) % 3;
+SceneFace Drawn(const SeenFace& seen) {
   SceneFace face;
-  for (std::size_t i = 0; i < face.corners.size(); ++i) {
-    const bool far_u = i == 1 || i == 2;
-    const bool far_v = i >= 2;
-    const std::size_t corner =
-        (upper ? 1u << axis : 0u) | (far_u ? 1u << u : 0u) | (far_v ? 1u << v : 0u);
-    face.corners[i] = {box.corners[corner][0], box.corners[corner][1]};
-  }
+  face.box = seen.box;
+  for (const auto& [at, is_edge] : seen.corners) face.corners.push_back({{at[0], at[1]}, is_edge});
   double lit = 0;
-  for (std::size_t k = 0; k < 3; ++k) lit += (upper ? 1 : -1) * box.normals[axis][k] * kLight[k];
+  for (std::size_t k = 0; k < 3; ++k) lit += seen.normal[k] * kLight[k];
   face.light = kLeastLight + (1 - kLeastLight) * std::max(0.0, lit);
   return face;
 }
 
-SceneBox Drawn(const SeenPart& part) {
-  constexpr double kSeenEdgeOn = 1e-9;
-  SceneBox box{part.model->id.Text(), part.look.colour, part.look.transparency, {}};
-  for (std::size_t axis = 0; axis < 3; ++axis) {
-    const double towards = part.box.normals[axis][2];
-    if (std::abs(towards) > kSeenEdgeOn) box.faces.push_back(FaceOf(part.box, axis, towards > 0));
+std::vector<SeenFace> FacesOf(const std::vector<SeenPart>& parts) {
+  std::vector<SeenFace> faces;
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    for (SeenFace& face : FacesTowardsViewer(parts[i].box)) {
+      face.box = i;
+      face.is_opaque = parts[i].look.transparency <= 0;
+      faces.push_back(std::move(face));
+    }
   }
-  return box;
+  return faces;
 }
 
 }  // namespace
@@ -143,9 +138,10 @@ Scene TakeScene(const Model& solid, std::size_t most) {
   scene.model = solid.id.Text();
   scene.left_out = parts.size() > most ? parts.size() - most : 0;
   KeepLargest(parts, most);
-  std::vector<SeenBox> boxes;
-  for (const SeenPart& part : parts) boxes.push_back(part.box);
-  for (const std::size_t at : PaintersOrder(boxes)) scene.boxes.push_back(Drawn(parts[at]));
+  for (const SeenPart& part : parts) {
+    scene.boxes.push_back({part.model->id.Text(), part.look.colour, part.look.transparency});
+  }
+  for (const SeenFace& face : PaintersOrder(FacesOf(parts))) scene.faces.push_back(Drawn(face));
   return scene;
 }
 
@@ -155,9 +151,9 @@ SceneFrame Around(const SceneFrame& a, const SceneFrame& b) {
 
 SceneFrame FrameOf(const Scene& scene) {
   SceneFrame frame = {HUGE_VAL, HUGE_VAL, -HUGE_VAL, -HUGE_VAL};
-  for (const SceneBox& box : scene.boxes) {
-    for (const SceneFace& face : box.faces) {
-      for (const auto& [x, y] : face.corners) frame = Around(frame, {x, y, x, y});
+  for (const SceneFace& face : scene.faces) {
+    for (const auto& [at, is_edge] : face.corners) {
+      frame = Around(frame, {at[0], at[1], at[0], at[1]});
     }
   }
   return frame;

@@ -16,9 +16,16 @@ using ScenePoint = std::array<double, 2>;
 // The left lower and the right upper corner of what is to be seen.
 using SceneFrame = std::array<double, 4>;
 
-// A face that looks at the viewer.
+struct SceneCorner {
+  ScenePoint at{};
+  bool is_edge = true;  // whether the line to the next corner is an edge of the box
+  bool operator==(const SceneCorner&) const = default;
+};
+
+// A face that looks at the viewer, or a piece of one.
 struct SceneFace {
-  std::array<ScenePoint, 4> corners;
+  std::size_t box = 0;  // whose it is
+  std::vector<SceneCorner> corners;
   double light = 1;  // what of its colour is seen, 0 to 1
   bool operator==(const SceneFace&) const = default;
 };
@@ -27,17 +34,17 @@ struct SceneBox {
   std::string model;  // "bolt.prt"
   Rgb colour{};
   double transparency = 0;
-  std::vector<SceneFace> faces;
   // Whether it looks the same, under whatever name.
   bool operator==(const SceneBox& other) const {
-    return colour == other.colour && transparency == other.transparency && faces == other.faces;
+    return colour == other.colour && transparency == other.transparency;
   }
 };
 
 struct Scene {
-  std::string model;            // "pump.asm"; empty: nothing is shown
-  std::vector<SceneBox> boxes;  // each may lie before those that stand in front of it in the list
-  std::size_t left_out = 0;     // boxes beyond those kept, the smallest ones
+  std::string model;             // "pump.asm"; empty: nothing is shown
+  std::vector<SceneBox> boxes;   // some of which others may hide
+  std::vector<SceneFace> faces;  // what is behind first
+  std::size_t left_out = 0;      // boxes beyond those kept, the smallest ones
   bool operator==(const Scene&) const = default;
 };
 

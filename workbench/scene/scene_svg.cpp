@@ -1,4 +1,5 @@
-// Paints boxes one over the other.
+// Paints faces one over the other. Pieces of a face are filled without a smoothed rim, which would
+// show where they meet, and only the edges of the box are drawn.
 #include "workbench/scene/scene_svg.h"
 
 #include <algorithm>
@@ -46,7 +47,9 @@ std::string ColourText(const Rgb& colour, double light) {
 class ScenePainter {
  public:
   ScenePainter(const Scene& scene, const SceneFrame& frame)
-      : scene_(scene), frame_(frame[0] <= frame[2] ? frame : SceneFrame{}) {
+      : scene_(scene),
+        are_few_(scene.boxes.size() <= kFewBoxes),
+        frame_(frame[0] <= frame[2] ? frame : SceneFrame{}) {
     const double width = frame_[2] - frame_[0];
     const double height = frame_[3] - frame_[1];
     const double by_width = width > 0 ? (kWidest - 2 * kEdge) / width : HUGE_VAL;
@@ -58,34 +61,77 @@ class ScenePainter {
   }
 
   std::string Paint() {
-    const bool are_few = scene_.boxes.size() <= kFewBoxes;
     svg_ = "<svg class=\"scene\" xmlns=\"http://www.w3.org/2000/svg\" width=\"" + Short(width_) +
            "\" viewBox=\"0 0 " + Short(width_) + " " + Short(height_) +
            "\"><rect width=\"100%\" height=\"100%\" fill=\"" + kGround + "\"/><g stroke=\"" +
            kSceneInk + "\" stroke-linejoin=\"round\" stroke-width=\"" +
-           Short(are_few ? kThickEdge : kThinEdge) + "\">";
-    for (const SceneBox& box : scene_.boxes) PaintBox(box, are_few);
-    return svg_ + "</g></svg>";
+           Short(are_few_ ? kThickEdge : kThinEdge) + "\">";
+    for (std::size_t i = 0; i < scene_.faces.size(); ++i) {
+      if (StartsRun(i)) StartRun(i);
+      PaintFace(scene_.faces[i]);
+    }
+    return svg_ + (scene_.faces.empty() ? "</g></svg>" : "</g></g></svg>");
   }
 
  private:
-  void PaintBox(const SceneBox& box, bool is_named) {
-    const double opacity = std::max(1 - std::clamp(box.transparency, 0.0, 1.0), kLeastOpacity);
-    svg_ += "<g";
-    if (opacity < 1) svg_ += " fill-opacity=\"" + OpacityText(opacity) + "\"";
-    svg_ += ">";
-    if (is_named) svg_ += "<title>" + EscapeHtml(box.model) + "</title>";
-    for (const SceneFace& face : box.faces) PaintFace(face, box.colour);
-    svg_ += "</g>";
+  // Faces that come after each other are one thing: those of a box, which bears its name, or of
+  // many boxes those that are as clear.
+  bool StartsRun(std::size_t i) const {
+    if (i == 0) return true;
+    const std::size_t box = scene_.faces[i].box;
+    const std::size_t last = scene_.faces[i - 1].box;
+    return are_few_ ? box != last : Opacity(box) != Opacity(last);
   }
 
-  void PaintFace(const SceneFace& face, const Rgb& colour) {
-    svg_ += "<path d=\"M";
-    for (const auto& [x, y] : face.corners) {
-      svg_ += Short(kEdge + (x - frame_[0]) * scale_) + " " +
-              Short(kEdge + (frame_[3] - y) * scale_) + " ";
+  void StartRun(std::size_t i) {
+    const std::size_t box = scene_.faces[i].box;
+    svg_ += i == 0 ? "<g" : "</g><g";
+    if (Opacity(box) < 1) svg_ += " fill-opacity=\"" + OpacityText(Opacity(box)) + "\"";
+    svg_ += ">";
+    if (are_few_) svg_ += "<title>" + EscapeHtml(scene_.boxes[box].model) + "</title>";
+  }
+
+  double Opacity(std::size_t box) const {
+    return std::max(1 - std::clamp(scene_.boxes[box].transparency, 0.0, 1.0), kLeastOpacity);
+  }
+
+  void PaintFace(const SceneFace& face) {
+    const auto is_edge = [](const SceneCorner& corner) { return corner.is_edge; };
+    if (std::ranges::all_of(face.corners, is_edge)) {
+      svg_ += "<path d=\"" + Outline(face) + "\"" + Fill(face) + "/>";
+      return;
     }
-    svg_ += "Z\" fill=\"" + ColourText(colour, face.light) + "\"/>";
+    svg_ += "<path d=\"" + Outline(face) + "\"" + Fill(face) +
+            " stroke=\"none\" shape-rendering=\"crispEdges\"/>";
+    if (std::ranges::any_of(face.corners, is_edge)) {
+      svg_ += "<path d=\"" + Edges(face) + "\" fill=\"none\"/>";
+    }
+  }
+
+  std::string At(const SceneCorner& corner) const {
+    return Short(kEdge + (corner.at[0] - frame_[0]) * scale_) + " " +
+           Short(kEdge + (frame_[3] - corner.at[1]) * scale_) + " ";
+  }
+
+  std::string Outline(const SceneFace& face) const {
+    std::string path = "M";
+    for (const SceneCorner& corner : face.corners) path += At(corner);
+    return path + "Z";
+  }
+
+  std::string Edges(const SceneFace& face) const {
+    std::string path;
+    for (std::size_t i = 0; i < face.corners.size(); ++i) {
+      if (!face.corners[i].is_edge) continue;
+      const bool goes_on = i > 0 && face.corners[i - 1].is_edge;
+      if (!goes_on) path += "M" + At(face.corners[i]);
+      path += "L" + At(face.corners[(i + 1) % face.corners.size()]);
+    }
+    return path;
+  }
+
+  std::string Fill(const SceneFace& face) const {
+    return " fill=\"" + ColourText(scene_.boxes[face.box].colour, face.light) + "\"";
   }
 
   static std::string OpacityText(double opacity) {
@@ -95,6 +141,7 @@ class ScenePainter {
   }
 
   const Scene& scene_;
+  bool are_few_;
   SceneFrame frame_;
   double scale_ = 1;
   double width_ = 0;
