@@ -290,6 +290,12 @@ class ExportWorld : public PluginHost {
     host_.events = {};
   }
 
+  // The first run alone sets the release of DWG files, and has the first of all windows to close.
+  void WarmUp() {
+    WriteDrawings(1, [](int) { return 11; });
+    Export({31, false, 0});
+  }
+
   const TemporaryFolder folder_{"workbench export"};
   Exporter exporter_;
   Plugin plugin_{Installed().dll()};
@@ -314,6 +320,7 @@ TEST_F(ExportWorld, TheFilesOfSixtyDrawingsAreTheWantedOnesInAllCombinations) {
 // Of one kind: four sheets, of as many parts.
 TEST_F(ExportWorld, EachDrawingCostsTheSameNumberOfCalls) {
   std::vector<long> calls;
+  WarmUp();
   for (const int count : {30, 60, 90}) {
     WriteDrawings(count, [](int i) { return 420 * i + 7; });
     Export({31, true, 0});
@@ -323,6 +330,7 @@ TEST_F(ExportWorld, EachDrawingCostsTheSameNumberOfCalls) {
 }
 
 TEST_F(ExportWorld, EachSheetCostsTheSameNumberOfCalls) {
+  WarmUp();
   for (const bool per_sheet : {false, true}) {
     std::vector<long> calls;
     for (const int number : {5, 2, 7}) {  // two, three, four sheets
