@@ -8,6 +8,7 @@
 #include "workbench/base/utf8_text.h"
 #include "workbench/main/subcommands.h"
 #include "workbench/plugin/install_tree.h"
+#include "workbench/plugin/plugin_entry.h"
 #include "workbench/reasons/own_path.h"
 #include "workbench/report/report.h"
 #include "workbench/script/script_watch.h"
@@ -23,20 +24,33 @@ namespace {
 constexpr unsigned kHangSeconds = 600;
 constexpr unsigned kFirstRunHangSeconds = 60;
 
+// Needs no memory: a crash of the plug-in is followed by what failed before.
 void PrintFailures(const RunRecord& record, size_t from) {
   for (size_t i = from; i < record.failures.size(); ++i) {
     const RunFailure& failure = record.failures[i];
-    std::string place = failure.file;
-    if (failure.line != 0) place += ":" + std::to_string(failure.line);
-    std::printf("%s: %s\n", place.c_str(), failure.text.c_str());
+    std::printf("%s", failure.file.c_str());
+    if (failure.line != 0) std::printf(":%d", failure.line);
+    std::printf(": %s\n", failure.text.c_str());
   }
+}
+
+// The script that runs, for the end of the process.
+const RunRecord* running_record = nullptr;
+size_t first_failure = 0;
+
+void TellFailuresSoFar() {
+  if (running_record != nullptr) PrintFailures(*running_record, first_failure);
 }
 
 void RunOne(const std::string& script, const ScriptOptions& options, RunRecord& record,
             bool* readable) {
   const size_t failures = record.failures.size();
   const std::string name = OwnPath(PathFromUtf8(script));
+  running_record = &record;
+  first_failure = failures;
+  AfterLastWords(&TellFailuresSoFar);
   const ScriptOutcome outcome = RunScriptFile(PathFromUtf8(script), options, record);
+  running_record = nullptr;
   PrintFailures(record, failures);
   *readable = *readable && outcome.readable;
   if (!outcome.not_real.empty()) {
@@ -89,6 +103,7 @@ void RunApart(const std::string& script, const CommandLine& line, RunRecord& rec
   for (const char* option : {"--out", "--plugin", "--install", "--fault"}) {
     if (line.Has(option)) arguments.insert(arguments.end(), {option, line.Value(option)});
   }
+  if (line.Has("--other-habits")) arguments.push_back("--other-habits");
   TakeOver(script, OutputOf(ProgramFile(), arguments).value_or(""), record);
 }
 
@@ -110,7 +125,7 @@ MemorySweepOptions FirstRunOption(const std::string& text) {
 
 int RunScriptsCommand(const CommandArguments& arguments) {
   const CommandLine line(
-      arguments, {"--all-allocations"},
+      arguments, {"--all-allocations", "--other-habits"},
       {"--out", "--report", "--trace", "--plugin", "--install", "--fault", "--first-run"});
   if (line.words().empty()) throw UsageError("run wants one script or more");
   ScriptOptions options;
@@ -119,6 +134,7 @@ int RunScriptsCommand(const CommandArguments& arguments) {
   options.out = line.Path("--out");
   options.trace = line.Path("--trace");
   options.report = line.Path("--report");
+  options.other_habits = line.Has("--other-habits");
   options.fault = FaultOption(line.Value("--fault"));
   options.memory = FirstRunOption(line.Value("--first-run"));
   options.memory.all = line.Has("--all-allocations");

@@ -23,18 +23,14 @@ std::vector<fs::path> FilesBelow(const fs::path& folder) {
   return files;
 }
 
-// Only settings files are kept in memory by Windows.
-void FlushIfProfile(const fs::path& file) {
-  if (file.extension() == ".ini") FlushProfile(file);
-}
-
+// Entries of settings are written through at once.
 std::string Content(const fs::path& file) {
-  FlushIfProfile(file);
   return ReadFileBytes(file).value_or("");
 }
 
+// Windows keeps what it has read of a settings file.
 void WriteBack(const fs::path& file, const std::string& content) {
-  FlushIfProfile(file);
+  if (file.extension() == ".ini") FlushProfile(file);
   fs::create_directories(file.parent_path());
   std::ofstream(file, std::ios::binary | std::ios::trunc) << content;
 }
@@ -59,38 +55,45 @@ void PutBack(const Model& held, const std::vector<bool>& resolved, Session& sess
 
 }  // namespace
 
-FolderSnapshot::FolderSnapshot(fs::path folder) : folder_(std::move(folder)) {
-  for (const fs::path& file : FilesBelow(folder_)) files_[file] = Content(file);
+FileContents FilesWithContents(const fs::path& folder) {
+  FileContents files;
+  for (const fs::path& file : FilesBelow(folder)) files[file] = Content(file);
+  return files;
 }
 
+FolderContents ContentsOf(const std::vector<fs::path>& folders) {
+  FolderContents contents;
+  for (const fs::path& folder : folders) contents.push_back(FilesWithContents(folder));
+  return contents;
+}
+
+FolderSnapshot::FolderSnapshot(fs::path folder)
+    : folder_(std::move(folder)), files_(FilesWithContents(folder_)) {}
+
 std::vector<std::pair<std::string, std::string>> FolderSnapshot::Differences() const {
+  return DifferencesOf(FilesWithContents(folder_));
+}
+
+std::vector<std::pair<std::string, std::string>> FolderSnapshot::DifferencesOf(
+    const FileContents& now) const {
   std::vector<std::pair<std::string, std::string>> differences;
-  std::set<fs::path> present;
-  for (const fs::path& file : FilesBelow(folder_)) {
-    present.insert(file);
+  for (const auto& [file, content] : now) {
     const auto held = files_.find(file);
     if (held == files_.end()) {
       differences.emplace_back(PathToUtf8(file), "new");
-    } else if (Content(file) != held->second) {
+    } else if (content != held->second) {
       differences.emplace_back(PathToUtf8(file), "changed");
     }
   }
   for (const auto& [file, content] : files_) {
-    if (!present.contains(file)) differences.emplace_back(PathToUtf8(file), "deleted");
+    if (!now.contains(file)) differences.emplace_back(PathToUtf8(file), "deleted");
   }
   return differences;
 }
 
-std::string FolderSnapshot::TextNow() const {
-  std::string text;
-  for (const auto& [file, what] : Differences()) {
-    text += what + " " + file + "\n" + Content(PathFromUtf8(file)) + "\n";
-  }
-  return text;
-}
-
-void FolderSnapshot::Restore() const {
-  for (const auto& [name, what] : Differences()) {
+bool FolderSnapshot::Restore(const FileContents& now) const {
+  const auto differences = DifferencesOf(now);
+  for (const auto& [name, what] : differences) {
     const fs::path file = PathFromUtf8(name);
     if (what == "new") {
       fs::remove(file);
@@ -98,12 +101,16 @@ void FolderSnapshot::Restore() const {
       WriteBack(file, files_.at(file));
     }
   }
+  return !differences.empty();
 }
 
 SessionSnapshot::SessionSnapshot(const Host& host, const std::vector<fs::path>& folders)
-    : current_window_(host.session.current_window()),
+    : folder_paths_(folders),
+      current_window_(host.session.current_window()),
       active_window_(host.session.active_window()),
       working_directory_(host.session.working_directory()),
+      current_folder_(fs::current_path()),
+      clipboard_(ClipboardText().value_or("")),
       options_(host.options) {
   for (const auto& model : host.session.models()) {
     models_.push_back({*model, ResolvedLinks(*model)});
@@ -143,6 +150,10 @@ void SessionSnapshot::RestoreWindows(Session& session) const {
 }
 
 void SessionSnapshot::Restore(Host& host) const {
+  Restore(host, ContentsOf(folder_paths_));
+}
+
+bool SessionSnapshot::Restore(Host& host, const FolderContents& now) const {
   RestoreModels(host.session);
   RestoreWindows(host.session);
   host.session.selection_buffer.clear();
@@ -153,8 +164,12 @@ void SessionSnapshot::Restore(Host& host) const {
     host.session.selection_buffer.push_back(pick);
   }
   host.session.ChangeDirectory(working_directory_);
+  fs::current_path(current_folder_);
   host.options = options_;
-  for (const FolderSnapshot& folder : folders_) folder.Restore();
+  if (ClipboardText().value_or("") != clipboard_) SetClipboardText(clipboard_);
+  bool has_touched = false;
+  for (size_t i = 0; i < folders_.size(); ++i) has_touched |= folders_[i].Restore(now[i]);
+  return has_touched;
 }
 
 }  // namespace wb
