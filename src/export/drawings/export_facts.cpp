@@ -85,6 +85,7 @@ class ModelReader {
  public:
   ModelReader(const NamingRule& naming, const ExportOptions& options)
       : naming_(naming),
+        reads_parameters_(options.NamesFiles()),
         reads_identity_(options.WritesModels()),
         reads_name_(reads_identity_ || (options.per_sheet && naming.Uses(NameToken::kName))) {}
 
@@ -100,6 +101,7 @@ class ModelReader {
     ModelFacts facts;
     if (reads_name_) facts.name = ModelName(solid);
     if (reads_identity_ && facts.name) facts.identity = Identity(solid, *facts.name);
+    if (!reads_parameters_) return facts;
     for (ParameterText& read : ReadParameterTexts(solid, naming_.parameters)) {
       facts.parameters.push_back(std::move(read.text));
     }
@@ -116,6 +118,7 @@ class ModelReader {
   }
 
   const NamingRule& naming_;
+  const bool reads_parameters_;
   const bool reads_identity_;
   const bool reads_name_;
   HandleIndex index_;
@@ -130,7 +133,9 @@ class DrawingReader {
   void Read() {
     const ModelFacts& first = models_.Of(drawing_.solid.handle);
     drawing_.solid.identity = first.identity;
-    drawing_.facts.base_name = FileName(naming_, {Size(kFirst), drawing_.name, first.parameters});
+    if (options_.NamesFiles()) {
+      drawing_.facts.base_name = FileName(naming_, {Size(kFirst), drawing_.name, first.parameters});
+    }
     drawing_.facts.sheet_count = CountSheets(drawing_.drawing);
     const int count = drawing_.facts.sheet_count.value_or(0);
     if (!NeedsViews(options_, count)) return;
@@ -154,7 +159,9 @@ class DrawingReader {
     ExportSolid solid{shown.solid, {}};
     if (shown.solid != nullptr) {
       const ModelFacts& model = models_.Of(shown.solid);
-      facts.name = FileName(naming_, {Size(sheet), model.name, model.parameters});
+      if (options_.NamesFiles()) {
+        facts.name = FileName(naming_, {Size(sheet), model.name, model.parameters});
+      }
       facts.model = model.name;
       solid.identity = model.identity;
     }

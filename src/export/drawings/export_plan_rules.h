@@ -45,6 +45,8 @@ struct ExportOptions {
   bool Writes(ExportFormat format) const { return formats[static_cast<std::size_t>(format)]; }
   bool WritesDrawings() const;
   bool WritesModels() const;
+  // Whether a file is named by the naming rule. Those of the models on the sheets are not.
+  bool NamesFiles() const { return !per_sheet || WritesDrawings(); }
 };
 
 // Whether the models on the sheets decide names or contents.

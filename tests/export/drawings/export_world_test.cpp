@@ -2,7 +2,6 @@
 // the host, in which order and under which names, against lists that are written down here a second
 // time, from the facts of the world alone. And how the calls grow.
 #include <algorithm>
-#include <bit>
 #include <cstdio>
 #include <functional>
 
@@ -285,12 +284,6 @@ class ExportWorld : public PluginHost {
     return drawings;
   }
 
-  // Each format alone, and all.
-  static bool IsWhole(unsigned combination) {
-    const int formats = std::popcount(combination & 31);
-    return formats == 1 || formats == 5;
-  }
-
   void ExpectFiles(unsigned combination, std::vector<DrawingCase> drawings, long erasures) {
     std::ranges::sort(drawings, {},
                       [](const DrawingCase& drawing) { return ToWide(drawing.name); });
@@ -317,24 +310,22 @@ class ExportWorld : public PluginHost {
   Plugin plugin_{Installed().dll()};
 };
 
-// Sixty drawings with each format and with all of them; of the other combinations five drawings,
-// others each time.
+// Sixty drawings with all formats; of the other combinations two drawings, others each time.
 TEST_F(ExportWorld, TheFilesOfSixtyDrawingsAreTheWantedOnesInAllCombinations) {
   for (unsigned combination = 0; combination < 64; ++combination) {
-    if (IsWhole(combination)) continue;
-    const unsigned first = combination * 5;
-    ExpectFiles(combination, WriteDrawings(5, [&](int i) { return (first + i) % kDrawings; }), 1);
+    if ((combination & 31) == 31) continue;
+    const unsigned first = combination * 2;
+    ExpectFiles(combination, WriteDrawings(2, [&](int i) { return (first + i) % kDrawings; }), 1);
   }
   const auto drawings = WriteDrawings(kDrawings, [](int i) { return i; });
-  for (unsigned combination = 0; combination < 64; ++combination) {
-    if (IsWhole(combination)) ExpectFiles(combination, drawings, 2);
-  }
+  for (const unsigned combination : {31, 63}) ExpectFiles(combination, drawings, 2);
 }
 
 // Of one kind: four sheets, of as many parts. What is set up once for all is set up in a first run.
+// The session is cleared once in each.
 TEST_F(ExportWorld, EachDrawingCostsTheSameNumberOfCalls) {
   std::vector<long> calls;
-  for (const int count : {1, 30, 60, 90}) {
+  for (const int count : {1, 2, 16, 30}) {
     WriteDrawings(count, [](int i) { return 420 * i + 7; });
     Export({31, true, 0});
     calls.push_back(exporter_.calls);
