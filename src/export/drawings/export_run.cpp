@@ -48,14 +48,15 @@ class ExportRun {
     }
   }
 
-  void Tell() { record_.Tell(); }
+  ProError Tell() { return record_.Tell(); }
 
  private:
-  // Before anything is written. The host is asked for these files as well: it may know a way.
+  // Before anything is written. The host is asked for most of these files as well: it may know a
+  // way.
   void TellUnfitNames(const std::vector<PlannedFile>& files) const {
     for (const PlannedFile& file : files) {
       const bool fits = PathOf(file).size() < PRO_PATH_SIZE && IsWindowsFileName(file.name);
-      if (file.plan != FilePlan::kWrite || fits) continue;
+      if (file.name.empty() || fits) continue;
       LogEvent("Windows cannot hold a file of the name " + ToUtf8(file.name));
       DisplayNote("Windows cannot hold the file name %0w", file.name.c_str());
     }
@@ -104,7 +105,7 @@ void ClearSession() {
 
 }  // namespace
 
-void ExportDrawings(const ExportWishes& wishes) {
+ProError ExportDrawings(const ExportWishes& wishes) {
   const auto folder = CurrentFolder();
   ExportRun run(wishes, folder.value_or(std::wstring()));
   const size_t count = wishes.drawings.size();
@@ -119,8 +120,9 @@ void ExportDrawings(const ExportWishes& wishes) {
     // Long runs would fill the session. Deliberately not after a drawing that was passed over.
     if (run.Export(name) && position % kClearingStep == 0) ClearSession();
   }
-  run.Tell();
+  const ProError status = run.Tell();
   ShowMessage(kDone);
+  return status;
 }
 
 }  // namespace qm
