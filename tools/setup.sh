@@ -10,6 +10,9 @@ packages=(
   wine wine64                            # run Windows programs
   googletest nlohmann-json3-dev libgtest-dev
   librsvg2-bin zip unzip                 # icons, package
+  python3-ezdxf python3-cairo            # DXF and PDF files of the workbench:
+  python3-gi-cairo gir1.2-rsvg-2.0       #   made by its companion,
+  poppler-utils fonts-noto-cjk           #   read, with Chinese letters
   locales                                # Chinese code page for the tests
   python3 clang-format clang-tidy        # documents from sources, checks of sources
 )

@@ -25,5 +25,7 @@ PRO_FUNCTION(ProError, ProMdlDisplay, ProMdl model);
 // The window that shows it; 0 is one.
 PRO_FUNCTION(ProError, ProMdlWindowGet, ProMdl model, int* window);
 PRO_FUNCTION(ProError, ProMdlSave, ProMdl model);
+// Out of session with all that no window shows and no shown model needs: handles to them die.
+PRO_FUNCTION(ProError, ProMdlEraseNotDisplayed);
 PRO_FUNCTION(ProError, ProMdlIsSkeleton, ProMdl model, ProBoolean* is_skeleton);
 PRO_FUNCTION(ProError, ProMfgAssemGet, ProMfg mfg, ProAssembly* assembly);

@@ -271,8 +271,43 @@ typedef enum {
 
 // Files that the host writes of a model, by number.
 typedef enum {
+  PRO_DXF_FILE = 9,
+  PRO_IGES_3D_FILE = 21,
+  PRO_STEP_FILE = 22,
   PRO_DWG_FILE = 34,
 } ProImportExportFile;
+
+// Which sheets of a drawing a file shows. The number of the last is given: a chosen sheet.
+typedef enum {
+  PRO2DEXPORT_CURRENT_TO_MODEL_SPACE = 0,
+  PRO2DEXPORT_CURRENT_TO_PAPER_SPACE = 1,
+  PRO2DEXPORT_ALL = 2,
+  PRO2DEXPORT_SELECTED = 3,
+} Pro2dSheetoption;
+
+// Options of PDF files, by number; the two flags take a ProBoolean, the others a number.
+typedef enum {
+  PRO_PDFOPT_FONT_STROKE = 0,
+  PRO_PDFOPT_COLOR_DEPTH = 1,
+  PRO_PDFOPT_LAUNCH_VIEWER = 5,
+  PRO_PDFOPT_PENTABLE = 25,
+  PRO_PDFOPT_SHEETS = 28,
+} ProPDFOptiontype;
+typedef enum { PRO_PDF_USE_TRUE_TYPE_FONTS = 0, PRO_PDF_STROKE_ALL_FONTS = 1 } ProPDFFontStrokeMode;
+typedef enum { PRO_PDF_CD_COLOR = 0, PRO_PDF_CD_GRAY = 1, PRO_PDF_CD_MONO = 2 } ProPDFColorDepth;
+typedef enum {
+  PRO_PRINT_CURRENT_SHEET = 0,
+  PRO_PRINT_ALL_SHEETS = 1,
+  PRO_PRINT_SELECTED_SHEETS = 2
+} ProPrintSheets;
+
+// How many rows or columns of a table the user can select.
+typedef enum {
+  PROUISELPOLICY_SINGLE = 1,
+  PROUISELPOLICY_BROWSE = 2,
+  PROUISELPOLICY_MULTIPLE = 3,
+  PROUISELPOLICY_EXTENDED = 4,
+} ProUISelectionpolicy;
 
 // The record of a model's data (ProMdldata): the two orders of its texts that are known, each in
 // characters from the start of the record.

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "toolkit/array.h"
+#include "toolkit/export.h"
 #include "toolkit/geometry.h"
 #include "toolkit/selection.h"
 #include "toolkit/status.h"
@@ -58,6 +59,12 @@ inline void Environment(ProSelectionEnv environment) {
 inline void Geometry(ProGeomitemdata* data) {
   ProGeomitemdataFree(&data);
 }
+inline void Data2d(Pro2dExportdata data) {
+  Pro2dExportdataFree(data);
+}
+inline void PdfOptions(ProPDFOptions options) {
+  ProPDFoptionsFree(options);
+}
 template <typename T>
 void Array(T* items) {
   ProArray array = items;
@@ -68,6 +75,8 @@ void Array(T* items) {
 
 using WideText = Owner<wchar_t*, &release::Text>;
 using SelectionEnvironment = Owner<ProSelectionEnv, &release::Environment>;
+using ExportData = Owner<Pro2dExportdata, &release::Data2d>;
+using PdfOptions = Owner<ProPDFOptions, &release::PdfOptions>;
 using GeometryData = Owner<ProGeomitemdata*, &release::Geometry>;
 
 // Number of elements of one of the host's arrays; 0 for none or when the host does not tell.

@@ -43,6 +43,14 @@ PRO_FUNCTION(ProError, ProUITableCellBackgroundColorGet, const char* dialog, con
 // Names of the selected rows, freed with ProStringarrayFree.
 PRO_FUNCTION(ProError, ProUITableSelectednamesGet, const char* dialog, const char* component,
              int* count, char*** names);
+// Count 0 with null selects none.
+PRO_FUNCTION(ProError, ProUITableSelectednamesSet, const char* dialog, const char* component,
+             int count, char** names);
+// How many rows and columns the user can select; rows that are selected may be lost.
+PRO_FUNCTION(ProError, ProUITableSelectionpolicySet, const char* dialog, const char* component,
+             ProUISelectionpolicy policy);
+PRO_FUNCTION(ProError, ProUITableColumnselectionpolicySet, const char* dialog,
+             const char* component, ProUISelectionpolicy policy);
 // Double-click on a row.
 PRO_FUNCTION(ProError, ProUITableActivateActionSet, const char* dialog, const char* component,
              ProUIAction action, ProAppData data);

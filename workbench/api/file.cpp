@@ -115,9 +115,12 @@ ProError ProFilesList(wchar_t* folder, wchar_t* filter, ProFileListOpt option, P
           throw NotModelled{"file list option " + std::to_string(static_cast<int>(wanted))};
         }
         const fs::path at = call.host.session.working_directory() / PathFromUtf8(where);
-        const bool latest_alone = wanted == PRO_FILE_LIST_LATEST;
-        AddPaths(call, file_place, PathsOf(FilesIn(at, patterns), latest_alone));
+        const Habits& habits = call.host.habits;
+        const bool latest_alone = wanted == PRO_FILE_LIST_LATEST && !habits.file_list_repeats_names;
+        const std::vector<fs::path> found = PathsOf(FilesIn(at, patterns), latest_alone);
+        AddPaths(call, file_place, found);
         AddPaths(call, folder_place, FoldersIn(at));
+        return found.empty() && habits.empty_file_list_fails ? PRO_TK_E_NOT_FOUND : PRO_TK_NO_ERROR;
       });
 }
 

@@ -193,6 +193,10 @@ ProError ProMdlSave(ProMdl model) {
   });
 }
 
+ProError ProMdlEraseNotDisplayed() {
+  return Crossing(__func__).Run([](const Call& call) { call.host.session.EraseNotDisplayed(); });
+}
+
 ProError ProMdlIsSkeleton(ProMdl model, ProBoolean* is_skeleton) {
   return Crossing(__func__, ModelIn{model}, Out(is_skeleton, "answer place"))
       .Run([](const Model& from, ProBoolean& place) {

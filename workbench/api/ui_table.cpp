@@ -167,6 +167,33 @@ ProError ProUITableSelectednamesGet(const char* dialog, const char* component, i
       .Run([](const TableModel& table, ListPlace<char> place) { place = table.SelectedRows(); });
 }
 
+ProError ProUITableSelectednamesSet(const char* dialog, const char* component, int count,
+                                    char** names) {
+  return Crossing(__func__, TableIn(dialog, component), NamesIn{count, names})
+      .Run([](const Call& call, TableModel& table, const Names& rows) {
+        return Answer(call, table.SelectRows(rows));
+      });
+}
+
+ProError ProUITableSelectionpolicySet(const char* dialog, const char* component,
+                                      ProUISelectionpolicy policy) {
+  return Crossing(__func__, TableIn(dialog, component), policy)
+      .Run([](const Call& call, TableModel& table, ProUISelectionpolicy wanted) {
+        const ProError status = Answer(call, table.SetPolicy(wanted));
+        if (call.host.habits.selection_policy_clears_selection) table.SelectRows({});
+        return status;
+      });
+}
+
+ProError ProUITableColumnselectionpolicySet(const char* dialog, const char* component,
+                                            ProUISelectionpolicy policy) {
+  return Crossing(__func__, TableIn(dialog, component), policy)
+      .Run([](const Call& call, const TableModel&, ProUISelectionpolicy wanted) {
+        // Nobody selects columns here.
+        return Answer(call, IsPolicy(wanted) ? UiStatus::kOk : UiStatus::kBadArgument);
+      });
+}
+
 ProError ProUITableActivateActionSet(const char* dialog, const char* component, ProUIAction action,
                                      ProAppData data) {
   return BindFieldAction(__func__, dialog, component, {FieldKind::kTable, kActivateEvent}, action,

@@ -110,6 +110,26 @@ ProError ProObjectwindowCreate(ProName name, ProType type, int* window) {
       });
 }
 
+ProError ProWindowCurrentClose() {
+  return Crossing(__func__).Run([](const Call& call) {
+    Session& session = call.host.session;
+    const Window* const current = session.FindWindow(session.current_window());
+    if (current == nullptr || current->model == nullptr) return PRO_TK_BAD_CONTEXT;
+    session.CloseWindow(current->id);
+    return PRO_TK_NO_ERROR;
+  });
+}
+
+ProError ProWindowDelete(int window) {
+  return Crossing(__func__, WindowIn{window}).Run([](const Call& call, const Window& wanted) {
+    Session& session = call.host.session;
+    const bool stays = wanted.id == kBaseWindow || wanted.id == session.current_window();
+    if (stays) return PRO_TK_BAD_CONTEXT;
+    session.CloseWindow(wanted.id);
+    return PRO_TK_NO_ERROR;
+  });
+}
+
 ProError ProTreetoolRefresh(ProMdl model) {
   return Crossing(__func__, ModelIn{model}).Run([](const Call& call, const Model& shown) {
     call.host.events.Add(TreeRefresh{shown.id.Text()});
@@ -127,6 +147,26 @@ ProError ProDirectoryChange(ProPath path) {
   return Crossing(__func__, PathIn{path, "folder"})
       .Run([](const Call& call, const std::filesystem::path& folder) {
         return call.host.session.ChangeDirectory(folder) ? PRO_TK_NO_ERROR : PRO_TK_INVALID_DIR;
+      });
+}
+
+ProError ProConfigoptGet(wchar_t* option, wchar_t* value) {
+  return Crossing(__func__, TextIn{option, PRO_PATH_SIZE, "option"}, OutText{value, PRO_PATH_SIZE})
+      .Run([](const Call& call, const std::string& name, TextPlace place) {
+        const auto found = call.host.options.find(FoldCase(name));
+        if (found == call.host.options.end() || found->second.empty()) return PRO_TK_E_NOT_FOUND;
+        place = found->second.front();
+        return PRO_TK_NO_ERROR;
+      });
+}
+
+ProError ProConfigoptSet(wchar_t* option, wchar_t* value) {
+  return Crossing(__func__, TextIn{option, PRO_PATH_SIZE, "option"},
+                  TextIn{value, PRO_PATH_SIZE, "value"})
+      .Run([](const Call& call, const std::string& name, const std::string& text) {
+        // Those of several values are the search paths; the host has no list of them to ask.
+        if (FoldCase(name) == "search_path") throw NotModelled{"adding to " + name};
+        call.host.options[FoldCase(name)] = {text};
       });
 }
 
@@ -161,6 +201,25 @@ ProError ProFileOpen(wchar_t* title, wchar_t* filter, ProPath* shortcut_paths,
         const auto choice = call.host.user->ChooseFile(request);
         if (!choice) return PRO_TK_USER_ABORT;
         place = *choice;
+        return PRO_TK_NO_ERROR;
+      });
+}
+
+ProError ProDirectoryChoose(wchar_t* title, ProPath* shortcut_paths, ProName* shortcut_names,
+                            wchar_t* start_folder, ProPath chosen) {
+  return Crossing(__func__, OptionalPathTextIn(title, "title"), DataIn{shortcut_paths},
+                  DataIn{shortcut_names}, OptionalPathTextIn(start_folder, "start folder"),
+                  OutText{chosen, PRO_PATH_SIZE})
+      .Run([](const Call& call, const std::string& shown_title, void*, void*,
+              const std::string& folder, TextPlace place) {
+        FileRequest request;
+        request.asked_by = call.function;
+        request.title = shown_title;
+        request.start_folder = folder;
+        if (call.host.user == nullptr) return PRO_TK_USER_ABORT;
+        const auto choice = call.host.user->ChooseFile(request);
+        if (!choice) return PRO_TK_USER_ABORT;
+        place = call.host.habits.chosen_folder_has_separator ? WithSeparator(*choice) : *choice;
         return PRO_TK_NO_ERROR;
       });
 }

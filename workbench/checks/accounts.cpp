@@ -20,6 +20,8 @@ constexpr ResourceRow kResources[] = {
     {Resource::kWideTextArray, "wide text array"},
     {Resource::kGeometryData, "geometry data"},
     {Resource::kDialog, "dialog"},
+    {Resource::kExportData, "export data"},
+    {Resource::kPdfOptions, "PDF options"},
 };
 
 }  // namespace

@@ -17,6 +17,8 @@ enum class Resource {
   kWideTextArray,
   kGeometryData,
   kDialog,
+  kExportData,
+  kPdfOptions,
 };
 const char* ResourceWord(Resource resource);
 

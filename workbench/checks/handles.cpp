@@ -35,6 +35,8 @@ constexpr KindRow kKinds[] = {
     {HandleKind::kSelection, "selection"}, {HandleKind::kSelectionEnv, "selection environment"},
     {HandleKind::kCommand, "command"},     {HandleKind::kSurface, "surface"},
     {HandleKind::kView, "view"},
+    {HandleKind::kExportData, "export data"},
+    {HandleKind::kPdfOptions, "PDF options"},
 };
 
 uint64_t KeyInside(HandleKind kind, int id) {

@@ -19,6 +19,8 @@ enum class HandleKind : uint8_t {
   kCommand,
   kSurface,
   kView,
+  kExportData,
+  kPdfOptions,
 };
 const char* HandleKindWord(HandleKind kind);
 

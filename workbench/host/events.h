@@ -44,6 +44,15 @@ struct ShellCall {
   int show = 0;
 };
 
+// A file of another program that a writer of the host's has made.
+struct ExportedFile {
+  std::string path;
+  std::string format;     // "PDF"
+  std::string model;      // "plate.drw"
+  bool is_real = false;   // otherwise it is a text that stands for the host's file
+  std::string trouble{};  // why it is none, where it could be; empty: there is nothing to tell
+};
+
 // A macro that the host is to run once the command has ended. None is carried out.
 struct QueuedMacro {
   std::string text;
@@ -78,9 +87,9 @@ struct FileProblem {
   std::string text;
 };
 
-using Event =
-    std::variant<Note, MissingText, Repaint, TreeRefresh, PickOptions, MessageBox, FileRequest,
-                 ShellCall, QueuedMacro, MouseEvent, ClassRequest, Breach, Gap, FileProblem>;
+using Event = std::variant<Note, MissingText, Repaint, TreeRefresh, PickOptions, MessageBox,
+                           FileRequest, ShellCall, ExportedFile, QueuedMacro, MouseEvent,
+                           ClassRequest, Breach, Gap, FileProblem>;
 
 class Events {
  public:

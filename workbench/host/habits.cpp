@@ -30,6 +30,11 @@ std::span<const HabitRow> HabitRows() {
       {"untouched_dimension_has_no_lines", &Habits::untouched_dimension_has_no_lines},
       {"untouched_dimension_text_fails", &Habits::untouched_dimension_text_fails},
       {"tolerances_are_taken_for_numbers", &Habits::tolerances_are_taken_for_numbers},
+      {"selection_policy_clears_selection", &Habits::selection_policy_clears_selection},
+      {"undisplayed_drawing_is_not_exported", &Habits::undisplayed_drawing_is_not_exported},
+      {"empty_file_list_fails", &Habits::empty_file_list_fails},
+      {"file_list_repeats_names", &Habits::file_list_repeats_names},
+      {"chosen_folder_has_separator", &Habits::chosen_folder_has_separator},
   };
   return kRows;
 }

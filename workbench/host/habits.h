@@ -32,6 +32,11 @@ struct Habits {
   bool resources_lie_beside_text = false;            // in `resource`, instead of `text/resource`
   bool surface_data_has_unknown_order = false;
   bool parameter_record_has_unknown_order = false;
+  bool selection_policy_clears_selection = false;    // of a table's rows
+  bool undisplayed_drawing_is_not_exported = false;  // to DWG and DXF
+  bool empty_file_list_fails = false;                // with "not found", instead of no files
+  bool file_list_repeats_names = false;      // one for each version, asked for the newest alone
+  bool chosen_folder_has_separator = false;  // at its end
 };
 
 struct HabitRow {

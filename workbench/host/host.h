@@ -14,6 +14,7 @@
 #include "workbench/host/automation.h"
 #include "workbench/host/commands.h"
 #include "workbench/host/events.h"
+#include "workbench/host/file_writers.h"
 #include "workbench/host/habits.h"
 #include "workbench/host/live_dialog.h"
 #include "workbench/host/message_area.h"
@@ -46,7 +47,9 @@ struct Host {
   std::string language = "chinese_cn";   // folder of the message files
   std::map<std::string, std::vector<std::string>> options;  // configuration options, lower case
   Habits habits;
-  int forced_mode = -1;  // mode to report; -1: by the current model
+  FileWriters writers;
+  bool companion_is_missing = false;  // who else makes the files of other programs real
+  int forced_mode = -1;               // mode to report; -1: by the current model
 
   std::unordered_set<PickedItem*> picked;  // live selections
   std::vector<void*> last_picks;           // selection handles of the last interactive pick

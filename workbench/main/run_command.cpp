@@ -39,6 +39,10 @@ void RunOne(const std::string& script, const ScriptOptions& options, RunRecord& 
   const ScriptOutcome outcome = RunScriptFile(PathFromUtf8(script), options, record);
   PrintFailures(record, failures);
   *readable = *readable && outcome.readable;
+  if (!outcome.not_real.empty()) {
+    std::printf("%s: %s\n", name.c_str(), outcome.not_real.c_str());
+    record.facts.emplace_back("Not real", name + ": " + outcome.not_real);
+  }
   if (outcome.skipped.empty()) {
     std::printf("%s: %d checks passed, %d failed\n", name.c_str(), outcome.passed, outcome.failed);
   } else {

@@ -90,10 +90,22 @@ void CommandRecorder::NoteFiles() {
   }
 }
 
+// "new: PDF of plate.drw" for a file that one of the host's writers made.
+std::string CommandRecorder::WhatOf(const std::filesystem::path& file,
+                                    const std::string& change) const {
+  const std::string path = PathToUtf8(file.lexically_normal());
+  for (const ExportedFile& written : run_.host.events.Since<ExportedFile>(run_.marks.begin)) {
+    if (PathToUtf8(PathFromUtf8(written.path).lexically_normal()) != path) continue;
+    const std::string of = written.format + " of " + written.model;
+    return change + ": " + (written.is_real ? of : "stands for the " + of);
+  }
+  return change;
+}
+
 void CommandRecorder::NoteFile(const Watched& watched, const std::filesystem::path& file,
                                const std::string& what) {
   WrittenFile& written = record().files.emplace_back();
-  written = {OwnPath(file), what, "", ""};
+  written = {OwnPath(file), WhatOf(file, what), "", ""};
   if (what == "deleted") return;
   if (record().files.size() > kMostFilesKept) {
     written.no_copy = "it is one of too many";

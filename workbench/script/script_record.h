@@ -38,6 +38,7 @@ class CommandRecorder {
   void NoteShown();
   void NoteCalls();
   void NoteFiles();
+  std::string WhatOf(const std::filesystem::path& file, const std::string& change) const;
   void NoteFile(const Watched& watched, const std::filesystem::path& file, const std::string& what);
   void NoteOpened();
 

@@ -133,10 +133,11 @@ void SessionSnapshot::RestoreModels(Session& session) const {
 }
 
 void SessionSnapshot::RestoreWindows(Session& session) const {
-  for (const Window& window : session.windows()) session.FindWindow(window.id)->model = nullptr;
+  std::vector<Window> windows;
   for (const HeldWindow& held : windows_) {
-    session.FindWindow(held.id)->model = held.shows_model ? session.Find(held.model) : nullptr;
+    windows.push_back({held.id, held.shows_model ? session.Find(held.model) : nullptr});
   }
+  session.PutWindows(std::move(windows));
   session.ActivateWindow(active_window_);
   session.SetCurrentWindow(current_window_);
 }

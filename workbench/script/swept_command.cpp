@@ -49,6 +49,7 @@ std::vector<std::string> SweptCommand::Complaints(const CommandRun& result,
 
 std::vector<std::string> SweptCommand::ComplaintsOfClean(const CommandRun& clean) {
   changes_directory_ = clean.directory_before != clean.directory_after;
+  options_after_ = run_.host.options;
   return Complaints(clean, "");
 }
 
@@ -62,7 +63,8 @@ void SweptCommand::CheckRestored(const CommandRun& result,
   if (!may_change && result.directory_before != result.directory_after) {
     complaints->push_back("the working directory was left changed");
   }
-  if (run_.host.options != options_) complaints->push_back("an option was left changed");
+  const bool option_changed = run_.host.options != options_ && run_.host.options != options_after_;
+  if (option_changed) complaints->push_back("an option was left changed");
 }
 
 }  // namespace wb

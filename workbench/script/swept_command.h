@@ -41,7 +41,8 @@ class SweptCommand {
   ScriptRun& run_;
   const Statement& statement_;
   const bool kept_lines_;
-  const std::map<std::string, std::vector<std::string>> options_;  // before the sweep
+  const std::map<std::string, std::vector<std::string>> options_;             // before the sweep
+  std::map<std::string, std::vector<std::string>> options_after_ = options_;  // without faults
   bool changes_directory_ = false;  // the command does so without any fault
   bool all_calls_fail_ = false;     // from some call on: nothing can be changed back
 };

@@ -194,20 +194,56 @@ bool Session::IsReadOnly(const std::filesystem::path& folder) const {
 }
 
 void Session::Erase(Model& model) {
+  EraseAll({&model});
+}
+
+void Session::EraseAll(const std::unordered_set<Model*>& models) {
   for (const auto& other : models_) {
     ForEachLink(*other, [&](ModelLink& link) {
-      if (link.model == &model) link.model = nullptr;
+      if (models.contains(link.model)) link.model = nullptr;
     });
   }
   for (Window& window : windows_) {
-    if (window.model == &model) window.model = nullptr;
+    if (models.contains(window.model)) window.model = nullptr;
   }
   std::erase_if(selection_buffer, [&](const PickedItem& item) {
-    return item.owner == &model || item.root == &model;
+    return models.contains(item.owner) || models.contains(item.root);
   });
-  if (on_leave) on_leave(model);
-  by_name_.erase(Key(model.id));
-  std::erase_if(models_, [&](const auto& held) { return held.get() == &model; });
+  for (Model* const model : models) {
+    if (on_leave) on_leave(*model);
+    by_name_.erase(Key(model->id));
+  }
+  std::erase_if(models_, [&](const auto& held) { return models.contains(held.get()); });
+}
+
+std::unordered_set<Model*> Session::Displayed() {
+  std::unordered_set<Model*> displayed;
+  std::vector<Model*> ahead;
+  const auto need = [&](Model* model) {
+    if (model != nullptr && displayed.insert(model).second) ahead.push_back(model);
+  };
+  for (const Window& window : windows_) need(window.model);
+  while (!ahead.empty()) {
+    Model& model = *ahead.back();
+    ahead.pop_back();
+    ForEachLink(model, [&](const ModelLink& link) { need(link.model); });
+    const DrawingContent* const drawing = model.As<DrawingContent>();
+    if (drawing == nullptr) continue;
+    for (const Sheet& sheet : drawing->sheets) {
+      const std::string name = sheet.format.substr(0, sheet.format.rfind('.'));
+      if (!name.empty()) need(Find({name, ModelKind::kFormat}));
+    }
+  }
+  return displayed;
+}
+
+void Session::EraseNotDisplayed() {
+  const std::unordered_set<Model*> displayed = Displayed();
+  std::unordered_set<Model*> others;
+  for (const auto& model : models_) {
+    if (!displayed.contains(model.get())) others.insert(model.get());
+  }
+  EraseAll(others);
 }
 
 std::filesystem::path Session::Save(Model& model) {
@@ -231,6 +267,16 @@ Window& Session::ShowInWindow(Model& model) {
   if (Window* shown = FindWindowOf(model)) return *shown;
   windows_.push_back({next_window_++, &model});
   return windows_.back();
+}
+
+void Session::CloseWindow(int id) {
+  std::erase_if(windows_,
+                [&](const Window& window) { return window.id == id && window.id != kBaseWindow; });
+  Window* const base = FindWindow(kBaseWindow);
+  if (id == kBaseWindow && base != nullptr) base->model = nullptr;
+  const int remaining = base != nullptr ? kBaseWindow : kNoWindow;
+  if (current_window_ == id) current_window_ = remaining;
+  if (active_window_ == id) active_window_ = remaining;
 }
 
 Window* Session::FindWindow(int id) {

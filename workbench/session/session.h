@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "workbench/session/model.h"
@@ -38,6 +39,7 @@ class FolderIndex {
 
 // Ids count from 0, the base window; this one stands for none.
 inline constexpr int kNoWindow = -1;
+inline constexpr int kBaseWindow = 0;
 
 struct Window {
   int id = 0;
@@ -82,6 +84,8 @@ class Session {
   // The same, and what follows from it in a drawing: what has been left out of its views.
   void Complete(Model& model);
   void Erase(Model& model);
+  // All that no window shows and no shown model needs, to any depth.
+  void EraseNotDisplayed();
   // Writes a new version into the model's folder (the working directory for a new model).
   std::filesystem::path Save(Model& model);
   const std::deque<std::unique_ptr<Model>>& models() const { return models_; }
@@ -89,6 +93,11 @@ class Session {
   // The model of the current window; null when no window shows one.
   Model* Current() const;
   Window& ShowInWindow(Model& model);
+  // The window goes, its model stays in session. The base window stays, empty; it is what remains
+  // to be current and active.
+  void CloseWindow(int id);
+  // Makes these the windows; ids of windows that have gone are not given again.
+  void PutWindows(std::vector<Window> windows) { windows_ = std::move(windows); }
   Window* FindWindow(int id);
   Window* FindWindowOf(const Model& model);
   // The user works in it; it is the current one as well.
@@ -110,6 +119,8 @@ class Session {
   void RefuseCycle(const std::vector<Model*>& loaded, const FolderIndex& folder);
   Model* Load(const ModelName& name, const FolderIndex& folder);
   Model& Enter(Model model);
+  std::unordered_set<Model*> Displayed();
+  void EraseAll(const std::unordered_set<Model*>& models);
 
   std::filesystem::path working_directory_;
   std::deque<std::unique_ptr<Model>> models_;

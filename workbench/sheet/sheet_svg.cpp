@@ -37,9 +37,19 @@ constexpr double kCellFill = 0.6;    // of a cell's height, for its letters
 constexpr double kLimitLetters = 0.66;
 
 constexpr const char* kInk = "#14181d";
+constexpr const char* kBlack = "#000";
 constexpr const char* kFonts =
     "'Segoe UI','Microsoft YaHei','PingFang SC','Noto Sans CJK SC','Source Han Sans SC',SimSun,"
     "'Segoe UI Symbol','DejaVu Sans',sans-serif";
+
+// What distinguishes texts and hidden edges on a page.
+std::string PageStyle(PageInk ink, bool stroked) {
+  constexpr const char* kStyles[] = {
+      ".dimension{fill:#1246a8}.note{fill:#0a6b2d}.hidden{stroke:#9a5b00}",
+      ".dimension,.note{fill:#555}.hidden{stroke:#777}", ""};
+  const std::string letters = "text{fill:none;stroke:#000;stroke-width:.25}";
+  return kStyles[static_cast<std::size_t>(ink)] + (stroked ? letters : "");
+}
 
 const char* HaloOf(SheetMark mark) {
   switch (mark) {
@@ -133,9 +143,31 @@ class SheetPainter {
     Measure();
   }
 
+  explicit SheetPainter(const SheetPicture& sheet)
+      : sheet_(sheet), other_(nullptr), moment_(SheetMoment::kAfter), ink_(kBlack) {
+    const SheetSize* const known = FindSheetSize(sheet.size);
+    size_ = known == nullptr ? kUnknownSize : *known;
+  }
+
   std::string Paint() {
     Open();
     Paper();
+    return PaintRest();
+  }
+
+  Page PaintPage(const std::string& style) {
+    const std::string width = N(size_.width);
+    const std::string height = N(size_.height);
+    svg_ = "<svg xmlns=\"http://www.w3.org/2000/svg\"" + Attribute("width", width + "mm") +
+           Attribute("height", height + "mm") +
+           Attribute("viewBox", "0 0 " + width + " " + height) + Letters() + "><style>" + style +
+           "</style>";
+    return {PaintRest(), size_.width, size_.height};
+  }
+
+ private:
+  std::string PaintRest() {
+    Frame();
     for (const TablePicture& table : sheet_.tables) Table(table);
     for (const ViewPicture& view : sheet_.views) View(view);
     Texts(sheet_.dimensions, "dimension", true);
@@ -143,7 +175,6 @@ class SheetPainter {
     return svg_ + "</svg>";
   }
 
- private:
   template <typename Item, typename Area>
   void Enclose(const std::vector<Item>& items, const Area& area_of) {
     for (const Item& item : items) {
@@ -187,9 +218,14 @@ class SheetPainter {
            attributes + "/>";
   }
 
-  static std::string Lines(double width, const char* fill = "none") {
-    return Attribute("fill", fill) + Attribute("stroke", kInk) +
+  std::string Lines(double width, const char* fill = "none") const {
+    return Attribute("fill", fill) + Attribute("stroke", ink_) +
            Attribute("stroke-width", N(width));
+  }
+
+  std::string Letters() const {
+    return Attribute("fill", ink_) + Attribute("font-family", kFonts) +
+           Attribute("font-size", N(letters_)) + Attribute("stroke-linejoin", "round");
   }
 
   void Open() {
@@ -199,8 +235,7 @@ class SheetPainter {
            Attribute("width", N(std::round(pixels_))) +
            Attribute("viewBox", N(seen_[0] - kDesk) + " " + N(Down(seen_[3]) - kDesk) + " " +
                                     N(width) + " " + N(height)) +
-           Attribute("fill", kInk) + Attribute("font-family", kFonts) +
-           Attribute("font-size", N(letters_)) + Attribute("stroke-linejoin", "round") + ">";
+           Letters() + ">";
     const Outline all = {seen_[0] - kDesk, seen_[1] - kDesk, seen_[2] + kDesk, seen_[3] + kDesk};
     svg_ += Rectangle(all, Attribute("fill", "#e4e7eb"));
   }
@@ -209,6 +244,9 @@ class SheetPainter {
     svg_ += Rectangle({0, 0, size_.width, size_.height},
                       Attribute("class", "paper") + Attribute("fill", "#fff") +
                           Attribute("stroke", "#8d98a4") + Attribute("stroke-width", N(thin_)));
+  }
+
+  void Frame() {
     if (sheet_.format.empty()) return;
     const double edge = std::max(size_.width, size_.height) > kNarrowFrom ? kWideEdge : kNarrowEdge;
     const Outline frame = {kBindingEdge, edge, size_.width - edge, size_.height - edge};
@@ -378,6 +416,7 @@ class SheetPainter {
   const SheetPicture& sheet_;
   const SheetPicture* const other_;
   const SheetMoment moment_;
+  const char* const ink_ = kInk;
   SheetSize size_ = kUnknownSize;
   Outline seen_{};  // the paper and all that lies beside it
   double pixels_ = kMostPixels;
@@ -392,6 +431,15 @@ class SheetPainter {
 
 std::string DrawSheet(const SheetPicture& sheet, const SheetPicture* other, SheetMoment moment) {
   return SheetPainter(sheet, other, moment).Paint();
+}
+
+Page DrawPage(const SheetPicture& sheet, PageInk ink, bool stroked) {
+  if (ink != PageInk::kMono) return SheetPainter(sheet).PaintPage(PageStyle(ink, stroked));
+  SheetPicture plain = sheet;
+  for (ViewPicture& view : plain.views) {
+    if (view.style == DisplayStyle::kShaded) view.style = DisplayStyle::kDefault;
+  }
+  return SheetPainter(plain).PaintPage(PageStyle(ink, stroked));
 }
 
 }  // namespace wb

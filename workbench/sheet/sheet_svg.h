@@ -14,4 +14,15 @@ namespace wb {
 std::string DrawSheet(const SheetPicture& sheet, const SheetPicture* other = nullptr,
                       SheetMoment moment = SheetMoment::kAfter);
 
+// How much of its colours a page shows.
+enum class PageInk { kColour, kGrey, kMono };
+
+struct Page {
+  std::string svg;   // of the paper alone, which is not drawn, at its true size
+  double width = 0;  // in millimetres
+  double height = 0;
+};
+// The sheet as it is printed. `stroked`: letters are lines, and no text.
+Page DrawPage(const SheetPicture& sheet, PageInk ink = PageInk::kColour, bool stroked = false);
+
 }  // namespace wb

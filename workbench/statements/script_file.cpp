@@ -14,6 +14,19 @@ void FailWhole(const std::string& file, int line, const std::string& why, RunRec
   record.failures.push_back({file, line, why, -1});
 }
 
+// "3 files only stand for the host's, such as PDF/a.pdf: there is no companion"; "" for none.
+std::string NotReal(const ScriptRun& run) {
+  size_t count = 0;
+  ExportedFile first;
+  for (const ExportedFile& written : run.host.events.All<ExportedFile>()) {
+    if (!written.trouble.empty() && count++ == 0) first = written;
+  }
+  if (count == 0) return "";
+  const auto below = PathFromUtf8(first.path).lexically_relative(run.folders.work);
+  return std::to_string(count) + " files only stand for the host's, such as " + PathToUtf8(below) +
+         ": " + first.trouble;
+}
+
 }  // namespace
 
 ScriptOutcome RunScriptFile(const std::filesystem::path& file, const ScriptOptions& options,
@@ -32,7 +45,9 @@ ScriptOutcome RunScriptFile(const std::filesystem::path& file, const ScriptOptio
   }
   outcome.readable = record.failed == failed_before;
   if (outcome.readable) {
-    outcome.skipped = ScriptRun(PathToUtf8(file), options, record).RunAll(script.statements);
+    ScriptRun run(PathToUtf8(file), options, record);
+    outcome.skipped = run.RunAll(script.statements);
+    outcome.not_real = NotReal(run);
   }
   if (outcome.skipped.empty() && record.passed == passed_before && record.failed == failed_before) {
     FailWhole(name, 0, "checks nothing; it needs a \"run\" or an \"expect\" at least", record);

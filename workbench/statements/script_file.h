@@ -14,6 +14,8 @@ struct ScriptOutcome {
   int failed = 0;
   bool readable = true;  // false: the file cannot be read or has errors, and nothing of it ran
   std::string skipped;   // why it was not run here; empty: it was
+  // Which files only stand for the host's although they could be real, and why; empty: none.
+  std::string not_real;
 };
 
 // Reads, checks and runs one script, and adds to `record` what happened.

@@ -6,10 +6,10 @@
 namespace wb {
 
 std::vector<StatementForms> StatementFamilies() {
-  return {FolderStatements(), ModelStatements(),     FactStatements(),        StateStatements(),
-          LifeStatements(),   FaultStatements(),     SpreadsheetStatements(), AnswerStatements(),
-          DialogStatements(), ActionExpectations(),  ModelExpectations(),     FileExpectations(),
-          CallExpectations(), RegistryExpectations()};
+  return {FolderStatements(), ModelStatements(),  FactStatements(),        StateStatements(),
+          LifeStatements(),   FaultStatements(),  SpreadsheetStatements(), ExportStatements(),
+          AnswerStatements(), DialogStatements(), ActionExpectations(),    ModelExpectations(),
+          FileExpectations(), CallExpectations(), RegistryExpectations()};
 }
 
 StatementForms AllStatements() {

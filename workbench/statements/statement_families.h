@@ -15,6 +15,7 @@ StatementForms StateStatements();
 StatementForms LifeStatements();
 StatementForms FaultStatements();
 StatementForms SpreadsheetStatements();
+StatementForms ExportStatements();
 StatementForms DialogStatements();
 StatementForms ActionExpectations();
 StatementForms ModelExpectations();

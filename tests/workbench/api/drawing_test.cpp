@@ -171,19 +171,5 @@ TEST_F(DrawingContract, TablesAreWalkedAndDeleted) {
   ProArrayFree(reinterpret_cast<ProArray*>(&tables));
 }
 
-TEST_F(DrawingContract, TheDwgFileOfADisplayedDrawingSaysThatItStandsForOne) {
-  std::wstring file = (folder_ / "plate-12").wstring();
-  file.resize(PRO_PATH_SIZE);
-  EXPECT_EQ(Pro2dExport(PRO_DWG_FILE, file.data(), drawing_->handle, nullptr),
-            PRO_TK_NOT_DISPLAYED);
-  EXPECT_EQ(Pro2dExport(PRO_DWG_FILE, file.data(), drw_->handle, nullptr), PRO_TK_NO_ERROR);
-  std::ifstream in(folder_ / "plate-12.dwg");
-  std::string text;
-  std::getline(in, text);
-  EXPECT_EQ(text, "This file stands for the DWG file of sheet 1 of plate.drw.");
-  host_.session.MakeReadOnly(folder_);
-  EXPECT_EQ(Pro2dExport(PRO_DWG_FILE, file.data(), drw_->handle, nullptr), PRO_TK_CANT_WRITE);
-}
-
 }  // namespace
 }  // namespace wb

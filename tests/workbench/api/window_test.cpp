@@ -28,5 +28,47 @@ TEST_F(HostContract, WindowsShowWhatIsDisplayed) {
   EXPECT_EQ(host_.session.windows().size(), 1u);
 }
 
+TEST_F(HostContract, WindowsCloseAsTheUserClosesThem) {
+  Session& session = host_.session;
+  session.ActivateWindow(session.ShowInWindow(*box_).id);
+  const int second = session.ShowInWindow(*lid_).id;
+  const int third = session.ShowInWindow(*drawing_).id;
+  session.SetCurrentWindow(second);
+  Check({
+      {"the base one", [&] { return ProWindowDelete(kBaseWindow); }, PRO_TK_BAD_CONTEXT},
+      {"the current one", [&] { return ProWindowDelete(second); }, PRO_TK_BAD_CONTEXT},
+      {"another one", [&] { return ProWindowDelete(third); }, PRO_TK_NO_ERROR},
+      {"once more", [&] { return ProWindowDelete(third); }, PRO_TK_BAD_INPUTS,
+       "ProWindowDelete: there is no window 2"},
+      {"the current one closed", [&] { return ProWindowCurrentClose(); }, PRO_TK_NO_ERROR},
+  });
+  EXPECT_EQ(session.Current(), box_);
+  EXPECT_EQ(ProWindowCurrentClose(), PRO_TK_NO_ERROR);
+  EXPECT_EQ(session.Current(), nullptr);
+  EXPECT_EQ(ProWindowCurrentClose(), PRO_TK_BAD_CONTEXT);
+}
+
+TEST_F(HostContract, ErasingWhatIsNotDisplayedEndsTheOtherHandles) {
+  Model& other = host_.session.Add(Model({"other", ModelKind::kPart}));
+  const ProMdl other_handle = other.handle;
+  host_.session.ShowInWindow(*box_);
+  EXPECT_EQ(ProMdlEraseNotDisplayed(), PRO_TK_NO_ERROR);
+  ProName name;
+  EXPECT_EQ(ProMdlNameGet(lid_->handle, name), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProMdlNameGet(other_handle, name), PRO_TK_BAD_INPUTS);
+  EXPECT_EQ(Breaches(),
+            Lines{"plug-in misused ProMdlNameGet: stale model handle (its object is gone)"});
+}
+
+TEST_F(HostContract, OptionsAreReadAndSetForTheSession) {
+  std::wstring name = L"DWG_export_format";
+  std::wstring text = L"2000";
+  ProPath value = {};
+  EXPECT_EQ(ProConfigoptGet(name.data(), value), PRO_TK_E_NOT_FOUND);
+  EXPECT_EQ(ProConfigoptSet(name.data(), text.data()), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProConfigoptGet(name.data(), value), PRO_TK_NO_ERROR);
+  EXPECT_EQ(std::wstring(value), text);
+}
+
 }  // namespace
 }  // namespace wb

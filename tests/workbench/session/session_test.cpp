@@ -100,6 +100,24 @@ TEST_F(SessionFiles, AModelPlacedInSeveralAssembliesIsNoCycle) {
   EXPECT_EQ(session_.models().size(), 4u);
 }
 
+TEST_F(SessionFiles, WhatNoShownModelNeedsIsErased) {
+  Session session;
+  for (const char* name : {"bolt", "nut", "gear"}) session.Add(Model({name, ModelKind::kPart}));
+  Model pump({"pump", ModelKind::kAssembly});
+  pump.solid().features.Add(NewComponent(1, {"bolt", ModelKind::kPart}));
+  Model& added = session.Add(std::move(pump));
+  session.Add(Model({"frame", ModelKind::kFormat}));
+  session.Add(Model({"other", ModelKind::kFormat}));
+  Model drawing({"pump", ModelKind::kDrawing});
+  drawing.content = DrawingContent{.shows = ModelLink{added.id, &added}};
+  drawing.As<DrawingContent>()->sheets.push_back({.format = "frame.frm"});
+  session.ShowInWindow(session.Add(std::move(drawing)));
+  session.EraseNotDisplayed();
+  std::vector<std::string> left;
+  for (const auto& model : session.models()) left.push_back(model->id.Text());
+  EXPECT_EQ(left, (std::vector<std::string>{"bolt.prt", "pump.asm", "frame.frm", "pump.drw"}));
+}
+
 TEST_F(SessionFiles, AFullPathMeansThatFileAndThoseBesideIt) {
   Write("bolt.prt", "\"note\": \"first\"");
   fs::copy_file(folder_ / "bolt.prt.1", folder_ / "bolt.prt.3");

@@ -280,5 +280,22 @@ TEST_F(SheetSvg, NumbersOutOfAllMeasureHarmNobody) {
   EXPECT_EQ(Svg().find("nan"), std::string::npos);
 }
 
+TEST_F(SheetSvg, APageIsThePaperAtItsTrueSizeInItsInks) {
+  View(kNoRotation, {100, 100}, DisplayStyle::kShaded);
+  Drawing().dimensions.Add({.id = 4, .sheet = 1, .place = {900, 200}, .value = 300});
+  const Page page = DrawPage(Picture());
+  EXPECT_TRUE(
+      page.svg.starts_with("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"594mm\" "
+                           "height=\"420mm\" viewBox=\"0 0 594 420\""));
+  EXPECT_EQ(page.width, 594);
+  EXPECT_EQ(page.height, kHeightOfA2);
+  ExpectNear(ReadViews(page.svg).begin()->second.outline, Drawing().views.begin()->outline, "view");
+  const std::string mono = DrawPage(Picture(), PageInk::kMono, true).svg;
+  const std::regex coloured("#(?!000\\b|fff\\b)[0-9a-f]");
+  EXPECT_TRUE(std::regex_search(page.svg, coloured));
+  EXPECT_FALSE(std::regex_search(mono, coloured)) << mono;
+  EXPECT_NE(mono.find("text{fill:none"), mono.npos);
+}
+
 }  // namespace
 }  // namespace wb

@@ -1,0 +1,224 @@
+// Files of other programs: what the writers make, what they refuse, and what is in the real ones.
+#include <nlohmann/json.hpp>
+
+#include "tests/workbench/api/drawing_contract.h"
+#include "workbench/base/utf8_text.h"
+#include "workbench/companion/companion.h"
+#include "workbench/sheet/dxf_reader.h"
+
+namespace wb {
+namespace {
+
+class ExportContract : public DrawingContract {
+ protected:
+  ExportContract() {
+    Drawing().sheets[1].size = "A2";
+    GeneralView();
+    Drawing().views.begin()->place = {100, 150};
+    Drawing().dimensions.Add({.id = 4, .sheet = 1, .place = {100, 200}, .value = 300});
+    Drawing().notes.Add({.id = 5, .sheet = 2, .place = {50, 60}, .text = "未注倒角 C1"});
+  }
+  ~ExportContract() override {
+    EXPECT_EQ(host_.accounts.Describe(), Lines());
+    EXPECT_EQ(Breaches(), Lines());
+  }
+
+  static std::wstring PathText(std::wstring text) {
+    text.resize(PRO_PATH_SIZE);
+    return text;
+  }
+  std::string Content(const char* name) const {
+    return ReadFileBytes(folder_ / name).value_or("no file");
+  }
+  // Of a chosen sheet, as batches write it.
+  ProError Export2d(int type, const wchar_t* file, int sheet) {
+    Pro2dExportdata data = nullptr;
+    EXPECT_EQ(Pro2dExportdataAlloc(&data), PRO_TK_NO_ERROR);
+    EXPECT_EQ(Pro2dExportdataSheetoptionSet(data, PRO2DEXPORT_SELECTED), PRO_TK_NO_ERROR);
+    EXPECT_EQ(Pro2dExportdataModelspacesheetSet(data, sheet), PRO_TK_NO_ERROR);
+    const ProError status = Pro2dExport(type, PathText(file).data(), drw_->handle, data);
+    EXPECT_EQ(Pro2dExportdataFree(data), PRO_TK_NO_ERROR);
+    return status;
+  }
+  struct PdfChoice {
+    int option;
+    int value;
+  };
+  ProError ExportPdf(const wchar_t* file, const std::vector<PdfChoice>& choices) {
+    ProPDFOptions options = nullptr;
+    EXPECT_EQ(ProPDFoptionsAlloc(&options), PRO_TK_NO_ERROR);
+    for (const PdfChoice& choice : choices) {
+      EXPECT_EQ(ProPDFoptionsIntpropertySet(options, choice.option, choice.value), PRO_TK_NO_ERROR);
+    }
+    ProPDFoptionsBoolpropertySet(options, PRO_PDFOPT_LAUNCH_VIEWER, PRO_B_FALSE);
+    const ProError status = ProPDFExport(drw_->handle, PathText(file).data(), options);
+    EXPECT_EQ(ProPDFoptionsFree(options), PRO_TK_NO_ERROR);
+    return status;
+  }
+  // What programs that did not write it read in it.
+  nlohmann::json ReadPdf(const char* name) const {
+    const auto& answer = TheCompanion().Ask(R"({"want":"read pdf"})", Content(name));
+    EXPECT_EQ(answer.trouble, "");
+    return answer.bytes.empty() ? nlohmann::json() : nlohmann::json::parse(answer.bytes);
+  }
+};
+
+bool HasCompanion() {
+  return TheCompanion().Ask(R"({"want":"nothing"})").trouble.starts_with("it knows nothing");
+}
+
+TEST_F(ExportContract, WhatIsLentForAnExportIsUsedByItsRules) {
+  Pro2dExportdata data = nullptr;
+  ProPDFOptions options = nullptr;
+  std::wstring file = PathText(L"a");
+  Check({
+      {"data", [&] { return Pro2dExportdataAlloc(&data); }, PRO_TK_NO_ERROR},
+      {"options", [&] { return ProPDFoptionsAlloc(&options); }, PRO_TK_NO_ERROR},
+      {"nothing set", [&] { return Pro2dExport(PRO_DXF_FILE, file.data(), drw_->handle, data); },
+       PRO_TK_BAD_INPUTS, "Pro2dExport: export data without a sheet option"},
+      {"sheet 0", [&] { return Pro2dExportdataModelspacesheetSet(data, 0); }, PRO_TK_BAD_INPUTS,
+       "Pro2dExportdataModelspacesheetSet: sheet 0"},
+      {"a flag as a number", [&] { return ProPDFoptionsIntpropertySet(options, 5, 0); },
+       PRO_TK_INVALID_TYPE},
+      {"a number as a flag", [&] { return ProPDFoptionsBoolpropertySet(options, 0, PRO_B_TRUE); },
+       PRO_TK_INVALID_TYPE},
+      {"no such colour", [&] { return ProPDFoptionsIntpropertySet(options, 1, 3); },
+       PRO_TK_BAD_INPUTS, "ProPDFoptionsIntpropertySet: value 3 of option 1"},
+      {"another option", [&] { return ProPDFoptionsIntpropertySet(options, 4, 300); },
+       PRO_TK_GENERAL_ERROR, "", "option 4 of PDF files"},
+      {"freed", [&] { return Pro2dExportdataFree(data); }, PRO_TK_NO_ERROR},
+      {"freed twice", [&] { return Pro2dExportdataFree(data); }, PRO_TK_BAD_INPUTS,
+       "Pro2dExportdataFree: export data used after it was freed"},
+      {"used after", [&] { return Pro2dExportdataModelspacesheetSet(data, 1); }, PRO_TK_BAD_INPUTS,
+       "Pro2dExportdataModelspacesheetSet: stale export data handle (its object is gone)"},
+  });
+  EXPECT_EQ(host_.accounts.Describe(), Lines{"PDF options from ProPDFoptionsAlloc (call 2)"});
+  EXPECT_EQ(ProPDFoptionsFree(options), PRO_TK_NO_ERROR);
+}
+
+TEST_F(ExportContract, AFileOfAnotherFormatTellsWhatItStandsForAndHowItWasAskedFor) {
+  host_.options["dwg_export_format"] = {"2000"};
+  EXPECT_EQ(Export2d(PRO_DWG_FILE, L"A-2", 2), PRO_TK_NO_ERROR);
+  EXPECT_EQ(Content("A-2.dwg"),
+            "This file stands for the DWG file of sheet 2 of plate.drw.\n"
+            "Pro2dExport, type 34, sheet option 3, model-space sheet 2, dwg_export_format 2000.\n");
+  EXPECT_EQ(Export2d(PRO_DWG_FILE, L"A-3", 3), PRO_TK_BAD_INPUTS);
+  std::wstring step = PathText(L"plate.stp");
+  EXPECT_EQ(ProOutputFileWrite(plate_->handle, PRO_STEP_FILE, step.data(), nullptr, nullptr,
+                               nullptr, nullptr),
+            PRO_TK_NO_ERROR);
+  EXPECT_EQ(Content("plate.stp"),
+            "This file stands for the STEP file of plate.prt.\n"
+            "ProOutputFileWrite, type 22, no further arguments.\n");
+  EXPECT_EQ(ProOutputFileWrite(drw_->handle, PRO_IGES_3D_FILE, step.data(), nullptr, nullptr,
+                               nullptr, nullptr),
+            PRO_TK_INVALID_TYPE);
+}
+
+TEST_F(ExportContract, DrawingsWithoutAWindowAreExportedAsTheHostsHabitIs) {
+  host_.session.FindWindowOf(*drw_)->model = nullptr;
+  EXPECT_EQ(Export2d(PRO_DWG_FILE, L"a", 1), PRO_TK_NO_ERROR);
+  host_.habits.undisplayed_drawing_is_not_exported = true;
+  EXPECT_EQ(Export2d(PRO_DWG_FILE, L"b", 1), PRO_TK_NOT_DISPLAYED);
+  EXPECT_EQ(ExportPdf(L"a.pdf", {}), PRO_TK_NOT_DISPLAYED);
+}
+
+TEST_F(ExportContract, WritersDoWhatTheyAreTold) {
+  host_.writers.Order(std::nullopt, WriterConduct::kFails, "");
+  host_.writers.Order(FileFormat::kDwg, WriterConduct::kWritesNothing, "");
+  host_.writers.Order(FileFormat::kDwg, WriterConduct::kWritesEmpty, "B.dwg");
+  EXPECT_EQ(Export2d(PRO_DWG_FILE, L"a.dwg", 1), PRO_TK_NO_ERROR);
+  EXPECT_EQ(Content("a.dwg"), "no file");
+  EXPECT_EQ(Export2d(PRO_DWG_FILE, L"b.dwg", 1), PRO_TK_NO_ERROR);
+  EXPECT_EQ(Content("b.dwg"), "");
+  EXPECT_EQ(Export2d(PRO_DXF_FILE, L"b.dxf", 1), PRO_TK_CANT_WRITE);
+  host_.writers.Order(FileFormat::kDwg, WriterConduct::kWorks, "");
+  EXPECT_EQ(Export2d(PRO_DWG_FILE, L"missing/a.dwg", 1), PRO_TK_CANT_WRITE);
+  EXPECT_EQ(Export2d(PRO_DWG_FILE, L"a.dwg", 1), PRO_TK_NO_ERROR);
+  host_.session.MakeReadOnly(folder_);
+  EXPECT_EQ(Export2d(PRO_DWG_FILE, L"a.dwg", 1), PRO_TK_CANT_WRITE);
+}
+
+TEST_F(ExportContract, ADxfFileShowsItsSheet) {
+  if (!HasCompanion()) GTEST_SKIP();
+  EXPECT_EQ(Export2d(PRO_DXF_FILE, L"a", 1), PRO_TK_NO_ERROR);
+  const DxfFile first = ReadDxf(Content("a.dxf"));
+  EXPECT_EQ(first.properties.at("Drawing"), "plate.drw");
+  EXPECT_EQ(first.properties.at("Sheet"), "1");
+  ASSERT_EQ(first.texts.size(), 1u);
+  EXPECT_EQ(first.texts[0].layer + " " + first.texts[0].text, "DIMENSION 300");
+  EXPECT_EQ(first.lines.at("VIEW_1"), 1);
+  EXPECT_EQ(Export2d(PRO_DXF_FILE, L"b", 2), PRO_TK_NO_ERROR);
+  const DxfFile second = ReadDxf(Content("b.dxf"));
+  ASSERT_EQ(second.texts.size(), 1u);
+  EXPECT_EQ(second.texts[0].layer + " " + second.texts[0].text, "NOTE 未注倒角 C1");
+  EXPECT_TRUE(second.lines.empty());
+}
+
+TEST_F(ExportContract, APdfFileShowsItsSheetsAndItsOptions) {
+  if (!HasCompanion()) GTEST_SKIP();
+  EXPECT_EQ(ExportPdf(L"a.pdf", {}), PRO_TK_NO_ERROR);
+  const auto all = ReadPdf("a.pdf");
+  ASSERT_EQ(all["pages"].size(), 2u);
+  EXPECT_EQ(all["pages"][0]["texts"], nlohmann::json({"300"}));
+  EXPECT_EQ(all["pages"][1]["texts"], nlohmann::json({"未注倒角 C1"}));
+  EXPECT_EQ(all["pages"][1]["names"], nlohmann::json({"sheet 2, A2"}));
+  EXPECT_EQ(all["pages"][0]["names"].size(), 2u);
+  EXPECT_EQ(all["colour"], "colour");
+  EXPECT_EQ(all["subject"], "options 5=0");
+  Drawing().current_sheet = 2;
+  EXPECT_EQ(ExportPdf(L"b.pdf", {{PRO_PDFOPT_COLOR_DEPTH, PRO_PDF_CD_GRAY},
+                                 {PRO_PDFOPT_SHEETS, PRO_PRINT_CURRENT_SHEET}}),
+            PRO_TK_NO_ERROR);
+  const auto current = ReadPdf("b.pdf");
+  ASSERT_EQ(current["pages"].size(), 1u);
+  EXPECT_EQ(current["pages"][0]["texts"], nlohmann::json({"未注倒角 C1"}));
+  EXPECT_EQ(current["colour"], "grey");
+  EXPECT_EQ(ExportPdf(L"c.pdf", {{PRO_PDFOPT_COLOR_DEPTH, PRO_PDF_CD_MONO},
+                                 {PRO_PDFOPT_FONT_STROKE, PRO_PDF_STROKE_ALL_FONTS}}),
+            PRO_TK_NO_ERROR);
+  const auto stroked = ReadPdf("c.pdf");
+  EXPECT_EQ(stroked["colour"], "mono");
+  EXPECT_EQ(stroked["fonts"], false);
+  EXPECT_EQ(stroked["pages"][0]["texts"], nlohmann::json::array());
+}
+
+TEST_F(ExportContract, AProfileIsLookedForAndWritesTheCurrentSheet) {
+  std::wstring file = PathText(L"p.pdf");
+  std::wstring profile = PathText(L"qmdop");
+  const auto write = [&] {
+    return ProPDFWithProfileExport(drw_->handle, file.data(), profile.data());
+  };
+  EXPECT_EQ(write(), PRO_TK_E_NOT_FOUND);
+  WriteFile("qmdop.dop", "");
+  EXPECT_EQ(write(), PRO_TK_NO_ERROR);
+  if (!HasCompanion()) GTEST_SKIP();
+  const auto read = ReadPdf("p.pdf");
+  EXPECT_EQ(read["pages"].size(), 1u);
+  EXPECT_EQ(read["subject"], "profile qmdop");
+}
+
+TEST_F(ExportContract, WithoutACompanionAFileOnlyStandsForTheHostsAndItIsTold) {
+  host_.companion_is_missing = true;
+  EXPECT_EQ(ExportPdf(L"a.pdf", {{PRO_PDFOPT_COLOR_DEPTH, PRO_PDF_CD_MONO}}), PRO_TK_NO_ERROR);
+  EXPECT_EQ(Content("a.pdf"),
+            "This file stands for the PDF file of sheet 1, 2 of plate.drw.\n"
+            "ProPDFExport, options 1=2 5=0.\n");
+  const auto written = host_.events.All<ExportedFile>();
+  ASSERT_EQ(written.size(), 1u);
+  EXPECT_EQ(written[0].trouble, "the companion is missing");
+}
+
+TEST_F(ExportContract, APdfOpensItsViewerUnlessItIsToldNotTo) {
+  host_.companion_is_missing = true;
+  EXPECT_EQ(ExportPdf(L"a.pdf", {}), PRO_TK_NO_ERROR);
+  EXPECT_TRUE(host_.events.All<ShellCall>().empty());
+  ProPDFOptions options = nullptr;
+  ProPDFoptionsAlloc(&options);
+  EXPECT_EQ(ProPDFExport(drw_->handle, PathText(L"a.pdf").data(), options), PRO_TK_NO_ERROR);
+  EXPECT_EQ(host_.events.All<ShellCall>().size(), 1u);
+  ProPDFoptionsFree(options);
+}
+
+}  // namespace
+}  // namespace wb
