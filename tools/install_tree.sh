@@ -41,6 +41,7 @@ done
 for text in "$source"/QMconfig/*.txt; do
   readme_file "$text" "$out/QMconfig/defaults/$(basename "$text")"
 done
+cp "$source"/QMconfig/*.dop "$out/QMconfig/defaults/"
 for dialog in "$source"/text/resource/*.res; do
   dialog_file "$dialog" "$out/text/resource/$(basename "$dialog")"
 done

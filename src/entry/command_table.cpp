@@ -22,6 +22,10 @@
 #include "drawing/create/twe_views.h"
 #include "entry/not_in_build.h"
 #include "export/bill/bom.h"
+#include "export/drawings/export.h"
+#include "export/drawings/export_dwg.h"
+#include "export/drawings/export_pdf.h"
+#include "export/drawings/export_stp.h"
 #include "frame/commands/about_qm.h"
 #include "frame/commands/box_sel.h"
 #include "frame/commands/box_sel_sur.h"
@@ -78,7 +82,7 @@ constexpr CommandRow kCommandTable[] = {
     {"QmBom",                 "QmBom_Help",                 "QmBom.png",                 &QmBom,          kAssemblyMode,       true},
     {"QmRename",              "QmRename_Help",              "QmRename.png",              &NotInBuild,     kAssemblyMode,       true},
     {"QmRemoveCons",          "QmRemoveCons_Help",          "QmRemoveCons.png",          &NotInBuild,     kAssemblyMode,       true},
-    {"QmExport",              "QmExport_Help",              "QmExport.png",              &NotInBuild,     kAlways,             true},
+    {"QmExport",              "QmExport_Help",              "QmExport.png",              &QmExport,       kAlways,             true},
     {"QmMdlCount",            "QmMdlCount_Help",            "QmMdlCount.png",            &NotInBuild,     kAssemblyMode,       true},
     {"QmNewDrw",              "QmNewDrw_Help",              "QmNewDrw.png",              &QmNewDrw,       kAssemblyMode,       true},
     {"QmDimModify",           "QmDimModify_Help",           "QmDimModify.png",           &QmDimModify,    kDrawingMode,        true},
@@ -86,11 +90,11 @@ constexpr CommandRow kCommandTable[] = {
     {"QmDrwScaleCheck",       "QmDrwScaleCheck_Help",       "QmDrwScaleCheck.png",       &QmDrwScaleCheck, kAlways,             true},
     {"QmSimRep",              "QmSimRep_Help",              "QmSimRep.png",              &NotInBuild,     kAssemblyMode,       true},
     {"QmBox",                 "QmBox_Help",                 "QmBox.png",                 &NotInBuild,     kAssemblyMode,       true},
-    {"QmExportDwg",           "QmExportDwg_Help",           "QmExportDwg.png",           &NotInBuild,     kDrawingMode,        true},
-    {"QmExportPdf",           "QmExportPdf_Help",           "QmExportPdf.png",           &NotInBuild,     kDrawingMode,        true},
+    {"QmExportDwg",           "QmExportDwg_Help",           "QmExportDwg.png",           &QmExportDwg,    kDrawingMode,        true},
+    {"QmExportPdf",           "QmExportPdf_Help",           "QmExportPdf.png",           &QmExportPdf,    kDrawingMode,        true},
     {"QmMdlNameCopy",         "QmMdlNameCopy_Help",         "QmMdlNameCopy.png",         &QmMdlNameCopy,  kAssemblyMode,       true},
     {"QmMdlRename",           "QmMdlRename_Help",           "QmMdlRename.png",           &NotInBuild,     kAssemblyMode,       true},
-    {"QmExportStp",           "QmExportStp_Help",           "QmExportStp.png",           &NotInBuild,     kSolidMode,          true},
+    {"QmExportStp",           "QmExportStp_Help",           "QmExportStp.png",           &QmExportStp,    kSolidMode,          true},
     {"QmUpdateSheetScale",    "QmUpdateSheetScale_Help",    "QmUpdateSheetScale.png",    &QmUpdateSheetScale, kDrawingMode,        true},
     {"QmUpdateMainViewScale", "QmUpdateMainViewScale_Help", "QmUpdateMainViewScale.png", &QmUpdateMainViewScale, kDrawingMode,        true},
     {"QmSingleDim",           "QmSingleDim_Help",           "QmSingleDim.png",           &QmSingleDim,    kDrawingMode,        true},

@@ -13,8 +13,7 @@ inline constexpr std::string_view kNotInBuild[] = {
     "QmClearAllColor", "QmTransparent", "SurfTransparent", "SetMat",          "SetBendTable",
     "QmRelations",     "SetUnit",       "CloneComp",       "CloneAndReplace", "QmMerge",
     "QmMergeTo",       "QmExStp",       "QmExIgs",         "QmExSat",         "QmRename",
-    "QmRemoveCons",    "QmExport",      "QmMdlCount",      "QmSimRep",        "QmBox",
-    "QmExportDwg",     "QmExportPdf",   "QmMdlRename",     "QmExportStp",
+    "QmRemoveCons",    "QmMdlCount",    "QmSimRep",        "QmBox",           "QmMdlRename",
 };
 
 // Says in a caption box that the command is not in this build.

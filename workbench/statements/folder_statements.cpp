@@ -71,6 +71,12 @@ void Write(ScriptRun& run, const Statement& statement) {
   if (!out) throw ScriptError(PathToUtf8(file) + " cannot be written");
 }
 
+void Delete(ScriptRun& run, const Statement& statement) {
+  const fs::path file = run.WorkPath(statement.Text("PATH"));
+  std::error_code error;
+  if (!fs::remove(file, error)) throw ScriptError("there is no file " + PathToUtf8(file));
+}
+
 void CheckNotInstalled(const ScriptRun& run) {
   if (!run.host.install_folder.empty()) {
     throw ScriptError("this must stand before the first statement that needs the installation");
@@ -100,6 +106,7 @@ constexpr StatementForm kFolderForms[] = {
     {"folder PATH",            kTopPlace, &Folder},
     {"make_folder PATH [read_only]", kTopPlace, &MakeFolder},
     {"write PATH TEXT [ansi]", kTopPlace, &Write},
+    {"delete PATH",            kTopOrDialog, &Delete},
     {"install as NAME",        kTopPlace, &InstallAs},
     {"plugin as NAME",         kTopPlace, &PluginAs},
     {"require code_page N",    kTopPlace, &RequireCodePage},

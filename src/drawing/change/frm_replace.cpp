@@ -12,26 +12,19 @@
 #include "frame/dialogs/dialog.h"
 #include "frame/dialogs/file_choice.h"
 #include "frame/folders/folder_drawings.h"
+#include "frame/folders/known_folders.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/retrieve.h"
-#include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
 #include "toolkit/status.h"
-#include "toolkit/window.h"
 
 namespace qm {
 namespace {
 
 constexpr char kDialog[] = "QmFrmReplace";
 constexpr wchar_t kDone[] = L"当前工作目录中工程图图框已批量替换完毕！";
-
-// Empty when the host does not tell.
-std::wstring CurrentFolder() {
-  ProPath buffer = {};
-  return Ok(ProDirectoryCurrentGet(buffer)) ? std::wstring(FixedText(buffer)) : std::wstring();
-}
 
 // Where the host finds the format by its name. A file that is there already stays and is the one
 // that is used.
@@ -60,7 +53,7 @@ std::optional<ProMdl> ChosenFormat(const std::wstring& folder) {
 ProError Replace() {
   const std::vector<std::wstring> names = DrawingsOfFolder();
   if (names.empty()) return PRO_TK_E_NOT_FOUND;
-  const std::wstring folder = CurrentFolder();
+  const std::wstring folder = CurrentFolder().value_or(std::wstring());
   const auto format = ChosenFormat(folder);
   if (!format) return PRO_TK_USER_ABORT;
   auto without = static_cast<long long>(names.size());

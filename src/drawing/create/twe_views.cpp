@@ -1,10 +1,6 @@
 // TweViews: a drawing of the selected or current model with six or twelve standard views.
 #include "drawing/create/twe_views.h"
 
-#include <windows.h>
-
-#include <shlobj.h>
-
 #include <optional>
 #include <string>
 
@@ -14,6 +10,7 @@
 #include "drawing/create/twe_views_rules.h"
 #include "drawing/create/twe_views_sheet.h"
 #include "frame/dialogs/dialog.h"
+#include "frame/folders/known_folders.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
@@ -50,14 +47,6 @@ std::optional<TweViewsWishes> ReadWishes(const DialogView& dialog) {
   const auto exports = dialog.CheckState("ExportCheckButton");
   if (!direction || !views || !exports) return std::nullopt;
   return TweViewsWishes{*direction, *views, *exports};
-}
-
-std::optional<std::wstring> DesktopFolder() {
-  wchar_t folder[MAX_PATH] = {};
-  if (!::SHGetSpecialFolderPathW(nullptr, folder, CSIDL_DESKTOPDIRECTORY, FALSE)) {
-    return std::nullopt;
-  }
-  return folder;
 }
 
 // Says that it is done only when it is.

@@ -68,6 +68,23 @@ std::optional<std::vector<std::string>> DialogTable::SelectedRows() const {
   return Gathered<NameList>(ProUITableSelectednamesGet, dialog_.name(), component_);
 }
 
+bool DialogTable::SelectRows(std::vector<std::string> rows) const {
+  auto pointers = PointersTo(rows);
+  const auto count = static_cast<int>(rows.size());
+  char** const names = rows.empty() ? nullptr : pointers.data();
+  return Done("ProUITableSelectednamesSet",
+              ProUITableSelectednamesSet(dialog_.name(), component_.c_str(), count, names));
+}
+
+bool DialogTable::AllowManyRowsAndColumns() const {
+  constexpr auto kMany = PROUISELPOLICY_MULTIPLE;
+  const bool rows = Done("ProUITableSelectionpolicySet",
+                         ProUITableSelectionpolicySet(dialog_.name(), component_.c_str(), kMany));
+  return Done("ProUITableColumnselectionpolicySet",
+              ProUITableColumnselectionpolicySet(dialog_.name(), component_.c_str(), kMany)) &&
+         rows;
+}
+
 ProError DialogTable::InsertFirstRow(char** names) const {
   // Which neighbour stands for the start is not certain: null, then an empty name; a host that
   // takes neither is told what the rows are, which is the same while there are none.

@@ -23,6 +23,10 @@ class DialogTable {
   std::optional<std::vector<std::string>> ColumnNames() const;
   std::optional<std::vector<std::wstring>> ColumnLabels() const;
   std::optional<std::vector<std::string>> SelectedRows() const;
+  // These and no others.
+  bool SelectRows(std::vector<std::string> rows) const;
+  // Lets the user select many of both. Rows that are selected may be lost.
+  bool AllowManyRowsAndColumns() const;
 
   // The changes are false, after a line in the run log, when the host refuses them: the next cell
   // may do.

@@ -18,18 +18,24 @@ namespace {
 
 constexpr size_t kProgressStep = 20;
 
-// Paths with versions. The host adds to both arrays, which it may move.
-std::vector<std::wstring> ListedFiles() {
+// The host adds to both arrays, which it may move.
+ProError AddFiles(std::wstring filter, HostArray<ProPath>* files, HostArray<ProPath>* folders) {
+  ProPath* file_array = files->release();
+  ProPath* folder_array = folders->release();
+  const ProError status =
+      ProFilesList(nullptr, filter.data(), PRO_FILE_LIST_LATEST, &file_array, &folder_array);
+  files->reset(file_array);
+  folders->reset(folder_array);
+  return status;
+}
+
+}  // namespace
+
+std::vector<std::wstring> FilesOfFolder(std::wstring filter) {
   HostArray<ProPath> files;
   HostArray<ProPath> folders;
   if (!Ok(files.Allocate()) || !Ok(folders.Allocate())) return {};
-  std::wstring filter = L"*.drw";
-  ProPath* file_array = files.release();
-  ProPath* folder_array = folders.release();
-  const ProError status =
-      ProFilesList(nullptr, filter.data(), PRO_FILE_LIST_LATEST, &file_array, &folder_array);
-  files.reset(file_array);
-  folders.reset(folder_array);
+  const ProError status = AddFiles(std::move(filter), &files, &folders);
   if (!Ok(status)) {
     LogEvent(std::string("ProFilesList answered ") + StatusName(status));
     return {};
@@ -40,9 +46,7 @@ std::vector<std::wstring> ListedFiles() {
   return paths;
 }
 
-}  // namespace
-
-std::wstring NameInPath(const std::wstring& path) {
+std::optional<FileParts> PartsOfPath(const std::wstring& path) {
   ProPath full = {};
   wchar_t folder[PRO_PATH_SIZE] = {};
   wchar_t name[PRO_PATH_SIZE] = {};
@@ -52,19 +56,26 @@ std::wstring NameInPath(const std::wstring& path) {
   if (FillFixedText(path, full)) {
     status = ProFilenameParse(full, folder, name, extension, &version);
   }
-  if (Ok(status)) return std::wstring(FixedText(name));
+  if (Ok(status) && !FixedText(name).empty()) {
+    return FileParts{std::wstring(FixedText(name)), std::wstring(FixedText(extension))};
+  }
   LogEvent("ProFilenameParse of " + ToUtf8(path) + " answered " + StatusName(status));
-  return {};
+  return std::nullopt;
+}
+
+std::wstring NameInPath(const std::wstring& path) {
+  auto parts = PartsOfPath(path);
+  return parts ? std::move(parts->name) : std::wstring();
 }
 
 std::vector<std::wstring> DrawingsOfFolder() {
   std::vector<std::wstring> names;
   std::unordered_set<std::wstring> seen;
-  for (const std::wstring& path : ListedFiles()) {
+  for (const std::wstring& path : FilesOfFolder(L"*.drw")) {
     std::wstring name = NameInPath(path);
     if (!name.empty() && seen.insert(LowerCased(name)).second) names.push_back(std::move(name));
   }
-  if (names.empty()) ShowShortMessage(L"当前工作目录下无工程图");
+  if (names.empty()) ShowShortMessage(kNoDrawings);
   return names;
 }
 

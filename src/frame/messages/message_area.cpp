@@ -7,10 +7,12 @@
 
 namespace qm {
 
-void DisplayNote(const char* key, const wchar_t* argument) {
+void DisplayNote(const char* key, const wchar_t* argument, const wchar_t* second) {
   // The host takes the file's name as changeable text.
   std::wstring file_name = kNoteFile;
-  if (argument != nullptr) {
+  if (second != nullptr) {
+    ProMessageDisplay(file_name.data(), key, argument, second);
+  } else if (argument != nullptr) {
     ProMessageDisplay(file_name.data(), key, argument);
   } else {
     ProMessageDisplay(file_name.data(), key);

@@ -9,7 +9,7 @@
 namespace qm {
 namespace {
 
-std::wstring ValueText(const ProParamvalue& value) {
+std::optional<std::wstring> ValueText(const ProParamvalue& value) {
   switch (value.type) {
     case PRO_PARAM_STRING:
       return std::wstring(FixedText(value.value.s_val));
@@ -17,34 +17,50 @@ std::wstring ValueText(const ProParamvalue& value) {
       return std::to_wstring(value.value.i_val);
     case PRO_PARAM_DOUBLE:
       return RealText(value.value.d_val);
-    case PRO_PARAM_BOOLEAN:
-      return BooleanText(value.value.l_val);
+    case PRO_PARAM_BOOLEAN: {
+      std::wstring text = BooleanText(value.value.l_val);
+      return text.empty() ? std::nullopt : std::optional(std::move(text));
+    }
     default:
-      return {};
+      return std::nullopt;
   }
 }
 
-std::optional<std::wstring> ParameterText(const ProModelitem& owner, const std::wstring& name) {
+ParameterText TextOf(const ProModelitem& owner, const std::wstring& name) {
   auto host_name = HostName::From(name);
   // No parameter has a longer name.
-  if (!host_name) return std::wstring();
+  if (!host_name) return {};
   const ReadValue read = ReadParameter(owner, *host_name);
-  if (!read.is_known) return std::nullopt;
-  return read.value ? ValueText(*read.value) : std::wstring();
+  return {read.value ? ValueText(*read.value) : std::nullopt, read.is_known};
 }
 
 }  // namespace
 
-std::vector<std::optional<std::wstring>> ParameterTexts(ProMdl model,
-                                                        const std::vector<std::wstring>& names) {
-  std::vector<std::optional<std::wstring>> texts(names.size());
+std::vector<ParameterText> ReadParameterTexts(ProMdl model,
+                                              const std::vector<std::wstring>& names) {
+  if (names.empty()) return {};
   ProModelitem item{};
   const ProError status = ProMdlToModelitem(model, &item);
   if (!Ok(status) || item.owner == nullptr) {
     LogFailure(model, "ProMdlToModelitem", status);
-    return texts;
+    return std::vector<ParameterText>(names.size(), {std::nullopt, false});
   }
-  for (size_t i = 0; i < names.size(); ++i) texts[i] = ParameterText(item, names[i]);
+  std::vector<ParameterText> texts;
+  texts.reserve(names.size());
+  for (const std::wstring& name : names) texts.push_back(TextOf(item, name));
+  return texts;
+}
+
+std::vector<std::optional<std::wstring>> ParameterTexts(ProMdl model,
+                                                        const std::vector<std::wstring>& names) {
+  std::vector<std::optional<std::wstring>> texts;
+  for (ParameterText& read : ReadParameterTexts(model, names)) {
+    if (read.is_known) {
+      texts.emplace_back(std::move(read.text).value_or(std::wstring()));
+    } else {
+      texts.emplace_back();
+    }
+  }
   return texts;
 }
 

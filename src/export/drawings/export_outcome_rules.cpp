@@ -1,0 +1,55 @@
+// Stamps into outcomes.
+#include "export/drawings/export_outcome_rules.h"
+
+#include <ranges>
+#include <unordered_map>
+
+#include "frame/text/letter_case.h"
+
+namespace qm {
+
+FileOutcome OutcomeOf(const FileWriting& writing) {
+  if (!writing.after) return FileOutcome::kMissing;
+  const bool is_new = writing.after != writing.before;
+  if (!is_new && !(writing.replaces_own && writing.is_accepted)) return FileOutcome::kOld;
+  return writing.after->size == 0 ? FileOutcome::kEmpty : FileOutcome::kWritten;
+}
+
+void MarkWrittenOver(std::vector<ExpectedFile*> files) {
+  std::unordered_map<std::wstring, const ExpectedFile*> later;
+  for (ExpectedFile* file : std::views::reverse(files)) {
+    const bool has_changed =
+        file->outcome == FileOutcome::kWritten || file->outcome == FileOutcome::kEmpty;
+    if (!has_changed) continue;
+    const auto [found, is_last] = later.emplace(LowerCased(file->path), file);
+    if (is_last) continue;
+    const ExpectedFile& over = *found->second;
+    const bool is_same =
+        !file->model.empty() && file->model == over.model && over.outcome != FileOutcome::kEmpty;
+    file->outcome = is_same ? FileOutcome::kWrittenAgain : FileOutcome::kWrittenOver;
+  }
+}
+
+bool IsThere(FileOutcome outcome) {
+  return outcome == FileOutcome::kWritten || outcome == FileOutcome::kWrittenAgain;
+}
+
+const char* OutcomeText(FileOutcome outcome) {
+  switch (outcome) {
+    case FileOutcome::kWritten:
+      return "written";
+    case FileOutcome::kWrittenAgain:
+      return "written, and later again of the same model";
+    case FileOutcome::kWrittenOver:
+      return "written over by a later one of the same name";
+    case FileOutcome::kEmpty:
+      return "empty";
+    case FileOutcome::kMissing:
+      return "missing";
+    case FileOutcome::kOld:
+      return "missing, an older file of this name is there";
+  }
+  return "";
+}
+
+}  // namespace qm

@@ -1,0 +1,56 @@
+// Current model and folder.
+#include "export/drawings/single_export.h"
+
+#include "export/drawings/export_name_rules.h"
+#include "frame/folders/known_folders.h"
+#include "frame/messages/run_log.h"
+#include "frame/settings/config.h"
+#include "frame/text/fixed_text.h"
+#include "frame/text/list_rules.h"
+#include "toolkit/status.h"
+#include "toolkit/window.h"
+
+namespace qm {
+namespace {
+
+constexpr wchar_t kDesktop[] = L"deskTop";
+constexpr wchar_t kByUser[] = L"byUser";
+
+std::optional<std::wstring> AskFolder(std::wstring prompt) {
+  ProPath chosen = {};
+  const ProError status = ProDirectoryChoose(prompt.data(), nullptr, nullptr, nullptr, chosen);
+  const std::wstring folder(FixedText(chosen));
+  if (!Ok(status) || folder.empty()) return std::nullopt;
+  return folder;
+}
+
+std::optional<std::wstring> FolderBySetting(const std::wstring& value, std::wstring prompt,
+                                            OtherSetting other) {
+  if (value == kDesktop) return DesktopFolder();
+  if (value == kByUser || other == OtherSetting::kAsks) return AskFolder(std::move(prompt));
+  return std::nullopt;
+}
+
+}  // namespace
+
+ProMdl ModelToExport() {
+  ProMdl model = nullptr;
+  if (Ok(ProMdlCurrentGet(&model)) && model != nullptr) return model;
+  LogOutcome("nothing exported, no current model");
+  return nullptr;
+}
+
+std::optional<std::wstring> ExportFolder(const wchar_t* section, std::wstring prompt,
+                                         OtherSetting other) {
+  const std::wstring value =
+      WithoutBlanks(ReadSetting(section, kValueKey, ConfigPath(kConfigFile)));
+  auto folder = FolderBySetting(value, std::move(prompt), other);
+  if (!folder) LogOutcome("nothing exported, no folder");
+  return folder;
+}
+
+std::wstring PathOfFile(const std::wstring& path, int number, int count) {
+  return count < 2 ? path : NumberedName(path, number);
+}
+
+}  // namespace qm

@@ -1,0 +1,34 @@
+// Asks the host and Windows for folders.
+#include "frame/folders/known_folders.h"
+
+#include <windows.h>
+
+#include <shlobj.h>
+
+#include "frame/text/fixed_text.h"
+#include "toolkit/status.h"
+#include "toolkit/window.h"
+
+namespace qm {
+
+std::optional<std::wstring> CurrentFolder() {
+  ProPath folder = {};
+  if (!Ok(ProDirectoryCurrentGet(folder)) || FixedText(folder).empty()) return std::nullopt;
+  return PathIn(FixedText(folder), {});
+}
+
+std::optional<std::wstring> DesktopFolder() {
+  wchar_t folder[MAX_PATH] = {};
+  if (!::SHGetSpecialFolderPathW(nullptr, folder, CSIDL_DESKTOPDIRECTORY, FALSE)) {
+    return std::nullopt;
+  }
+  return folder;
+}
+
+std::wstring PathIn(std::wstring_view folder, std::wstring_view name) {
+  std::wstring path(folder);
+  if (!path.ends_with(L'\\') && !path.ends_with(L'/')) path += L'\\';
+  return path.append(name);
+}
+
+}  // namespace qm
