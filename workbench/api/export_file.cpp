@@ -30,7 +30,9 @@ bool WriteBytes(const std::filesystem::path& file, const std::string& bytes) {
 ProError WriteExport(const Call& call, const Model& model, std::filesystem::path file,
                      const ExportJob& job) {
   Host& host = call.host;
-  if (!file.has_extension()) file += job.extension;
+  // A name that is an extension and nothing else has one.
+  const bool is_whole = file.has_extension() || PathToUtf8(file.filename()) == job.extension;
+  if (!is_whole) file += job.extension;
   file = host.session.working_directory() / file;
   const WriterConduct conduct = host.writers.ConductFor(job.format, file);
   const bool fails =

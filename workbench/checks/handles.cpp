@@ -31,9 +31,12 @@ struct KindRow {
   const char* word;
 };
 constexpr KindRow kKinds[] = {
-    {HandleKind::kNone, "nothing"},        {HandleKind::kModel, "model"},
-    {HandleKind::kSelection, "selection"}, {HandleKind::kSelectionEnv, "selection environment"},
-    {HandleKind::kCommand, "command"},     {HandleKind::kSurface, "surface"},
+    {HandleKind::kNone, "nothing"},
+    {HandleKind::kModel, "model"},
+    {HandleKind::kSelection, "selection"},
+    {HandleKind::kSelectionEnv, "selection environment"},
+    {HandleKind::kCommand, "command"},
+    {HandleKind::kSurface, "surface"},
     {HandleKind::kView, "view"},
     {HandleKind::kExportData, "export data"},
     {HandleKind::kPdfOptions, "PDF options"},

@@ -165,10 +165,9 @@ def make_dxf(question):
         document.header.custom_vars.append(name, text)
     page = DxfPage(document, question["height"])
     page.add(ElementTree.fromstring(question["svg"]))
-    for corner in ("$EXTMAX", "$LIMMAX"):
-        size = (question["width"], question["height"])
-        document.header[corner] = size + ((0,) if corner == "$EXTMAX" else ())
-    document.header["$EXTMIN"] = (0, 0, 0)
+    size = (question["width"], question["height"])
+    page.space.reset_extents((0, 0, 0), (*size, 0))
+    page.space.reset_limits((0, 0), size)
     out = io.StringIO()
     document.write(out)
     return out.getvalue().replace("\n", "\r\n").encode("utf-8")

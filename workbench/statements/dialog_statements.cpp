@@ -139,6 +139,11 @@ void ExpectRows(ScriptRun& run, const Statement& statement) {
              StateOf<TableModel>(run, statement).RowNames());
 }
 
+void ExpectSelectedRows(ScriptRun& run, const Statement& statement) {
+  CheckNames(run, statement, "selected rows", statement.Texts("ROW"),
+             StateOf<TableModel>(run, statement).SelectedRows());
+}
+
 void CheckEither(ScriptRun& run, const Statement& statement, const char* yes, const char* no,
                  bool holds) {
   const std::string got = holds ? yes : no;
@@ -226,6 +231,8 @@ constexpr StatementForm kDialogForms[] = {
     {"expect STATE:visible|invisible COMPONENT", kDialogPlace, &ExpectVisible},
     {"expect label COMPONENT TEXT",              kDialogPlace, &ExpectLabel},
     {"expect cell COMPONENT ROW COLUMN TEXT",    kDialogPlace, &ExpectCell},
+    {"expect selected_rows COMPONENT none",      kDialogPlace, &ExpectSelectedRows},
+    {"expect selected_rows COMPONENT ROW...",    kDialogPlace, &ExpectSelectedRows},
     {"expect rows COMPONENT none",               kDialogPlace, &ExpectRows},
     {"expect rows COMPONENT ROW...",             kDialogPlace, &ExpectRows},
     {"expect columns COMPONENT COLUMN...",       kDialogPlace, &ExpectColumns},

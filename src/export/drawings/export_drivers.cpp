@@ -6,7 +6,9 @@
 #include "frame/folders/known_folders.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/host_name.h"
+#include "frame/models/model_name.h"
 #include "frame/settings/config.h"
+#include "frame/text/letter_case.h"
 #include "frame/text/text.h"
 #include "toolkit/drawing.h"
 #include "toolkit/export.h"
@@ -31,15 +33,40 @@ void CreateFolder(const std::wstring& path) {
            std::to_string(error));
 }
 
-// A window with the drawing; below 0: none, and `status` says why.
-int OpenWindow(const std::wstring& name, ProError* status) {
-  auto host_name = HostName::From(name);
+struct DrawingInWindow {
   int window = -1;
-  *status = host_name ? ProObjectwindowCreate(host_name->name, PRO_DRAWING, &window)
-                      : PRO_TK_LINE_TOO_LONG;
-  if (Ok(*status) && window < 0) *status = PRO_TK_GENERAL_ERROR;
-  Told(name, "ProObjectwindowCreate", *status);
-  return Ok(*status) ? window : -1;
+  ProMdl drawing = nullptr;           // null: there is no such window, ...
+  ProError status = PRO_TK_NO_ERROR;  // ... and why
+};
+
+bool IsDrawing(ProMdl model, const std::wstring& name) {
+  ProMdlType type = PRO_MDL_UNUSED;
+  if (model == nullptr || !Ok(ProMdlTypeGet(model, &type)) || type != PRO_MDL_DRAWING) return false;
+  const auto own = ModelName(model);
+  return own && EqualIgnoringCase(*own, name);
+}
+
+// Looked into, since 0 is a window as well, and the user's: another one than the drawing's would be
+// exported and closed.
+DrawingInWindow OpenWindow(const std::wstring& name) {
+  DrawingInWindow opened;
+  auto host_name = HostName::From(name);
+  if (!host_name) {
+    opened.status = PRO_TK_LINE_TOO_LONG;
+    return opened;
+  }
+  opened.status = ProObjectwindowCreate(host_name->name, PRO_DRAWING, &opened.window);
+  if (!Told(name, "ProObjectwindowCreate", opened.status)) return opened;
+  ProMdl shown = nullptr;
+  opened.status = ProWindowMdlGet(opened.window, &shown);
+  if (!Told(name, "ProWindowMdlGet", opened.status)) return opened;
+  if (IsDrawing(shown, name)) {
+    opened.drawing = shown;
+  } else {
+    opened.status = PRO_TK_E_NOT_FOUND;
+    LogFailure(name, "a window for the drawing", opened.status);
+  }
+  return opened;
 }
 
 // The current window cannot be deleted, only closed as the user does it.
@@ -133,31 +160,26 @@ ProError DrawingWriter::Write2d(int type, const PlannedFile& file, ProPath path)
 ProError DrawingWriter::WritePdf(ProPath path) const {
   // Without the options the host would open a viewer for each file.
   if (!pdf_options_) return PRO_TK_OUT_OF_MEMORY;
-  ProError opened = PRO_TK_NO_ERROR;
-  const int window = OpenWindow(drawing_.name, &opened);
+  const DrawingInWindow opened = OpenWindow(drawing_.name);
   const ProError status = ProPDFExport(drawing_.drawing, path, pdf_options_.get());
-  if (window >= 0) CloseWindow(drawing_.name, window);
+  if (opened.drawing != nullptr) CloseWindow(drawing_.name, opened.window);
   return status;
 }
 
 // By the profile, which decides all that the options would. Deliberately the window stays open.
 ProError DrawingWriter::WritePdfOfSheet(int sheet, ProPath path) const {
   ShowSheet(sheet);
-  ProError status = PRO_TK_NO_ERROR;
-  const int window = OpenWindow(drawing_.name, &status);
-  if (window < 0) return status;
-  Told(drawing_.name, "ProWindowCurrentSet", ProWindowCurrentSet(window));
-  Told(drawing_.name, "ProWindowActivate", ProWindowActivate(window));
-  ProMdl shown = nullptr;
-  status = ProWindowMdlGet(window, &shown);
-  if (!Ok(status) || shown == nullptr) return Ok(status) ? PRO_TK_E_NOT_FOUND : status;
+  const DrawingInWindow opened = OpenWindow(drawing_.name);
+  if (opened.drawing == nullptr) return opened.status;
+  Told(drawing_.name, "ProWindowCurrentSet", ProWindowCurrentSet(opened.window));
+  Told(drawing_.name, "ProWindowActivate", ProWindowActivate(opened.window));
   // The profile takes the current sheet: of another one the file would bear the wrong name.
-  status = ProDrawingCurrentSheetSet(shown, sheet);
-  if (!Ok(status)) return status;
+  const ProError status = ProDrawingCurrentSheetSet(opened.drawing, sheet);
+  if (!Told(drawing_.name, "ProDrawingCurrentSheetSet", status)) return status;
   CopyProfile();
   ProPath profile = {};
   std::copy(std::begin(kProfile), std::end(kProfile), profile);
-  return ProPDFWithProfileExport(shown, path, profile);
+  return ProPDFWithProfileExport(opened.drawing, path, profile);
 }
 
 ProError DrawingWriter::WriteModel(int type, const PlannedFile& file, ProPath path) const {

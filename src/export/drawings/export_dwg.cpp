@@ -32,7 +32,7 @@ ProError QmExportDwg() {
       ExportFolder(L"QmExportDwgDIr", L"请选择DWG文件导出位置", OtherSetting::kEndsCommand);
   if (!folder) return PRO_TK_USER_ABORT;
   const auto name = ModelName(drawing);
-  const auto count = SheetCount(drawing);
+  const auto count = CountSheets(drawing);
   if (!name || !count) return PRO_TK_GENERAL_ERROR;
   const std::wstring path = PathIn(*folder, *name);
   ExportRecord record;

@@ -121,7 +121,7 @@ class DrawingReader {
     const ModelFacts& first = models_.Of(drawing_.solid.handle);
     drawing_.solid.identity = first.identity;
     drawing_.facts.base_name = FileName(naming_, {Size(kFirst), drawing_.name, first.parameters});
-    drawing_.facts.sheet_count = SheetCount(drawing_.drawing);
+    drawing_.facts.sheet_count = CountSheets(drawing_.drawing);
     const int count = drawing_.facts.sheet_count.value_or(0);
     if (!NeedsViews(options_, count)) return;
     const auto solids = SolidsOfSheets(drawing_.drawing, count);
@@ -158,7 +158,7 @@ class DrawingReader {
 
 }  // namespace
 
-std::optional<int> SheetCount(ProDrawing drawing) {
+std::optional<int> CountSheets(ProDrawing drawing) {
   int count = 0;
   const ProError status = ProDrawingSheetsCount(drawing, &count);
   if (!Told(drawing, "ProDrawingSheetsCount", status) || count < kFirst) return std::nullopt;

@@ -35,6 +35,6 @@ std::optional<ExportDrawing> ReadDrawing(const std::wstring& name, const NamingR
                                          const ExportOptions& options);
 
 // Nothing, after a line in the run log, when the host does not tell.
-std::optional<int> SheetCount(ProDrawing drawing);
+std::optional<int> CountSheets(ProDrawing drawing);
 
 }  // namespace qm

@@ -68,7 +68,7 @@ ProError QmExportPdf() {
   const auto folder = ExportFolder(L"QmExportPdfDIr", kPrompt, OtherSetting::kEndsCommand);
   if (!folder) return PRO_TK_USER_ABORT;
   const auto name = ModelName(drawing);
-  const auto count = SheetCount(drawing);
+  const auto count = CountSheets(drawing);
   const auto working = CurrentFolder();
   if (!name || !count || !working) return PRO_TK_GENERAL_ERROR;
   PdfOptions options;

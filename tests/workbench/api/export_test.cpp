@@ -85,14 +85,14 @@ TEST_F(ExportContract, WhatIsLentForAnExportIsUsedByItsRules) {
       {"no such colour", [&] { return ProPDFoptionsIntpropertySet(options, 1, 3); },
        PRO_TK_BAD_INPUTS, "ProPDFoptionsIntpropertySet: value 3 of option 1"},
       {"another option", [&] { return ProPDFoptionsIntpropertySet(options, 4, 300); },
-       PRO_TK_GENERAL_ERROR, "", "option 4 of PDF files"},
+       PRO_TK_NOT_IMPLEMENTED, "", "ProPDFoptionsIntpropertySet: option 4 of PDF files"},
       {"freed", [&] { return Pro2dExportdataFree(data); }, PRO_TK_NO_ERROR},
       {"freed twice", [&] { return Pro2dExportdataFree(data); }, PRO_TK_BAD_INPUTS,
        "Pro2dExportdataFree: export data used after it was freed"},
       {"used after", [&] { return Pro2dExportdataModelspacesheetSet(data, 1); }, PRO_TK_BAD_INPUTS,
        "Pro2dExportdataModelspacesheetSet: stale export data handle (its object is gone)"},
   });
-  EXPECT_EQ(host_.accounts.Describe(), Lines{"PDF options from ProPDFoptionsAlloc (call 2)"});
+  EXPECT_EQ(host_.accounts.Describe(), Lines{"PDF options from ProPDFoptionsAlloc (call 3)"});
   EXPECT_EQ(ProPDFoptionsFree(options), PRO_TK_NO_ERROR);
 }
 

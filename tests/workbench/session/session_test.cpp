@@ -109,7 +109,7 @@ TEST_F(SessionFiles, WhatNoShownModelNeedsIsErased) {
   session.Add(Model({"frame", ModelKind::kFormat}));
   session.Add(Model({"other", ModelKind::kFormat}));
   Model drawing({"pump", ModelKind::kDrawing});
-  drawing.content = DrawingContent{.shows = ModelLink{added.id, &added}};
+  drawing.As<DrawingContent>()->shows = ModelLink{added.id, &added};
   drawing.As<DrawingContent>()->sheets.push_back({.format = "frame.frm"});
   session.ShowInWindow(session.Add(std::move(drawing)));
   session.EraseNotDisplayed();
