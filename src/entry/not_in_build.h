@@ -12,8 +12,8 @@ inline constexpr std::string_view kNotInBuild[] = {
     "QmBackup",        "NewPart",       "NewAsm",          "NewSmt",          "BatchColor",
     "QmClearAllColor", "QmTransparent", "SurfTransparent", "SetMat",          "SetBendTable",
     "QmRelations",     "SetUnit",       "CloneComp",       "CloneAndReplace", "QmMerge",
-    "QmMergeTo",       "QmExStp",       "QmExIgs",         "QmExSat",         "QmRename",
-    "QmRemoveCons",    "QmMdlCount",    "QmSimRep",        "QmBox",           "QmMdlRename",
+    "QmMergeTo",       "QmRename",      "QmRemoveCons",    "QmMdlCount",      "QmSimRep",
+    "QmBox",           "QmMdlRename",
 };
 
 // Says in a caption box that the command is not in this build.

@@ -8,6 +8,7 @@
 
 #include "toolkit/array.h"
 #include "toolkit/export.h"
+#include "toolkit/export_3d.h"
 #include "toolkit/geometry.h"
 #include "toolkit/selection.h"
 #include "toolkit/status.h"
@@ -65,6 +66,9 @@ inline void Data2d(Pro2dExportdata data) {
 inline void PdfOptions(ProPDFOptions options) {
   ProPDFoptionsFree(options);
 }
+inline void Brep(ProOutputBrepRepresentation brep) {
+  ProOutputBrepRepresentationFree(brep);
+}
 template <typename T>
 void Array(T* items) {
   ProArray array = items;
@@ -77,6 +81,7 @@ using WideText = Owner<wchar_t*, &release::Text>;
 using SelectionEnvironment = Owner<ProSelectionEnv, &release::Environment>;
 using ExportData = Owner<Pro2dExportdata, &release::Data2d>;
 using PdfOptions = Owner<ProPDFOptions, &release::PdfOptions>;
+using BrepRepresentation = Owner<ProOutputBrepRepresentation, &release::Brep>;
 using GeometryData = Owner<ProGeomitemdata*, &release::Geometry>;
 
 // Number of elements of one of the host's arrays; 0 for none or when the host does not tell.

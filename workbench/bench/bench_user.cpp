@@ -16,6 +16,7 @@ namespace {
 constexpr char kBillTable[] = "bom_list";
 // The spreadsheet program is kept away, so that an export ends when its table has been read.
 constexpr char kNoSpreadsheet[] = "创建Excel失败";
+constexpr char kExported[] = "\tSTEP导出已完成\t";
 
 void Require(const UserOutcome& outcome) {
   if (!outcome.Done()) throw std::runtime_error(outcome.refusal);
@@ -105,8 +106,10 @@ std::optional<std::vector<PickedItem>> BenchUser::Pick(const PickRequest& reques
 }
 
 std::optional<std::string> BenchUser::ChooseFile(const FileRequest& request) {
+  const auto& folder = TheHost().session.working_directory();
+  if (request.asked_by == "ProDirectoryChoose") return PathToUtf8(folder);
   if (request.asked_by != "GetSaveFileNameW") Unexpected("file for " + request.asked_by);
-  return PathToUtf8(TheHost().session.working_directory() / "bench.xlsx");
+  return PathToUtf8(folder / "bench.xlsx");
 }
 
 std::optional<std::string> BenchUser::AnswerPrompt(const std::string& prompt, int) {
@@ -114,7 +117,7 @@ std::optional<std::string> BenchUser::AnswerPrompt(const std::string& prompt, in
 }
 
 int BenchUser::AnswerMessageBox(const MessageBox& box) {
-  if (box.text != kNoSpreadsheet) Unexpected("box \"" + box.text + "\"");
+  if (box.text != kNoSpreadsheet && box.text != kExported) Unexpected("box \"" + box.text + "\"");
   return 1;  // OK
 }
 

@@ -22,6 +22,7 @@ constexpr ResourceRow kResources[] = {
     {Resource::kDialog, "dialog"},
     {Resource::kExportData, "export data"},
     {Resource::kPdfOptions, "PDF options"},
+    {Resource::kBrepRepresentation, "boundary representation"},
 };
 
 }  // namespace

@@ -19,6 +19,7 @@ enum class Resource {
   kDialog,
   kExportData,
   kPdfOptions,
+  kBrepRepresentation,
 };
 const char* ResourceWord(Resource resource);
 

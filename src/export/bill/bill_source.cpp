@@ -9,6 +9,7 @@
 #include "frame/models/model_name.h"
 #include "frame/models/parameter_text.h"
 #include "frame/models/retrieve.h"
+#include "frame/models/skeleton.h"
 
 namespace qm {
 namespace {
@@ -53,14 +54,6 @@ class StructureReader {
   BillStructure& structure_;
   HandleIndex index_;
 };
-
-// A host that does not tell gives a row too many rather than too few.
-bool IsSkeleton(ProMdl model) {
-  ProBoolean is_skeleton = PRO_B_FALSE;
-  const ProError status = ProMdlIsSkeleton(model, &is_skeleton);
-  if (!Ok(status)) LogFailure(model, "ProMdlIsSkeleton", status);
-  return Ok(status) && is_skeleton == PRO_B_TRUE;
-}
 
 // False when the components cannot be collected.
 bool ReadStructure(ProMdl assembly, BillPlan* plan) {

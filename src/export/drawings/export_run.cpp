@@ -1,7 +1,8 @@
 // Goes through the drawings.
 #include "export/drawings/export_run.h"
 
-#include "export/drawings/export_record.h"
+#include "export/files/export_notes.h"
+#include "export/files/export_record.h"
 #include "frame/folders/known_folders.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
@@ -51,13 +52,9 @@ class ExportRun {
   void Tell() { record_.Tell(); }
 
  private:
-  // Before anything is written. The host is asked for these files as well: it may know a way.
   void TellUnfitNames(const std::vector<PlannedFile>& files) const {
     for (const PlannedFile& file : files) {
-      const bool fits = PathOf(file).size() < PRO_PATH_SIZE && IsWindowsFileName(file.name);
-      if (file.plan != FilePlan::kWrite || fits) continue;
-      LogEvent("Windows cannot hold a file of the name " + ToUtf8(file.name));
-      DisplayNote("Windows cannot hold the file name %0w", file.name.c_str());
+      if (file.plan == FilePlan::kWrite) TellUnfitFile(PathOf(file), file.name);
     }
   }
 
@@ -90,11 +87,6 @@ class ExportRun {
   const std::wstring folder_;
   ExportRecord record_;
 };
-
-void TellProgress(size_t done, size_t count, const std::wstring& name) {
-  const std::wstring text = std::to_wstring(done) + L" / " + std::to_wstring(count) + L" " + name;
-  DisplayNote("Exporting %0w", text.c_str());
-}
 
 // No handle of before is used after it.
 void ClearSession() {

@@ -2,6 +2,7 @@
 #include "export/drawings/single_export.h"
 
 #include "export/drawings/export_name_rules.h"
+#include "export/files/export_folder.h"
 #include "frame/folders/known_folders.h"
 #include "frame/messages/run_log.h"
 #include "frame/settings/config.h"
@@ -15,14 +16,6 @@ namespace {
 
 constexpr wchar_t kDesktop[] = L"deskTop";
 constexpr wchar_t kByUser[] = L"byUser";
-
-std::optional<std::wstring> AskFolder(std::wstring prompt) {
-  ProPath chosen = {};
-  const ProError status = ProDirectoryChoose(prompt.data(), nullptr, nullptr, nullptr, chosen);
-  const std::wstring folder(FixedText(chosen));
-  if (!Ok(status) || folder.empty()) return std::nullopt;
-  return folder;
-}
 
 std::optional<std::wstring> FolderBySetting(const std::wstring& value, std::wstring prompt,
                                             OtherSetting other) {

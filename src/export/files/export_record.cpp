@@ -1,5 +1,5 @@
 // Looks at files before and after they are written.
-#include "export/drawings/export_record.h"
+#include "export/files/export_record.h"
 
 #include <windows.h>
 
@@ -39,7 +39,7 @@ ExportRecord::~ExportRecord() {
   }
 }
 
-void ExportRecord::Write(const File& file, const std::function<ProError()>& write) {
+FileOutcome ExportRecord::Write(const File& file, const std::function<ProError()>& write) {
   FileWriting writing;
   std::wstring key = LowerCased(file.path);
   writing.replaces_own = written_paths_.contains(key);
@@ -52,6 +52,7 @@ void ExportRecord::Write(const File& file, const std::function<ProError()>& writ
   if (outcome == FileOutcome::kWritten || outcome == FileOutcome::kEmpty) {
     written_paths_.insert(std::move(key));
   }
+  return outcome;
 }
 
 void ExportRecord::AddUnwritten(const File& file, const char* reason) {
