@@ -151,13 +151,15 @@ class Bench {
         const BenchPress& press = user_.press(part.part);
         taken.push_back({press.seconds, press.calls, press.parameters, press.table_seconds});
       } else {
-        taken.push_back(part.part == BenchPart::kCollection
-                            ? Collection()
-                            : Taken{seconds.count(), host_.trace.calls()});
+        taken.push_back(part.part == BenchPart::kCollection ? Collection()
+                                                            : Taken{seconds.count(), Calls()});
       }
     }
     return taken;
   }
+
+  // Without those of the run log, which is written in lots of so many bytes.
+  long Calls() const { return host_.trace.calls() - host_.trace.Count("SHGetFolderPathW"); }
 
   Taken Collection() const {
     const Trace::FirstCall first = host_.trace.First("ProArrayAlloc");
