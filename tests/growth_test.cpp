@@ -17,11 +17,11 @@ BenchResult MeasureOnce(const BenchShape& shape, int occurrences, bool with_most
 
 // What one more component may cost: in an assembly of assemblies eight calls in the collection and
 // three after it; in an export four; in a bill of six columns also its model's facts and its row's
-// cells.
+// cells, in the list of models to rename its name, its row, and the field in it.
 long MostCallsOf(BenchPart part) {
   if (IsBill(part)) return 27;
   if (part == BenchPart::kExport) return 12;
-  return part == BenchPart::kReadTable ? 18 : 11;
+  return part == BenchPart::kReadTable || part == BenchPart::kRenameList ? 18 : 11;
 }
 
 class Growth : public testing::TestWithParam<BenchShape> {};
@@ -60,7 +60,9 @@ TEST_P(Growth, ABillReadsEachParameterOfAModelOnce) {
 // A row of a bill also holds its texts, a file of an export its path.
 long MostBytesOf(BenchPart part) {
   if (part == BenchPart::kExport) return 600;
-  return IsBill(part) || part == BenchPart::kReadTable ? 450 : 300;
+  const bool has_texts =
+      IsBill(part) || part == BenchPart::kReadTable || part == BenchPart::kRenameList;
+  return has_texts ? 450 : 300;
 }
 
 TEST_P(Growth, AComponentCostsAFewHundredBytes) {
@@ -81,6 +83,25 @@ INSTANTIATE_TEST_SUITE_P(Shapes, Growth,
 TEST(GrowthOfDepth, TenThousandLevelsPass) {
   const BenchResult result = MeasureOnce(*FindBenchShape("chain"), kDeepestChain, false);
   EXPECT_EQ(result.rows.size(), BenchParts().size());
+}
+
+TEST(GrowthOfFolders, HostCallsAreExactlyLinearInTheDrawingsAndProgressIsTold) {
+  std::map<std::string, std::vector<std::pair<long, long>>> calls;
+  for (const int drawings : {60, 120, 240}) {
+    for (const FolderRow& row : MeasureFolder(drawings, Installed().dll(), Installed().work())) {
+      calls[row.command].emplace_back(row.drawings, row.calls);
+      // An export tells each drawing, and at the end how many files there are.
+      const bool is_export = row.command == "QmExport";
+      EXPECT_EQ(row.notes, is_export ? drawings + 1 : drawings / 20 - 1) << row.command;
+    }
+  }
+  ASSERT_EQ(calls.size(), 3u);
+  for (const auto& [command, points] : calls) {
+    EXPECT_TRUE(IsExactlyLinear(points)) << command;
+    // Each drawing has three views and two tables on two sheets, and is exported to ten files.
+    const long most = command == "QmExport" ? 100 : 40;
+    EXPECT_LE(points[1].second - points[0].second, most * 60) << command;
+  }
 }
 
 TEST(GrowthReport, FitsTheExponentOfAPower) {
@@ -104,6 +125,7 @@ TEST(GrowthReport, HoldsEveryRowAndTellsWhichBoundIsMissed) {
   result.rows.push_back(
       {shape, BenchPart::kSummaryBill, 100, 100, 4001, 700, 301, 1, 1, 1, 1, 1, 0});
   result.most_asked = {{"ProMdlNameGet", 2}};
+  for (const int size : {20, 40, 80}) result.folders.push_back({"QmFrmReplace", size, size * size});
   const std::string tables = BenchTables(result, false);
   EXPECT_NE(tables.find("flat   collection          100000  100000      700000           7.000"),
             std::string::npos)
@@ -112,7 +134,9 @@ TEST(GrowthReport, HoldsEveryRowAndTellsWhichBoundIsMissed) {
   for (const BenchBound& bound : CheckBounds(result)) {
     if (!bound.kept) missed.push_back(bound.text + ": " + bound.found);
   }
-  EXPECT_EQ(missed, (Lines{"QmParams asks each model for each fact once: ProMdlNameGet 2 times",
+  EXPECT_EQ(missed, (Lines{"host calls exactly linear in the drawings of a folder: QmFrmReplace "
+                           "are not",
+                           "QmParams asks each model for each fact once: ProMdlNameGet 2 times",
                            "QmBom reads each model's parameter once for each column: 301 readings "
                            "of 100 models (flat)",
                            "QmBom at most 4 host calls for each of the bare walk's and each fact: "

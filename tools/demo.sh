@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the plug-in and the workbench and runs the demo on a copy of its assembly. Prints what the
-# two commands changed and where the report lies, and little else unless something fails.
+# commands changed and where the report lies, and little else unless something fails.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 . "$here/environment.sh"
@@ -64,17 +64,37 @@ print_changes() {
     { item = substr($0, index($0, "(")) }
     command == "QmParams" && / ProMdlNameGet\(part / { met[++count] = word_after("part ") }
     command == "QmParams" && / ProParameterCreate\(/ { add_part() }
+    command == "QmRename" && / ProMdlRename\(/ && / = no_error$/ {
+      if (/ProMdlRename\(drawing /) drawings++; else models++
+    }
     command == "QmIsolate" && / ProAsmcomppathMdlGet\(/ { branch = word_after("-> assembly ") }
     command == "QmIsolate" && / ProModelitemHide\(/ && !hidden[item]++ { hidden_count++ }
     command == "QmIsolate" && / ProModelitemUnhide\(/ && hidden[item] { hidden[item] = 0; shown++ }
 
+    command == "TweViews" && / ProDrawingFromTmpltCreate\(/ {
+      split($0, quoted, "\"")
+      drawn = drawn " " quoted[2]
+    }
+    command == "TweViews" && /(General|Projected)viewCreate\(.* = no_error$/ { views++ }
+    command == "QmDrwScaleCheck" && / ProMdlRetrieve\(/ { checked++ }
+    command == "QmUpdateMainViewScale" && / ProDrawingViewScaleSet\(/ { mended = word_after("(drawing ") }
+    command == "QmFrmReplace" && / ProDrawingFormatAdd\(.* = no_error$/ {
+      framed = framed " " word_after("(drawing ")
+      frame = word_after(" format ")
+    }
+    command == "QmDimModify" && / ProDimension(Text|Tolerance)Set\(.* = no_error$/ { dimensions++ }
+
     END {
-      if (count == 0 || hidden_count == 0) exit 1
+      if (count == 0 || hidden_count == 0 || views == 0 || framed == "") exit 1
       for (i = 1; i <= count; ++i) if (!(met[i] in tried)) { excluded++; names = names " " met[i] }
       printf "QmParams   added %s to %d models\n", name, added
       printf "           %d excluded:%s\n", excluded, names
       if (there != "") printf "           there already:%s\n", there
       printf "QmIsolate  shows %s with its %d parts; %d parts hidden\n", branch, shown, hidden_count - shown
+      printf "TweViews   made%s, %d views in all\n", drawn, views
+      printf "Drawings   %d checked for their scales, %s mended; frame %s on%s;\n", checked, mended, frame, framed
+      printf "           %d changes of dimensions\n", dimensions
+      printf "QmRename   renamed %d models and %d drawings from new_names.xlsx\n", models, drawings
     }' "$out/trace.txt"
 }
 

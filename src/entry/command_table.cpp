@@ -29,6 +29,8 @@
 #include "export/drawings/export_dwg.h"
 #include "export/drawings/export_pdf.h"
 #include "export/drawings/export_stp.h"
+#include "export/rename/mdl_rename.h"
+#include "export/rename/rename.h"
 #include "frame/commands/about_qm.h"
 #include "frame/commands/box_sel.h"
 #include "frame/commands/box_sel_sur.h"
@@ -83,7 +85,7 @@ constexpr CommandRow kCommandTable[] = {
     {"QmExIgs",               "QmExIgs_Help",               "QmExIgs.png",               &QmExIgs,       kAssemblyMode,       true},
     {"QmExSat",               "QmExSat_Help",               "QmExSat.png",               &QmExSat,       kAssemblyMode,       true},
     {"QmBom",                 "QmBom_Help",                 "QmBom.png",                 &QmBom,          kAssemblyMode,       true},
-    {"QmRename",              "QmRename_Help",              "QmRename.png",              &NotInBuild,     kAssemblyMode,       true},
+    {"QmRename",              "QmRename_Help",              "QmRename.png",              &QmRename,       kAssemblyMode,       true},
     {"QmRemoveCons",          "QmRemoveCons_Help",          "QmRemoveCons.png",          &NotInBuild,     kAssemblyMode,       true},
     {"QmExport",              "QmExport_Help",              "QmExport.png",              &QmExport,       kAlways,             true},
     {"QmMdlCount",            "QmMdlCount_Help",            "QmMdlCount.png",            &NotInBuild,     kAssemblyMode,       true},
@@ -96,7 +98,7 @@ constexpr CommandRow kCommandTable[] = {
     {"QmExportDwg",           "QmExportDwg_Help",           "QmExportDwg.png",           &QmExportDwg,    kDrawingMode,        true},
     {"QmExportPdf",           "QmExportPdf_Help",           "QmExportPdf.png",           &QmExportPdf,    kDrawingMode,        true},
     {"QmMdlNameCopy",         "QmMdlNameCopy_Help",         "QmMdlNameCopy.png",         &QmMdlNameCopy,  kAssemblyMode,       true},
-    {"QmMdlRename",           "QmMdlRename_Help",           "QmMdlRename.png",           &NotInBuild,     kAssemblyMode,       true},
+    {"QmMdlRename",           "QmMdlRename_Help",           "QmMdlRename.png",           &QmMdlRename,    kAssemblyMode,       true},
     {"QmExportStp",           "QmExportStp_Help",           "QmExportStp.png",           &QmExportStp,    kSolidMode,          true},
     {"QmUpdateSheetScale",    "QmUpdateSheetScale_Help",    "QmUpdateSheetScale.png",    &QmUpdateSheetScale, kDrawingMode,        true},
     {"QmUpdateMainViewScale", "QmUpdateMainViewScale_Help", "QmUpdateMainViewScale.png", &QmUpdateMainViewScale, kDrawingMode,        true},

@@ -9,10 +9,10 @@
 namespace qm {
 
 inline constexpr std::string_view kNotInBuild[] = {
-    "QmBackup",      "NewPart",         "NewAsm",  "NewSmt",       "BatchColor",  "QmClearAllColor",
-    "QmTransparent", "SurfTransparent", "SetMat",  "SetBendTable", "QmRelations", "SetUnit",
-    "CloneComp",     "CloneAndReplace", "QmMerge", "QmMergeTo",    "QmRename",    "QmRemoveCons",
-    "QmMdlCount",    "QmSimRep",        "QmBox",   "QmMdlRename",
+    "QmBackup",        "NewPart",       "NewAsm",          "NewSmt",          "BatchColor",
+    "QmClearAllColor", "QmTransparent", "SurfTransparent", "SetMat",          "SetBendTable",
+    "QmRelations",     "SetUnit",       "CloneComp",       "CloneAndReplace", "QmMerge",
+    "QmMergeTo",       "QmRemoveCons",  "QmMdlCount",      "QmSimRep",        "QmBox",
 };
 
 // Says in a caption box that the command is not in this build.

@@ -12,4 +12,5 @@ PRO_FUNCTION(ProError, ProArraySizeGet, ProArray array, int* size);
 PRO_FUNCTION(ProError, ProArrayObjectAdd, ProArray* array, int index, int n_objects, void* object);
 
 PRO_FUNCTION(ProError, ProStringarrayFree, char** strings, int count);
+PRO_FUNCTION(ProError, ProStringFree, char* text);
 PRO_FUNCTION(ProError, ProWstringFree, wchar_t* text);

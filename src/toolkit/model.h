@@ -25,6 +25,13 @@ PRO_FUNCTION(ProError, ProMdlDisplay, ProMdl model);
 // The window that shows it; 0 is one.
 PRO_FUNCTION(ProError, ProMdlWindowGet, ProMdl model, int* window);
 PRO_FUNCTION(ProError, ProMdlSave, ProMdl model);
+// In session and on disk. Users of the model keep pointing at it; their files know the new name
+// only once they are saved.
+PRO_FUNCTION(ProError, ProMdlRename, ProMdl model, ProName new_name);
+// Out of session, perhaps only when the host has control again; the handle is dead at once.
+PRO_FUNCTION(ProError, ProMdlErase, ProMdl model);
+// An empty part or assembly, in session alone.
+PRO_FUNCTION(ProError, ProSolidCreate, ProName name, ProType type, ProSolid* solid);
 // Out of session with all that no window shows and no shown model needs: handles to them die.
 PRO_FUNCTION(ProError, ProMdlEraseNotDisplayed);
 PRO_FUNCTION(ProError, ProMdlIsSkeleton, ProMdl model, ProBoolean* is_skeleton);

@@ -51,6 +51,9 @@ namespace release {
 inline void Text(wchar_t* text) {
   ProWstringFree(text);
 }
+inline void NarrowText(char* text) {
+  ProStringFree(text);
+}
 inline void Selections(ProSelection* selections) {
   ProSelectionarrayFree(selections);
 }
@@ -78,6 +81,7 @@ void Array(T* items) {
 }  // namespace release
 
 using WideText = Owner<wchar_t*, &release::Text>;
+using NarrowText = Owner<char*, &release::NarrowText>;
 using SelectionEnvironment = Owner<ProSelectionEnv, &release::Environment>;
 using ExportData = Owner<Pro2dExportdata, &release::Data2d>;
 using PdfOptions = Owner<ProPDFOptions, &release::PdfOptions>;

@@ -28,6 +28,10 @@ PRO_FUNCTION(ProError, ProUIInputpanelValueSet, const char* dialog, const char* 
 PRO_FUNCTION(ProError, ProUIInputpanelValueGet, const char* dialog, const char* component,
              wchar_t** value);
 
+// The user goes into the field.
+PRO_FUNCTION(ProError, ProUIInputpanelFocusinActionSet, const char* dialog, const char* component,
+             ProUIAction action, ProAppData data);
+
 PRO_FUNCTION(ProError, ProUIOptionmenuValueSet, const char* dialog, const char* component,
              wchar_t* value);
 PRO_FUNCTION(ProError, ProUIOptionmenuValueGet, const char* dialog, const char* component,

@@ -51,6 +51,18 @@ PRO_FUNCTION(ProError, ProUITableSelectionpolicySet, const char* dialog, const c
              ProUISelectionpolicy policy);
 PRO_FUNCTION(ProError, ProUITableColumnselectionpolicySet, const char* dialog,
              const char* component, ProUISelectionpolicy policy);
+// A cell takes the focus.
+PRO_FUNCTION(ProError, ProUITableArmActionSet, const char* dialog, const char* component,
+             ProUIAction action, ProAppData data);
+// Names that ProStringFree frees.
+PRO_FUNCTION(ProError, ProUITableFocusCellGet, const char* dialog, const char* component,
+             char** row, char** column);
+// A copy of a component of the dialog stands in the cell, under a name of its own, and goes with
+// its row.
+PRO_FUNCTION(ProError, ProUITableCellComponentCopy, const char* dialog, const char* component,
+             const char* row, const char* column, const char* source, const char* new_name);
+PRO_FUNCTION(ProError, ProUITableCellComponentDelete, const char* dialog, const char* component,
+             const char* row, const char* column);
 // Double-click on a row.
 PRO_FUNCTION(ProError, ProUITableActivateActionSet, const char* dialog, const char* component,
              ProUIAction action, ProAppData data);

@@ -33,6 +33,9 @@ PRO_FUNCTION(ProError, ProConfigoptArrayGet, ProName option, ProPath** values);
 // Optional arguments may be null; PRO_TK_USER_ABORT when the user cancels.
 PRO_FUNCTION(ProError, ProFileOpen, wchar_t* title, wchar_t* filter, ProPath* shortcut_paths,
              ProName* shortcut_names, wchar_t* start_folder, wchar_t* preselected, ProPath chosen);
+// The same for a file that need not exist; the host may or may not add the extension.
+PRO_FUNCTION(ProError, ProFileSave, wchar_t* title, wchar_t* filter, ProPath* shortcut_paths,
+             ProName* shortcut_names, wchar_t* start_folder, wchar_t* preselected, ProPath chosen);
 // As for files; the folder may or may not end with a separator.
 PRO_FUNCTION(ProError, ProDirectoryChoose, wchar_t* title, ProPath* shortcut_paths,
              ProName* shortcut_names, wchar_t* start_folder, ProPath chosen);

@@ -40,6 +40,13 @@ ProError ProStringarrayFree(char** strings, int count) {
       });
 }
 
+ProError ProStringFree(char* text) {
+  return Crossing(__func__, GivenBack(text)).Run([](const Call& call, char* lent) {
+    call.TakeBack(lent, Resource::kNarrowText);
+    std::free(lent);
+  });
+}
+
 ProError ProWstringarrayFree(wchar_t** strings, int count) {
   return Crossing(__func__, GivenBack(strings), count)
       .Run([](const Call& call, wchar_t** texts, int given) {

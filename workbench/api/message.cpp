@@ -101,6 +101,22 @@ ProError ProMessageDoubleRead(double* range, double* value) {
       });
 }
 
+ProError ProMessageStringRead(int length, wchar_t* text) {
+  return Crossing(__func__, length, OutText{text, PRO_LINE_SIZE})
+      .Run([](const Call& call, int most, TextPlace place) {
+        if (most < 1 || most >= PRO_LINE_SIZE) call.Fail("a length that no line has");
+        const PromptText prompt = LastPrompt(call);
+        if (call.host.user == nullptr) return PRO_TK_MSG_USER_QUIT;
+        const auto answer = call.host.user->AnswerPrompt(prompt.prompt, most);
+        if (!answer) return PRO_TK_MSG_USER_QUIT;
+        const std::string reply = answer->empty() ? prompt.default_reply : *answer;
+        if (reply.empty()) return PRO_TK_GENERAL_ERROR;
+        // The host takes no more than it was told to.
+        place = FromWide(ToWide(reply).substr(0, static_cast<size_t>(most)));
+        return PRO_TK_NO_ERROR;
+      });
+}
+
 ProError ProMessageToBuffer(wchar_t* line, wchar_t* file, const char* key, ...) {
   va_list arguments;
   va_start(arguments, key);

@@ -2,6 +2,7 @@
 #include "workbench/api/model_record.h"
 #include "workbench/host/arguments.h"
 #include "workbench/session/model_file.h"
+#include "workbench/session/renaming.h"
 
 namespace wb {
 
@@ -68,6 +69,51 @@ Model* FormatOfFolders(const Call& call, const std::string& name) {
     }
   }
   return nullptr;
+}
+
+// Erased models count until the host has control again.
+bool IsTaken(const Call& call, const ModelName& name) {
+  const auto is_it = [&](const ModelName& leaving) {
+    return EqualFolded(leaving.Text(), name.Text());
+  };
+  return call.host.session.Find(name) != nullptr || std::ranges::any_of(call.host.leaving, is_it);
+}
+
+std::filesystem::path FolderOf(const Call& call, const Model& model) {
+  return model.folder.empty() ? call.host.session.working_directory() : model.folder;
+}
+
+// Where the next version goes.
+std::filesystem::path SaveFolder(const Call& call, const Model& model) {
+  const auto option = call.host.options.find("override_store_back");
+  const bool overrides =
+      option != call.host.options.end() && option->second == std::vector<std::string>{"yes"};
+  return overrides ? call.host.session.working_directory() : FolderOf(call, model);
+}
+
+ProError Rename(const Call& call, Model& model, const std::string& name) {
+  const ModelName after{name, model.id.kind};
+  const std::filesystem::path folder = FolderOf(call, model);
+  if (!IsLegalModelName(name)) return PRO_TK_INVALID_NAME;
+  const bool is_free = !IsTaken(call, after) && !HasModelFile(folder, after) &&
+                       !HasModelFile(call.host.session.working_directory(), after);
+  if (!is_free) return PRO_TK_E_FOUND;
+  if (call.host.session.IsReadOnly(folder)) return PRO_TK_NO_PERMISSION;
+  if (call.host.habits.rename_leaves_files) {
+    model.version = 0;
+  } else {
+    RenameModelFiles(folder, model.id, after);
+  }
+  call.host.session.Rename(model, name);
+  return PRO_TK_NO_ERROR;
+}
+
+bool IsUsed(Session& session, const Model& model) {
+  bool is_used = false;
+  for (const auto& user : session.models()) {
+    ForEachLink(*user, [&](const ModelLink& link) { is_used = is_used || link.model == &model; });
+  }
+  return is_used;
 }
 
 // The file of a model that has one.
@@ -181,9 +227,10 @@ ProError ProMdlSave(ProMdl model) {
     Session& session = call.host.session;
     const bool has_work = saved.modified || saved.version == 0;
     if (!has_work) return PRO_TK_NO_ERROR;
-    const auto& folder = saved.folder.empty() ? session.working_directory() : saved.folder;
+    const std::filesystem::path folder = SaveFolder(call, saved);
     if (session.IsReadOnly(folder)) return PRO_TK_NO_PERMISSION;
     try {
+      saved.folder = folder;
       session.Save(saved);
       return PRO_TK_NO_ERROR;
     } catch (const ModelFileError& error) {
@@ -191,6 +238,40 @@ ProError ProMdlSave(ProMdl model) {
       return PRO_TK_CANT_WRITE;
     }
   });
+}
+
+ProError ProMdlRename(ProMdl model, ProName new_name) {
+  return Crossing(__func__, ModelIn{model}, ModelNameIn{new_name})
+      .Run([](const Call& call, Model& renamed, const std::string& name) {
+        try {
+          return Rename(call, renamed, name);
+        } catch (const ModelFileError& error) {
+          call.host.events.Add(FileProblem{error.what()});
+          return PRO_TK_CANT_WRITE;
+        }
+      });
+}
+
+ProError ProMdlErase(ProMdl model) {
+  return Crossing(__func__, ModelIn{model}).Run([](const Call& call, Model& erased) {
+    if (IsUsed(call.host.session, erased)) throw NotModelled{"erasing a model that others use"};
+    if (call.host.habits.erasing_acts_at_the_end) call.host.leaving.push_back(erased.id);
+    call.host.session.Erase(erased);
+  });
+}
+
+ProError ProSolidCreate(ProName name, ProType type, ProSolid* solid) {
+  return Crossing(__func__, ModelNameIn{name}, type, Out(solid, "solid place"))
+      .Run([](const Call& call, const std::string& wanted, ProType kind, ProSolid& place) {
+        if (kind != PRO_PART && kind != PRO_ASSEMBLY) call.Fail("neither a part nor an assembly");
+        const ModelName id{wanted, static_cast<ModelKind>(kind)};
+        if (!IsLegalModelName(wanted)) return PRO_TK_INVALID_NAME;
+        if (IsTaken(call, id)) return PRO_TK_E_FOUND;
+        Model& made = call.host.session.Add(Model(id));
+        made.modified = true;
+        place = made.handle;
+        return PRO_TK_NO_ERROR;
+      });
 }
 
 ProError ProMdlEraseNotDisplayed() {

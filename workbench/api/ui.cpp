@@ -136,8 +136,22 @@ ProError ProUIInputpanelValueSet(const char* dialog, const char* component, wcha
 }
 
 ProError ProUIInputpanelValueGet(const char* dialog, const char* component, wchar_t** value) {
-  return Crossing(__func__, InputIn(dialog, component), OutWide(value, "value place"))
-      .Run([](const TextState& panel, WidePlace place) { place = panel.Value(); });
+  return Crossing(__func__, DialogIn{dialog}, FieldNameIn(component), OutWide(value, "value place"))
+      .Run([](const Call& call, LiveDialog& live, const std::string& name, WidePlace place) {
+        TextState* panel = nullptr;
+        const UiStatus found = live.state.Find(FieldKind::kInputPanel, name, &panel);
+        // Whether a panel is there is asked in this way, so that it is no misuse.
+        if (found == UiStatus::kNoField) return PRO_TK_GENERAL_ERROR;
+        const ProError status = Answer(call, found, name);
+        place = panel->Value();
+        return status;
+      });
+}
+
+ProError ProUIInputpanelFocusinActionSet(const char* dialog, const char* component,
+                                         ProUIAction action, ProAppData data) {
+  return BindFieldAction(__func__, dialog, component, {FieldKind::kInputPanel, kFocusInEvent},
+                         action, data);
 }
 
 ProError ProUIOptionmenuValueSet(const char* dialog, const char* component, wchar_t* value) {

@@ -102,6 +102,17 @@ struct OutList {
   }
 };
 
+// A narrow text that the plug-in frees.
+struct NarrowPlace {
+  const Call& call;
+  char*& place;
+  void operator=(const std::string& text) { place = GiveNarrow(call, text); }
+};
+struct OutNarrow : Out<char*> {
+  using Out::Out;
+  NarrowPlace Look(const Call& call) const { return {call, Out::Look(call)}; }
+};
+
 // A text that the plug-in frees.
 struct WidePlace {
   const Call& call;

@@ -185,6 +185,49 @@ ProError ProUITableSelectionpolicySet(const char* dialog, const char* component,
       });
 }
 
+ProError ProUITableArmActionSet(const char* dialog, const char* component, ProUIAction action,
+                                ProAppData data) {
+  return BindFieldAction(__func__, dialog, component, {FieldKind::kTable, kArmEvent}, action, data);
+}
+
+ProError ProUITableFocusCellGet(const char* dialog, const char* component, char** row,
+                                char** column) {
+  return Crossing(__func__, TableIn(dialog, component), OutNarrow(row, "row place"),
+                  OutNarrow(column, "column place"))
+      .Run([](const Call& call, const TableModel& table, NarrowPlace row_place,
+              NarrowPlace column_place) {
+        CellName cell;
+        const ProError status = Answer(call, table.GetFocus(&cell.row, &cell.column));
+        if (status != PRO_TK_NO_ERROR) return status;
+        row_place = cell.row;
+        column_place = cell.column;
+        return status;
+      });
+}
+
+ProError ProUITableCellComponentCopy(const char* dialog, const char* component, const char* row,
+                                     const char* column, const char* source, const char* new_name) {
+  return Crossing(__func__, DialogIn{dialog}, FieldIn<Field>{dialog, component, FieldKind::kTable},
+                  CellIn{row, column}, NarrowIn{source, "component name"},
+                  NarrowIn{new_name, "new name"})
+      .Run([](const Call& call, LiveDialog& live, const Field& table, const CellName& cell,
+              const std::string& from, const std::string& name) {
+        const UiStatus done = live.state.CopyIntoCell(from, table, cell.row, cell.column, name);
+        if (done == UiStatus::kBadArgument) return PRO_TK_E_FOUND;
+        // What was bound to another one of this name is not bound to the new one.
+        if (done == UiStatus::kOk) live.Unbind(name);
+        return Answer(call, done, from);
+      });
+}
+
+ProError ProUITableCellComponentDelete(const char* dialog, const char* component, const char* row,
+                                       const char* column) {
+  return Crossing(__func__, TableIn(dialog, component), CellIn{row, column})
+      .Run([](const Call& call, TableModel& table, const CellName& cell) {
+        return Answer(call, table.DropComponent(cell.row, cell.column));
+      });
+}
+
 ProError ProUITableColumnselectionpolicySet(const char* dialog, const char* component,
                                             ProUISelectionpolicy policy) {
   return Crossing(__func__, TableIn(dialog, component), policy)

@@ -41,6 +41,16 @@ struct OptionalPathTextIn : OptionalTextIn {
       : OptionalTextIn{{path, PRO_PATH_SIZE, path_of}} {}
 };
 
+// Asks the user for a file, to be opened or written.
+ProError AskForFile(const Call& call, FileRequest request, TextPlace place) {
+  request.asked_by = call.function;
+  if (call.host.user == nullptr) return PRO_TK_USER_ABORT;
+  const auto choice = call.host.user->ChooseFile(request);
+  if (!choice) return PRO_TK_USER_ABORT;
+  place = *choice;
+  return PRO_TK_NO_ERROR;
+}
+
 Model* FindOfType(Session& session, const std::string& name, ProType type) {
   for (const auto& model : session.models()) {
     const bool same_type = static_cast<int>(model->id.kind) == static_cast<int>(type);
@@ -193,15 +203,28 @@ ProError ProFileOpen(wchar_t* title, wchar_t* filter, ProPath* shortcut_paths,
       .Run([](const Call& call, const std::string& shown_title, const std::string& shown_filter,
               void*, void*, const std::string& folder, const wchar_t*, TextPlace place) {
         FileRequest request;
-        request.asked_by = call.function;
         request.title = shown_title;
         request.filter = shown_filter;
         request.start_folder = folder;
-        if (call.host.user == nullptr) return PRO_TK_USER_ABORT;
-        const auto choice = call.host.user->ChooseFile(request);
-        if (!choice) return PRO_TK_USER_ABORT;
-        place = *choice;
-        return PRO_TK_NO_ERROR;
+        return AskForFile(call, request, place);
+      });
+}
+
+ProError ProFileSave(wchar_t* title, wchar_t* filter, ProPath* shortcut_paths,
+                     ProName* shortcut_names, wchar_t* start_folder, wchar_t* preselected,
+                     ProPath chosen) {
+  return Crossing(__func__, OptionalPathTextIn(title, "title"),
+                  OptionalPathTextIn(filter, "filter"), DataIn{shortcut_paths},
+                  DataIn{shortcut_names}, OptionalPathTextIn(start_folder, "start folder"),
+                  OptionalPathTextIn(preselected, "file name"), OutText{chosen, PRO_PATH_SIZE})
+      .Run([](const Call& call, const std::string& shown_title, const std::string& shown_filter,
+              void*, void*, const std::string& folder, const std::string& name, TextPlace place) {
+        FileRequest request;
+        request.title = shown_title;
+        request.filter = shown_filter;
+        request.start_folder = folder;
+        request.offered_name = name;
+        return AskForFile(call, request, place);
       });
 }
 

@@ -1,7 +1,7 @@
-// Windows' own header without its macros that would rename what the workbench has of that name.
+// Windows' own header without those of its macros that would rename what the workbench calls so.
 #pragma once
 
 #include <windows.h>
 
-#undef MessageBox
 #undef FindWindow
+#undef MessageBox

@@ -26,6 +26,10 @@ std::vector<int> SizesFor(const BenchShape& shape, const std::vector<int>& sizes
   return fitting;
 }
 
+// Multiples of the numbers of drawings between two notes, and between two erasings of what is not
+// displayed, so that these are linear as well.
+constexpr int kFolderSizes[] = {60, 120, 240};
+
 BenchResult MeasureAll(const BenchOptions& options, const InstallCopy& copy) {
   BenchResult all;
   for (const BenchShape* shape : options.shapes) {
@@ -36,6 +40,11 @@ BenchResult MeasureAll(const BenchOptions& options, const InstallCopy& copy) {
       all.rows.insert(all.rows.end(), result.rows.begin(), result.rows.end());
       if (all.most_asked.empty()) all.most_asked = std::move(result.most_asked);
     }
+  }
+  for (const int drawings : kFolderSizes) {
+    std::fprintf(stderr, "folder, %d drawings\n", drawings);
+    const std::vector<FolderRow> rows = MeasureFolder(drawings, copy.dll(), copy.work());
+    all.folders.insert(all.folders.end(), rows.begin(), rows.end());
   }
   return all;
 }

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "workbench/bench/bench_folder.h"
 #include "workbench/bench/bench_parts.h"
 #include "workbench/session/bench_shapes.h"
 
@@ -37,6 +38,7 @@ struct MostAsked {
 struct BenchResult {
   std::vector<BenchRow> rows;
   std::vector<MostAsked> most_asked;  // by QmParams; only when wanted
+  std::vector<FolderRow> folders;     // no part of an assembly's measurement
 };
 
 struct BenchJob {

@@ -12,6 +12,7 @@ constexpr BenchPartRow kParts[] = {
     {BenchPart::kSummaryBill, "QmBom summary", "QmBom", BenchWork::kCollect, true},
     {BenchPart::kReadTable, "QmBom to Excel", "QmBom", BenchWork::kCollect, true},
     {BenchPart::kLevelBill, "QmBom levels", "QmBom", BenchWork::kCollect, true},
+    {BenchPart::kRenameList, "QmRename list", "QmRename", BenchWork::kCollect, true},
     {BenchPart::kExport, "QmExStp", "QmExStp", BenchWork::kCollect, false},
 };
 

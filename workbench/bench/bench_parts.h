@@ -16,6 +16,7 @@ enum class BenchPart {
   kSummaryBill,   // the press of QmLoadBom in the dialog of QmBom
   kReadTable,     // the press of QmExportBom up to the start of the spreadsheet program
   kLevelBill,     // the press of QmLoadBom for all levels
+  kRenameList,    // the press of UpdateRenameIni in the dialog of QmRename
   kExport,        // of every component as STEP, by a writer that writes nothing
 };
 

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdio>
 #include <functional>
+#include <map>
 
 #include "workbench/base/text.h"
 
@@ -114,6 +115,31 @@ std::string Asked(const std::vector<MostAsked>& most_asked, bool markdown) {
     table.push_back({row.function, std::to_string(row.times)});
   }
   return Table(table, 1, markdown);
+}
+
+std::string Folders(const std::vector<FolderRow>& rows, bool markdown) {
+  std::vector<TextRow> table = {
+      {"command over a folder", "drawings", "host calls", "per drawing", "notes", "ms"}};
+  for (const FolderRow& row : rows) {
+    table.push_back({row.command, std::to_string(row.drawings), std::to_string(row.calls),
+                     Number(static_cast<double>(row.calls) / row.drawings, 3),
+                     std::to_string(row.notes), Number(row.seconds * 1000, 2)});
+  }
+  return Table(table, 1, markdown);
+}
+
+BenchBound FolderCallsAreLinear(const BenchResult& result) {
+  BenchBound bound{"host calls exactly linear in the drawings of a folder", "all are", true};
+  std::map<std::string, std::vector<std::pair<long, long>>> calls;
+  for (const FolderRow& row : result.folders) {
+    calls[row.command].emplace_back(row.drawings, row.calls);
+  }
+  for (const auto& [command, points] : calls) {
+    if (IsExactlyLinear(points)) continue;
+    bound.kept = false;
+    bound.found = command + " are not";
+  }
+  return bound;
 }
 
 BenchBound CallsAreLinear(const BenchResult& result) {
@@ -244,6 +270,7 @@ bool IsExactlyLinear(const std::vector<std::pair<long, long>>& points) {
 
 std::vector<BenchBound> CheckBounds(const BenchResult& result) {
   return {CallsAreLinear(result),
+          FolderCallsAreLinear(result),
           ReadOnce(result),
           ParametersReadOnce(result),
           BillCalls(result),
@@ -265,6 +292,8 @@ std::string BenchHead() {
                 all levels (层级2 and these), and one of QmExportBom with the summary in the table,
                 up to the start of the spreadsheet program: the writer's preparation
   QmExStp       every component's model as a STEP file, by a writer that writes nothing
+  over a folder one run over so many drawings of two sheets and three views; each time the user is
+                told how far it is counts as a note
   x walk        against a bare walk in the workbench: a plain visitor that makes the same host calls
                 for each occurrence (flags, type, status, visibility, append, model, model type),
                 level by level, and keeps nothing else
@@ -283,7 +312,7 @@ fixed cost of fields, settings file and log decides, and they are missed. Measur
 
 std::string BenchTables(const BenchResult& result, bool markdown) {
   return Figures(result.rows, markdown) + "\n" + Growth(result.rows, markdown) + "\n" +
-         Asked(result.most_asked, markdown);
+         Asked(result.most_asked, markdown) + "\n" + Folders(result.folders, markdown);
 }
 
 }  // namespace wb

@@ -14,6 +14,7 @@ namespace wb {
 namespace {
 
 constexpr char kBillTable[] = "bom_list";
+constexpr char kRenameTable[] = "mdl_list";
 // The spreadsheet program is kept away, so that an export ends when its table has been read.
 constexpr char kNoSpreadsheet[] = "创建Excel失败";
 constexpr char kExported[] = "\tSTEP导出已完成\t";
@@ -41,11 +42,11 @@ void FillIn(Dialog& dialog) {
   Require(dialog.UserSetField("InputKeyWords", ""));
 }
 
-void RequireRows(LiveDialog& dialog) {
+void RequireRows(LiveDialog& dialog, const char* name) {
   TableModel* table = nullptr;
-  const UiStatus status = dialog.state.Find(FieldKind::kTable, kBillTable, &table);
+  const UiStatus status = dialog.state.Find(FieldKind::kTable, name, &table);
   if (status != UiStatus::kOk || table->Rows().empty()) {
-    throw std::runtime_error("the bill has no rows");
+    throw std::runtime_error(std::string(name) + " has no rows");
   }
 }
 
@@ -83,22 +84,29 @@ void BenchUser::AddParameter(LiveDialog& dialog) {
 
 void BenchUser::WorkBills(LiveDialog& dialog) {
   Take(BenchPart::kSummaryBill, [&] { Press(dialog, "QmLoadBom"); });
-  RequireRows(dialog);
+  RequireRows(dialog, kBillTable);
   Take(BenchPart::kReadTable, [&] { Press(dialog, "QmExportBom"); });
   Require(dialog.state.UserSelect("BomRadio", {"LevelBom"}));
   Fire(dialog, "BomRadio", kSelectEvent);
   Require(dialog.state.UserSelect("LevelOption", {"99"}));
   Take(BenchPart::kLevelBill, [&] { Press(dialog, "QmLoadBom"); });
-  RequireRows(dialog);
+  RequireRows(dialog, kBillTable);
+}
+
+void BenchUser::ListForRenaming(LiveDialog& dialog) {
+  Take(BenchPart::kRenameList, [&] { Press(dialog, "UpdateRenameIni"); });
+  RequireRows(dialog, kRenameTable);
 }
 
 void BenchUser::WorkDialog(LiveDialog& dialog) {
   if (dialog.name == "QmBom") {
     WorkBills(dialog);
+  } else if (dialog.name == "QmRename") {
+    ListForRenaming(dialog);
   } else {
     AddParameter(dialog);
   }
-  Press(dialog, "Close");
+  Fire(dialog, "", kCloseEvent);
 }
 
 std::optional<std::vector<PickedItem>> BenchUser::Pick(const PickRequest& request) {

@@ -35,6 +35,7 @@ class BenchUser : public User {
 
  private:
   void AddParameter(LiveDialog& dialog);
+  void ListForRenaming(LiveDialog& dialog);
   void WorkBills(LiveDialog& dialog);
   void Take(BenchPart part, const std::function<void()>& press);
 

@@ -16,6 +16,7 @@ constexpr ResourceRow kResources[] = {
     {Resource::kSelection, "selection"},
     {Resource::kSelectionEnv, "selection environment"},
     {Resource::kStringArray, "string array"},
+    {Resource::kNarrowText, "narrow text"},
     {Resource::kWideText, "wide text"},
     {Resource::kWideTextArray, "wide text array"},
     {Resource::kGeometryData, "geometry data"},

@@ -13,6 +13,7 @@ enum class Resource {
   kSelection,
   kSelectionEnv,
   kStringArray,
+  kNarrowText,
   kWideText,
   kWideTextArray,
   kGeometryData,

@@ -10,11 +10,12 @@ namespace wb {
 namespace {
 
 UserOutcome Refuse(const Field& component, const std::string& why) {
-  return {UiEvent::kNone, std::string(KindName(component.kind)) + " " + component.name + " " + why};
+  return {
+      UiEvent::kNone, std::string(KindName(component.kind)) + " " + component.name + " " + why, {}};
 }
 
 UserOutcome Fires(UiEvent event) {
-  return {event, {}};
+  return {event, {}, {}};
 }
 
 std::string SelectionRefusal(UiStatus status, const std::vector<std::string>& names,
@@ -46,7 +47,17 @@ Dialog::Dialog(DialogResource resource)
 
 const Field* Dialog::Lookup(std::string_view name) const {
   const auto found = index_.find(std::string(name));
-  return found == index_.end() ? nullptr : &components_[found->second];
+  if (found != index_.end()) return &components_[found->second];
+  const auto in_cell = cell_fields_.find(std::string(name));
+  const bool is_there = in_cell != cell_fields_.end() && IsThere(in_cell->second);
+  return is_there ? in_cell->second.field.get() : nullptr;
+}
+
+bool Dialog::IsThere(const CellField& held) const {
+  const auto& table = std::get<TableModel>(components_[index_.at(held.table)].state);
+  std::string name;
+  return table.GetComponent(held.row, held.column, &name) == UiStatus::kOk &&
+         name == held.field->name;
 }
 
 Field* Dialog::Lookup(std::string_view name) {
@@ -116,6 +127,37 @@ std::string Dialog::OptionNamed(std::string_view name, const std::string& label)
   return label;
 }
 
+UiStatus Dialog::CopyIntoCell(std::string_view source, const Field& table, const std::string& row,
+                              const std::string& column, const std::string& new_name) {
+  const auto found = index_.find(std::string(source));
+  if (found == index_.end()) return UiStatus::kNoField;
+  if (new_name.empty() || Lookup(new_name) != nullptr) return UiStatus::kBadArgument;
+  auto& cells = std::get<TableModel>(components_[index_.at(table.name)].state);
+  const UiStatus status = cells.PutComponent(row, column, new_name);
+  if (status != UiStatus::kOk) return status;
+  auto copy = std::make_unique<Field>(resource_.components[found->second]);
+  copy->name = new_name;
+  copy->parent = table.name;
+  if (auto* const text = std::get_if<TextState>(&copy->state)) {
+    *text = std::get<TextState>(components_[found->second].state);
+  }
+  cell_fields_[new_name] = {table.name, row, column, std::move(copy)};
+  return UiStatus::kOk;
+}
+
+std::string Dialog::CellText(const TableModel& table, const std::string& row,
+                             const std::string& column) const {
+  std::string component;
+  if (table.GetComponent(row, column, &component) == UiStatus::kOk) {
+    const Field* const field = Lookup(component);
+    const auto* const text = field == nullptr ? nullptr : std::get_if<TextState>(&field->state);
+    if (text != nullptr) return text->Value();
+  }
+  std::string label;
+  table.GetLabel(row, column, &label);
+  return label;
+}
+
 bool Dialog::IsShown(const Field& component) const {
   const Field* at = &component;
   while (at && at->visible) at = at->parent.empty() ? nullptr : Lookup(at->parent);
@@ -131,7 +173,8 @@ bool Dialog::IsUsable(const Field& component) const {
 UserOutcome Dialog::Reach(std::string_view name) const {
   const Field* component = Lookup(name);
   if (!component) {
-    return {UiEvent::kNone, "dialog " + resource_.name + " has no component " + std::string(name)};
+    return {
+        UiEvent::kNone, "dialog " + resource_.name + " has no component " + std::string(name), {}};
   }
   if (!IsShown(*component)) return Refuse(*component, "is not visible");
   if (!IsUsable(*component)) return Refuse(*component, "is greyed out");
@@ -210,7 +253,20 @@ UserOutcome Dialog::UserFocusCell(std::string_view table, const std::string& row
     return Refuse(target, "has no cell in row " + row + ", column " + std::string(column));
   }
   model->SelectRows({row});
-  return Fires(UiEvent::kArm);
+  std::string component;
+  const bool holds_one = model->GetComponent(row, column, &component) == UiStatus::kOk;
+  return {holds_one ? UiEvent::kFocusIn : UiEvent::kArm, {}, component};
+}
+
+UserOutcome Dialog::UserGoInto(std::string_view component) {
+  const auto in_cell = cell_fields_.find(std::string(component));
+  if (in_cell != cell_fields_.end() && IsThere(in_cell->second)) {
+    const CellField& held = in_cell->second;
+    return UserFocusCell(held.table, held.row, held.column);
+  }
+  UserOutcome outcome = Reach(component);
+  if (outcome.Done()) outcome.event = UiEvent::kFocusIn;
+  return outcome;
 }
 
 }  // namespace wb

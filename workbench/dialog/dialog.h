@@ -2,6 +2,7 @@
 // change it. Which actions are bound to it and when they run is the caller's business.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -16,7 +17,7 @@
 namespace wb {
 
 // The action of a component that a user's deed is to fire.
-enum class UiEvent { kNone, kActivate, kSelect, kInput, kArm };
+enum class UiEvent { kNone, kActivate, kSelect, kInput, kArm, kFocusIn };
 
 // What came of something the user tried: the action to fire, or why it cannot be done. A refused
 // deed changes nothing.
@@ -25,6 +26,7 @@ struct UserOutcome {
 
   UiEvent event = UiEvent::kNone;
   std::string refusal;  // a sentence that names the component
+  std::string target;   // whose action it is; empty: that of the component it was done to
 };
 
 class Dialog {
@@ -59,6 +61,11 @@ class Dialog {
   std::string OptionNamed(std::string_view name, const std::string& label) const;
   UiStatus SetOptionValue(std::string_view name, const std::string& item);
 
+  // A copy of a component of this dialog, in a cell of a table, under a name of its own. A name
+  // that a component has, and a cell that holds one, are kBadArgument.
+  UiStatus CopyIntoCell(std::string_view source, const Field& table, const std::string& row,
+                        const std::string& column, const std::string& new_name);
+
   // --- The user's side. A component that is missing, hidden or greyed, itself or through the group
   // it lies in, cannot be used.
   // Types `text` into an input panel or text area in place of what is there.
@@ -69,15 +76,22 @@ class Dialog {
   UserOutcome UserPress(std::string_view push_button);
   // Double-clicks a list item or table row, which also selects it.
   UserOutcome UserDoubleClick(std::string_view component, const std::string& name);
-  // Clicks a table cell: it takes the focus and its row becomes the selected one.
+  // Clicks a table cell, or the component in it: it takes the focus and its row becomes the
+  // selected one.
   UserOutcome UserFocusCell(std::string_view table, const std::string& row,
                             std::string_view column);
+
+  // The user goes into a component; when it stands in a cell, that one takes the focus.
+  UserOutcome UserGoInto(std::string_view component);
 
   // True when the component and every group around it is visible (or enabled).
   bool IsShown(const Field& component) const;
   bool IsUsable(const Field& component) const;
 
   // --- What a user reads.
+  // A cell's label, or the text of the component in it.
+  std::string CellText(const TableModel& table, const std::string& row,
+                       const std::string& column) const;
   // The field's own label, or that of the label beside or above it; "" when it has neither.
   std::string LabelOf(const Field& field) const;
   // The same behind the label of the group around it, which tells fields of one label apart:
@@ -90,6 +104,12 @@ class Dialog {
   bool IsCaption(const Field& field) const;
 
  private:
+  struct CellField {
+    std::string table, row, column;
+    std::unique_ptr<Field> field;
+  };
+  // One whose row has gone is no longer there.
+  bool IsThere(const CellField& held) const;
   const Field* Lookup(std::string_view name) const;
   Field* Lookup(std::string_view name);
   // Whether a user can reach `name` at all; the refusal says why not.
@@ -99,6 +119,7 @@ class Dialog {
   std::string title_;
   std::vector<Field> components_;
   std::unordered_map<std::string, std::size_t> index_;
+  std::unordered_map<std::string, CellField> cell_fields_;
   Captions captions_;
 };
 

@@ -232,8 +232,11 @@ class DialogPainter {
   void PaintRow(const TableModel& table, const TableModel::Row& row) {
     html_ += row.selected ? "<tr class=\"dlg-on\">" : "<tr>";
     for (const TableModel::Column& column : table.Columns()) {
-      const TableCell* cell = TableModel::CellAt(row, column);
-      html_ += "<td" + CellStyle(cell) + ">" + (cell ? EscapeHtml(cell->label) : "") + "</td>";
+      const std::string text = EscapeHtml(dialog_.CellText(table, row.name, column.name));
+      std::string component;
+      const bool is_field = table.GetComponent(row.name, column.name, &component) == UiStatus::kOk;
+      html_ += "<td" + CellStyle(TableModel::CellAt(row, column)) + ">" +
+               (is_field ? "<div class=\"dlg-field\">" + text + "</div>" : text) + "</td>";
     }
     html_ += "</tr>";
   }

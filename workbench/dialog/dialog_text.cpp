@@ -25,11 +25,10 @@ std::string ItemsText(const ChoiceState& choice, const std::vector<std::string>&
   return items.empty() ? "none" : Join(", ", items);
 }
 
-std::string RowText(const TableModel& table, const TableModel::Row& row) {
+std::string RowText(const Dialog& dialog, const TableModel& table, const TableModel::Row& row) {
   std::string text = "  row " + row.name + ":";
   for (const TableModel::Column& column : table.Columns()) {
-    const TableCell* const cell = TableModel::CellAt(row, column);
-    text += " " + InQuotes(cell == nullptr ? "" : cell->label);
+    text += " " + InQuotes(dialog.CellText(table, row.name, column.name));
   }
   return text + "\n";
 }
@@ -43,12 +42,12 @@ std::string TableText(const TableModel& table) {
          " columns" + (columns.empty() ? "" : " (" + Join(", ", columns) + ")");
 }
 
-std::string RowsText(const TableModel& table) {
+std::string RowsText(const Dialog& dialog, const TableModel& table) {
   std::string text;
   std::size_t told = 0;
   for (const TableModel::Row& row : table.Rows()) {
     if (told++ == kMostRowsTold) return text + "  ...\n";
-    text += RowText(table, row);
+    text += RowText(dialog, table, row);
   }
   return text;
 }
@@ -80,7 +79,7 @@ std::string DescribeFields(const Dialog& dialog) {
     if (!dialog.IsShown(field)) text += " (hidden)";
     if (!dialog.IsUsable(field)) text += " (greyed)";
     text += "\n";
-    if (const auto* table = std::get_if<TableModel>(&field.state)) text += RowsText(*table);
+    if (const auto* table = std::get_if<TableModel>(&field.state)) text += RowsText(dialog, *table);
   }
   return text;
 }

@@ -90,6 +90,7 @@ UiStatus TableModel::DeleteColumns(const std::vector<std::string>& names) {
     const std::size_t slot = found->second;
     for (Row& row : rows_) {
       if (slot < row.cells.size()) row.cells[slot] = TableCell();
+      std::erase_if(row.components, [&](const auto& held) { return held.first == slot; });
     }
     free_slots_.push_back(slot);
     slot_of_.erase(found);
@@ -109,7 +110,7 @@ UiStatus TableModel::InsertRows(std::string_view after, const std::vector<std::s
   const auto exists = [&](const std::string& name) { return row_index_.count(name) != 0; };
   if (!AreNewNames(names, exists)) return UiStatus::kBadArgument;
   for (const std::string& name : names) {
-    const auto row = rows_.insert(position, Row{name, {}, false, {}});
+    const auto row = rows_.insert(position, Row{name, {}, false, {}, {}});
     row_index_.emplace(row->name, row);
   }
   return UiStatus::kOk;
@@ -239,6 +240,47 @@ UiStatus TableModel::GetForeground(std::string_view row, std::string_view column
 
 UiStatus TableModel::SetForeground(std::string_view row, std::string_view column, int color) {
   return SetColor(row, column, &TableCell::foreground, color);
+}
+
+TableModel::Row* TableModel::RowOfCell(std::string_view row, std::string_view column,
+                                       std::size_t* slot) const {
+  const auto found_row = row_index_.find(row);
+  const auto found_slot = slot_of_.find(std::string(column));
+  if (found_row == row_index_.end() || found_slot == slot_of_.end()) return nullptr;
+  *slot = found_slot->second;
+  return &*found_row->second;
+}
+
+UiStatus TableModel::GetComponent(std::string_view row, std::string_view column,
+                                  std::string* name) const {
+  std::size_t slot = 0;
+  const Row* const found = RowOfCell(row, column, &slot);
+  if (found == nullptr) return UiStatus::kNotFound;
+  for (const auto& [held_slot, held_name] : found->components) {
+    if (held_slot != slot) continue;
+    *name = held_name;
+    return UiStatus::kOk;
+  }
+  return UiStatus::kNotFound;
+}
+
+UiStatus TableModel::PutComponent(std::string_view row, std::string_view column,
+                                  const std::string& name) {
+  std::string held;
+  if (GetComponent(row, column, &held) == UiStatus::kOk) return UiStatus::kBadArgument;
+  std::size_t slot = 0;
+  Row* const found = RowOfCell(row, column, &slot);
+  if (found == nullptr) return UiStatus::kNotFound;
+  found->components.emplace_back(slot, name);
+  return UiStatus::kOk;
+}
+
+UiStatus TableModel::DropComponent(std::string_view row, std::string_view column) {
+  std::size_t slot = 0;
+  Row* const found = RowOfCell(row, column, &slot);
+  const auto is_here = [&](const auto& held) { return held.first == slot; };
+  const bool dropped = found != nullptr && std::erase_if(found->components, is_here) > 0;
+  return dropped ? UiStatus::kOk : UiStatus::kNotFound;
 }
 
 UiStatus TableModel::SetPolicy(int policy) {

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "workbench/dialog/ui_status.h"
@@ -47,6 +48,7 @@ class TableModel {
     std::string label;
     bool selected = false;
     std::vector<TableCell> cells;  // may be shorter than the columns; the rest is blank
+    std::vector<std::pair<std::size_t, std::string>> components;  // in cells: slot and name
   };
 
   TableModel() = default;
@@ -84,6 +86,12 @@ class TableModel {
   UiStatus GetForeground(std::string_view row, std::string_view column, int* color) const;
   UiStatus SetForeground(std::string_view row, std::string_view column, int color);
 
+  // The component that stands in a cell, by its name; it goes with its row or column. kNotFound for
+  // a cell without one, kBadArgument for a second one.
+  UiStatus GetComponent(std::string_view row, std::string_view column, std::string* name) const;
+  UiStatus PutComponent(std::string_view row, std::string_view column, const std::string& name);
+  UiStatus DropComponent(std::string_view row, std::string_view column);
+
   SelectionPolicy Policy() const { return policy_; }
   UiStatus SetPolicy(int policy);
   std::vector<std::string> SelectedRows() const;  // in row order
@@ -105,6 +113,8 @@ class TableModel {
 
   // Position of the column, or columns_.size().
   std::size_t ColumnPosition(std::string_view name) const;
+  // The row and the column's slot; null when there is no such cell.
+  Row* RowOfCell(std::string_view row, std::string_view column, std::size_t* slot) const;
   UiStatus FindCell(std::string_view row, std::string_view column, const TableCell** cell) const;
   UiStatus GetColor(std::string_view row, std::string_view column, CellColor which,
                     int* color) const;

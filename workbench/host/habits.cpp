@@ -30,6 +30,8 @@ std::span<const HabitRow> HabitRows() {
       {"untouched_dimension_has_no_lines", &Habits::untouched_dimension_has_no_lines},
       {"untouched_dimension_text_fails", &Habits::untouched_dimension_text_fails},
       {"tolerances_are_taken_for_numbers", &Habits::tolerances_are_taken_for_numbers},
+      {"rename_leaves_files", &Habits::rename_leaves_files},
+      {"erasing_acts_at_the_end", &Habits::erasing_acts_at_the_end},
       {"selection_policy_clears_selection", &Habits::selection_policy_clears_selection},
       {"undisplayed_drawing_is_not_exported", &Habits::undisplayed_drawing_is_not_exported},
       {"empty_file_list_fails", &Habits::empty_file_list_fails},

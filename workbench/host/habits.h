@@ -29,6 +29,8 @@ struct Habits {
   bool untouched_dimension_has_no_lines = false;     // instead of "@D"
   bool untouched_dimension_text_fails = false;       // with "not found", instead of "@D"
   bool tolerances_are_taken_for_numbers = false;     // which then are anything, instead of places
+  bool rename_leaves_files = false;                  // under their old names
+  bool erasing_acts_at_the_end = false;              // of the action: until then the name is taken
   bool resources_lie_beside_text = false;            // in `resource`, instead of `text/resource`
   bool surface_data_has_unknown_order = false;
   bool parameter_record_has_unknown_order = false;

@@ -54,11 +54,15 @@ struct Host {
   std::unordered_set<PickedItem*> picked;  // live selections
   std::vector<void*> last_picks;           // selection handles of the last interactive pick
 
+  std::vector<ModelName> leaving;  // erased, but their names are taken until control is back
+
   std::string running_command;  // empty: the plug-in is idle
   unsigned long ui_thread = 0;
 
   void ReportBreach(const std::string& function, const std::string& why);
   bool OnUiThread() const;
+  // An action of the plug-in has come back: what waited for that is done.
+  void ControlIsBack() { leaving.clear(); }
   // Whether the user did something at this moment, in the middle of a call of `function`.
   bool LetUserIn(const char* function);
   // Ends every handle to a model that leaves the session and to what is inside it.

@@ -20,7 +20,12 @@ bool LiveDialog::Fire(const std::string& component, const std::string& event) {
     TheHost().ReportBreach(name, "exception across the boundary from the action of " +
                                      (component.empty() ? "the dialog" : component));
   }
+  TheHost().ControlIsBack();
   return true;
+}
+
+void LiveDialog::Unbind(const std::string& component) {
+  std::erase_if(actions, [&](const auto& bound) { return bound.first.first == component; });
 }
 
 LiveDialog* Dialogs::Find(const std::string& name) {

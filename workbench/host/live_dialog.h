@@ -30,6 +30,8 @@ class LiveDialog {
   bool above_active_window = false;  // kept above the window that a model is shown in
   std::map<std::pair<std::string, std::string>, BoundAction> actions;  // component, event
 
+  // Forgets what is bound to the events of `component`.
+  void Unbind(const std::string& component);
   // Calls what is bound to `event` of `component` ("" = the dialog itself); false: nothing bound.
   bool Fire(const std::string& component, const std::string& event);
 };
@@ -37,6 +39,8 @@ class LiveDialog {
 inline constexpr const char* kActivateEvent = "activate";
 inline constexpr const char* kCloseEvent = "close";
 inline constexpr const char* kSelectEvent = "select";
+inline constexpr const char* kArmEvent = "arm";
+inline constexpr const char* kFocusInEvent = "focus-in";
 inline constexpr const char* kPostManageEvent = "post-manage";
 
 // A dialog as the user last saw it, kept for the report.

@@ -137,6 +137,12 @@ wchar_t* GiveWide(const Call& call, const std::string& text) {
   return copy;
 }
 
+char* GiveNarrow(const Call& call, const std::string& text) {
+  char* const copy = CopyText(ToAnsi(text));
+  call.Give(copy, Resource::kNarrowText);
+  return copy;
+}
+
 char** GiveNames(const Call& call, const std::vector<std::string>& names) {
   return GiveTexts<char>(call, names, Resource::kStringArray, ToAnsi);
 }

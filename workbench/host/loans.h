@@ -27,6 +27,7 @@ void EndSelection(Host& host, ProSelection selection);
 
 // Arrays of texts end with a null, by which FreeTexts knows their count.
 wchar_t* GiveWide(const Call& call, const std::string& text);
+char* GiveNarrow(const Call& call, const std::string& text);
 char** GiveNames(const Call& call, const std::vector<std::string>& names);
 wchar_t** GiveWideTexts(const Call& call, const std::vector<std::string>& texts);
 

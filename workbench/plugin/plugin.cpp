@@ -51,7 +51,10 @@ class RunningCommand {
     }
     host.running_command = name;
   }
-  ~RunningCommand() { TheHost().running_command = before_; }
+  ~RunningCommand() {
+    TheHost().running_command = before_;
+    TheHost().ControlIsBack();
+  }
   RunningCommand(const RunningCommand&) = delete;
   RunningCommand& operator=(const RunningCommand&) = delete;
 

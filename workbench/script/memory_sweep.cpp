@@ -15,8 +15,6 @@ namespace {
 // A sample of a kind takes so many from the beginning, and so many spread over the rest.
 constexpr long kDense = 64;
 constexpr long kSparse = 24;
-// One mistake tends to show at many allocations; these many are told in full.
-constexpr int kMostToldMemoryRuns = 10;
 // Nothing is struck, but everything counted.
 constexpr long kNever = std::numeric_limits<long>::max();
 
@@ -111,7 +109,7 @@ MemorySweep::Judged MemorySweep::RunClean() {
 }
 
 void MemorySweep::Tell(const std::string& which, const std::vector<std::string>& complaints) {
-  if (complaints.empty() || ++bad_runs_ > kMostToldMemoryRuns) return;
+  if (complaints.empty() || ++bad_runs_ > kMostToldRuns) return;
   run_.Fail(statement_, which + " (" + run_.host.trace.last() +
                             " was the last call): " + Join("; ", complaints));
 }

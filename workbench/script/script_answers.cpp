@@ -41,7 +41,7 @@ void AwaitCall(ScriptRun& run, const Statement& statement) {
 }
 
 #define WB_MESSAGE "message KIND:caption|plain|warning TEXT [answer BUTTON:ok|cancel|yes|no]"
-#define WB_REQUEST "{[title TITLE] [filter FILTER] [folder FOLDER]}"
+#define WB_REQUEST "{[title TITLE] [filter FILTER] [folder FOLDER] [offers OFFERS]}"
 
 // clang-format off
 constexpr StatementForm kAnswerForms[] = {
@@ -105,8 +105,10 @@ void ScriptUser::CheckFileRequest(const Statement& answer, const FileRequest& re
   const struct {
     const char* name;
     const std::string& got;
-  } facts[] = {
-      {"title", request.title}, {"filter", request.filter}, {"folder", request.start_folder}};
+  } facts[] = {{"title", request.title},
+               {"filter", request.filter},
+               {"folder", request.start_folder},
+               {"offers", request.offered_name}};
   for (const auto& fact : facts) {
     if (!answer.Has(fact.name)) continue;
     std::string argument = fact.name;

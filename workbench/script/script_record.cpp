@@ -116,7 +116,8 @@ void CommandRecorder::NoteFile(const Watched& watched, const std::filesystem::pa
   const KeptFile kept = KeepFile(run_.options.report, run_.recording + 1, name, file);
   written.link = kept.link;
   written.no_copy = kept.trouble;
-  if (EqualFolded(PathToUtf8(file.extension()), ".xlsx")) {
+  const std::string extension = PathToUtf8(file.extension());
+  if (EqualFolded(extension, ".xlsx") || EqualFolded(extension, ".xls")) {
     record().workbooks.push_back({written.path, DrawWorkbookFile(file)});
   }
 }

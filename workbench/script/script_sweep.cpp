@@ -11,8 +11,6 @@
 namespace wb {
 namespace {
 
-// One mistake tends to show at many calls; these many are told in full.
-constexpr int kMostToldRuns = 10;
 // A command that makes more calls than this on a small model goes round in circles.
 constexpr long kMostCalls = 100000;
 

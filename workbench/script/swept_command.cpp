@@ -63,7 +63,8 @@ void SweptCommand::CheckRestored(const CommandRun& result,
   if (!may_change && result.directory_before != result.directory_after) {
     complaints->push_back("the working directory was left changed");
   }
-  const bool option_changed = run_.host.options != options_ && run_.host.options != options_after_;
+  const bool option_changed =
+      !all_calls_fail_ && run_.host.options != options_ && run_.host.options != options_after_;
   if (option_changed) complaints->push_back("an option was left changed");
 }
 

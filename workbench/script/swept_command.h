@@ -11,6 +11,9 @@
 
 namespace wb {
 
+// One mistake tends to show at many calls; these many bad runs of a sweep are told in full.
+inline constexpr int kMostToldRuns = 10;
+
 class ScriptRun;
 struct Statement;
 

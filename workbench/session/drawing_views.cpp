@@ -161,11 +161,11 @@ int AddView(DrawingContent& drawing, DrawingView view) {
   return id;
 }
 
-std::optional<int> AddProjection(DrawingContent& drawing, int parent, const SheetPoint& place) {
+std::optional<int> AddProjection(DrawingContent& drawing, int parent, const SheetPoint& beside) {
   DrawingView view;
   view.kind = ViewKind::kProjection;
   view.parent = parent;
-  view.place = place;
+  view.place = beside;
   FollowParent(drawing, view);
   if (view.side == ViewSide::kNone) return std::nullopt;
   return AddView(drawing, std::move(view));

@@ -33,8 +33,8 @@ Placement ViewToDrawing(const DrawingContent& drawing, const DrawingView& view);
 
 // A new general view, its outline fresh; `view` has all but an id.
 int AddView(DrawingContent& drawing, DrawingView view);
-// A new projection near a place; no value for a point in the very middle of the parent's outline.
-std::optional<int> AddProjection(DrawingContent& drawing, int parent, const SheetPoint& place);
+// A new projection near a point; no value for a point in the very middle of the parent's outline.
+std::optional<int> AddProjection(DrawingContent& drawing, int parent, const SheetPoint& beside);
 // Ids of the views that are projected from it, directly or through others.
 std::vector<int> ViewsBelow(const DrawingContent& drawing, int id);
 

@@ -8,6 +8,7 @@
 #include "workbench/session/drawing_views.h"
 #include "workbench/session/model_cycle.h"
 #include "workbench/session/model_file.h"
+#include "workbench/session/renaming.h"
 
 namespace wb {
 namespace {
@@ -244,6 +245,17 @@ void Session::EraseNotDisplayed() {
     if (!displayed.contains(model.get())) others.insert(model.get());
   }
   EraseAll(others);
+}
+
+void Session::Rename(Model& model, const std::string& name) {
+  const ModelName before = model.id;
+  by_name_.erase(Key(before));
+  model.id.name = name;
+  model.modified = true;
+  by_name_[Key(model.id)] = &model;
+  for (const auto& user : models_) {
+    if (TakeNewName(*user, before, model)) user->modified = true;
+  }
 }
 
 std::filesystem::path Session::Save(Model& model) {

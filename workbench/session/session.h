@@ -88,6 +88,9 @@ class Session {
   void EraseNotDisplayed();
   // Writes a new version into the model's folder (the working directory for a new model).
   std::filesystem::path Save(Model& model);
+  // Under another name of the same kind, in session; its users point at it as before, and have work
+  // for their next save. The files are left alone.
+  void Rename(Model& model, const std::string& name);
   const std::deque<std::unique_ptr<Model>>& models() const { return models_; }
 
   // The model of the current window; null when no window shows one.

@@ -18,6 +18,7 @@ struct FileRequest {
   std::string start_folder;
   std::string default_extension;
   unsigned flags = 0;
+  std::string offered_name{};
 };
 
 struct PickRequest {

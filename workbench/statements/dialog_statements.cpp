@@ -18,7 +18,9 @@ const char* EventName(UiEvent event) {
     case UiEvent::kInput:
       return "input";
     case UiEvent::kArm:
-      return "arm";
+      return kArmEvent;
+    case UiEvent::kFocusIn:
+      return kFocusInEvent;
     default:
       return "";
   }
@@ -56,19 +58,8 @@ void Deed(ScriptRun& run, const Statement& statement, const UserOutcome& outcome
     if (!run.lenient) run.Fail(statement, outcome.refusal);
     return;
   }
-  run.user.Fire(run.user.dialog(), NameAt(run, statement), EventName(outcome.event));
-}
-
-void Set(ScriptRun& run, const Statement& statement) {
-  Deed(run, statement, State(run).UserSetField(NameAt(run, statement), statement.Text("TEXT")));
-}
-
-void Choose(ScriptRun& run, const Statement& statement) {
-  Deed(run, statement, State(run).UserSelect(NameAt(run, statement), statement.Texts("ITEM_NAME")));
-}
-
-void Rows(ScriptRun& run, const Statement& statement) {
-  Deed(run, statement, State(run).UserSelect(NameAt(run, statement), statement.Texts("ROW")));
+  const std::string name = outcome.target.empty() ? NameAt(run, statement) : outcome.target;
+  run.user.Fire(run.user.dialog(), name, EventName(outcome.event));
 }
 
 template <typename T>
@@ -78,6 +69,35 @@ const T& StateOf(ScriptRun& run, const Statement& statement) {
   if (state != nullptr) return *state;
   throw ScriptError(std::string(KindName(component.kind)) + " " + component.name +
                     " has nothing of this kind");
+}
+
+// Who types into a field goes into it first.
+void TypeInto(ScriptRun& run, const Statement& statement, const std::string& field) {
+  Deed(run, statement, State(run).UserGoInto(field));
+  UserOutcome typed = State(run).UserSetField(field, statement.Text("TEXT"));
+  typed.target = field;
+  Deed(run, statement, typed);
+}
+
+void Set(ScriptRun& run, const Statement& statement) {
+  TypeInto(run, statement, NameAt(run, statement));
+}
+
+void SetCell(ScriptRun& run, const Statement& statement) {
+  std::string field;
+  const UiStatus found = StateOf<TableModel>(run, statement)
+                             .GetComponent(statement.Text("ROW"), statement.Text("COLUMN"), &field);
+  if (found == UiStatus::kOk) return TypeInto(run, statement, field);
+  throw ScriptError("there is no field in row " + statement.Text("ROW") + ", column " +
+                    statement.Text("COLUMN"));
+}
+
+void Choose(ScriptRun& run, const Statement& statement) {
+  Deed(run, statement, State(run).UserSelect(NameAt(run, statement), statement.Texts("ITEM_NAME")));
+}
+
+void Rows(ScriptRun& run, const Statement& statement) {
+  Deed(run, statement, State(run).UserSelect(NameAt(run, statement), statement.Texts("ROW")));
 }
 
 // A check button that already is as wanted is left alone.
@@ -176,12 +196,14 @@ void NoSuchCell(ScriptRun& run, const Statement& statement) {
 void ExpectCell(ScriptRun& run, const Statement& statement) {
   const std::string& row = statement.Text("ROW");
   const std::string& column = statement.Text("COLUMN");
+  const auto& table = StateOf<TableModel>(run, statement);
   std::string label;
-  if (StateOf<TableModel>(run, statement).GetLabel(row, column, &label) != UiStatus::kOk) {
+  if (table.GetLabel(row, column, &label) != UiStatus::kOk) {
     NoSuchCell(run, statement);
     return;
   }
-  run.CheckText(statement, "cell " + row + " " + column, statement.Text("TEXT"), label);
+  const std::string text = State(run).CellText(table, row, column);
+  run.CheckText(statement, "cell " + row + " " + column, statement.Text("TEXT"), text);
 }
 
 void ExpectColumns(ScriptRun& run, const Statement& statement) {
@@ -213,6 +235,7 @@ void ExpectColour(ScriptRun& run, const Statement& statement) {
 // clang-format off
 constexpr StatementForm kDialogForms[] = {
     {"set COMPONENT TEXT",                       kDialogPlace, &Set},
+    {"set COMPONENT ROW COLUMN TEXT",            kDialogPlace, &SetCell},
     {"choose COMPONENT ITEM_NAME...",            kDialogPlace, &Choose},
     {"check COMPONENT",                          kDialogPlace, &SetCheck},
     {"uncheck COMPONENT",                        kDialogPlace, &SetCheck},

@@ -28,6 +28,14 @@ void Option(ScriptRun& run, const Statement& statement) {
   run.host.options[FoldCase(statement.Text("NAME"))] = statement.Texts("TEXT");
 }
 
+void ExpectOption(ScriptRun& run, const Statement& statement) {
+  const auto held = run.host.options.find(FoldCase(statement.Text("NAME")));
+  const bool is_set = held != run.host.options.end() && !held->second.empty();
+  const std::string wanted = Join(", ", statement.Texts("TEXT"));
+  run.CheckText(statement, "option " + statement.Text("NAME"), statement.Has("none") ? "" : wanted,
+                is_set ? Join(", ", held->second) : "");
+}
+
 void Setting(ScriptRun& run, const Statement& statement) {
   const bool written = WriteProfile(
       run.ConfigFile(statement.Text("FILE")), statement.Text("SECTION"), statement.Text("KEY"),
@@ -97,6 +105,8 @@ constexpr StatementForm kStateForms[] = {
     {"select [also] PATH...",                         kTopPlace, &Select},
     {"option NAME none",                              kTopPlace, &OptionNone},
     {"option NAME TEXT...",                           kTopPlace, &Option},
+    {"expect option NAME none",                       kTopOrDialog, &ExpectOption},
+    {"expect option NAME TEXT...",                    kTopOrDialog, &ExpectOption},
     {"setting FILE SECTION KEY missing",              kTopOrDialog, &Setting},
     {"setting FILE SECTION KEY TEXT",                 kTopOrDialog, &Setting},
     {"config_folder missing",                         kTopPlace, &ConfigFolderMissing},

@@ -31,6 +31,7 @@ Hook HookRow(const char* name, std::type_identity_t<Function>* replacement,
   FAMILY(ComHooks)               \
   FAMILY(FileDialogHooks)        \
   FAMILY(SettingsHooks)          \
+  FAMILY(FileHooks)              \
   FAMILY(ModuleHooks)            \
   FAMILY(HeapHooks)
 

@@ -43,18 +43,18 @@ struct Place {
   int sheet = 0;
 };
 
-void ChangeOn(const Place& place, const DimensionChange& change, ProModelitem dimension) {
-  change.Apply(dimension);
+// Nothing but a dimension is changed.
+void ChangeOn(const Place& place, const DimensionChange& change, ProSelection selection) {
+  auto item = ItemOf(selection);
+  if (!item || item->type != PRO_DIMENSION) return;
+  change.Apply(*item);
   ProDwgSheetRegenerate(place.drawing, place.sheet);
 }
 
 void ChangeSelected(const Place& place, const DimensionChange& change,
                     const SelectionArray& selected) {
   const int count = selected.size();
-  for (int i = 0; i < count; ++i) {
-    const auto item = ItemOf(selected[i]);
-    if (item && item->type == PRO_DIMENSION) ChangeOn(place, change, *item);
-  }
+  for (int i = 0; i < count; ++i) ChangeOn(place, change, selected[i]);
 }
 
 // Until the user cancels.
@@ -65,7 +65,7 @@ void ChangePicked(const Place& place, const DimensionChange& change) {
     const ProError status =
         ProSelect("dimension", 1, nullptr, nullptr, nullptr, nullptr, &picked, &count);
     if (!Ok(status) || count < 1 || picked == nullptr) return;
-    if (const auto item = ItemOf(picked[0])) ChangeOn(place, change, *item);
+    ChangeOn(place, change, picked[0]);
   }
 }
 

@@ -16,9 +16,7 @@ namespace {
 constexpr double kSameTolerance = 1e-9;
 
 void LogAnswer(const ProModelitem& dimension, const char* function, ProError status) {
-  if (Ok(status)) return;
-  LogEvent("dimension " + std::to_string(dimension.id) + ": " + function + " answered " +
-           StatusName(status));
+  if (!Ok(status)) LogFailure(L"dimension " + std::to_wstring(dimension.id), function, status);
 }
 
 // A line of an array that owns its host's memory.

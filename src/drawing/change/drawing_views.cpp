@@ -8,6 +8,10 @@
 namespace qm {
 namespace {
 
+// Far more than any drawing has. Each of them is worked on, so that a number from nowhere would
+// keep the host busy for hours.
+constexpr int kMostSheets = 10'000;
+
 // Whether the answer counts; a failure is logged with the drawing's name.
 bool Told(ProDrawing drawing, const char* function, ProError status) {
   if (!Ok(status)) LogFailure(drawing, function, status);
@@ -16,19 +20,21 @@ bool Told(ProDrawing drawing, const char* function, ProError status) {
 
 }  // namespace
 
-std::vector<DrawingView> ViewsOf(ProDrawing drawing) {
+CollectedViews ViewsOf(ProDrawing drawing) {
   HostArray<ProView> array;
-  if (!Ok(ProDrawingViewsCollect(drawing, array.put()))) return {};
-  std::vector<DrawingView> views(static_cast<size_t>(array.size()));
-  for (size_t i = 0; i < views.size(); ++i) {
-    views[i].view = array[static_cast<int>(i)];
+  CollectedViews collected;
+  const ProError status = ProDrawingViewsCollect(drawing, array.put());
+  const int count = Ok(status) ? array.size() : 0;
+  if (count > 0 || !Ok(status)) collected.status = status;
+  for (int i = 0; i < count; ++i) {
+    DrawingView& view = collected.views.emplace_back(DrawingView{array[i]});
     int sheet = 0;
     if (Told(drawing, "ProDrawingViewSheetGet",
-             ProDrawingViewSheetGet(drawing, views[i].view, &sheet))) {
-      views[i].sheet = sheet;
+             ProDrawingViewSheetGet(drawing, view.view, &sheet))) {
+      view.sheet = sheet;
     }
   }
-  return views;
+  return collected;
 }
 
 std::vector<std::vector<ProView>> BySheet(const std::vector<DrawingView>& views, int sheet_count) {
@@ -43,8 +49,9 @@ std::vector<std::vector<ProView>> BySheet(const std::vector<DrawingView>& views,
 
 int SheetCount(ProDrawing drawing) {
   int count = 0;
-  if (!Told(drawing, "ProDrawingSheetsCount", ProDrawingSheetsCount(drawing, &count))) return 0;
-  return count > 0 ? count : 0;
+  ProError status = ProDrawingSheetsCount(drawing, &count);
+  if (Ok(status) && (count < 1 || count > kMostSheets)) status = PRO_TK_OUT_OF_RANGE;
+  return Told(drawing, "ProDrawingSheetsCount", status) ? count : 0;
 }
 
 ProSolid SolidOf(ProDrawing drawing, ProView view) {

@@ -13,13 +13,16 @@ struct DrawingView {
   int sheet = 0;  // 0: the host does not tell, and it lies on none that counts
 };
 
-// In the order of the host's collection; empty when there are none or the host does not tell.
-std::vector<DrawingView> ViewsOf(ProDrawing drawing);
+struct CollectedViews {
+  ProError status = PRO_TK_E_NOT_FOUND;  // why there are none
+  std::vector<DrawingView> views;        // in the order of the host's collection
+};
+CollectedViews ViewsOf(ProDrawing drawing);
 
 // The views on each sheet in their order; sheet 1 stands first.
 std::vector<std::vector<ProView>> BySheet(const std::vector<DrawingView>& views, int sheet_count);
 
-// Number of sheets; 0 when the host does not tell.
+// Number of sheets; 0, after a line in the run log, when the host does not tell one that can be.
 int SheetCount(ProDrawing drawing);
 
 // What the host answers of a view; nothing, after a line in the run log, when it does not.

@@ -33,8 +33,8 @@ bool DiffersFromSheet(ProDrawing drawing, ProView view, int sheet) {
 
 // One line for each sheet with a finding.
 void CheckDrawing(ProDrawing drawing, const std::wstring& file_name, std::wstring* report) {
-  const std::vector<DrawingView> views = ViewsOf(drawing);
-  if (views.empty()) return LogFailure(file_name, "ProDrawingViewsCollect", PRO_TK_E_NOT_FOUND);
+  const auto [status, views] = ViewsOf(drawing);
+  if (views.empty()) return LogFailure(file_name, "ProDrawingViewsCollect", status);
   const std::wstring name = ModelName(drawing).value_or(file_name);
   const auto sheets = BySheet(views, SheetCount(drawing));
   for (size_t i = 0; i < sheets.size(); ++i) {

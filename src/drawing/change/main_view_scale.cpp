@@ -1,7 +1,9 @@
 // QmUpdateSheetScale and QmUpdateMainViewScale. The main view of a sheet is the general view that
-// is preselected; else the first one on it that has projections; else the first one.
+// is preselected, on whatever sheet it lies; else the first one on it that has projections; else
+// the first one.
 #include "drawing/change/main_view_scale.h"
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 #include <unordered_set>
@@ -9,6 +11,7 @@
 
 #include "drawing/change/drawing_views.h"
 #include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
 #include "frame/models/preselection.h"
 #include "toolkit/drawing.h"
 #include "toolkit/model.h"
@@ -47,52 +50,56 @@ ProView PreselectedMainView(ProDrawing drawing) {
   return nullptr;
 }
 
-std::vector<ProView> ViewsOn(const Sheet& sheet) {
-  std::vector<ProView> views;
-  for (const DrawingView& view : ViewsOf(sheet.drawing)) {
-    if (view.sheet == sheet.number) views.push_back(view.view);
-  }
-  return views;
-}
-
-ProView MainView(const Sheet& sheet) {
-  if (ProView view = PreselectedMainView(sheet.drawing)) return view;
-  std::vector<ProView> general;
+// Those that a projection on whatever sheet is taken from.
+std::unordered_set<ProView> Parents(ProDrawing drawing, const std::vector<DrawingView>& views) {
   std::unordered_set<ProView> parents;
-  for (ProView view : ViewsOn(sheet)) {
+  for (const DrawingView& view : views) {
     ProViewType type = PRO_VIEW_OF_FLAT_TYPE;
-    if (!Ok(ProDrawingViewTypeGet(sheet.drawing, view, &type))) continue;
     ProView parent = nullptr;
-    if (type == PRO_VIEW_GENERAL) {
-      general.push_back(view);
-    } else if (type == PRO_VIEW_PROJECTION &&
-               Ok(ProDrawingViewParentGet(sheet.drawing, view, &parent))) {
+    if (Ok(ProDrawingViewTypeGet(drawing, view.view, &type)) && type == PRO_VIEW_PROJECTION &&
+        Ok(ProDrawingViewParentGet(drawing, view.view, &parent))) {
       parents.insert(parent);
     }
   }
-  for (ProView view : general) {
-    if (parents.contains(view)) return view;
+  return parents;
+}
+
+// Without a view when there is none.
+DrawingView MainView(const Sheet& sheet) {
+  const auto [status, views] = ViewsOf(sheet.drawing);
+  if (views.empty()) LogFailure(sheet.drawing, "ProDrawingViewsCollect", status);
+  if (ProView preselected = PreselectedMainView(sheet.drawing)) {
+    const auto at = std::ranges::find(views, preselected, &DrawingView::view);
+    return at != views.end() ? *at : DrawingView{preselected, sheet.number};
   }
-  return general.empty() ? nullptr : general.front();
+  std::vector<DrawingView> general;
+  for (const DrawingView& view : views) {
+    if (view.sheet == sheet.number && IsGeneral(sheet.drawing, view.view)) general.push_back(view);
+  }
+  const auto parents = Parents(sheet.drawing, views);
+  for (const DrawingView& view : general) {
+    if (parents.contains(view.view)) return view;
+  }
+  return general.empty() ? DrawingView() : general.front();
 }
 
 // Those of the main view and its sheet when they differ; nothing, after a message, otherwise.
 std::optional<MainViewScales> DifferingScales(const Sheet& sheet) {
-  ProView view = MainView(sheet);
+  ProDrawing const drawing = sheet.drawing;
+  const auto [view, number] = MainView(sheet);
   if (view == nullptr) {
     ShowMessage(L"\t当前页面无主视图\t");
     return std::nullopt;
   }
-  const auto is_own = HasOwnScale(sheet.drawing, view);
+  const auto is_own = HasOwnScale(drawing, view);
   if (!is_own) return std::nullopt;
   if (*is_own) {
-    ProSolid solid = SolidOf(sheet.drawing, view);
-    const auto of_view = ScaleOf(sheet.drawing, view);
-    const auto of_sheet =
-        solid != nullptr ? SheetScale(sheet.drawing, solid, sheet.number) : std::nullopt;
+    ProSolid solid = SolidOf(drawing, view);
+    const auto of_view = ScaleOf(drawing, view);
+    const auto of_sheet = solid != nullptr ? SheetScale(drawing, solid, number) : std::nullopt;
     if (!of_view || !of_sheet) return std::nullopt;
     if (DifferentScales(*of_view, *of_sheet)) {
-      return MainViewScales{sheet.drawing, sheet.number, view, solid, *of_view, *of_sheet};
+      return MainViewScales{drawing, number, view, solid, *of_view, *of_sheet};
     }
   }
   ShowMessage(L"\t比例一致，无需更新\t");
@@ -107,7 +114,7 @@ ProError AlignScales(const std::function<ProError(const MainViewScales&)>& set) 
   const auto scales = DifferingScales(*sheet);
   if (!scales) return PRO_TK_GENERAL_ERROR;
   const ProError status = set(*scales);
-  return Ok(status) ? ProDwgSheetRegenerate(sheet->drawing, sheet->number) : status;
+  return Ok(status) ? ProDwgSheetRegenerate(scales->drawing, scales->sheet) : status;
 }
 
 }  // namespace qm

@@ -1,6 +1,6 @@
-// The main view of the sheet that the user looks at, and its scale beside the sheet's. The main
-// view is the general view that is preselected; else the first one on the sheet that has
-// projections; else the first one.
+// The main view of the sheet that the user looks at, and its scale beside its sheet's. The main
+// view is the general view that is preselected, on whatever sheet it lies; else the first one on
+// the sheet that has projections, which may lie elsewhere; else the first one.
 #pragma once
 
 #include <functional>
@@ -11,7 +11,7 @@ namespace qm {
 
 struct MainViewScales {
   ProDrawing drawing = nullptr;
-  int sheet = 0;
+  int sheet = 0;  // that the view lies on
   ProView view = nullptr;
   ProSolid solid = nullptr;  // the view's model
   double of_view = 0;

@@ -45,6 +45,7 @@ ProError SameScale() {
   if (Ok(status) && drawing != nullptr) status = ProDrawingViewsCollect(drawing, views.put());
   const int count = Ok(status) ? views.size() : 0;
   if (count == 0) {
+    Log(drawing, "ProDrawingViewsCollect", status);
     ShowMessage(L"\t当前无视图\t");
     return PRO_TK_E_NOT_FOUND;
   }

@@ -26,24 +26,32 @@ constexpr int kFormatSheet = 0;
 constexpr int kFirstSegment = 0;
 constexpr int kWholeTable = -1;
 
+// A failure that is passed over, with the drawing's name. Finding none is no failure.
+void LogPassedOver(ProDrawing drawing, const char* function, ProError status) {
+  if (!Ok(status) && status != PRO_TK_E_NOT_FOUND) LogFailure(drawing, function, status);
+}
+
 // Sheet of a table; 0 when the host does not tell.
-int SheetOf(ProDwgtable& table) {
+int SheetOf(ProDrawing drawing, ProDwgtable& table) {
   int sheet = 0;
   if (Ok(ProDwgtableSegSheetGet(&table, kFirstSegment, &sheet))) return sheet;
-  return Ok(ProDwgtableSegSheetGet(&table, kWholeTable, &sheet)) ? sheet : 0;
+  const ProError status = ProDwgtableSegSheetGet(&table, kWholeTable, &sheet);
+  if (!Ok(status)) LogFailure(drawing, "ProDwgtableSegSheetGet", status);
+  return Ok(status) ? sheet : 0;
 }
 
 // Tables of formats, by the sheet they lie on.
 std::unordered_map<int, std::vector<ProDwgtable>> FormatTables(ProDrawing drawing) {
   std::unordered_map<int, std::vector<ProDwgtable>> tables;
   HostArray<ProDwgtable> array;
-  if (!Ok(ProDrawingTablesCollect(drawing, array.put()))) return tables;
-  const int count = array.size();
+  ProError status = ProDrawingTablesCollect(drawing, array.put());
+  LogPassedOver(drawing, "ProDrawingTablesCollect", status);
+  const int count = Ok(status) ? array.size() : 0;
   for (int i = 0; i < count; ++i) {
     ProBoolean is_from_format = PRO_B_FALSE;
-    if (Ok(ProDwgtableIsFromFormat(&array[i], &is_from_format)) && is_from_format) {
-      tables[SheetOf(array[i])].push_back(array[i]);
-    }
+    status = ProDwgtableIsFromFormat(&array[i], &is_from_format);
+    if (!Ok(status)) LogFailure(drawing, "ProDwgtableIsFromFormat", status);
+    if (Ok(status) && is_from_format) tables[SheetOf(drawing, array[i])].push_back(array[i]);
   }
   return tables;
 }
@@ -67,14 +75,16 @@ class Replacement {
 
   // `model` belongs to the format; that of the last view on the sheet where there is one.
   void OnSheet(int sheet, const std::vector<ProView>& views, ProSolid& model) {
-    ProDrawingCurrentSheetSet(drawing_, sheet);
+    LogPassedOver(drawing_, "ProDrawingCurrentSheetSet",
+                  ProDrawingCurrentSheetSet(drawing_, sheet));
     for (ProView view : views) {
       if (ProSolid solid = SolidOf(drawing_, view)) model = solid;
     }
-    if (model != nullptr) ProDrawingCurrentsolidSet(drawing_, model);
-    for (ProDwgtable& table : tables_[sheet]) {
-      if (Ok(ProDwgtableDelete(&table, PRO_B_FALSE))) ++counts_.tables;
+    if (model != nullptr) {
+      LogPassedOver(drawing_, "ProDrawingCurrentsolidSet",
+                    ProDrawingCurrentsolidSet(drawing_, model));
     }
+    for (ProDwgtable& table : tables_[sheet]) Delete(table);
     if (format_ == nullptr || model == nullptr) return;
     const ProError status = ProDrawingFormatAdd(drawing_, sheet, model, format_, kFormatSheet);
     if (Ok(status)) ++counts_.placed;
@@ -84,6 +94,12 @@ class Replacement {
   const Counts& counts() const { return counts_; }
 
  private:
+  void Delete(ProDwgtable& table) {
+    const ProError status = ProDwgtableDelete(&table, PRO_B_FALSE);
+    if (Ok(status)) ++counts_.tables;
+    if (!Ok(status)) LogFailure(drawing_, "ProDwgtableDelete", status);
+  }
+
   ProDrawing drawing_;
   ProMdl format_;
   std::unordered_map<int, std::vector<ProDwgtable>> tables_;
@@ -107,12 +123,19 @@ int LatestVersion(const DrawingFile& file) {
   return latest;
 }
 
+// What came of saving, by the highest number before and after it.
+std::string SavedText(ProError status, int before, int after) {
+  if (!Ok(status)) return std::string("not saved: ") + StatusName(status);
+  return after > before ? "saved as version " + std::to_string(after)
+                        : "saved, without a new version in the working directory";
+}
+
 }  // namespace
 
 bool ReplaceFormats(ProDrawing drawing, const DrawingFile& file, ProMdl format) {
-  const std::vector<DrawingView> views = ViewsOf(drawing);
+  const auto [status, views] = ViewsOf(drawing);
   if (views.empty()) {
-    LogFailure(file.name, "ProDrawingViewsCollect", PRO_TK_E_NOT_FOUND);
+    LogFailure(file.name, "ProDrawingViewsCollect", status);
     return false;
   }
   const int count = SheetCount(drawing);
@@ -123,13 +146,12 @@ bool ReplaceFormats(ProDrawing drawing, const DrawingFile& file, ProMdl format) 
   for (int sheet = kFirstSheet; sheet <= count; ++sheet) {
     replacement.OnSheet(sheet, sheets[static_cast<size_t>(sheet - kFirstSheet)], model);
   }
+  const int version = LatestVersion(file);
   const ProError saved = ProMdlSave(drawing);
   const Counts& counts = replacement.counts();
   LogEvent(ToUtf8(file.name) + ": " + std::to_string(counts.tables) +
            " tables removed, format on " + std::to_string(counts.placed) + " of " +
-           std::to_string(count) + " sheets, " +
-           (Ok(saved) ? "saved as version " + std::to_string(LatestVersion(file))
-                      : std::string("not saved: ") + StatusName(saved)));
+           std::to_string(count) + " sheets, " + SavedText(saved, version, LatestVersion(file)));
   return counts.placed == count && Ok(saved);
 }
 

@@ -2,10 +2,12 @@
 #include "drawing/create/main_view_orientation.h"
 
 #include <cmath>
+#include <optional>
 #include <span>
 #include <vector>
 
 #include "drawing/create/twe_views_rules.h"
+#include "frame/geometry/normal_view_rules.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/model_view.h"
 #include "toolkit/geometry.h"
@@ -67,9 +69,20 @@ Matrix TurnedView(ProMdl model, const std::vector<Matrix>& outcomes) {
   return outcomes.front();
 }
 
+bool HasUnitRows(const Matrix& view) {
+  const auto unit = Normalised(view);
+  return unit && SameRotation(*unit, view);
+}
+
+// Whether the window can show again what it shows. A host may refuse rows that carry the zoom: what
+// it takes then would lose the zoom.
+bool CanComeBack(ProMdl model, const Matrix& view) {
+  return HasUnitRows(view) || (Normalised(view) && Ok(WriteView(model, view)));
+}
+
 Matrix OrientationByExtents(ProMdl model) {
   const auto saved = ReadView(model);
-  if (!saved || !Normalised(*saved)) return Outcomes(TurnsFor(model)).front();
+  if (!saved || !CanComeBack(model, *saved)) return Outcomes(TurnsFor(model)).front();
   WriteView(model, Identity());
   const std::span<const Axis> turns = TurnsFor(model);
   for (const Axis axis : turns) ProViewRotate(model, nullptr, HostAxis(axis), kQuarter);
@@ -79,14 +92,20 @@ Matrix OrientationByExtents(ProMdl model) {
   return orientation;
 }
 
+// What is read is snapped once more, which changes nothing unless the window would not turn.
+std::optional<Matrix> OrientationAsShown(ProMdl model) {
+  const ProError status = SnapView(model);
+  if (!Ok(status)) LogFailure(model, "the view along the axes", status);
+  const auto shown = ReadView(model);
+  const auto snapped = shown ? NormalView(*shown) : std::nullopt;
+  return snapped ? Normalised(*snapped) : std::nullopt;
+}
+
 }  // namespace
 
 Matrix MainViewOrientation(ProMdl model, bool as_shown) {
-  if (as_shown && Ok(SnapView(model))) {
-    const auto shown = ReadView(model);
-    if (const auto unit = shown ? Normalised(*shown) : std::nullopt) return *unit;
-  }
-  return OrientationByExtents(model);
+  const auto shown = as_shown ? OrientationAsShown(model) : std::nullopt;
+  return shown ? *shown : OrientationByExtents(model);
 }
 
 }  // namespace qm

@@ -78,7 +78,7 @@ void CreateDrawing(const DialogView& dialog) {
   log.set_status(Create(dialog));
 }
 
-// Button of the model's kind; nothing for other kinds than these two.
+// Button of the model's kind; nothing for other kinds than these two. A sheet-metal part is a part.
 std::optional<std::string> KindButton(ProMdl model) {
   ProMdlType type = PRO_MDL_UNUSED;
   if (!Ok(ProMdlTypeGet(model, &type))) return std::nullopt;
@@ -97,6 +97,7 @@ ProError QmNewDrw() {
   if (model == nullptr) return PRO_TK_E_NOT_FOUND;
   const auto name = ModelName(model);
   if (!name) return PRO_TK_GENERAL_ERROR;
+  // A current drawing finds itself here and is brought up: no dialog opens on a drawing.
   if (RetrieveModel(*name, PRO_MDL_DRAWING) != nullptr) return ShowAsCurrent(*name);
   return RunDialog(kDialog, [model](const Dialog& dialog) {
     dialog.BindButton<&CreateDrawing>("QmCreateDrw");

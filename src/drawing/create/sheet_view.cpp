@@ -65,16 +65,15 @@ void ShowAs(ProDrawing drawing, ProView view, ProDisplayStyle style) {
   LogStatus("ProDrawingViewDisplaySet", ProDrawingViewDisplaySet(drawing, view, &display));
 }
 
-ProError GeneralView::Make() {
+void GeneralView::Make() {
   Pro3dPnt position = {point_.x, point_.y, 0};
   Matrix orientation = orientation_;
   view_ = nullptr;
-  const ProError status =
-      ProDrawingGeneralviewCreate(drawing_, solid_, kFirstSheet, PRO_B_FALSE, nullptr, position,
-                                  kTrueSize, orientation.rows, &view_);
-  LogStatus("ProDrawingGeneralviewCreate", status);
-  if (!Ok(status)) view_ = nullptr;
-  return status;
+  status_ = ProDrawingGeneralviewCreate(drawing_, solid_, kFirstSheet, PRO_B_FALSE, nullptr,
+                                        position, kTrueSize, orientation.rows, &view_);
+  if (Ok(status_) && view_ == nullptr) status_ = PRO_TK_GENERAL_ERROR;
+  LogStatus("ProDrawingGeneralviewCreate", status_);
+  if (!Ok(status_)) view_ = nullptr;
 }
 
 void GeneralView::Turn(SheetAxis axis, double degrees) {

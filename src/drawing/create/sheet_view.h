@@ -29,9 +29,11 @@ class GeneralView {
 
   // Null until it is made, and after a failure.
   ProView view() const { return view_; }
+  // Why there is none, as the host said it.
+  ProError status() const { return status_; }
   const Matrix& orientation() const { return orientation_; }
 
-  ProError Make();
+  void Make();
   // Turns and regenerates it. A host that turns it otherwise, or not at all, gets the view made
   // anew with the turned matrix.
   void Turn(SheetAxis axis, double degrees);
@@ -47,6 +49,7 @@ class GeneralView {
   SheetPoint point_;
   Matrix orientation_;
   ProView view_ = nullptr;
+  ProError status_ = PRO_TK_GENERAL_ERROR;
 };
 
 }  // namespace qm

@@ -55,6 +55,17 @@ bool MainViewWantsTurn(std::string_view direction, double width, double height) 
   return direction == "main-v" && higher_by < kHigher;
 }
 
+SheetBox MovedBy(const SheetBox& box, SheetPoint by) {
+  return {box.x1 + by.x, box.y1 + by.y, box.x2 + by.x, box.y2 + by.y};
+}
+
+SheetBox QuarterTurned(const SheetBox& box) {
+  const auto [x, y] = box.Centre();
+  const double across = box.Height() / 2;
+  const double up = box.Width() / 2;
+  return {x - across, y - up, x + across, y + up};
+}
+
 std::span<const ProjectionRow, kProjectedViews> Projections() {
   static constexpr ProjectionRow kRows[] = {
       {SetView::k1, SetView::kMain, Side::kBelow}, {SetView::k2, SetView::kMain, Side::kAbove},

@@ -38,6 +38,10 @@ struct SheetBox {
   SheetPoint Centre() const { return {(x1 + x2) / 2, (y1 + y2) / 2}; }
 };
 
+// Where a view is whose outline cannot be read any more after a move or a quarter turn.
+SheetBox MovedBy(const SheetBox& box, SheetPoint by);
+SheetBox QuarterTurned(const SheetBox& box);
+
 enum class Side { kBelow, kAbove, kLeft, kRight };
 
 // The views of a set: the main view, its projections and the pictorial view.

@@ -65,11 +65,8 @@ class ViewSet {
       return;
     }
     views_[static_cast<size_t>(row.view)] = view;
-    if (const auto made = OutlineOf(drawing_, view)) {
-      MoveView(drawing_, view, ProjectionMove(row.side, *parent, *made));
-    }
-    RegenerateView(drawing_, view);
-    At(row.view) = OutlineOf(drawing_, view);
+    At(row.view) =
+        Settle(view, [&](const SheetBox& made) { return ProjectionMove(row.side, *parent, made); });
     if (style_) ShowAs(drawing_, view, *style_);
   }
 
@@ -81,12 +78,21 @@ class ViewSet {
     pictorial.Turn(SheetAxis::kHorizontal, kAboutHorizontal);
     if (pictorial.view() == nullptr) return;
     ShowAs(drawing_, pictorial.view(), style);
-    if (const auto turned = OutlineOf(drawing_, pictorial.view())) {
-      MoveView(drawing_, pictorial.view(), PictorialMove(view1, *turned));
-    }
-    RegenerateView(drawing_, pictorial.view());
+    pictorial_ = Settle(pictorial.view(),
+                        [&](const SheetBox& turned) { return PictorialMove(view1, turned); });
     if (style_) ShowAs(drawing_, pictorial.view(), style);
-    pictorial_ = OutlineOf(drawing_, pictorial.view());
+  }
+
+  // Moves a view as its outline wants it and regenerates it. Its outline then, which is that before
+  // the move, moved along, where the host tells it no longer.
+  template <typename MoveOf>
+  std::optional<SheetBox> Settle(ProView view, MoveOf move_of) {
+    const auto made = OutlineOf(drawing_, view);
+    if (made) MoveView(drawing_, view, move_of(*made));
+    RegenerateView(drawing_, view);
+    const auto settled = OutlineOf(drawing_, view);
+    if (settled || !made) return settled;
+    return MovedBy(*made, move_of(*made));
   }
 
   ProDrawing drawing_;
@@ -113,10 +119,27 @@ void MakeSecondSet(ProDrawing drawing, ProMdl model, const Matrix& orientation, 
   second_main.Make();
   if (second_main.view() == nullptr) return;
   ShowAs(drawing, second_main.view(), PRO_DISPSTYLE_HIDDEN_LINE);
+  const SheetPoint centre = main.Centre();
+  const SheetBox likely = MovedBy(main, {point.x - centre.x, point.y - centre.y});
   ViewSet second(drawing, model, PRO_DISPSTYLE_HIDDEN_LINE);
-  second.At(SetView::kMain) = OutlineOf(drawing, second_main.view());
+  second.At(SetView::kMain) = OutlineOf(drawing, second_main.view()).value_or(likely);
   second.set_main_view(second_main.view());
-  if (second.At(SetView::kMain)) second.MakeOthers(orientation);
+  second.MakeOthers(orientation);
+}
+
+// Makes the main view and lays it as the user wants it. Its place; nothing when there is no main
+// view, or when the host does not tell how large it is.
+std::optional<SheetBox> LayMainView(ProDrawing drawing, const std::string& direction,
+                                    GeneralView& main) {
+  main.Make();
+  if (main.view() == nullptr) return std::nullopt;
+  const auto made = OutlineOf(drawing, main.view());
+  if (!made) return std::nullopt;
+  const bool turns = MainViewWantsTurn(direction, made->Width(), made->Height());
+  if (turns) main.Turn(SheetAxis::kNormal, kMainViewTurn);
+  if (main.view() == nullptr) return std::nullopt;
+  main.ReadOrientation();
+  return OutlineOf(drawing, main.view()).value_or(turns ? QuarterTurned(*made) : *made);
 }
 
 }  // namespace
@@ -124,20 +147,11 @@ void MakeSecondSet(ProDrawing drawing, ProMdl model, const Matrix& orientation, 
 ProError DrawTweViews(ProDrawing drawing, ProMdl model, const Matrix& orientation,
                       const TweViewsWishes& wishes) {
   GeneralView main(drawing, model, kMainViewPoint, orientation);
-  const ProError status = main.Make();
-  if (!Ok(status)) ShowNoView(status);
-  if (main.view() == nullptr) return Ok(status) ? PRO_TK_GENERAL_ERROR : status;
-  const auto made = OutlineOf(drawing, main.view());
-  if (!made) return PRO_TK_GENERAL_ERROR;
-  if (MainViewWantsTurn(wishes.direction, made->Width(), made->Height())) {
-    main.Turn(SheetAxis::kNormal, kMainViewTurn);
-  }
-  if (main.view() == nullptr) return PRO_TK_GENERAL_ERROR;
-  main.ReadOrientation();
   ViewSet first(drawing, model, std::nullopt);
-  first.At(SetView::kMain) = OutlineOf(drawing, main.view());
+  first.At(SetView::kMain) = LayMainView(drawing, wishes.direction, main);
+  if (!Ok(main.status())) ShowNoView(main.status());
+  if (!first.At(SetView::kMain)) return Ok(main.status()) ? PRO_TK_GENERAL_ERROR : main.status();
   first.set_main_view(main.view());
-  if (!first.At(SetView::kMain)) return PRO_TK_GENERAL_ERROR;
   first.MakeOthers(main.orientation());
   if (wishes.views == "six-hidden") ShowAllAs(drawing, PRO_DISPSTYLE_HIDDEN_LINE);
   if (wishes.views == "six-nohidden") ShowAllAs(drawing, PRO_DISPSTYLE_NO_HIDDEN);

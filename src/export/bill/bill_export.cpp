@@ -7,23 +7,13 @@
 #include "export/spreadsheet/dispatch.h"
 #include "export/spreadsheet/excel_writer.h"
 #include "export/spreadsheet/workbook_file.h"
+#include "export/spreadsheet/workbook_title.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
-#include "frame/models/model_name.h"
-#include "toolkit/model.h"
-#include "toolkit/status.h"
 
 namespace qm {
 namespace {
-
-constexpr wchar_t kNoName[] = L"\t无法读取当前模型的名称，操作已停止。\t";
-
-std::optional<std::wstring> CurrentModelName() {
-  ProMdl model = nullptr;
-  if (!Ok(ProMdlCurrentGet(&model)) || model == nullptr) return std::nullopt;
-  return ModelName(model);
-}
 
 // Nothing when the cell cannot be read, or is blank where a bill never is: a blank quantity in a
 // workbook that looks finished would be believed.
@@ -69,17 +59,14 @@ std::optional<WorkbookTable> ReadTable(const DialogTable& table, std::wstring ti
 
 void ExportBill(const DialogView& dialog) {
   CommandLog log("QmExportBom");
-  const auto name = CurrentModelName();
-  if (!name) {
-    ShowMessage(kNoName);
-    return;
-  }
+  const auto title = TitleOfCurrentModel(L" BOM");
+  if (!title) return;
   const ComScope com;
   const auto path = ChooseWorkbookToWrite();
   if (!path) LogOutcome("cancelled");
   if (!path || !IsFreeToWrite(*path)) return;
   long long unread = 0;
-  const auto table = ReadTable(DialogTable(dialog, kBillTable), *name + L" BOM", &unread);
+  const auto table = ReadTable(DialogTable(dialog, kBillTable), *title, &unread);
   if (!table) {
     ShowMessage(kUnreadableField);
     NoteLeftOut(unread);

@@ -9,7 +9,6 @@
 #include "frame/models/model_name.h"
 #include "frame/models/parameter_text.h"
 #include "frame/models/retrieve.h"
-#include "frame/models/skeleton.h"
 
 namespace qm {
 namespace {

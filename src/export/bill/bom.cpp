@@ -9,15 +9,13 @@
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/current_assembly.h"
-#include "frame/models/model_name.h"
 #include "frame/models/retrieve.h"
+#include "frame/models/shown_model.h"
 #include "frame/settings/notepad.h"
 #include "toolkit/status.h"
 
 namespace qm {
 namespace {
-
-constexpr wchar_t kAssembliesOnly[] = L"此功能仅组件/制造环境可用！";
 
 constexpr char kKindRadio[] = "BomRadio";
 constexpr char kDepthMenu[] = "LevelOption";
@@ -109,24 +107,6 @@ void ShowRowModel(const DialogView& dialog) {
   LogOutcome("nothing shown");
 }
 
-// What was shown before the dialog. By name, since the user may erase it meanwhile, unless the host
-// does not tell the name.
-class ShownModel {
- public:
-  explicit ShownModel(const std::optional<CurrentModel>& current) : current_(current) {
-    if (current_) name_ = ModelName(current_->model);
-  }
-  void ShowAgain() const {
-    if (!current_) return;
-    const ProMdl model = name_ ? RetrieveModel(*name_, current_->type) : current_->model;
-    if (model != nullptr) ProMdlDisplay(model);
-  }
-
- private:
-  const std::optional<CurrentModel> current_;
-  std::optional<std::wstring> name_;
-};
-
 void Bind(const Dialog& dialog) {
   dialog.BindButton<&OpenSettings>("QmOpenBomIni");
   dialog.BindButton<&PrepareChosenBill>("QmUpdateBomIni");
@@ -155,11 +135,10 @@ ProError Prepare(const Dialog& dialog, const std::optional<CurrentModel>& curren
 }  // namespace
 
 ProError QmBom() {
-  const auto current = CurrentModelItself();
-  const ShownModel shown(current);
+  const ShownModel shown(CurrentModelItself());
   // The user may have looked at models of the bill when the dialog ends.
   return RunDialog(
-      "QmBom", [&](const Dialog& dialog) { return Prepare(dialog, current); },
+      "QmBom", [&](const Dialog& dialog) { return Prepare(dialog, shown.model()); },
       [&] { shown.ShowAgain(); });
 }
 

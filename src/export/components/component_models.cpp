@@ -6,7 +6,6 @@
 #include "frame/messages/message_box.h"
 #include "frame/models/model_name.h"
 #include "frame/models/opening.h"
-#include "frame/models/skeleton.h"
 
 namespace qm {
 namespace {

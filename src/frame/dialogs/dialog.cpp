@@ -24,6 +24,14 @@ std::optional<std::wstring> DialogView::TryInputValue(const char* component) con
   return Taken(status, text);
 }
 
+DialogView::PossibleInput DialogView::InputIfThere(const char* component) const {
+  WideText text;
+  const ProError status = ProUIInputpanelValueGet(name(), component, text.put());
+  // The host's answer for a component that the dialog does not have.
+  if (status == PRO_TK_GENERAL_ERROR) return {false, std::nullopt};
+  return {true, Taken(status, text)};
+}
+
 ProError DialogView::SetInputValue(const char* component, std::wstring value) const {
   return ProUIInputpanelValueSet(name(), component, value.data());
 }

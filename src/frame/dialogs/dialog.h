@@ -36,6 +36,17 @@ class DialogView {
   ProError SetCheck(const char* component, bool checked) const;
   void EnableOption(const char* component, bool enabled) const;
 
+  // What an input panel holds that may not be there.
+  struct PossibleInput {
+    bool is_there = true;
+    std::optional<std::wstring> value;  // nothing when the host does not tell
+  };
+  PossibleInput InputIfThere(const char* component) const;
+
+  // The user goes into an input panel. Also for those that an action makes.
+  template <auto Action>
+  ProError BindFocusIn(const char* component) const;
+
   // Over the window that a command brings up, which would cover the dialog otherwise.
   void KeepAboveActiveWindow() const;
 
@@ -62,6 +73,11 @@ struct DialogAction {
     }
   }
 };
+
+template <auto Action>
+ProError DialogView::BindFocusIn(const char* component) const {
+  return ProUIInputpanelFocusinActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
+}
 
 class Dialog;
 // Binds and fills a new dialog. Any answer but PRO_TK_NO_ERROR, after a message of its own, ends
@@ -103,6 +119,11 @@ class Dialog : public DialogView {
   template <auto Action>
   void BindTable(const char* component) const {
     ProUITableActivateActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
+  }
+  // A cell of the table takes the focus.
+  template <auto Action>
+  void BindCellFocus(const char* component) const {
+    ProUITableArmActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
   }
   // The drawing area has got its place and size.
   template <auto Action>

@@ -105,6 +105,12 @@ bool DialogTable::InsertRow(const std::string& neighbour, std::string name) cons
                                                                  neighbour.c_str(), 1, names));
 }
 
+bool DialogTable::DeleteRow(std::string name) const {
+  char* names[] = {name.data()};
+  return Done("ProUITableRowsDelete",
+              ProUITableRowsDelete(dialog_.name(), component_.c_str(), 1, names));
+}
+
 bool DialogTable::DeleteAllRows() const {
   auto names = RowNames();
   if (!names || names->empty()) return names.has_value();
@@ -133,6 +139,30 @@ bool DialogTable::SetColumnLabels(std::vector<std::wstring> labels) const {
       "ProUITableColumnlabelsSet",
       ProUITableColumnlabelsSet(dialog_.name(), component_.c_str(), static_cast<int>(labels.size()),
                                 PointersTo(labels).data()));
+}
+
+bool DialogTable::CopyIntoCell(const std::string& row, const std::string& column,
+                               const char* source, const std::string& name) const {
+  return CellDone(row, column, "ProUITableCellComponentCopy",
+                  ProUITableCellComponentCopy(dialog_.name(), component_.c_str(), row.c_str(),
+                                              column.c_str(), source, name.c_str()));
+}
+
+void DialogTable::ClearCell(const std::string& row, const std::string& column) const {
+  ProUITableCellComponentDelete(dialog_.name(), component_.c_str(), row.c_str(), column.c_str());
+}
+
+std::string DialogTable::FocusedRow() const {
+  NarrowText row;
+  NarrowText column;
+  const ProError status =
+      ProUITableFocusCellGet(dialog_.name(), component_.c_str(), row.put(), column.put());
+  return Ok(status) && row ? row.get() : std::string();
+}
+
+void DialogTable::SetSelectionPolicy(ProUISelectionpolicy policy) const {
+  Done("ProUITableSelectionpolicySet",
+       ProUITableSelectionpolicySet(dialog_.name(), component_.c_str(), policy));
 }
 
 std::optional<std::wstring> DialogTable::Label(const std::string& row,

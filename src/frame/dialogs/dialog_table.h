@@ -32,12 +32,22 @@ class DialogTable {
   // may do.
   // After row `neighbour`; an empty one inserts at the start.
   bool InsertRow(const std::string& neighbour, std::string name) const;
+  bool DeleteRow(std::string name) const;
   // False when a row may be left.
   bool DeleteAllRows() const;
   bool InsertColumns(const std::string& neighbour, std::vector<std::string> names) const;
   bool DeleteColumns(std::vector<std::string> names) const;
   // One label for each column, in their order.
   bool SetColumnLabels(std::vector<std::wstring> labels) const;
+
+  // A copy of the dialog's component `source` stands in the cell as `name`.
+  bool CopyIntoCell(const std::string& row, const std::string& column, const char* source,
+                    const std::string& name) const;
+  // Whatever stands in the cell, if anything does.
+  void ClearCell(const std::string& row, const std::string& column) const;
+  // Name of the row whose cell has the focus; empty when none has.
+  std::string FocusedRow() const;
+  void SetSelectionPolicy(ProUISelectionpolicy policy) const;
 
   // Empty when nothing was written to the cell; nothing, after a line in the run log, when it
   // cannot be read.

@@ -23,4 +23,17 @@ std::optional<std::wstring> PickDrawingFile(std::wstring title, std::wstring fil
   return Ok(status) && !path.empty() ? std::optional(path) : std::nullopt;
 }
 
+std::optional<std::wstring> PickFileToWrite(std::wstring title, std::wstring filter,
+                                            std::wstring name) {
+  ProPath chosen = {};
+  const ProError status =
+      ProFileSave(title.data(), filter.data(), nullptr, nullptr, nullptr, name.data(), chosen);
+  std::wstring path(FixedText(chosen));
+  if (!Ok(status) || path.empty()) return std::nullopt;
+  // Whether the host adds it is not known.
+  const size_t file = path.find_last_of(L"\\/") + 1;
+  if (path.find(L'.', file) == std::wstring::npos) path += filter.substr(1);
+  return path;
+}
+
 }  // namespace qm

@@ -1,4 +1,4 @@
-// The host's file picker for drawing templates and formats.
+// The host's file pickers: for drawing templates and formats, and for files to be written.
 #pragma once
 
 #include <optional>
@@ -13,5 +13,10 @@ std::wstring FormatFolder();
 // `folder`, unless that is empty. `filter` is like "*.drw". Nothing when the user cancels.
 std::optional<std::wstring> PickDrawingFile(std::wstring title, std::wstring filter,
                                             std::wstring folder = FormatFolder());
+
+// Full path of a file to be written, which need not exist; with the extension of `filter` ("*.xls")
+// where the user has typed none. `name` is offered. Nothing when the user cancels.
+std::optional<std::wstring> PickFileToWrite(std::wstring title, std::wstring filter,
+                                            std::wstring name);
 
 }  // namespace qm

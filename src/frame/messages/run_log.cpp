@@ -124,6 +124,10 @@ std::string LoggedName(ProMdl model) {
 
 }  // namespace
 
+std::wstring RunLogFolder() {
+  return LogPath(L"").path;
+}
+
 void LogEvent(std::string_view text) noexcept {
   if (running_command != nullptr) {
     AddLine(running_command->name_, ": ", text);

@@ -4,12 +4,16 @@
 #pragma once
 
 #include <chrono>
+#include <string>
 #include <string_view>
 
 #include "frame/text/fixed_line.h"
 #include "toolkit/types.h"
 
 namespace qm {
+
+// Where the run log lies, made when it is missing, without separator; empty when there is none.
+std::wstring RunLogFolder();
 
 // One line with date and time. Lines logged while a command runs are kept back and written with
 // the command's own line, or in larger lots, so that a batch does not open the file each time.

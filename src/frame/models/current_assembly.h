@@ -8,6 +8,9 @@
 
 namespace qm {
 
+// What the user reads where such a model is needed and another one is there.
+inline constexpr wchar_t kAssembliesOnly[] = L"此功能仅组件/制造环境可用！";
+
 struct CurrentModel {
   ProMdl model;  // never null
   ProMdlType type;

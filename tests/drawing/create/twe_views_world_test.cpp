@@ -1,5 +1,6 @@
-// Twelve views of boxes of every order of extents and every tie, against a computation of their
-// places that knows nothing of views: a box on its side, and rectangles beside each other.
+// Twelve views of boxes of every order of extents and every tie, of an assembly, and in hosts that
+// turn otherwise, against a computation of their places that knows nothing of views: a box on its
+// side, and rectangles beside each other.
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -105,16 +106,40 @@ class TweViewsWorld : public PluginHost {
     std::filesystem::remove(Installed().tree() / "tp" / "qm.drw.1");
   }
 
-  // The views of a box with these extents, away from the origin.
-  const DrawingContent& Draw(int dx, int dy, int dz) {
-    while (!host_.session.models().empty()) host_.session.Erase(*host_.session.models().front());
-    Model part(ModelName{"box", ModelKind::kPart});
-    part.As<SolidContent>()->surfaces.Add(
-        {1, {{100, -50, 7.5}, {100.0 + dx, -50.0 + dy, 7.5 + dz}}});
-    Model& added = host_.session.Add(std::move(part));
+  // The views of what is shown in a window of its own in a session without anything else.
+  const DrawingContent& Draw(Model model) {
+    const std::string name = model.id.name + "-12";
+    Model& added = host_.session.Add(std::move(model));
     host_.session.ActivateWindow(host_.session.ShowInWindow(added).id);
     EXPECT_EQ(RunCommand("TweViews").status, 0);
-    return *host_.session.Find({"box-12", ModelKind::kDrawing})->As<DrawingContent>();
+    return *host_.session.Find({name, ModelKind::kDrawing})->As<DrawingContent>();
+  }
+
+  void Clear() {
+    while (!host_.session.models().empty()) host_.session.Erase(*host_.session.models().front());
+  }
+
+  static Model BoxPart(const char* name, const Box& box) {
+    Model part(ModelName{name, ModelKind::kPart});
+    part.As<SolidContent>()->surfaces.Add({1, box});
+    return part;
+  }
+
+  // Off the origin.
+  const DrawingContent& DrawBox(int dx, int dy, int dz) {
+    Clear();
+    return Draw(BoxPart("box", {{100, -50, 7.5}, {100.0 + dx, -50.0 + dy, 7.5 + dz}}));
+  }
+
+  static void ExpectOutlines(const DrawingContent& drawing, const std::vector<Outline>& wanted) {
+    ASSERT_EQ(drawing.views.size(), wanted.size());
+    size_t at = 0;
+    for (const DrawingView& view : drawing.views) {
+      for (size_t side = 0; side < 4; ++side) {
+        EXPECT_NEAR(view.outline[side], wanted[at][side], 1e-9) << at << ", " << side;
+      }
+      ++at;
+    }
   }
 
   const TemporaryFolder folder_{"workbench twe_views"};
@@ -132,21 +157,64 @@ TEST_F(TweViewsWorld, StandWhereTheyShouldForEveryOrderAndEveryTie) {
         const int dx = kExtents[i % 3], dy = kExtents[i / 3 % 3], dz = kExtents[i / 9];
         SCOPED_TRACE(std::to_string(dx) + " " + std::to_string(dy) + " " + std::to_string(dz) +
                      " " + designer_.direction + " " + designer_.views);
-        const DrawingContent& drawing = Draw(dx, dy, dz);
-        const std::vector<Outline> wanted = Wanted(Laid(dx, dy, dz), upright, twelve);
-        ASSERT_EQ(drawing.views.size(), wanted.size());
+        const DrawingContent& drawing = DrawBox(dx, dy, dz);
+        ExpectOutlines(drawing, Wanted(Laid(dx, dy, dz), upright, twelve));
         size_t at = 0;
         for (const DrawingView& view : drawing.views) {
-          for (size_t side = 0; side < 4; ++side) {
-            EXPECT_NEAR(view.outline[side], wanted[at][side], 1e-9) << at << ", " << side;
-          }
-          const bool hidden = !twelve || at >= 7;
+          const bool hidden = !twelve || at++ >= 7;
           EXPECT_EQ(view.display.style,
                     hidden ? DisplayStyle::kHiddenLine : DisplayStyle::kNoHidden);
-          ++at;
         }
       }
     }
+  }
+  EXPECT_EQ(TakeBreaches(), Lines());
+}
+
+// Whatever the host calls its axes and whichever way it turns; where that is another turn than the
+// wanted one, the matrix is set, or the view made anew.
+TEST_F(TweViewsWorld, StandWhereTheyShouldInHostsThatTurnOtherwise) {
+  bool Habits::*const kHabits[] = {&Habits::rotation_axes_count_from_one,
+                                   &Habits::view_rotates_the_other_way,
+                                   &Habits::view_turn_is_refused, &Habits::view_turns_the_other_way,
+                                   &Habits::view_turns_about_the_other_axis};
+  constexpr int kOrders[][3] = {{30, 20, 10}, {30, 10, 20}, {20, 30, 10},
+                                {10, 30, 20}, {20, 10, 30}, {10, 20, 30}};
+  designer_.direction = "main-v";
+  designer_.views = "twelve";
+  for (size_t i = 0; i < std::size(kHabits); ++i) {
+    host_.habits.*kHabits[i] = true;
+    for (const auto& [dx, dy, dz] : kOrders) {
+      SCOPED_TRACE("habit " + std::to_string(i) + ", " + std::to_string(dx) + " " +
+                   std::to_string(dy) + " " + std::to_string(dz));
+      ExpectOutlines(DrawBox(dx, dy, dz), Wanted(Laid(dx, dy, dz), true, true));
+    }
+    host_.habits.*kHabits[i] = false;
+  }
+  EXPECT_EQ(TakeBreaches(), Lines());
+}
+
+// A block as it is and the same block upright beside it take 150 by 90 by 25 together; what is
+// suppressed far away takes nothing.
+TEST_F(TweViewsWorld, OfAnAssemblyShowTheExtentsOfAllItsComponents) {
+  constexpr Placement kUpright = {{{0, 1, 0, 0}, {-1, 0, 0, 0}, {0, 0, 1, 0}, {0, 50, 5, 1}}};
+  Placement beside = kIdentityPlacement;
+  beside[3] = {100, 0, 0, 1};
+  Placement away = kIdentityPlacement;
+  away[3] = {5000, 0, 0, 1};
+  for (const bool upright : {false, true}) {
+    SCOPED_TRACE(upright);
+    designer_.direction = upright ? "main-v" : "main-h";
+    designer_.views = "twelve";
+    Clear();
+    const ModelName block = host_.session.Add(BoxPart("block", {{0, 0, 0}, {40, 10, 20}})).id;
+    Model pump(ModelName{"pump", ModelKind::kAssembly});
+    auto& components = pump.As<SolidContent>()->features;
+    components.Add(NewComponent(1, block, beside));
+    components.Add(NewComponent(2, block, kUpright));
+    components.Add(NewComponent(3, block, away));
+    components.Find(3)->status = FeatureStatus::kSuppressed;
+    ExpectOutlines(Draw(std::move(pump)), Wanted({150, 90, 25}, upright, true));
   }
   EXPECT_EQ(TakeBreaches(), Lines());
 }

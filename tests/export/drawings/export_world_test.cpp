@@ -221,7 +221,8 @@ class Exporter : public AbsentUser {
     TheHost().trace.keep_lines = true;
     Press(dialog, "ApplyBt");
     TheHost().trace.keep_lines = false;
-    calls = TheHost().trace.calls();
+    // The run log asks for its folder each time that its lines are a lot, which is no host call.
+    calls = TheHost().trace.calls() - TheHost().trace.Count("SHGetFolderPathW");
     asked = AskedFor(TheHost().trace.lines(), TheHost().events.All<ExportedFile>());
     erasures = TheHost().trace.Count("ProMdlEraseNotDisplayed");
     Press(dialog, "Close");
@@ -240,7 +241,8 @@ class Exporter : public AbsentUser {
   static void Check(LiveDialog& dialog, const char* button, bool wanted) {
     CheckState* state = nullptr;
     ASSERT_EQ(dialog.state.Find(FieldKind::kCheckButton, button, &state), UiStatus::kOk);
-    if (state->set != wanted) EXPECT_TRUE(dialog.state.UserToggle(button).Done());
+    if (state->set == wanted) return;
+    EXPECT_TRUE(dialog.state.UserToggle(button).Done());
   }
   static void Press(LiveDialog& dialog, const char* button) {
     EXPECT_TRUE(dialog.state.UserPress(button).Done());
@@ -285,7 +287,7 @@ class ExportWorld : public PluginHost {
     exporter_.wishes = wishes;
     EXPECT_EQ(RunCommand("QmExport").status, 0);
     EXPECT_EQ(TakeBreaches(), Lines{});
-    host_.events.Clear();
+    host_.events = {};
   }
 
   const TemporaryFolder folder_{"workbench export"};

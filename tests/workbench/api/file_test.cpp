@@ -118,5 +118,72 @@ TEST_F(DrawingContract, ANumberIsAskedForUntilThereIsOneInTheRange) {
   EXPECT_EQ(value, 2.5);
 }
 
+TEST_F(DrawingContract, ATextIsAskedForAndAnEmptyReplyGivesWhatIsOffered) {
+  const auto read = [&](const std::vector<std::string>& replies, int length, ProError expected) {
+    host_.events.Add(Note{"Name: |||bolt"});
+    Replying user(replies);
+    host_.user = &user;
+    ProLine text = L"untouched";
+    EXPECT_EQ(ProMessageStringRead(length, text), expected);
+    host_.user = nullptr;
+    return FromWide(text);
+  };
+  EXPECT_EQ(read({"螺栓"}, 31, PRO_TK_NO_ERROR), "螺栓");
+  EXPECT_EQ(read({"screws"}, 5, PRO_TK_NO_ERROR), "screw");
+  EXPECT_EQ(read({""}, 31, PRO_TK_NO_ERROR), "bolt");
+  EXPECT_EQ(read({}, 31, PRO_TK_MSG_USER_QUIT), "untouched");
+  EXPECT_EQ(read({"a"}, PRO_LINE_SIZE, PRO_TK_BAD_INPUTS), "untouched");
+  EXPECT_EQ(Breaches().size(), 1u);
+}
+
+TEST_F(DrawingContract, AModelIsSavedElsewhereWhereTheOptionSaysSo) {
+  std::filesystem::create_directories(folder_ / "other");
+  host_.session.ChangeDirectory(folder_ / "other");
+  wchar_t option[] = L"Override_Store_Back";
+  wchar_t yes[] = L"yes";
+  ProPath value = {};
+  EXPECT_EQ(ProConfigoptGet(option, value), PRO_TK_E_NOT_FOUND);
+  EXPECT_EQ(ProConfigoptSet(option, yes), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProConfigoptGet(option, value), PRO_TK_NO_ERROR);
+  EXPECT_EQ(FromWide(value), "yes");
+  plate_->modified = true;
+  EXPECT_EQ(ProMdlSave(plate_->handle), PRO_TK_NO_ERROR);
+  EXPECT_TRUE(std::filesystem::exists(folder_ / "other" / "plate.prt.1"));
+}
+
+TEST_F(DrawingContract, ANewNameIsRefusedWhereItIsTakenOrNone) {
+  Model& scratch = host_.session.Add(Model({"scratch", ModelKind::kPart}));
+  WriteFile("lying.prt.4", "");
+  const auto rename = [&](std::wstring name) {
+    name.resize(PRO_NAME_SIZE);
+    return ProMdlRename(scratch.handle, name.data());
+  };
+  EXPECT_EQ(rename(L"a b"), PRO_TK_INVALID_NAME);
+  EXPECT_EQ(rename(L"PLATE"), PRO_TK_E_FOUND);
+  EXPECT_EQ(rename(L"lying"), PRO_TK_E_FOUND);
+  EXPECT_EQ(rename(L"thing"), PRO_TK_NO_ERROR);
+  ProName name = {};
+  EXPECT_EQ(ProMdlNameGet(scratch.handle, name), PRO_TK_NO_ERROR);
+  EXPECT_EQ(FromWide(name), "thing");
+  host_.session.MakeReadOnly(folder_);
+  EXPECT_EQ(rename(L"other"), PRO_TK_NO_PERMISSION);
+}
+
+TEST_F(DrawingContract, AnErasedModelMayKeepItsNameUntilTheActionEnds) {
+  ProName name = L"scratch";
+  ProSolid made = nullptr;
+  const auto make = [&] { return ProSolidCreate(name, PRO_PART, &made); };
+  EXPECT_EQ(make(), PRO_TK_NO_ERROR);
+  EXPECT_EQ(make(), PRO_TK_E_FOUND);
+  EXPECT_EQ(ProMdlErase(made), PRO_TK_NO_ERROR);
+  EXPECT_EQ(make(), PRO_TK_NO_ERROR);
+  host_.habits.erasing_acts_at_the_end = true;
+  EXPECT_EQ(ProMdlErase(made), PRO_TK_NO_ERROR);
+  EXPECT_EQ(make(), PRO_TK_E_FOUND);
+  host_.ControlIsBack();
+  EXPECT_EQ(make(), PRO_TK_NO_ERROR);
+  EXPECT_EQ(Breaches(), Lines());
+}
+
 }  // namespace
 }  // namespace wb

@@ -12,10 +12,11 @@ namespace {
 
 constexpr const char* kDialog = "Bill";
 constexpr const char* kResource = R"((Dialog Bill
-    (Components (Table list) (RadioGroup kind) (OptionMenu depth) (DrawingArea picture))
+    (Components (Table list) (RadioGroup kind) (OptionMenu depth) (DrawingArea picture)
+        (InputPanel typed))
     (Resources
         (.Label "Bill")
-        (.Layout (Grid (Rows 0 0 0 0) (Cols 1) list kind depth picture))
+        (.Layout (Grid (Rows 0 0 0 0 0) (Cols 1) list kind depth picture typed))
         (list.ColumnNames "num") (list.ColumnLabels "序号")
         (kind.Names "sum" "level") (kind.SelectedNames "sum")
         (depth.Names "1" "2")
@@ -117,6 +118,49 @@ TEST_F(UiTable, LabelsMustFitTheColumns) {
   wchar_t* labels[] = {text, text};
   EXPECT_EQ(ProUITableColumnlabelsSet(kDialog, "list", 2, labels), PRO_TK_BAD_INPUTS);
   EXPECT_EQ(ProUITableColumnlabelsSet(kDialog, "list", 1, labels), PRO_TK_NO_ERROR);
+}
+
+TEST_F(UiTable, ACopyInACellIsAFieldAndItsNameIsUnknownWhenItHasGone) {
+  InsertRows("", {"1"});
+  const auto value = [&] {
+    wchar_t* text = nullptr;
+    const ProError status = ProUIInputpanelValueGet(kDialog, "copy", &text);
+    if (status == PRO_TK_NO_ERROR) ProWstringFree(text);
+    return status;
+  };
+  Lines fired;
+  EXPECT_EQ(value(), PRO_TK_GENERAL_ERROR);
+  EXPECT_EQ(ProUITableCellComponentCopy(kDialog, "list", "1", "num", "typed", "copy"),
+            PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProUITableCellComponentCopy(kDialog, "list", "1", "num", "typed", "copy"),
+            PRO_TK_E_FOUND);
+  EXPECT_EQ(value(), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProUIInputpanelFocusinActionSet(kDialog, "copy", &Note, &fired), PRO_TK_NO_ERROR);
+  LiveDialog& live = *host_.dialogs.Find(kDialog);
+  EXPECT_TRUE(live.Fire("copy", kFocusInEvent));
+  EXPECT_EQ(ProUITableCellComponentDelete(kDialog, "list", "1", "num"), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProUITableCellComponentDelete(kDialog, "list", "1", "num"), PRO_TK_E_NOT_FOUND);
+  EXPECT_EQ(value(), PRO_TK_GENERAL_ERROR);
+  // Another one of the name has nothing bound to it.
+  ProUITableCellComponentCopy(kDialog, "list", "1", "num", "typed", "copy");
+  EXPECT_FALSE(live.Fire("copy", kFocusInEvent));
+  EXPECT_EQ(fired, Lines{"copy"});
+  EXPECT_EQ(Breaches(), Lines{});
+}
+
+TEST_F(UiTable, TheFocusIsToldInNamesThatAreFreedOneByOne) {
+  InsertRows("", {"1"});
+  char* row = nullptr;
+  char* column = nullptr;
+  EXPECT_EQ(ProUITableFocusCellGet(kDialog, "list", &row, &column), PRO_TK_E_NOT_FOUND);
+  EXPECT_TRUE(host_.dialogs.Find(kDialog)->state.UserFocusCell("list", "1", "num").Done());
+  EXPECT_EQ(ProUITableFocusCellGet(kDialog, "list", &row, &column), PRO_TK_NO_ERROR);
+  EXPECT_EQ(std::string(row) + column, "1num");
+  ProStringFree(row);
+  ProStringFree(column);
+  EXPECT_EQ(Breaches(), Lines{});
+  ProStringFree(column);
+  EXPECT_EQ(Breaches().size(), 1u);
 }
 
 TEST_F(UiTable, WrongPlacesAndKindsAreHeldAgainstThePlugin) {

@@ -220,5 +220,45 @@ TEST_F(WorkbenchDialogTest, UserCannotDoWhatADialogDoesNotOffer) {
   EXPECT_EQ(Radio().Selected(), Names{"a"});
 }
 
+TEST_F(WorkbenchDialogTest, AComponentInACellGoesWithItsRow) {
+  wb::Field* table = nullptr;
+  ASSERT_EQ(dialog_.Find(FieldKind::kTable, "Bill", &table), UiStatus::kOk);
+  const auto copy = [&](const char* source, const char* row, const char* name) {
+    return dialog_.CopyIntoCell(source, *table, row, "name", name);
+  };
+  Bill().InsertRows("", {"1", "2"});
+  EXPECT_EQ(copy("Field", "1", "copy1"), UiStatus::kOk);
+  EXPECT_EQ(copy("Field", "1", "again"), UiStatus::kBadArgument);
+  EXPECT_EQ(copy("Field", "2", "copy1"), UiStatus::kBadArgument);
+  EXPECT_EQ(copy("Field", "2", "Check"), UiStatus::kBadArgument);
+  EXPECT_EQ(copy("Nothing", "2", "copy2"), UiStatus::kNoField);
+  EXPECT_EQ(copy("Field", "3", "copy3"), UiStatus::kNotFound);
+  EXPECT_EQ(dialog_.CellText(Bill(), "1", "name"), "x");
+  // The limit of the one it is a copy of is its own, too.
+  EXPECT_TRUE(dialog_.UserSetField("copy1", "four").Done());
+  EXPECT_FALSE(dialog_.UserSetField("copy1", "fives").Done());
+  EXPECT_EQ(dialog_.CellText(Bill(), "1", "name"), "four");
+  EXPECT_EQ(Field().Value(), "x");
+  // Going into it gives its cell the focus.
+  EXPECT_EQ(dialog_.UserFocusCell("Bill", "1", "num").event, UiEvent::kArm);
+  const UserOutcome outcome = dialog_.UserGoInto("copy1");
+  EXPECT_EQ(outcome.event, UiEvent::kFocusIn);
+  EXPECT_EQ(outcome.target, "copy1");
+  std::string row;
+  std::string column;
+  EXPECT_EQ(Bill().GetFocus(&row, &column), UiStatus::kOk);
+  EXPECT_EQ(row + column, "1name");
+  Bill().DeleteRows({"1"});
+  EXPECT_FALSE(dialog_.UserSetField("copy1", "y").Done());
+  // A row of the same name starts without it.
+  Bill().InsertRows("", {"1"});
+  EXPECT_FALSE(dialog_.UserGoInto("copy1").Done());
+  EXPECT_EQ(copy("Field", "1", "copy1"), UiStatus::kOk);
+  EXPECT_EQ(dialog_.CellText(Bill(), "1", "name"), "x");
+  EXPECT_EQ(Bill().DropComponent("1", "name"), UiStatus::kOk);
+  EXPECT_EQ(Bill().DropComponent("1", "name"), UiStatus::kNotFound);
+  EXPECT_FALSE(dialog_.UserGoInto("copy1").Done());
+}
+
 }  // namespace
 }  // namespace wb

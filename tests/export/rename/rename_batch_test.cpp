@@ -1,0 +1,358 @@
+// Batches of renamings against what they must come to: each row gets a new name of a kind whose
+// outcome is known beforehand, so that nothing here judges names as the plug-in does.
+#include <random>
+#include <set>
+
+#include "tests/plugin_host.h"
+#include "workbench/base/text.h"
+#include "workbench/base/utf8_text.h"
+#include "workbench/script/script_snapshot.h"
+
+namespace wb {
+namespace {
+
+namespace fs = std::filesystem;
+
+enum class Kind {
+  kSame,
+  kEmpty,
+  kFresh,
+  kLongest,       // 31 characters
+  kNoBuffer,      // 32
+  kTooLong,       // 33
+  kInSession,     // the name of a model of this type
+  kOnDisk,        // of one that is not in session
+  kOfEarlierRow,  // what an earlier row of this type asks for, in capitals
+  kOfOtherType,   // the name of a model of the other type in session
+  kIllegal,
+};
+constexpr int kKinds = static_cast<int>(Kind::kIllegal) + 1;
+
+struct Row {
+  ModelName before;
+  bool has_drawing = false;
+  std::string typed;
+  bool renamed = false;
+  std::string refusal;  // empty: none
+};
+
+class RenamingUser : public AbsentUser {
+ public:
+  void WorkDialog(LiveDialog& dialog) override {
+    for (size_t i = 0; i < typed.size(); ++i) {
+      const std::string field = "input" + std::to_string(i + 1);
+      EXPECT_EQ(dialog.state.UserSetField(field, " " + typed[i] + " ").refusal, "");
+    }
+    dialog.Fire("StartRename", kActivateEvent);
+    dialog.Fire("", kCloseEvent);
+  }
+  bool CallBegins(const char* function) override {
+    if (at_call) at_call(function);
+    return false;
+  }
+  std::vector<std::string> typed;
+  std::function<void(const std::string& function)> at_call;
+};
+
+class RenameBatch : public PluginHost {
+ protected:
+  RenameBatch() : folder_(Installed().work() / ("rename-" + std::to_string(++number_))) {
+    fs::create_directories(folder_);
+    host_.session.ChangeDirectory(folder_);
+    host_.user = &user_;
+  }
+  ~RenameBatch() override { fs::remove_all(folder_); }
+
+  Model& Add(const ModelName& name) {
+    Model model(name);
+    model.folder = folder_;
+    return host_.session.Add(std::move(model));
+  }
+
+  // A top assembly with `count` components: every third an assembly, every second with a drawing.
+  void Build(int count) {
+    Model& top = Add({"top", ModelKind::kAssembly});
+    for (int i = 0; i < count; ++i) {
+      const ModelKind kind = i % 3 == 0 ? ModelKind::kAssembly : ModelKind::kPart;
+      Row row;
+      row.before = {"old_" + std::to_string(i), kind};
+      row.has_drawing = i % 2 == 0;
+      Model& model = Add(row.before);
+      top.solid().features.Add(NewComponent(i + 1, model.id));
+      if (row.has_drawing) {
+        Model& drawing = Add({row.before.name, ModelKind::kDrawing});
+        drawing.As<DrawingContent>()->shows = ModelLink{model.id, &model};
+        drawing.As<DrawingContent>()->sheets.emplace_back();
+      }
+      rows_.push_back(row);
+    }
+    host_.session.Complete(top);
+    for (const ModelKind kind : {ModelKind::kPart, ModelKind::kAssembly}) {
+      Model& lying = Add({"lying", kind});
+      host_.session.Save(lying);
+      host_.session.Erase(lying);
+    }
+    for (const auto& model : host_.session.models()) host_.session.Save(*model);
+    host_.session.ActivateWindow(host_.session.ShowInWindow(top).id);
+  }
+
+  static std::string Refusal(const std::string& name, const std::string& ending) {
+    return "无法执行重命名操作！\n新名称“" + name + "”" + ending;
+  }
+
+  // Gives row `i` a new name of this kind, and says what comes of it.
+  void Give(size_t i, Kind kind) {
+    const std::string taken = "在当前会话或工作目录中已存在，请修改后再试！";
+    const std::string illegal = "非法，请修改后再试！";
+    Row& row = rows_[i];
+    const bool is_part = row.before.kind == ModelKind::kPart;
+    const std::string own = "n" + std::to_string(i) + "_";
+    const auto filled = [&](size_t size) { return own + std::string(size - own.size(), 'x'); };
+    const auto refuse = [&](const std::string& name, const std::string& ending) {
+      row.typed = name;
+      row.refusal = Refusal(name, ending);
+    };
+    row.renamed = false;
+    row.refusal.clear();
+    switch (kind) {
+      case Kind::kSame:
+        row.typed = row.before.name;
+        return;
+      case Kind::kEmpty:
+        row.typed = "";
+        return;
+      case Kind::kNoBuffer:
+        return refuse(filled(32), illegal);
+      case Kind::kTooLong:
+        return refuse(filled(33), "长度大于32位，名称无效，请修改后再操作");
+      case Kind::kInSession:
+        return refuse(is_part ? "Old_1" : "TOP", taken);
+      case Kind::kOnDisk:
+        return refuse("lying", taken);
+      case Kind::kOfEarlierRow:
+        for (size_t k = 0; k < i; ++k) {
+          const bool same_type = rows_[k].before.kind == row.before.kind;
+          if (same_type && rows_[k].renamed && rows_[k].typed != "top")
+            return refuse("N" + rows_[k].typed.substr(1), taken);
+        }
+        break;
+      case Kind::kOfOtherType:
+        // The trial is a part: it fails for the name of one, and not for that of an assembly.
+        if (!is_part) return refuse("old_2", illegal);
+        row.typed = "top";
+        row.renamed = std::ranges::none_of(rows_, [&](const Row& other) {
+          return &other != &row && other.renamed && other.typed == "top";
+        });
+        if (!row.renamed) break;
+        return;
+      case Kind::kIllegal:
+        return refuse(own + "!", illegal);
+      default:
+        break;
+    }
+    row.typed = kind == Kind::kLongest ? filled(31) : own + "ä螺";
+    row.renamed = true;
+  }
+
+  std::vector<std::string> Boxes() const {
+    std::vector<std::string> texts;
+    for (const MessageBox& box : host_.events.All<MessageBox>()) texts.push_back(box.text);
+    return texts;
+  }
+
+  // Runs the command once; gives how many calls it made.
+  long Run() {
+    user_.typed.clear();
+    for (const Row& row : rows_) user_.typed.push_back(row.typed);
+    host_.events.Forget<MessageBox>();
+    const CommandRun run = RunCommand("QmRename");
+    EXPECT_TRUE(run.known && run.available);
+    EXPECT_EQ(run.left_out, Lines());
+    EXPECT_EQ(TakeBreaches(), Lines());
+    return host_.trace.calls();
+  }
+
+  long Count(const std::string& function) const {
+    const auto counts = host_.trace.Counts();
+    const auto found = counts.find(function);
+    return found == counts.end() ? 0 : found->second;
+  }
+
+  void CheckRefused(const FolderSnapshot& before, const std::string& refusal) {
+    EXPECT_EQ(Boxes(), Lines{refusal});
+    EXPECT_EQ(Count("ProMdlRename"), 0);
+    EXPECT_TRUE(before.Differences().empty());
+    for (const Row& row : rows_) EXPECT_NE(host_.session.Find(row.before), nullptr);
+  }
+
+  static bool Holds(const fs::path& file, const std::string& name) {
+    return ReadFileBytes(file).value_or("").find("\"" + name + "\"") != std::string::npos;
+  }
+
+  void CheckDone() {
+    EXPECT_EQ(Boxes(), Lines{"\t批量重命名操作已完成\t"});
+    long renamed = 0;
+    long drawings = 0;
+    std::set<std::string> old_names;
+    for (const Row& row : rows_) {
+      const ModelName after{row.renamed ? row.typed : row.before.name, row.before.kind};
+      EXPECT_NE(host_.session.Find(after), nullptr) << after.Text();
+      EXPECT_TRUE(fs::exists(folder_ / PathFromUtf8(after.Text() + ".1")));
+      EXPECT_EQ(fs::exists(folder_ / PathFromUtf8(after.Text() + ".2")), row.renamed);
+      const ModelName drawing{after.name, ModelKind::kDrawing};
+      EXPECT_EQ(host_.session.Find(drawing) != nullptr, row.has_drawing);
+      if (!row.renamed) continue;
+      ++renamed;
+      drawings += row.has_drawing ? 1 : 0;
+      old_names.insert(row.before.Text());
+      EXPECT_EQ(host_.session.Find(row.before), nullptr);
+    }
+    EXPECT_EQ(Count("ProMdlRename"), renamed + drawings);
+    EXPECT_EQ(Count("ProMdlSave"), Count("ProSolidCreate") + renamed + drawings);
+    CheckNoFileKnows(old_names);
+  }
+
+  // After the top assembly is saved, the newest file of every model knows new names only, and there
+  // is a file for no model but those that were there before.
+  void CheckNoFileKnows(const std::set<std::string>& old_names) {
+    host_.session.Save(*host_.session.Find({"top", ModelKind::kAssembly}));
+    const FolderIndex index(folder_);
+    const std::vector<ModelName> models = index.Models();
+    size_t elsewhere = 0;
+    for (const ModelKind kind : {ModelKind::kPart, ModelKind::kAssembly}) {
+      elsewhere += host_.session.Find({"lying", kind}) == nullptr ? 1 : 0;
+    }
+    EXPECT_EQ(models.size(), host_.session.models().size() + elsewhere);
+    for (const ModelName& model : models) {
+      EXPECT_FALSE(old_names.contains(model.Text())) << model.Text();
+      if (model.name == "top") {
+        for (const std::string& name : old_names) EXPECT_FALSE(Holds(index.Newest(model), name));
+      } else if (model.kind == ModelKind::kDrawing) {
+        const Model& drawing = *host_.session.Find(model);
+        EXPECT_TRUE(Holds(index.Newest(model), drawing.As<DrawingContent>()->shows->name.Text()));
+      }
+    }
+  }
+
+  inline static int number_ = 0;
+  const fs::path folder_;
+  RenamingUser user_;
+  std::vector<Row> rows_;
+};
+
+TEST_F(RenameBatch, ThreeHundredModelsWithDrawingsAreRenamedOrNone) {
+  Plugin plugin(Installed().dll());
+  ASSERT_EQ(plugin.Start(), 0);
+  Build(300);
+  for (size_t i = 0; i < rows_.size(); ++i) Give(i, i % 7 == 6 ? Kind::kSame : Kind::kFresh);
+  const std::vector<Row> good = rows_;
+  for (const Kind kind : {Kind::kTooLong, Kind::kNoBuffer, Kind::kOfEarlierRow, Kind::kIllegal}) {
+    rows_ = good;
+    Give(299, kind);
+    const FolderSnapshot before(folder_);
+    Run();
+    CheckRefused(before, rows_[299].refusal);
+  }
+  rows_ = good;
+  Run();
+  CheckDone();
+}
+
+TEST_F(RenameBatch, EachRowCostsTheSameNumberOfCalls) {
+  Plugin plugin(Installed().dll());
+  ASSERT_EQ(plugin.Start(), 0);
+  std::vector<long> calls;
+  for (const int count : {30, 60, 90}) {
+    while (!host_.session.models().empty()) host_.session.Erase(*host_.session.models().front());
+    for (const auto& item : fs::directory_iterator(folder_)) fs::remove(item);
+    rows_.clear();
+    Build(count);
+    for (size_t i = 0; i < rows_.size(); ++i) Give(i, Kind::kFresh);
+    calls.push_back(Run());
+  }
+  EXPECT_EQ(calls[2] - calls[1], calls[1] - calls[0]);
+}
+
+// A process that ends before any of the calls leaves what the journal says.
+TEST_F(RenameBatch, TheJournalIsTrueBetweenAnyTwoCalls) {
+  Plugin plugin(Installed().dll());
+  ASSERT_EQ(plugin.Start(), 0);
+  Build(7);
+  for (size_t i = 0; i < rows_.size(); ++i) Give(i, i == 3 ? Kind::kSame : Kind::kFresh);
+  const fs::path file = Installed().work() / "Quillmax" / "QmRename.txt";
+  fs::remove(file);
+  // The third model refuses at first.
+  FaultPlan fault;
+  fault.function = "ProMdlRename";
+  fault.nth = 4;
+  fault.kind = FaultKind::kStatus;
+  fault.status = PRO_TK_E_FOUND;
+  host_.faults.Order(fault);
+  int moments = 0;
+  user_.at_call = [&](const std::string& function) {
+    const std::string journal = ReadFileBytes(file).value_or("");
+    if (journal.empty()) {
+      EXPECT_NE(function, "ProMdlRename");
+      return;
+    }
+    ++moments;
+    for (size_t i = 0; i < rows_.size(); ++i) {
+      SCOPED_TRACE(function + " " + std::to_string(i));
+      const Row& row = rows_[i];
+      const ModelName after{row.typed, row.before.kind};
+      const ModelName drawing{row.typed, ModelKind::kDrawing};
+      const auto says = [&](const char* what) {
+        return journal.find("\n" + std::to_string(i + 1) + "\t" + what + "\r\n") != journal.npos;
+      };
+      const auto is_saved = [&](const ModelName& name) {
+        return fs::exists(folder_ / PathFromUtf8(name.Text() + ".2"));
+      };
+      if (!row.renamed) {
+        EXPECT_FALSE(says("renamed"));
+        continue;
+      }
+      EXPECT_EQ(says("renamed"), host_.session.Find(after) != nullptr);
+      EXPECT_EQ(says("saved"), is_saved(after));
+      EXPECT_EQ(says("drawing renamed"), host_.session.Find(drawing) != nullptr);
+      EXPECT_EQ(says("drawing saved"), is_saved(drawing));
+    }
+  };
+  Run();
+  user_.at_call = nullptr;
+  EXPECT_GT(moments, 20);
+  for (const Row& row : rows_) {
+    const bool there = host_.session.Find({row.typed, row.before.kind}) != nullptr;
+    EXPECT_TRUE(there || !row.renamed) << row.typed;
+  }
+  EXPECT_NE(ReadFileBytes(file).value_or("").find("end: 6 renamed, 0 not\r\n"), std::string::npos);
+}
+
+class RenameMixtures : public RenameBatch, public testing::WithParamInterface<int> {};
+
+TEST_P(RenameMixtures, EndAsTheFirstWrongRowSays) {
+  Plugin plugin(Installed().dll());
+  ASSERT_EQ(plugin.Start(), 0);
+  std::mt19937 random(static_cast<unsigned>(GetParam()));
+  Build(12);
+  for (int batch = 0; batch < 12; ++batch) {
+    std::string refusal;
+    for (size_t i = 0; i < rows_.size(); ++i) {
+      // Mostly good rows: otherwise the first ones would decide every batch.
+      const bool is_any = random() % 6 == 0;
+      Give(i, is_any ? static_cast<Kind>(random() % kKinds) : Kind::kFresh);
+      if (refusal.empty()) refusal = rows_[i].refusal;
+    }
+    const FolderSnapshot before(folder_);
+    Run();
+    if (refusal.empty()) {
+      CheckDone();
+      return;
+    }
+    CheckRefused(before, refusal);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RenameMixtures, testing::Range(1, 13));
+
+}  // namespace
+}  // namespace wb
