@@ -64,6 +64,7 @@ print_changes() {
     { item = substr($0, index($0, "(")) }
     command == "QmParams" && / ProMdlNameGet\(part / { met[++count] = word_after("part ") }
     command == "QmParams" && / ProParameterCreate\(/ { add_part() }
+    command == "QmExport" && / (Pro2dExport|ProPDFExport)\(/ && / = no_error$/ { exported++ }
     command == "QmRename" && / ProMdlRename\(/ && / = no_error$/ {
       if (/ProMdlRename\(drawing /) drawings++; else models++
     }
@@ -94,6 +95,7 @@ print_changes() {
       printf "TweViews   made%s, %d views in all\n", drawn, views
       printf "Drawings   %d checked for their scales, %s mended; frame %s on%s;\n", checked, mended, frame, framed
       printf "           %d changes of dimensions\n", dimensions
+      printf "QmExport   wrote %d PDF and DXF files\n", exported
       printf "QmRename   renamed %d models and %d drawings from new_names.xlsx\n", models, drawings
     }' "$out/trace.txt"
 }

@@ -265,7 +265,8 @@ UserOutcome Dialog::UserGoInto(std::string_view component) {
     return UserFocusCell(held.table, held.row, held.column);
   }
   UserOutcome outcome = Reach(component);
-  if (outcome.Done()) outcome.event = UiEvent::kFocusIn;
+  const bool takes_focus = outcome.Done() && Lookup(component)->kind == FieldKind::kInputPanel;
+  if (takes_focus) outcome.event = UiEvent::kFocusIn;
   return outcome;
 }
 

@@ -169,7 +169,8 @@ class RenameBatch : public PluginHost {
     EXPECT_TRUE(run.known && run.available);
     EXPECT_EQ(run.left_out, Lines());
     EXPECT_EQ(TakeBreaches(), Lines());
-    return host_.trace.calls();
+    // The run log asks for its folder when it is full of lines, which is no host call.
+    return host_.trace.calls() - host_.trace.Count("SHGetFolderPathW");
   }
 
   long Count(const std::string& function) const {

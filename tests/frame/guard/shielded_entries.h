@@ -69,6 +69,8 @@ inline constexpr ShieldedEntry kShieldedEntries[] = {
     {"dialog close action", "ProUIDialogCloseActionSet",        &probe::DialogButton, 0,                    true},
     {"radio group action",  "ProUIRadiogroupSelectActionSet",   &probe::DialogButton, 0,                    true},
     {"table action",        "ProUITableActivateActionSet",      &probe::DialogButton, 0,                    true},
+    {"cell action",         "ProUITableArmActionSet",           &probe::DialogButton, 0,                    true},
+    {"focus action",        "ProUIInputpanelFocusinActionSet",  &probe::DialogButton, 0,                    true},
     {"drawing area action", "ProUIDrawingareaPostmanagenotifyActionSet",
                                                                 &probe::DialogButton, 0,                    true},
     {"timer",               "SetTimer",                         &probe::Timer,        0,                    false},
