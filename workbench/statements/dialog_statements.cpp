@@ -73,7 +73,8 @@ const T& StateOf(ScriptRun& run, const Statement& statement) {
 
 // Who types into a field goes into it first.
 void TypeInto(ScriptRun& run, const Statement& statement, const std::string& field) {
-  Deed(run, statement, State(run).UserGoInto(field));
+  const UserOutcome into = State(run).UserGoInto(field);
+  if (into.event != UiEvent::kNone || !into.Done()) Deed(run, statement, into);
   UserOutcome typed = State(run).UserSetField(field, statement.Text("TEXT"));
   typed.target = field;
   Deed(run, statement, typed);
