@@ -262,6 +262,34 @@ TEST_F(Boundary, EveryBuiltCommandHasItsPartsUnderOneStem) {
   EXPECT_EQ(built + std::size(qm::kNotInBuild), menu->buttons.size());
 }
 
+// Commands that a script sweeps, in a line "sweep COMMAND".
+std::set<std::string> SweptCommands() {
+  std::set<std::string> swept;
+  for (const auto& file : fs::recursive_directory_iterator(kProject / "tests" / "scripts")) {
+    if (file.path().extension() != ".qms") continue;
+    std::istringstream lines(ReadText(file.path()));
+    for (std::string line; std::getline(lines, line);) {
+      std::istringstream words(line);
+      std::string word;
+      std::string command;
+      if (words >> word >> command && word == "sweep") swept.insert(command);
+    }
+  }
+  return swept;
+}
+
+TEST_F(Boundary, EveryBuiltCommandIsSwept) {
+  Plugin plugin(Installed().dll());
+  ASSERT_EQ(plugin.Start(), 0);
+  const std::set<std::string> swept = SweptCommands();
+  Lines missing;
+  for (const Command& command : host_.commands.commands) {
+    const bool is_built = std::ranges::count(qm::kNotInBuild, command.name) == 0;
+    if (is_built && !swept.contains(command.name)) missing.push_back(command.name);
+  }
+  EXPECT_EQ(missing, Lines());
+}
+
 // The walk above tells what is missing of a command by its stem.
 TEST_F(Boundary, AMissingPartOfACommandIsNamedByItsStem) {
   MenuButton button;

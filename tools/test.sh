@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds everything and runs all tests: the pure parts natively under the sanitizers, and the
-# plug-in in the workbench under Wine, with both code pages; then the checks of sources, documents
-# and package. With --long every allocation of every built command is failed instead of a sample.
+# plug-in in the workbench under Wine, with both code pages and both sets of the host's habits; then
+# the checks of sources, documents and package. With --long every allocation of every built command is failed instead of a sample.
 # Ends with "N passed, N failed".
 set -uo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -71,23 +71,31 @@ fi
 prepare_locale
 prepare_wine
 
-# The native tests, and the tests under Wine with the code page of users' machines (936) and with
-# another one, all at once.
+# The native tests, the tests under Wine with the code page of users' machines (936) and with
+# another one, and the scripts on a host of other habits, all at once.
 second=$build/wine-second
+third=$build/wine-third
 prepare_second_wine "$second"
+prepare_second_wine "$third"
+habits='*OtherHabits*'
 "$native/native_tests" >"$build/native.log" 2>&1 &
 native_run=$!
-LC_ALL=zh_CN.UTF-8 run_windows "$cross/quillmax_tests.exe" >"$build/windows-936.log" 2>&1 &
+LC_ALL=zh_CN.UTF-8 run_windows "$cross/quillmax_tests.exe" "--gtest_filter=-$habits" \
+  >"$build/windows-936.log" 2>&1 &
 WINEPREFIX=$second LC_ALL=en_US.UTF-8 run_windows "$cross/quillmax_tests.exe" \
-  >"$build/windows-1252.log" 2>&1 &
+  "--gtest_filter=-$habits" >"$build/windows-1252.log" 2>&1 &
+WINEPREFIX=$third LC_ALL=zh_CN.UTF-8 run_windows "$cross/quillmax_tests.exe" \
+  "--gtest_filter=$habits" >"$build/habits.log" 2>&1 &
 native_code=0
 wait "$native_run" || native_code=$?
 wait
 count_native "$build/native.log" "$native_code"
 count "windows, code page 936" "$build/windows-936.log"
 count "windows, code page 1252" "$build/windows-1252.log"
+count "scripts, other habits" "$build/habits.log"
 
-# Commands run for the first time, each in a fresh process with one allocation failed.
+# Commands run for the first time, each in a fresh process with one allocation failed. Mostly they
+# wait, so that the checks go on meanwhile.
 cd "$root"
 memory=tests/scripts/memory.qms
 every=()
@@ -96,8 +104,8 @@ if [ "${1:-}" = --long ]; then
   run_windows "$cross/workbench.exe" run "$memory" --all-allocations >"$build/memory-warm.log" 2>&1
   count "every allocation, warm" "$build/memory-warm.log"
 fi
-run_windows "$cross/workbench.exe" memory "$memory" "${every[@]}" >"$build/memory.log" 2>&1
-count "allocations at first runs" "$build/memory.log"
+WINEPREFIX=$second run_windows "$cross/workbench.exe" memory "$memory" "${every[@]}" \
+  >"$build/memory.log" 2>&1 &
 
 check "rooms" python3 "$here/check_rooms.py"
 check "format" "$here/check_format.sh"
@@ -107,4 +115,6 @@ check "both READMEs say the same" python3 "$here/check_readmes.py"
 check "the library's file" "$here/check_dll.sh" "$cross/quillmax5.1C3.dll"
 check "import" "$here/check_import.sh"
 check "package" "$here/check_package.sh"
+wait
+count "allocations at first runs" "$build/memory.log"
 finish

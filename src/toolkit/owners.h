@@ -4,6 +4,7 @@
 // handle leaves the owner empty, so users test the owner and not the status alone.
 #pragma once
 
+#include <optional>
 #include <utility>
 
 #include "toolkit/array.h"
@@ -88,11 +89,18 @@ using PdfOptions = Owner<ProPDFOptions, &release::PdfOptions>;
 using BrepRepresentation = Owner<ProOutputBrepRepresentation, &release::Brep>;
 using GeometryData = Owner<ProGeomitemdata*, &release::Geometry>;
 
-// Number of elements of one of the host's arrays; 0 for none or when the host does not tell.
-inline int ArraySize(ProArray array) {
+// Number of elements of one of the host's arrays, 0 for no array; nothing when the host does not
+// tell.
+inline std::optional<int> ToldArraySize(ProArray array) {
   int size = 0;
-  if (array == nullptr || !Ok(ProArraySizeGet(array, &size)) || size < 0) return 0;
-  return size;
+  if (array == nullptr) return size;
+  const bool is_told = Ok(ProArraySizeGet(array, &size)) && size >= 0;
+  return is_told ? std::optional(size) : std::nullopt;
+}
+
+// The same, 0 also when the host does not tell.
+inline int ArraySize(ProArray array) {
+  return ToldArraySize(array).value_or(0);
 }
 
 // An expandable array of the host with elements of type T (ProPath and other texts included).

@@ -29,9 +29,7 @@ std::optional<std::string> FilledText(const Call& call, const std::string& file,
                                       const std::string& key, va_list arguments) {
   const MessageRecord* const record = FindMessage(call, file, key);
   if (record == nullptr) return std::nullopt;
-  std::optional<std::string> text = FilledIn(*record, arguments);
-  if (!text) call.Fail("null text as an argument of \"" + record->key + "\"");
-  return text;
+  return FilledIn(*record, arguments);
 }
 
 // The range of a number that is asked for; null: any.

@@ -5,3 +5,4 @@
 
 #undef FindWindow
 #undef MessageBox
+#undef near

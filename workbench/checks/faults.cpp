@@ -1,12 +1,30 @@
 // Decides which crossing a fault strikes.
 #include "workbench/checks/faults.h"
 
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
 namespace wb {
+
+namespace {
+
+// By which the plug-in tells the user and writes its run log.
+constexpr std::string_view kTelling[] = {"MessageBoxW",      "ProMessageDisplay", "CreateFileW",
+                                         "SHGetFolderPathW", "CreateDirectoryW",  "GetFileSizeEx",
+                                         "WriteFile"};
+
+bool Tells(std::string_view function) {
+  return std::find(std::begin(kTelling), std::end(kTelling), function) != std::end(kTelling);
+}
+
+}  // namespace
 
 // Counts one more that the plan could fail.
 bool Faults::Reaches() {
   ++seen_;
-  if (seen_ != plan_->nth && !(plan_->from_then_on && seen_ > plan_->nth)) return false;
+  const bool is_meant = seen_ == plan_->nth || seen_ == plan_->second_nth;
+  if (!is_meant && !(plan_->from_then_on && seen_ > plan_->nth)) return false;
   ++struck_;
   return true;
 }
@@ -14,7 +32,15 @@ bool Faults::Reaches() {
 const FaultPlan* Faults::Strike(const char* function) {
   if (!plan_ || plan_->nth == 0 || plan_->kind == FaultKind::kNoMemory) return nullptr;
   if (!plan_->function.empty() && plan_->function != function) return nullptr;
-  return Reaches() ? &*plan_ : nullptr;
+  if (plan_->spares_telling && struck_ > 0 && Tells(function)) return nullptr;
+  if (!Reaches()) return nullptr;
+  if (names_.empty()) first_name_ = function;
+  names_.insert(function);
+  return &*plan_;
+}
+
+bool Faults::HasStruckTelling() const {
+  return std::ranges::any_of(names_, Tells);
 }
 
 bool Faults::StrikeAllocation() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 
 namespace wb {
@@ -17,15 +18,17 @@ struct FaultPlan {
   std::string function;      // empty: any function of the host counts
   bool windows_too = false;  // any intercepted Windows call counts as well
   long nth = 0;              // counted from 1; 0: no fault
+  long second_nth = 0;       // fails as well; 0: no other
   bool from_then_on = false;
+  bool spares_telling = false;  // what tells the user and the run log fails only as the first
   FaultKind kind = FaultKind::kStatus;
   int status = -1;
 };
 
 class Faults {
  public:
-  void Order(FaultPlan plan) { plan_ = std::move(plan), seen_ = 0, struck_ = 0; }
-  void Clear() { plan_.reset(); }
+  void Order(FaultPlan plan) { Clear(), plan_ = std::move(plan), seen_ = 0, struck_ = 0; }
+  void Clear() { plan_.reset(), names_.clear(), first_name_.clear(), has_struck_text_ = false; }
   // The fault this call of `function` meets, if any.
   const FaultPlan* Strike(const char* function);
   // The same for an intercepted Windows call: unless the plan names it, it counts only where the
@@ -33,10 +36,19 @@ class Faults {
   const FaultPlan* StrikeWindows(const char* function);
   // Whether this allocation of the plug-in is to give nothing.
   bool StrikeAllocation();
-  // Whether the calls it strikes claim success.
-  bool claims_success() const { return plan_ && plan_->kind == FaultKind::kEmptySuccess; }
   // How many calls or allocations the current plan has failed.
   long struck() const { return struck_; }
+  // Whether the calls it strikes claim success.
+  bool claims_success() const { return plan_ && plan_->kind == FaultKind::kEmptySuccess; }
+  // Whether calls of this function are among those that the current plan has failed.
+  bool HasStruck(const std::string& function) const { return names_.contains(function); }
+  // Whether a call that tells the user, or writes the run log, is among them.
+  bool HasStruckTelling() const;
+  // A call that is struck should have given a text: that there is none can be noticed.
+  void NoteText() { has_struck_text_ = true; }
+  bool HasStruckText() const { return has_struck_text_; }
+  // The first function struck, "" for none.
+  const std::string& first_struck() const { return first_name_; }
   // How many it could have failed so far.
   long seen() const { return seen_; }
 
@@ -46,6 +58,9 @@ class Faults {
   std::optional<FaultPlan> plan_;
   long seen_ = 0;
   long struck_ = 0;
+  std::set<std::string> names_;  // of the functions struck
+  std::string first_name_;
+  bool has_struck_text_ = false;
 };
 
 }  // namespace wb

@@ -84,4 +84,15 @@ std::string DescribeFields(const Dialog& dialog) {
   return text;
 }
 
+std::string DescribeTables(const Dialog& dialog) {
+  std::string text;
+  for (const Field& field : dialog.Fields()) {
+    const auto* const table = std::get_if<TableModel>(&field.state);
+    if (table == nullptr) continue;
+    text += field.name + ": " + TableText(*table) + "\n";
+    for (const TableModel::Row& row : table->Rows()) text += RowText(*table, row);
+  }
+  return text;
+}
+
 }  // namespace wb

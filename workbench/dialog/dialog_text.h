@@ -11,4 +11,7 @@ namespace wb {
 // columns and first rows. Groups and labels of other fields have none.
 std::string DescribeFields(const Dialog& dialog);
 
+// Every row of every table.
+std::string DescribeTables(const Dialog& dialog);
+
 }  // namespace wb

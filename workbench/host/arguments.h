@@ -32,6 +32,8 @@ struct Out {
     }
   }
   T& Look(const Call& call) const { return call.Place(place, what); }
+  // Whether it is a text that is given, which none of the host's texts lacks for good.
+  static constexpr bool kGivesText = std::is_same_v<T, wchar_t*> || std::is_same_v<T, char*>;
   void Empty() const {
     if (place != nullptr) std::memset(static_cast<void*>(place), 0, sizeof(T));
   }
@@ -64,6 +66,7 @@ struct OutText {
     call.Place(place, "text buffer");
     return {call, place, limit};
   }
+  static constexpr bool kGivesText = true;
   void Empty() const {
     if (place != nullptr) *place = L'\0';
   }

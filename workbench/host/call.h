@@ -192,6 +192,9 @@ class Crossing : CrossingBase {
       if constexpr (requires { argument.Empty(); }) {
         if (fault_->kind == FaultKind::kEmptySuccess) argument.Empty();
       }
+      if constexpr (requires { argument.kGivesText; }) {
+        if (argument.kGivesText) host_.faults.NoteText();
+      }
     };
     std::apply([&](const Arguments&... argument) { (each(argument), ...); }, arguments_);
     const bool claims_success = fault_->kind == FaultKind::kEmptySuccess;

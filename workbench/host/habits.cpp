@@ -5,29 +5,29 @@ namespace wb {
 
 std::span<const HabitRow> HabitRows() {
   static constexpr HabitRow kRows[] = {
-      {"radio_without_choice_succeeds", &Habits::radio_without_choice_succeeds},
-      {"empty_preselection_succeeds", &Habits::empty_preselection_succeeds},
-      {"second_registration_fails", &Habits::second_registration_fails},
-      {"empty_neighbour_is_refused", &Habits::empty_neighbour_is_refused},
+      {"radio_without_choice_succeeds", &Habits::radio_without_choice_succeeds, true},
+      {"empty_preselection_succeeds", &Habits::empty_preselection_succeeds, true},
+      {"second_registration_fails", &Habits::second_registration_fails, true},
+      {"empty_neighbour_is_refused", &Habits::empty_neighbour_is_refused, true},
       {"null_neighbour_is_refused", &Habits::null_neighbour_is_refused},
-      {"option_menu_answers_label", &Habits::option_menu_answers_label},
-      {"lacking_field_is_an_error", &Habits::lacking_field_is_an_error},
-      {"model_data_has_name_first", &Habits::model_data_has_name_first},
+      {"option_menu_answers_label", &Habits::option_menu_answers_label, true},
+      {"lacking_field_is_an_error", &Habits::lacking_field_is_an_error, true},
+      {"model_data_has_name_first", &Habits::model_data_has_name_first, true},
       {"model_data_has_unknown_order", &Habits::model_data_has_unknown_order},
       {"resources_lie_beside_text", &Habits::resources_lie_beside_text},
       {"surface_data_has_unknown_order", &Habits::surface_data_has_unknown_order},
       {"parameter_record_has_unknown_order", &Habits::parameter_record_has_unknown_order},
-      {"rotation_axes_count_from_one", &Habits::rotation_axes_count_from_one},
-      {"view_rotates_the_other_way", &Habits::view_rotates_the_other_way},
+      {"rotation_axes_count_from_one", &Habits::rotation_axes_count_from_one, true},
+      {"view_rotates_the_other_way", &Habits::view_rotates_the_other_way, true},
       {"scaled_view_matrix_is_taken", &Habits::scaled_view_matrix_is_taken},
       {"view_turn_is_refused", &Habits::view_turn_is_refused},
       {"view_turns_the_other_way", &Habits::view_turns_the_other_way},
       {"view_turns_about_the_other_axis", &Habits::view_turns_about_the_other_axis},
       {"view_display_has_flags_last", &Habits::view_display_has_flags_last},
-      {"view_places_are_on_the_screen", &Habits::view_places_are_on_the_screen},
-      {"empty_collection_succeeds", &Habits::empty_collection_succeeds},
-      {"table_segments_count_from_minus_one", &Habits::table_segments_count_from_minus_one},
-      {"untouched_dimension_has_no_lines", &Habits::untouched_dimension_has_no_lines},
+      {"view_places_are_on_the_screen", &Habits::view_places_are_on_the_screen, true},
+      {"empty_collection_succeeds", &Habits::empty_collection_succeeds, true},
+      {"table_segments_count_from_minus_one", &Habits::table_segments_count_from_minus_one, true},
+      {"untouched_dimension_has_no_lines", &Habits::untouched_dimension_has_no_lines, true},
       {"untouched_dimension_text_fails", &Habits::untouched_dimension_text_fails},
       {"tolerances_are_taken_for_numbers", &Habits::tolerances_are_taken_for_numbers},
       {"rename_leaves_files", &Habits::rename_leaves_files},
@@ -39,6 +39,12 @@ std::span<const HabitRow> HabitRows() {
       {"chosen_folder_has_separator", &Habits::chosen_folder_has_separator},
   };
   return kRows;
+}
+
+Habits OtherHabits() {
+  Habits habits;
+  for (const HabitRow& row : HabitRows()) habits.*row.habit = row.is_in_other_set;
+  return habits;
 }
 
 }  // namespace wb

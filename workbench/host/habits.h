@@ -44,7 +44,11 @@ struct Habits {
 struct HabitRow {
   const char* word;
   bool Habits::*habit;
+  bool is_in_other_set = false;
 };
 std::span<const HabitRow> HabitRows();
+
+// The set that stands beside "all off": each habit with which everything still works.
+Habits OtherHabits();
 
 }  // namespace wb

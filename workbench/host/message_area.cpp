@@ -1,8 +1,11 @@
 // Looks up the plug-in's texts and fills in their arguments.
 #include "workbench/host/message_area.h"
 
+#include <cstring>
+
 #include "workbench/base/text.h"
-#include "workbench/host/host.h"
+#include "workbench/base/windows_headers.h"
+#include "workbench/host/call.h"
 
 namespace wb {
 
@@ -26,21 +29,44 @@ std::filesystem::path MessagePath(const Host& host, const std::string& file) {
   return host.install_folder / "text" / host.language / PathFromUtf8(file);
 }
 
-std::optional<std::string> FilledIn(const MessageRecord& record, va_list arguments) {
+namespace {
+
+bool IsReadable(const void* place) {
+  MEMORY_BASIC_INFORMATION memory = {};
+  if (::VirtualQuery(place, &memory, sizeof(memory)) == 0) return false;
+  return memory.State == MEM_COMMIT && (memory.Protect & (PAGE_NOACCESS | PAGE_GUARD)) == 0;
+}
+
+// Numbers go by address; a number given as itself is hardly ever the address of something.
+template <typename Number>
+Number NumberAt(const void* place, const MessageRecord& record) {
+  if (!IsReadable(place))
+    throw Misuse{"a number of \"" + record.key + "\" is not given by address"};
+  Number number;
+  std::memcpy(&number, place, sizeof(number));
+  return number;
+}
+
+template <typename Character>
+const Character* TextAt(const Character* text, const MessageRecord& record) {
+  if (text == nullptr) throw Misuse{"null text as an argument of \"" + record.key + "\""};
+  return text;
+}
+
+}  // namespace
+
+std::string FilledIn(const MessageRecord& record, va_list arguments) {
   std::vector<MessageArg> values;
   for (const MessageArgCode& code : record.arguments) {
+    const void* const place = va_arg(arguments, const void*);
     if (code.type == MessageArgType::kInteger) {
-      values.emplace_back(std::int64_t{va_arg(arguments, int)});
+      values.emplace_back(std::int64_t{NumberAt<int>(place, record)});
     } else if (code.type == MessageArgType::kDouble) {
-      values.emplace_back(va_arg(arguments, double));
+      values.emplace_back(NumberAt<double>(place, record));
     } else if (code.type == MessageArgType::kWide) {
-      const wchar_t* const text = va_arg(arguments, const wchar_t*);
-      if (text == nullptr) return std::nullopt;
-      values.emplace_back(FromWide(text));
+      values.emplace_back(FromWide(TextAt(static_cast<const wchar_t*>(place), record)));
     } else {
-      const char* const text = va_arg(arguments, const char*);
-      if (text == nullptr) return std::nullopt;
-      values.emplace_back(FromAnsi(text));
+      values.emplace_back(FromAnsi(TextAt(static_cast<const char*>(place), record)));
     }
   }
   return FormatMessageText(record.Text(), values);

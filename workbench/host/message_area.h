@@ -32,8 +32,8 @@ class MessageArea {
 // Where the host looks for the plug-in's message file: the text folder of the language.
 std::filesystem::path MessagePath(const Host& host, const std::string& file);
 
-// The text with its arguments, which are fetched in order by the codes the record uses. No value:
-// an argument that must be a text is null.
-std::optional<std::string> FilledIn(const MessageRecord& record, va_list arguments);
+// The text with its arguments, which are fetched in order by the codes the record uses. Throws
+// Misuse for a text that is null and for a number that is not given by address.
+std::string FilledIn(const MessageRecord& record, va_list arguments);
 
 }  // namespace wb

@@ -41,6 +41,7 @@ struct ArgumentType {
 constexpr ArgumentType kArgumentTypes[] = {
     {"N", IsCount, "a count"},
     {"NTH", IsTimes, "a count from 1"},
+    {"SECOND", IsTimes, "a count from 1"},
     {"TIMES", IsTimes, "a count from 1"},
     {"ID", IsWhole, "a whole number"},
     {"FLAGS", IsWhole, "a whole number"},

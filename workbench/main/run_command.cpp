@@ -89,6 +89,7 @@ void RunApart(const std::string& script, const CommandLine& line, RunRecord& rec
   for (const char* option : {"--out", "--plugin", "--install", "--fault"}) {
     if (line.Has(option)) arguments.insert(arguments.end(), {option, line.Value(option)});
   }
+  if (line.Has("--other-habits")) arguments.push_back("--other-habits");
   TakeOver(script, OutputOf(ProgramFile(), arguments).value_or(""), record);
 }
 
@@ -110,7 +111,7 @@ MemorySweepOptions FirstRunOption(const std::string& text) {
 
 int RunScriptsCommand(const CommandArguments& arguments) {
   const CommandLine line(
-      arguments, {"--all-allocations"},
+      arguments, {"--all-allocations", "--other-habits"},
       {"--out", "--report", "--trace", "--plugin", "--install", "--fault", "--first-run"});
   if (line.words().empty()) throw UsageError("run wants one script or more");
   ScriptOptions options;
@@ -119,6 +120,7 @@ int RunScriptsCommand(const CommandArguments& arguments) {
   options.out = line.Path("--out");
   options.trace = line.Path("--trace");
   options.report = line.Path("--report");
+  options.other_habits = line.Has("--other-habits");
   options.fault = FaultOption(line.Value("--fault"));
   options.memory = FirstRunOption(line.Value("--first-run"));
   options.memory.all = line.Has("--all-allocations");

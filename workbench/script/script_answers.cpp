@@ -99,6 +99,7 @@ std::optional<std::vector<PickedItem>> ScriptUser::AnswerPick(const PickRequest&
 void ScriptUser::NoteQuestion(const char* kind, const std::string& asked,
                               const std::optional<std::string>& answer) {
   if (noting_ != nullptr) noting_->questions.push_back({kind, asked, answer});
+  if (run_.lenient) asked_.push_back(std::string(kind) + " " + asked);
 }
 
 void ScriptUser::CheckFileRequest(const Statement& answer, const FileRequest& request) {

@@ -38,6 +38,7 @@ struct ScriptOptions {
   std::filesystem::path out;      // keeps each script's folders below here; empty: they are removed
   std::filesystem::path trace;    // file that takes the calls of every action; empty: none
   std::filesystem::path report;   // page to collect for, with files beside it; empty: none
+  bool other_habits = false;      // the host starts with the other set of its habits
   FaultPlan fault;                // met by every action without one of its own; nth 0: none
   MemorySweepOptions memory;
 };
@@ -140,7 +141,7 @@ class ScriptRun {
   int recording = -1;                // index of the record of the command at work
   std::unique_ptr<ClipboardHolder> clipboard_holder;
   std::map<std::filesystem::path, std::unique_ptr<FileHolder>> held_files;
-  bool lenient = false;  // boxes and answers left over are no failures
+  bool lenient = false;  // boxes and answers left over are no failures; expectations must hold
 
   RunRecord& record() { return record_; }
 
@@ -153,7 +154,8 @@ class ScriptRun {
   void CheckFaultsStruck(const Statement& at);
 
   RunRecord& record_;
-  bool option_fault_struck_ = false;  // in any action so far
+  std::vector<std::string> broken_in_sweep_;  // expectations, until complaints are taken
+  bool option_fault_struck_ = false;          // in any action so far
   std::unique_ptr<InstallCopy> install_;
   std::unique_ptr<Plugin> plugin_;
 };

@@ -23,18 +23,14 @@ std::vector<fs::path> FilesBelow(const fs::path& folder) {
   return files;
 }
 
-// Only settings files are kept in memory by Windows.
-void FlushIfProfile(const fs::path& file) {
-  if (file.extension() == ".ini") FlushProfile(file);
-}
-
+// Entries of settings are written through at once.
 std::string Content(const fs::path& file) {
-  FlushIfProfile(file);
   return ReadFileBytes(file).value_or("");
 }
 
+// Windows keeps what it has read of a settings file.
 void WriteBack(const fs::path& file, const std::string& content) {
-  FlushIfProfile(file);
+  if (file.extension() == ".ini") FlushProfile(file);
   fs::create_directories(file.parent_path());
   std::ofstream(file, std::ios::binary | std::ios::trunc) << content;
 }
@@ -59,9 +55,14 @@ void PutBack(const Model& held, const std::vector<bool>& resolved, Session& sess
 
 }  // namespace
 
-FolderSnapshot::FolderSnapshot(fs::path folder) : folder_(std::move(folder)) {
-  for (const fs::path& file : FilesBelow(folder_)) files_[file] = Content(file);
+std::map<fs::path, std::string> FilesWithContents(const fs::path& folder) {
+  std::map<fs::path, std::string> files;
+  for (const fs::path& file : FilesBelow(folder)) files[file] = Content(file);
+  return files;
 }
+
+FolderSnapshot::FolderSnapshot(fs::path folder)
+    : folder_(std::move(folder)), files_(FilesWithContents(folder_)) {}
 
 std::vector<std::pair<std::string, std::string>> FolderSnapshot::Differences() const {
   std::vector<std::pair<std::string, std::string>> differences;
@@ -81,14 +82,6 @@ std::vector<std::pair<std::string, std::string>> FolderSnapshot::Differences() c
   return differences;
 }
 
-std::string FolderSnapshot::TextNow() const {
-  std::string text;
-  for (const auto& [file, what] : Differences()) {
-    text += what + " " + file + "\n" + Content(PathFromUtf8(file)) + "\n";
-  }
-  return text;
-}
-
 void FolderSnapshot::Restore() const {
   for (const auto& [name, what] : Differences()) {
     const fs::path file = PathFromUtf8(name);
@@ -104,6 +97,8 @@ SessionSnapshot::SessionSnapshot(const Host& host, const std::vector<fs::path>& 
     : current_window_(host.session.current_window()),
       active_window_(host.session.active_window()),
       working_directory_(host.session.working_directory()),
+      current_folder_(fs::current_path()),
+      clipboard_(ClipboardText().value_or("")),
       options_(host.options) {
   for (const auto& model : host.session.models()) {
     models_.push_back({*model, ResolvedLinks(*model)});
@@ -153,7 +148,9 @@ void SessionSnapshot::Restore(Host& host) const {
     host.session.selection_buffer.push_back(pick);
   }
   host.session.ChangeDirectory(working_directory_);
+  fs::current_path(current_folder_);
   host.options = options_;
+  if (ClipboardText().value_or("") != clipboard_) SetClipboardText(clipboard_);
   for (const FolderSnapshot& folder : folders_) folder.Restore();
 }
 

@@ -10,7 +10,9 @@
 
 namespace wb {
 
-// All files below a folder with their contents.
+// All files below a folder with their contents; settings as they would be read now.
+std::map<std::filesystem::path, std::string> FilesWithContents(const std::filesystem::path& folder);
+
 class FolderSnapshot {
  public:
   explicit FolderSnapshot(std::filesystem::path folder);
@@ -18,8 +20,6 @@ class FolderSnapshot {
   void Restore() const;
   // What differs now: path and "new", "changed" or "deleted".
   std::vector<std::pair<std::string, std::string>> Differences() const;
-  // All that differs now as one text, with the contents.
-  std::string TextNow() const;
 
  private:
   std::filesystem::path folder_;
@@ -56,6 +56,8 @@ class SessionSnapshot {
   int current_window_;
   int active_window_;
   std::filesystem::path working_directory_;
+  std::filesystem::path current_folder_;  // the process's
+  std::string clipboard_;
   std::map<std::string, std::vector<std::string>> options_;
   std::vector<FolderSnapshot> folders_;
 };

@@ -106,7 +106,10 @@ LiveDialog& ScriptUser::dialog() const {
 }
 
 void ScriptUser::Fire(LiveDialog& dialog, const std::string& component, const std::string& event) {
-  if (event == kActivateEvent || event == kCloseEvent) NoteDialog(dialog);
+  if (event == kActivateEvent || event == kCloseEvent) {
+    NoteDialog(dialog);
+    KeepShown(dialog);
+  }
   const bool bound = dialog.Fire(component, event);
   if (bound || run_.lenient) return;
   if (component.empty()) run_.Fail(Place(), "dialog " + dialog.name + " has no close action");
@@ -116,13 +119,28 @@ void ScriptUser::Fire(LiveDialog& dialog, const std::string& component, const st
   }
 }
 
-// A user who is at a loss closes the window; a dialog that does not close then is ended by force,
-// so that no run hangs.
+void ScriptUser::KeepShown(const LiveDialog& dialog) {
+  if (run_.lenient) shown_.push_back(dialog.name + "\n" + DescribeTables(dialog.state));
+}
+
+namespace {
+
+// What a dialog is closed by. A binding that only claims to have succeeded cannot be known by the
+// plug-in, nor can anybody close a dialog that the host will not end.
+bool HostPreventsClosing(const Faults& faults) {
+  return faults.HasStruck("ProUIDialogExit") ||
+         (faults.claims_success() && (faults.HasStruck("ProUIDialogCloseActionSet") ||
+                                      faults.HasStruck("ProUIPushbuttonActivateActionSet")));
+}
+
+}  // namespace
+
+// A user who is at a loss closes the window, and presses the button that says so; a dialog that
+// does not close then is ended by force, so that no run hangs.
 void ScriptUser::CloseForUser(LiveDialog& dialog) {
-  const bool has_way_out =
-      dialog.Fire("", kCloseEvent) || dialog.ended || dialog.Fire("Close", kActivateEvent);
-  // A binding that only claims to have succeeded cannot be known by the plug-in.
-  if (!has_way_out && !run_.host.faults.claims_success()) {
+  dialog.Fire("", kCloseEvent);
+  if (!dialog.ended) dialog.Fire("Close", kActivateEvent);
+  if (!dialog.ended && !HostPreventsClosing(run_.host.faults)) {
     run_.host.ReportBreach("ProUIDialogActivate",
                            "the dialog " + dialog.name + " gives the user no way out");
   }

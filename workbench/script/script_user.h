@@ -40,6 +40,11 @@ class ScriptUser : public User {
   // Fires what a deed of the user's sets off, after the picture for the report.
   void Fire(LiveDialog& dialog, const std::string& component, const std::string& event);
 
+  // The tables of dialogs as they looked before each press and at the end.
+  const std::vector<std::string>& shown() const { return shown_; }
+  // What the user was asked for, apart from boxes: picks, files, texts.
+  const std::vector<std::string>& asked() const { return asked_; }
+
   // Writes down in `record` what is shown and asked; null: no longer.
   void StartNoting(CommandRecord* record) { noting_ = record; }
 
@@ -70,6 +75,7 @@ class ScriptUser : public User {
   void AwaitNext();
   void Unanswered(const std::string& what);
   void CloseForUser(LiveDialog& dialog);
+  void KeepShown(const LiveDialog& dialog);
   void CheckFileRequest(const Statement& answer, const FileRequest& request);
 
   std::string HowToAnswer(const LiveDialog& dialog) const;
@@ -79,6 +85,8 @@ class ScriptUser : public User {
 
   ScriptRun& run_;
   CommandRecord* noting_ = nullptr;
+  std::vector<std::string> shown_;  // kept for sweeps only, like the next
+  std::vector<std::string> asked_;
   std::vector<Level> levels_;
   ScriptMoments moments_;
   std::vector<LiveDialog*> dialogs_;

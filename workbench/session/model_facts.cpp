@@ -183,4 +183,29 @@ std::vector<FactChange> ChangesBetween(const Model& before, const Model& after) 
   return changes;
 }
 
+namespace {
+
+void CollectFacts(const RecordType& type, void* record, const std::string& path,
+                  std::map<std::string, std::string>* facts) {
+  for (const FactRow& row : type.facts) (*facts)[path + row.name] = FactText(row.get(record));
+  for (const ListRow& list : type.lists) {
+    std::string& keys = (*facts)[path + list.name];
+    for (size_t i = 0; i < list.size(record); ++i) {
+      keys += list.key(record, i) + " ";
+      CollectFacts(list.type(), list.at(record, i),
+                   path + list.name + "/" + list.key(record, i) + "/", facts);
+    }
+  }
+}
+
+}  // namespace
+
+std::map<std::string, std::string> FactsOf(const Model& model) {
+  std::map<std::string, std::string> facts;
+  for (const RecordRef& ref : RecordsOf(const_cast<Model&>(model))) {
+    CollectFacts(*ref.type, ref.record, "", &facts);
+  }
+  return facts;
+}
+
 }  // namespace wb

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <array>
+#include <map>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -30,5 +32,8 @@ size_t CountItems(Model& model, std::string_view path);
 
 // What differs between two states of one model.
 std::vector<FactChange> ChangesBetween(const Model& before, const Model& after);
+
+// All facts of a model by their paths; of a list the keys of its items, in order.
+std::map<std::string, std::string> FactsOf(const Model& model);
 
 }  // namespace wb

@@ -14,6 +14,7 @@ namespace {
 
 constexpr const char* kAllocationPattern = "fault allocation NTH [from_then_on]";
 constexpr const char* kEmptyPattern = "fault FUNCTION NTH empty [from_then_on]";
+constexpr const char* kPairPattern = "fault FUNCTION NTH and SECOND status STATUS";
 constexpr const char* kStatusPattern = "fault FUNCTION NTH status STATUS [from_then_on]";
 
 // Ends the script for a function that no call can bear.
@@ -23,6 +24,7 @@ FaultPlan FaultOf(const Statement& statement) {
   if (statement.Text("FUNCTION") != "any") plan.function = statement.Text("FUNCTION");
   plan.nth = statement.Number("NTH");
   plan.from_then_on = statement.Has("from_then_on");
+  if (statement.Has("SECOND")) plan.second_nth = statement.Number("SECOND");
   if (statement.Has("empty")) {
     plan.kind = FaultKind::kEmptySuccess;
   } else {
@@ -56,6 +58,7 @@ constexpr StatementForm kFaultForms[] = {
     {"fault none",       kTopPlace, &FaultNone},
     {kAllocationPattern, kTopPlace, &OrderAllocationFault},
     {kEmptyPattern,      kTopPlace, &OrderFault},
+    {kPairPattern,       kTopPlace, &OrderFault},
     {kStatusPattern,     kTopPlace, &OrderFault},
 };
 // clang-format on

@@ -1,12 +1,12 @@
 // Statements on the plug-in's life and on commands.
 #include "workbench/plugin/timers.h"
 #include "workbench/reasons/access_reason.h"
-#include "workbench/script/memory_sweep.h"
 #include "workbench/script/script_calls.h"
 #include "workbench/script/script_record.h"
 #include "workbench/script/script_runner.h"
-#include "workbench/script/script_sweep.h"
 #include "workbench/statements/statement_families.h"
+#include "workbench/sweep/fault_sweep.h"
+#include "workbench/sweep/memory_sweep.h"
 
 namespace wb {
 namespace {

@@ -1,4 +1,5 @@
-// Programs that are started by automation: the host's stand-in starts in their place.
+// Programs that are started by automation: the host's stand-in starts in their place. The start of
+// COM and its texts are real, and can be made to fail.
 #include <iterator>
 
 #include "workbench/base/windows_headers.h"
@@ -6,6 +7,7 @@
 #include "workbench/windows/windows_hooks.h"
 
 #include <objbase.h>
+#include <oleauto.h>
 
 namespace wb {
 namespace {
@@ -35,12 +37,24 @@ HRESULT WINAPI HookCoCreateInstance(REFCLSID class_id, LPUNKNOWN, DWORD, REFIID 
                          });
 }
 
+HRESULT WINAPI HookCoInitializeEx(LPVOID reserved, DWORD mode) {
+  return WindowsCrossing("CoInitializeEx", std::to_string(mode), HRESULT{E_OUTOFMEMORY},
+                         [&](const Call&) { return ::CoInitializeEx(reserved, mode); });
+}
+
+BSTR WINAPI HookSysAllocStringLen(const OLECHAR* text, UINT length) {
+  return WindowsCrossing("SysAllocStringLen", std::to_string(length), BSTR{nullptr},
+                         [&](const Call&) { return ::SysAllocStringLen(text, length); });
+}
+
 }  // namespace
 
 HookRows ComHooks() {
   static const Hook kRows[] = {
       HookRow<decltype(CLSIDFromProgID)>("CLSIDFromProgID", &HookCLSIDFromProgID),
       HookRow<decltype(CoCreateInstance)>("CoCreateInstance", &HookCoCreateInstance),
+      HookRow<decltype(CoInitializeEx)>("CoInitializeEx", &HookCoInitializeEx),
+      HookRow<decltype(SysAllocStringLen)>("SysAllocStringLen", &HookSysAllocStringLen),
   };
   return kRows;
 }

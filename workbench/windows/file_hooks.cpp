@@ -1,4 +1,7 @@
-// Files stay real, but for folders in which nobody may write.
+// Files stay real, but for folders in which nobody may write; each call that makes, opens, writes,
+// moves or looks at one can be made to fail.
+#include <cstdio>
+
 #include "workbench/base/text.h"
 #include "workbench/windows/windows_crossing.h"
 #include "workbench/windows/windows_hooks.h"
@@ -15,18 +18,111 @@ bool IsRefused(LPCWSTR path, DWORD access) {
 HANDLE WINAPI HookCreateFileW(LPCWSTR path, DWORD access, DWORD share,
                               LPSECURITY_ATTRIBUTES security, DWORD disposition, DWORD flags,
                               HANDLE like) {
-  if (IsRefused(path, access)) {
-    ::SetLastError(ERROR_ACCESS_DENIED);
-    return INVALID_HANDLE_VALUE;
-  }
-  return ::CreateFileW(path, access, share, security, disposition, flags, like);
+  return ErrorCrossing(
+      "CreateFileW", DescribeArgument(path), INVALID_HANDLE_VALUE, ERROR_ACCESS_DENIED, [&] {
+        if (!IsRefused(path, access)) {
+          return ::CreateFileW(path, access, share, security, disposition, flags, like);
+        }
+        ::SetLastError(ERROR_ACCESS_DENIED);
+        return INVALID_HANDLE_VALUE;
+      });
+}
+
+BOOL WINAPI HookWriteFile(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written,
+                          LPOVERLAPPED overlapped) {
+  return ErrorCrossing("WriteFile", std::to_string(size), BOOL{FALSE}, ERROR_DISK_FULL,
+                       [&] { return ::WriteFile(file, bytes, size, written, overlapped); });
+}
+
+BOOL WINAPI HookGetFileSizeEx(HANDLE file, PLARGE_INTEGER size) {
+  return ErrorCrossing("GetFileSizeEx", "", BOOL{FALSE}, ERROR_IO_DEVICE,
+                       [&] { return ::GetFileSizeEx(file, size); });
+}
+
+BOOL WINAPI HookCreateDirectoryW(LPCWSTR path, LPSECURITY_ATTRIBUTES security) {
+  return ErrorCrossing("CreateDirectoryW", DescribeArgument(path), BOOL{FALSE}, ERROR_ACCESS_DENIED,
+                       [&] { return ::CreateDirectoryW(path, security); });
+}
+
+BOOL WINAPI HookDeleteFileW(LPCWSTR path) {
+  return ErrorCrossing("DeleteFileW", DescribeArgument(path), BOOL{FALSE}, ERROR_ACCESS_DENIED,
+                       [&] { return ::DeleteFileW(path); });
+}
+
+BOOL WINAPI HookMoveFileExW(LPCWSTR from, LPCWSTR to, DWORD flags) {
+  return ErrorCrossing("MoveFileExW", DescribeArgument(from) + ", " + DescribeArgument(to),
+                       BOOL{FALSE}, ERROR_ACCESS_DENIED,
+                       [&] { return ::MoveFileExW(from, to, flags); });
+}
+
+BOOL WINAPI HookCopyFileW(LPCWSTR from, LPCWSTR to, BOOL only_new) {
+  return ErrorCrossing("CopyFileW", DescribeArgument(from) + ", " + DescribeArgument(to),
+                       BOOL{FALSE}, ERROR_ACCESS_DENIED,
+                       [&] { return ::CopyFileW(from, to, only_new); });
+}
+
+DWORD WINAPI HookGetFileAttributesW(LPCWSTR path) {
+  return ErrorCrossing("GetFileAttributesW", DescribeArgument(path), INVALID_FILE_ATTRIBUTES,
+                       ERROR_ACCESS_DENIED, [&] { return ::GetFileAttributesW(path); });
+}
+
+BOOL WINAPI HookSetFileAttributesW(LPCWSTR path, DWORD attributes) {
+  return ErrorCrossing("SetFileAttributesW", DescribeArgument(path), BOOL{FALSE},
+                       ERROR_ACCESS_DENIED, [&] { return ::SetFileAttributesW(path, attributes); });
+}
+
+// A look into a folder.
+HANDLE WINAPI HookFindFirstFileW(LPCWSTR pattern, LPWIN32_FIND_DATAW found) {
+  return ErrorCrossing("FindFirstFileW", DescribeArgument(pattern), INVALID_HANDLE_VALUE,
+                       ERROR_ACCESS_DENIED, [&] { return ::FindFirstFileW(pattern, found); });
+}
+
+BOOL WINAPI HookFindNextFileW(HANDLE search, LPWIN32_FIND_DATAW found) {
+  return ErrorCrossing("FindNextFileW", "", BOOL{FALSE}, ERROR_IO_DEVICE,
+                       [&] { return ::FindNextFileW(search, found); });
+}
+
+FILE* HookWfopen(const wchar_t* path, const wchar_t* mode) {
+  return WindowsCrossing("_wfopen", DescribeArgument(path) + ", " + DescribeArgument(mode),
+                         static_cast<FILE*>(nullptr),
+                         [&](const Call&) { return ::_wfopen(path, mode); });
+}
+
+size_t HookFread(void* bytes, size_t size, size_t count, FILE* file) {
+  return WindowsCrossing("fread", std::to_string(count), size_t{0},
+                         [&](const Call&) { return std::fread(bytes, size, count, file); });
+}
+
+int HookFputs(const char* text, FILE* file) {
+  return WindowsCrossing("fputs", DescribeArgument(text), EOF,
+                         [&](const Call&) { return std::fputs(text, file); });
+}
+
+// One that fails has closed the file all the same.
+int HookFclose(FILE* file) {
+  const int closed = std::fclose(file);
+  return WindowsCrossing("fclose", "", EOF, [&](const Call&) { return closed; });
 }
 
 }  // namespace
 
 HookRows FileHooks() {
   static const Hook kRows[] = {
-      HookRow<decltype(CreateFileW)>("CreateFileW", &HookCreateFileW, false),
+      HookRow<decltype(CreateFileW)>("CreateFileW", &HookCreateFileW),
+      HookRow<decltype(WriteFile)>("WriteFile", &HookWriteFile),
+      HookRow<decltype(GetFileSizeEx)>("GetFileSizeEx", &HookGetFileSizeEx),
+      HookRow<decltype(CreateDirectoryW)>("CreateDirectoryW", &HookCreateDirectoryW),
+      HookRow<decltype(DeleteFileW)>("DeleteFileW", &HookDeleteFileW),
+      HookRow<decltype(MoveFileExW)>("MoveFileExW", &HookMoveFileExW),
+      HookRow<decltype(CopyFileW)>("CopyFileW", &HookCopyFileW),
+      HookRow<decltype(GetFileAttributesW)>("GetFileAttributesW", &HookGetFileAttributesW),
+      HookRow<decltype(SetFileAttributesW)>("SetFileAttributesW", &HookSetFileAttributesW),
+      HookRow<decltype(FindFirstFileW)>("FindFirstFileW", &HookFindFirstFileW),
+      HookRow<decltype(FindNextFileW)>("FindNextFileW", &HookFindNextFileW),
+      HookRow<decltype(_wfopen)>("_wfopen", &HookWfopen),
+      HookRow<decltype(std::fread)>("fread", &HookFread),
+      HookRow<decltype(std::fputs)>("fputs", &HookFputs),
+      HookRow<decltype(std::fclose)>("fclose", &HookFclose),
   };
   return kRows;
 }

@@ -1,4 +1,4 @@
-// Known folders lie where the run wants them.
+// Known folders lie where the run wants them. The current directory is the real one.
 #include <filesystem>
 
 #include "workbench/base/windows_headers.h"
@@ -46,6 +46,16 @@ BOOL WINAPI HookSHGetSpecialFolderPathW(HWND window, LPWSTR path, int number, BO
                          });
 }
 
+DWORD WINAPI HookGetCurrentDirectoryW(DWORD size, LPWSTR path) {
+  return ErrorCrossing("GetCurrentDirectoryW", std::to_string(size), DWORD{0}, ERROR_ACCESS_DENIED,
+                       [&] { return ::GetCurrentDirectoryW(size, path); });
+}
+
+BOOL WINAPI HookSetCurrentDirectoryW(LPCWSTR path) {
+  return ErrorCrossing("SetCurrentDirectoryW", DescribeArgument(path), BOOL{FALSE},
+                       ERROR_ACCESS_DENIED, [&] { return ::SetCurrentDirectoryW(path); });
+}
+
 }  // namespace
 
 HookRows FolderHooks() {
@@ -53,6 +63,8 @@ HookRows FolderHooks() {
       HookRow<decltype(SHGetFolderPathW)>("SHGetFolderPathW", &HookSHGetFolderPathW),
       HookRow<decltype(SHGetSpecialFolderPathW)>("SHGetSpecialFolderPathW",
                                                  &HookSHGetSpecialFolderPathW),
+      HookRow<decltype(GetCurrentDirectoryW)>("GetCurrentDirectoryW", &HookGetCurrentDirectoryW),
+      HookRow<decltype(SetCurrentDirectoryW)>("SetCurrentDirectoryW", &HookSetCurrentDirectoryW),
   };
   return kRows;
 }

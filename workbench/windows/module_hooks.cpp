@@ -1,7 +1,6 @@
-// Look-ups of functions in modules: those of the host that are missing here are named.
-#include "workbench/base/windows_headers.h"
-#include "workbench/host/host.h"
-#include "workbench/host/host_types.h"
+// Look-ups of modules, which can be made to fail, and of functions in them: those of the host that
+// are missing here are named.
+#include "workbench/windows/windows_crossing.h"
 #include "workbench/windows/windows_hooks.h"
 
 namespace wb {
@@ -22,11 +21,33 @@ FARPROC WINAPI HookGetProcAddress(HMODULE module, LPCSTR name) {
   return found;
 }
 
+// The plug-in asks for the host's own module once for each function that it calls for the first
+// time, so these look-ups would count differently in every run.
+HMODULE WINAPI HookGetModuleHandleW(LPCWSTR name) {
+  if (name == nullptr || !HasHost()) return ::GetModuleHandleW(name);
+  return ErrorCrossing("GetModuleHandleW", DescribeArgument(name), HMODULE{nullptr},
+                       ERROR_MOD_NOT_FOUND, [&] { return ::GetModuleHandleW(name); });
+}
+
+DWORD WINAPI HookGetModuleFileNameW(HMODULE module, LPWSTR path, DWORD size) {
+  return ErrorCrossing("GetModuleFileNameW", "", DWORD{0}, ERROR_MOD_NOT_FOUND,
+                       [&] { return ::GetModuleFileNameW(module, path, size); });
+}
+
+BOOL WINAPI HookGetModuleHandleExW(DWORD flags, LPCWSTR name, HMODULE* module) {
+  return ErrorCrossing("GetModuleHandleExW", std::to_string(flags), BOOL{FALSE},
+                       ERROR_MOD_NOT_FOUND,
+                       [&] { return ::GetModuleHandleExW(flags, name, module); });
+}
+
 }  // namespace
 
 HookRows ModuleHooks() {
   static const Hook kRows[] = {
       HookRow<decltype(GetProcAddress)>("GetProcAddress", &HookGetProcAddress, false),
+      HookRow<decltype(GetModuleHandleW)>("GetModuleHandleW", &HookGetModuleHandleW),
+      HookRow<decltype(GetModuleFileNameW)>("GetModuleFileNameW", &HookGetModuleFileNameW),
+      HookRow<decltype(GetModuleHandleExW)>("GetModuleHandleExW", &HookGetModuleHandleExW),
   };
   return kRows;
 }

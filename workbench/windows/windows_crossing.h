@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "workbench/base/text.h"
+#include "workbench/base/windows_headers.h"
 #include "workbench/host/call.h"
 
 namespace wb {
@@ -50,6 +51,20 @@ Result WindowsCrossing(const char* function, const std::string& arguments, Resul
   } else {
     host.trace.LeaveQuietly();
   }
+  return result;
+}
+
+// The same for a function that tells by Windows' last error why it failed: the error is kept as the
+// function left it, whatever the host has done since. When a fault strikes it is `error`.
+template <typename Result, typename Body>
+Result ErrorCrossing(const char* function, const std::string& arguments, Result failure,
+                     unsigned long error, Body&& body) {
+  const Result result = WindowsCrossing(function, arguments, failure, [&](const Call&) {
+    const Result answer = body();
+    error = ::GetLastError();
+    return answer;
+  });
+  ::SetLastError(error);
   return result;
 }
 

@@ -32,6 +32,7 @@ Hook HookRow(const char* name, std::type_identity_t<Function>* replacement,
   FAMILY(FileDialogHooks)        \
   FAMILY(SettingsHooks)          \
   FAMILY(FileHooks)              \
+  FAMILY(ClipboardHooks)         \
   FAMILY(ModuleHooks)            \
   FAMILY(HeapHooks)
 

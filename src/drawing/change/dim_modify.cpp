@@ -52,9 +52,8 @@ void ChangeOn(const Place& place, const DimensionChange& change, ProSelection se
 }
 
 void ChangeSelected(const Place& place, const DimensionChange& change,
-                    const SelectionArray& selected) {
-  const int count = selected.size();
-  for (int i = 0; i < count; ++i) ChangeOn(place, change, selected[i]);
+                    const Preselected& selected) {
+  for (int i = 0; i < selected.size(); ++i) ChangeOn(place, change, selected[i]);
 }
 
 // Until the user cancels.
@@ -84,8 +83,8 @@ ProError Change(const DialogView& dialog, const DimButton& button) {
   } else {
     ChangePicked(place, change);
   }
-  if (ClearsSelection(button.change)) ProSelbufferClear();
-  return PRO_TK_NO_ERROR;
+  // The next button would change what the user takes for let go.
+  return ClearsSelection(button.change) ? ProSelbufferClear() : PRO_TK_NO_ERROR;
 }
 
 void Press(const DialogView& dialog, const DimButton& button) {

@@ -24,13 +24,25 @@ struct TextLine {
   ProLine text;
 };
 
-// First line of the text; nothing when the dimension has none.
-std::optional<std::wstring> FirstLine(ProModelitem& dimension) {
+struct FirstLine {
+  bool is_told = false;
+  std::optional<std::wstring> text;  // none when the dimension has no text
+};
+
+FirstLine ReadFirstLine(ProModelitem& dimension) {
   HostArray<ProLine> lines;
-  if (!Ok(ProDimensionTextGet(&dimension, lines.put())) || lines.size() < 1) return std::nullopt;
+  const ProError status = ProDimensionTextGet(&dimension, lines.put());
+  if (!Ok(status)) {
+    const bool has_none = status == PRO_TK_E_NOT_FOUND;
+    if (!has_none) LogAnswer(dimension, "ProDimensionTextGet", status);
+    return {.is_told = has_none, .text = std::nullopt};
+  }
+  const auto count = ToldArraySize(lines.get());
+  if (!count) LogAnswer(dimension, "ProArraySizeGet", PRO_TK_GENERAL_ERROR);
+  if (!count || *count < 1) return {.is_told = count.has_value(), .text = std::nullopt};
   // An empty line would lose the value: the new text stands around it.
   std::wstring line(FixedText(lines[0]));
-  return line.empty() ? std::nullopt : std::optional(std::move(line));
+  return {true, line.empty() ? std::nullopt : std::optional(std::move(line))};
 }
 
 // Whether the tolerance is there as it was meant: the host may take the numbers in another way.
@@ -56,8 +68,11 @@ void DimensionChange::Apply(ProModelitem& dimension) const {
 
 void DimensionChange::SetText(ProModelitem& dimension) const {
   const bool builds_on_present = button_.change != DimChange::kPrefix;
-  const auto line =
-      NewDimLine(button_, typed_, builds_on_present ? FirstLine(dimension) : std::nullopt);
+  FirstLine present{true, std::nullopt};
+  if (builds_on_present) present = ReadFirstLine(dimension);
+  // A text that is there, but cannot be read, would be lost.
+  if (!present.is_told) return;
+  const auto line = NewDimLine(button_, typed_, present.text);
   TextLine copy = {};
   HostArray<TextLine> lines;
   if (!line || !FillFixedText(*line, copy.text)) {

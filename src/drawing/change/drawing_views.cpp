@@ -54,6 +54,10 @@ int SheetCount(ProDrawing drawing) {
   return Told(drawing, "ProDrawingSheetsCount", status) ? count : 0;
 }
 
+void ShowSheet(ProDrawing drawing, int sheet) {
+  Told(drawing, "ProDrawingCurrentSheetSet", ProDrawingCurrentSheetSet(drawing, sheet));
+}
+
 ProSolid SolidOf(ProDrawing drawing, ProView view) {
   ProSolid solid = nullptr;
   const ProError status = ProDrawingViewSolidGet(drawing, view, &solid);

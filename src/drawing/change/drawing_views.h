@@ -25,6 +25,9 @@ std::vector<std::vector<ProView>> BySheet(const std::vector<DrawingView>& views,
 // Number of sheets; 0, after a line in the run log, when the host does not tell one that can be.
 int SheetCount(ProDrawing drawing);
 
+// The sheet that the user sees; a failure is logged.
+void ShowSheet(ProDrawing drawing, int sheet);
+
 // What the host answers of a view; nothing, after a line in the run log, when it does not.
 ProSolid SolidOf(ProDrawing drawing, ProView view);  // null then
 bool IsGeneral(ProDrawing drawing, ProView view);    // false then

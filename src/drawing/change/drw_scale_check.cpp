@@ -39,7 +39,7 @@ void CheckDrawing(ProDrawing drawing, const std::wstring& file_name, std::wstrin
   const auto sheets = BySheet(views, SheetCount(drawing));
   for (size_t i = 0; i < sheets.size(); ++i) {
     const int sheet = static_cast<int>(i) + kFirstSheet;
-    ProDrawingCurrentSheetSet(drawing, sheet);
+    ShowSheet(drawing, sheet);
     if (std::ranges::any_of(sheets[i],
                             [&](ProView view) { return DiffersFromSheet(drawing, view, sheet); })) {
       *report += L"\n图纸'" + name + L"' 第" + std::to_wstring(sheet) + L"页";

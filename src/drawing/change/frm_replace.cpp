@@ -32,9 +32,13 @@ void CopyFormat(const std::wstring& chosen, const std::wstring& name, const std:
                 const std::wstring& folder) {
   const std::wstring place = formats.empty() ? folder : formats + L"\\";
   const std::wstring target = place + name + L".frm";
-  if (!place.empty() && ::CopyFileW(chosen.c_str(), target.c_str(), TRUE)) return;
-  LogEvent("the format stays as it is at " + ToUtf8(target) + ": Windows' error " +
-           std::to_string(::GetLastError()));
+  if (place.empty())
+    return LogFailure("the format is not copied: the working directory is unknown");
+  if (::CopyFileW(chosen.c_str(), target.c_str(), TRUE)) return;
+  const DWORD error = ::GetLastError();
+  const std::string line = "the format stays as it is at " + ToUtf8(target) + ": Windows' error " +
+                           std::to_string(error);
+  error == ERROR_FILE_EXISTS ? LogEvent(line) : LogFailure(line);
 }
 
 // The format's model; null when the host does not find it. Nothing when the user cancels.

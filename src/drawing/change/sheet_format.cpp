@@ -46,8 +46,10 @@ std::unordered_map<int, std::vector<ProDwgtable>> FormatTables(ProDrawing drawin
   HostArray<ProDwgtable> array;
   ProError status = ProDrawingTablesCollect(drawing, array.put());
   LogPassedOver(drawing, "ProDrawingTablesCollect", status);
-  const int count = Ok(status) ? array.size() : 0;
-  for (int i = 0; i < count; ++i) {
+  if (!Ok(status)) return tables;
+  const auto count = ToldArraySize(array.get());
+  if (!count) LogFailure(drawing, "ProArraySizeGet", PRO_TK_GENERAL_ERROR);
+  for (int i = 0; i < count.value_or(0); ++i) {
     ProBoolean is_from_format = PRO_B_FALSE;
     status = ProDwgtableIsFromFormat(&array[i], &is_from_format);
     if (!Ok(status)) LogFailure(drawing, "ProDwgtableIsFromFormat", status);
@@ -75,8 +77,7 @@ class Replacement {
 
   // `model` belongs to the format; that of the last view on the sheet where there is one.
   void OnSheet(int sheet, const std::vector<ProView>& views, ProSolid& model) {
-    LogPassedOver(drawing_, "ProDrawingCurrentSheetSet",
-                  ProDrawingCurrentSheetSet(drawing_, sheet));
+    ShowSheet(drawing_, sheet);
     for (ProView view : views) {
       if (ProSolid solid = SolidOf(drawing_, view)) model = solid;
     }

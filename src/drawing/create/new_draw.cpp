@@ -24,8 +24,9 @@ constexpr wchar_t kNoTemplate[] = L"PRO_TK_E_NOT_FOUND";
 
 // A drawing without its format is a drawing all the same: what fails here is only logged.
 void PutFormat(ProDrawing drawing, ProMdl model, const std::wstring& format_name) {
-  ProMdl format = format_name.empty() ? nullptr : RetrieveModel(format_name, PRO_MDL_DWGFORM);
-  if (format == nullptr) return;
+  if (format_name.empty()) return;
+  ProMdl format = RetrieveModel(format_name, PRO_MDL_DWGFORM);
+  if (format == nullptr) return LogFailure("the drawing stays without its format");
   const ProError status = ProDrawingFormatAdd(drawing, kFirstSheet, model, format, kFirstSheet);
   if (!Ok(status)) LogFailure(drawing, "ProDrawingFormatAdd", status);
 }

@@ -19,7 +19,7 @@ constexpr SheetAxisRow kSheetAxes[] = {
     {L"Normal", Axis::kZ}, {L"Vertical", Axis::kY}, {L"Horizontal", Axis::kX}};
 
 void LogStatus(const char* function, ProError status) {
-  if (!Ok(status)) LogEvent(std::string(function) + " answered " + StatusName(status));
+  if (!Ok(status)) LogFailure(std::string(function) + " answered " + StatusName(status));
 }
 
 bool IsFlag(ProBoolean value) {

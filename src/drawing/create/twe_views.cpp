@@ -74,12 +74,13 @@ ProError BuildDrawing(ProMdl model, const TweViewsWishes& wishes) {
     return made.status;
   }
   const auto window = DrawingWindow(name);
-  ProDrawingSheetFormatHide(made.drawing, kAllSheets);
+  const ProError hidden = ProDrawingSheetFormatHide(made.drawing, kAllSheets);
+  if (!Ok(hidden)) LogFailure(name, "ProDrawingSheetFormatHide", hidden);
   if (window) MakeCurrent(*window);
   const ProError status = DrawTweViews(made.drawing, model, orientation, wishes);
   if (!Ok(status)) return status;
   int shown_in = -1;
-  if (Ok(ProMdlWindowGet(made.drawing, &shown_in)) && shown_in >= 0) ProWindowActivate(shown_in);
+  if (Ok(ProMdlWindowGet(made.drawing, &shown_in)) && shown_in >= 0) ActivateWindow(shown_in);
   if (wishes.exports) ExportToDesktop(made.drawing, name);
   return PRO_TK_NO_ERROR;
 }

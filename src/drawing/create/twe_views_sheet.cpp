@@ -61,7 +61,7 @@ class ViewSet {
     const ProError status =
         ProDrawingProjectedviewCreate(drawing_, parent_view, PRO_B_FALSE, position, &view);
     if (!Ok(status) || view == nullptr) {
-      LogEvent(std::string("ProDrawingProjectedviewCreate answered ") + StatusName(status));
+      LogFailure(std::string("ProDrawingProjectedviewCreate answered ") + StatusName(status));
       return;
     }
     views_[static_cast<size_t>(row.view)] = view;
@@ -105,9 +105,11 @@ class ViewSet {
 
 void ShowAllAs(ProDrawing drawing, ProDisplayStyle style) {
   HostArray<ProView> views;
-  if (!Ok(ProDrawingViewsCollect(drawing, views.put()))) return;
-  const int count = views.size();
-  for (int i = 0; i < count; ++i) ShowAs(drawing, views[i], style);
+  ProError status = ProDrawingViewsCollect(drawing, views.put());
+  const auto count = ToldArraySize(views.get());
+  if (Ok(status) && !count) status = PRO_TK_GENERAL_ERROR;
+  if (!Ok(status)) return LogFailure(drawing, "ProDrawingViewsCollect", status);
+  for (int i = 0; i < *count; ++i) ShowAs(drawing, views[i], style);
 }
 
 void MakeSecondSet(ProDrawing drawing, ProMdl model, const Matrix& orientation, ViewSet& first) {

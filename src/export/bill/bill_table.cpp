@@ -144,7 +144,7 @@ bool MayBeBlank(const std::string& column, const std::wstring& label) {
 long long SetBillColumns(const DialogTable& table, BillKind kind) {
   const wchar_t* const section = kind == BillKind::kSummary ? L"tableCols_sum" : L"tableCols_level";
   const auto setting = TryReadSetting(section, kContentKey, ConfigPath(kBillFile));
-  if (!setting) LogEvent("the columns of the bill cannot be read from their settings file");
+  if (!setting) LogFailure("the columns of the bill cannot be read from their settings file");
   std::vector<std::wstring> labels = SplitNames(setting.value_or(std::wstring()));
   auto old_columns = table.ColumnNames();
   if (!table.DeleteAllRows() || !old_columns) {

@@ -112,7 +112,12 @@ void ShowHeldOpen(const std::wstring& path) {
 }
 
 void OpenWorkbookFile(const std::wstring& path) {
-  ::ShellExecuteW(nullptr, L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+  const HINSTANCE answer =
+      ::ShellExecuteW(nullptr, L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+  constexpr INT_PTR kLastFailure = 32;
+  const auto number = reinterpret_cast<INT_PTR>(answer);
+  if (number > kLastFailure) return;
+  LogFailure("the workbook cannot be opened, Windows answered " + std::to_string(number));
 }
 
 }  // namespace qm

@@ -1,8 +1,12 @@
 // The choice by box and its hand-over to the selection buffer.
 #include "frame/commands/box_selection.h"
 
+#include <string>
+
+#include "frame/messages/run_log.h"
 #include "toolkit/owners.h"
 #include "toolkit/selection.h"
+#include "toolkit/status.h"
 
 namespace qm {
 namespace {
@@ -41,7 +45,10 @@ ProError PreselectByBox(const char* filter) {
   if (count < 0 || (count > 0 && selections == nullptr)) return PRO_TK_USER_ABORT;
   ProSelbufferClear();
   for (int i = 0; i < count; ++i) {
-    if (selections[i] != nullptr) ProSelbufferSelectionAdd(selections[i]);
+    if (selections[i] == nullptr) continue;
+    status = ProSelbufferSelectionAdd(selections[i]);
+    if (!Ok(status))
+      LogFailure(std::string("not selected, the host answered ") + StatusName(status));
   }
   return PRO_TK_NO_ERROR;
 }

@@ -27,8 +27,8 @@ HGLOBAL GlobalCopy(const std::wstring& text) {
 
 bool CopyToClipboard(const std::wstring& text) {
   if (!::OpenClipboard(nullptr)) return false;
-  ::EmptyClipboard();
-  const HGLOBAL memory = GlobalCopy(text);
+  // What cannot be emptied would keep other forms of what was there before.
+  const HGLOBAL memory = ::EmptyClipboard() ? GlobalCopy(text) : nullptr;
   // The clipboard owns the memory once it has taken it.
   const bool copied = memory != nullptr && ::SetClipboardData(CF_UNICODETEXT, memory) != nullptr;
   if (memory != nullptr && !copied) ::GlobalFree(memory);

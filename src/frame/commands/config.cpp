@@ -12,6 +12,7 @@
 #include "frame/dialogs/stored_fields.h"
 #include "frame/messages/run_log.h"
 #include "frame/settings/config.h"
+#include "toolkit/status.h"
 
 namespace qm {
 namespace {
@@ -81,7 +82,11 @@ void Save(const DialogView& dialog, StoredFields& fields) {
 
 void PickTemplate(const DialogView&, const TemplateRow& row) {
   const auto path = PickDrawingFile(row.title, L"*.drw");
-  if (path) DialogView(kDialog).SetInputValue(row.panel, *path);
+  if (!path) return;
+  const ProError status = DialogView(kDialog).SetInputValue(row.panel, *path);
+  if (Ok(status)) return;
+  LogFailure(std::string(row.panel) + " does not show the chosen file: the host answered " +
+             StatusName(status));
 }
 
 void Bind(const Dialog& dialog, StoredFields& fields) {

@@ -7,6 +7,7 @@
 
 #include <string>
 
+#include "frame/messages/run_log.h"
 #include "frame/text/fixed_text.h"
 #include "toolkit/status.h"
 #include "toolkit/window.h"
@@ -19,7 +20,11 @@ ProError QmOpenDir() {
   if (!Ok(status)) return status;
   const std::wstring folder(FixedText(buffer));
   if (folder.empty()) return PRO_TK_INVALID_DIR;
-  ::ShellExecuteW(nullptr, nullptr, L"explorer", folder.c_str(), nullptr, SW_SHOW);
+  const HINSTANCE answer =
+      ::ShellExecuteW(nullptr, nullptr, L"explorer", folder.c_str(), nullptr, SW_SHOW);
+  constexpr INT_PTR kLastFailure = 32;
+  if (reinterpret_cast<INT_PTR>(answer) <= kLastFailure)
+    LogOutcome("Windows did not start explorer");
   return PRO_TK_NO_ERROR;
 }
 

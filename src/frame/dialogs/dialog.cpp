@@ -2,7 +2,9 @@
 #include "frame/dialogs/dialog.h"
 
 #include "frame/messages/message_box.h"
+#include "frame/messages/run_log.h"
 #include "toolkit/owners.h"
+#include "toolkit/status.h"
 
 namespace qm {
 namespace {
@@ -93,6 +95,13 @@ bool Dialog::Create() {
   created_ = Ok(ProUIDialogCreate(name(), name()));
   if (!created_) ShowShortMessage(L"UIDialog Create error!");
   return created_;
+}
+
+ProError Dialog::Bound(const char* component, ProError status) const {
+  if (!Ok(status)) {
+    LogFailure(std::string(component) + " does nothing, the host answered " + StatusName(status));
+  }
+  return status;
 }
 
 void Dialog::BindClose() const {

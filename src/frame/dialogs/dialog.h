@@ -101,24 +101,27 @@ class Dialog : public DialogView {
 
   template <auto Action>
   ProError BindButton(const char* component) const {
-    return ProUIPushbuttonActivateActionSet(name(), component, &DialogAction<Action>::Call,
-                                            nullptr);
+    return Bound(component, ProUIPushbuttonActivateActionSet(name(), component,
+                                                             &DialogAction<Action>::Call, nullptr));
   }
   // `data` outlives the dialog.
   template <auto Action, typename Data>
   void BindButton(const char* component, Data& data) const {
-    ProUIPushbuttonActivateActionSet(name(), component, &DialogAction<Action, Data>::Call,
-                                     const_cast<std::remove_const_t<Data>*>(&data));
+    Bound(component,
+          ProUIPushbuttonActivateActionSet(name(), component, &DialogAction<Action, Data>::Call,
+                                           const_cast<std::remove_const_t<Data>*>(&data)));
   }
   // The user chose another button of the group.
   template <auto Action>
   void BindRadio(const char* component) const {
-    ProUIRadiogroupSelectActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
+    Bound(component,
+          ProUIRadiogroupSelectActionSet(name(), component, &DialogAction<Action>::Call, nullptr));
   }
   // A double-click on a row.
   template <auto Action>
   void BindTable(const char* component) const {
-    ProUITableActivateActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
+    Bound(component,
+          ProUITableActivateActionSet(name(), component, &DialogAction<Action>::Call, nullptr));
   }
   // A cell of the table takes the focus.
   template <auto Action>
@@ -128,8 +131,8 @@ class Dialog : public DialogView {
   // The drawing area has got its place and size.
   template <auto Action>
   void BindDrawingArea(const char* component) const {
-    ProUIDrawingareaPostmanagenotifyActionSet(name(), component, &DialogAction<Action>::Call,
-                                              nullptr);
+    Bound(component, ProUIDrawingareaPostmanagenotifyActionSet(
+                         name(), component, &DialogAction<Action>::Call, nullptr));
   }
   // The dialog's own close action ends the activation with status 0.
   void BindClose() const;
@@ -144,6 +147,8 @@ class Dialog : public DialogView {
   bool Create();
   bool Activate() const;
   void Destroy();
+  // Logs a binding that the host has refused: the user will find that nothing happens.
+  ProError Bound(const char* component, ProError status) const;
 
   bool created_ = false;
   // Whether the user can end the dialog: noted by the binding of its ways out.

@@ -1,8 +1,10 @@
 // Asks for files through the host.
 #include "frame/dialogs/file_choice.h"
 
+#include "frame/messages/run_log.h"
 #include "frame/text/fixed_text.h"
 #include "toolkit/owners.h"
+#include "toolkit/status.h"
 #include "toolkit/window.h"
 
 namespace qm {
@@ -19,7 +21,11 @@ std::optional<std::wstring> PickDrawingFile(std::wstring title, std::wstring fil
   ProPath chosen = {};
   const ProError status = ProFileOpen(title.data(), filter.data(), nullptr, nullptr,
                                       folder.empty() ? nullptr : folder.data(), nullptr, chosen);
+  if (!Ok(status) && status != PRO_TK_USER_ABORT) {
+    LogFailure(std::string("ProFileOpen answered ") + StatusName(status));
+  }
   const std::wstring path(FixedText(chosen));
+  if (Ok(status) && path.empty()) LogFailure("ProFileOpen answered success and gave no file");
   return Ok(status) && !path.empty() ? std::optional(path) : std::nullopt;
 }
 

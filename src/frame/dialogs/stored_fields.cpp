@@ -54,7 +54,7 @@ FillResult ResultOf(FieldKind kind, ProError status) {
 }
 
 void Log(const StoredField& field, const std::string& what) {
-  LogEvent("the field " + std::string(field.component) + " " + what);
+  LogFailure("the field " + std::string(field.component) + " " + what);
 }
 
 }  // namespace

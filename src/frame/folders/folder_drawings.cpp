@@ -59,7 +59,7 @@ std::optional<FileParts> PartsOfPath(const std::wstring& path) {
   if (Ok(status) && !FixedText(name).empty()) {
     return FileParts{std::wstring(FixedText(name)), std::wstring(FixedText(extension))};
   }
-  LogEvent("ProFilenameParse of " + ToUtf8(path) + " answered " + StatusName(status));
+  LogFailure("ProFilenameParse of " + ToUtf8(path) + " answered " + StatusName(status));
   return std::nullopt;
 }
 

@@ -142,6 +142,10 @@ bool CountFailure() noexcept {
   return running_command == nullptr || ++running_command->failures_ <= kMaxFailureLines;
 }
 
+void LogFailure(std::string_view text) noexcept {
+  if (CountFailure()) LogEvent(text);
+}
+
 void LogFailure(ProMdl model, const char* function, ProError status) noexcept {
   if (!CountFailure()) return;
   try {

@@ -22,6 +22,8 @@ void LogEvent(std::string_view text) noexcept;
 // A per-model failure that a command passes over. Counted in the command's line; beyond the first
 // 1,000 of a command only counted. The model's name is asked of the host, or given by who has it.
 void LogFailure(ProMdl model, const char* function, ProError status) noexcept;
+// The same in a sentence of its own.
+void LogFailure(std::string_view text) noexcept;
 void LogFailure(std::wstring_view model_name, const char* function, ProError status) noexcept;
 
 // A component that a command leaves out since the host does not tell what it is. Counted as a

@@ -14,6 +14,9 @@ std::optional<int> DrawingWindow(std::wstring_view name);
 // A drawing that was there: displayed in a window, which becomes the active one.
 ProError DisplayDrawing(ProMdl drawing, std::wstring_view name);
 
+// A failure is only logged.
+void ActivateWindow(int window);
+
 // The window's drawing becomes the current model, and the window the active one.
 ProError MakeCurrent(int window);
 

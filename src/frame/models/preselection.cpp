@@ -1,19 +1,38 @@
 // What a selection points at.
 #include "frame/models/preselection.h"
 
+#include "frame/messages/run_log.h"
 #include "toolkit/assembly.h"
 
 namespace qm {
+namespace {
 
-std::optional<SelectionArray> ReadPreselection() {
+void LogUnread(const char* function, ProError status) {
+  LogFailure(std::string("a selection is not read: ") + function + " answered " +
+             StatusName(status));
+}
+
+}  // namespace
+
+std::optional<Preselected> ReadPreselection() {
   SelectionArray selected;
-  const bool is_read = Ok(ProSelbufferSelectionsGet(selected.put())) && selected.size() > 0;
-  return is_read ? std::optional(std::move(selected)) : std::nullopt;
+  const ProError status = ProSelbufferSelectionsGet(selected.put());
+  if (!Ok(status) && status != PRO_TK_E_NOT_FOUND) LogUnread("ProSelbufferSelectionsGet", status);
+  if (!Ok(status)) return std::nullopt;
+  const auto count = ToldArraySize(selected.get());
+  if (!count) LogUnread("ProArraySizeGet", PRO_TK_GENERAL_ERROR);
+  if (count.value_or(0) < 1) return std::nullopt;
+  return Preselected(std::move(selected), *count);
 }
 
 std::optional<ProModelitem> ItemOf(ProSelection selection) {
   ProModelitem item = {PRO_TYPE_INVALID, -1, nullptr};
-  if (selection == nullptr || !Ok(ProSelectionModelitemGet(selection, &item))) return std::nullopt;
+  if (selection == nullptr) return std::nullopt;
+  const ProError status = ProSelectionModelitemGet(selection, &item);
+  if (!Ok(status)) {
+    LogUnread("ProSelectionModelitemGet", status);
+    return std::nullopt;
+  }
   // An answer that filled nothing in is none.
   const bool is_filled = item.type != PRO_TYPE_INVALID && item.owner != nullptr;
   return is_filled ? std::optional(item) : std::nullopt;

@@ -2,14 +2,27 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 
 #include "toolkit/owners.h"
 
 namespace qm {
 
+// The preselected items; at least one.
+class Preselected {
+ public:
+  Preselected(SelectionArray items, int count) : items_(std::move(items)), count_(count) {}
+  int size() const { return count_; }
+  ProSelection operator[](int index) const { return items_[index]; }
+
+ private:
+  SelectionArray items_;
+  int count_;
+};
+
 // What is preselected; nothing when the buffer cannot be read. Deliberately a success without
 // selections counts as such a failure: hosts answer an empty buffer either way.
-std::optional<SelectionArray> ReadPreselection();
+std::optional<Preselected> ReadPreselection();
 
 // Item of a selection; nothing when the host does not tell.
 std::optional<ProModelitem> ItemOf(ProSelection selection);

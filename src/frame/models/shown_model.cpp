@@ -1,9 +1,11 @@
 // Remembers a model by its name and displays it.
 #include "frame/models/shown_model.h"
 
+#include "frame/messages/run_log.h"
 #include "frame/models/model_name.h"
 #include "frame/models/retrieve.h"
 #include "frame/text/letter_case.h"
+#include "toolkit/status.h"
 
 namespace qm {
 
@@ -19,7 +21,9 @@ void ShownModel::Renamed(ProMdlType type, std::wstring_view before, std::wstring
 void ShownModel::ShowAgain() const {
   if (!current_) return;
   const ProMdl model = name_ ? RetrieveModel(*name_, current_->type) : current_->model;
-  if (model != nullptr) ProMdlDisplay(model);
+  if (model == nullptr) return LogFailure("what was shown before is not shown again");
+  const ProError status = ProMdlDisplay(model);
+  if (!Ok(status)) LogFailure(model, "ProMdlDisplay", status);
 }
 
 }  // namespace qm

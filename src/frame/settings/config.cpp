@@ -103,6 +103,8 @@ std::wstring TextFolderConfigPath(const wchar_t* file) {
 
 std::optional<std::wstring> TryReadSetting(const wchar_t* section, const wchar_t* key,
                                            const std::wstring& path) {
+  // A file of which nobody knows where it lies is not a missing one.
+  if (LeadsNowhere(path)) return std::nullopt;
   ReadAnswer answer = AskProfile(section, key, path);
   if (!answer.text.empty()) return answer.text;
   // Windows gives no status: an empty text may be what is stored, stand for a missing file or key,
@@ -122,6 +124,8 @@ std::wstring ReadSetting(const wchar_t* section, const wchar_t* key, const std::
 
 bool WriteSetting(const wchar_t* section, const wchar_t* key, const std::wstring& value,
                   const std::wstring& path) {
+  // Not every system refuses a file in a folder that cannot be.
+  if (LeadsNowhere(path)) return false;
   CreateWhereMissing(path);
   return ::WritePrivateProfileStringW(section, key, value.c_str(), path.c_str()) != FALSE;
 }

@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::wstring_view kConfigFolder = L"QMconfig\\";
 // No folder can have this name, so the path below it never exists.
-constexpr std::wstring_view kNowhere = L"?\\";
+constexpr std::wstring_view kNowhere = L"C:\\?\\";
 
 std::wstring Joined(std::wstring_view folder, std::wstring_view rest, std::wstring_view file) {
   std::wstring path(folder);
@@ -31,7 +31,11 @@ std::wstring PathBeside(std::wstring_view module_path, std::wstring_view module_
   const std::wstring_view folder = module_path.substr(0, name_start);
   const bool is_ours =
       !folder.empty() && EqualIgnoringCase(module_path.substr(name_start), module_name);
-  return is_ours ? Joined(folder, name, {}) : Joined(L"C:\\", kNowhere, name);
+  return is_ours ? Joined(folder, name, {}) : Joined(kNowhere, name, {});
+}
+
+bool LeadsNowhere(std::wstring_view path) {
+  return path.starts_with(kNowhere);
 }
 
 std::wstring ConfigPathIn(std::wstring_view folder, std::wstring_view file) {

@@ -12,6 +12,9 @@ namespace qm {
 std::wstring ConfigPathBeside(std::wstring_view module_path, std::wstring_view module_name,
                               std::wstring_view file);
 
+// Whether a path is one in that folder.
+bool LeadsNowhere(std::wstring_view path);
+
 // The same without a folder of ours between: `name` is a file or folder beside the plug-in.
 std::wstring PathBeside(std::wstring_view module_path, std::wstring_view module_name,
                         std::wstring_view name);

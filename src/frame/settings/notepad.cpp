@@ -3,13 +3,20 @@
 
 #include <windows.h>
 
+#include "frame/messages/run_log.h"
 #include "frame/settings/config.h"
+#include "frame/settings/config_rules.h"
 #include "frame/text/text.h"
 
 namespace qm {
 
 void OpenInNotepad(const wchar_t* file) {
-  ::WinExec(ToAnsi(L"notepad.exe " + ConfigPath(file)).c_str(), SW_SHOW);
+  constexpr UINT kLastFailure = 31;
+  const std::wstring path = ConfigPath(file);
+  if (LeadsNowhere(path)) return LogFailure("nobody knows where the settings file lies");
+  const UINT answer = ::WinExec(ToAnsi(L"notepad.exe " + path).c_str(), SW_SHOW);
+  if (answer > kLastFailure) return;
+  LogFailure("notepad was not started, Windows answered " + std::to_string(answer));
 }
 
 }  // namespace qm

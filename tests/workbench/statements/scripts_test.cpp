@@ -30,15 +30,22 @@ std::vector<fs::path> Scripts() {
   return scripts;
 }
 
-class Script : public testing::TestWithParam<fs::path> {};
-
-TEST_P(Script, Passes) {
-  const std::string text =
-      OutputOf(TestBinaryFolder() / "workbench.exe", {"run", PathToUtf8(GetParam())})
-          .value_or("workbench.exe cannot be started");
+void ExpectPasses(const std::vector<std::string>& arguments) {
+  const std::string text = OutputOf(TestBinaryFolder() / "workbench.exe", arguments)
+                               .value_or("workbench.exe cannot be started");
   if (text.find(": skipped, since ") != std::string::npos) GTEST_SKIP() << text;
   EXPECT_NE(text.find(" passed, 0 failed"), std::string::npos) << text;
   EXPECT_EQ(text.find("\n0 passed"), std::string::npos) << text;
+}
+
+class Script : public testing::TestWithParam<fs::path> {};
+
+TEST_P(Script, Passes) {
+  ExpectPasses({"run", PathToUtf8(GetParam())});
+}
+
+TEST_P(Script, PassesOnAHostOfOtherHabits) {
+  ExpectPasses({"run", PathToUtf8(GetParam()), "--other-habits"});
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, Script, testing::ValuesIn(Scripts()),
@@ -287,6 +294,25 @@ TEST(AllocationSweeps, TellSuccessWithoutTheWorkAndWithoutAWord) {
     EXPECT_NE(failures.find(told), std::string::npos) << failures;
   }
   EXPECT_EQ(failures.find("qms:4: "), std::string::npos) << failures;
+}
+
+TEST(FaultSweeps, TellWhatIsWrittenOtherwiseWithoutAWord) {
+  const std::string failures =
+      FailuresOf("part bolt\nopen bolt\nsweep Wrong\n", {"--plugin", WrongPlugin("blank_setting")});
+  EXPECT_NE(failures.find("notes.ini [last] model became \"\""), std::string::npos) << failures;
+  EXPECT_EQ(failures.find("does not put back"), std::string::npos) << failures;
+}
+
+TEST(FaultSweeps, CountAnExpectationInsideAsAnotherThingThatMustHold) {
+  const auto with = [](const std::string& state) {
+    return FailuresOf("part bolt\nopen bolt\nsweep QmVersion with\nat call 1 of any\nexpect " +
+                      state + " bolt\nend\nend\n");
+  };
+  const std::string held = with("unmodified");
+  EXPECT_EQ(held.find("expected"), std::string::npos) << held;
+  EXPECT_NE(held.find(" 0 bad runs"), std::string::npos) << held;
+  const std::string broken = with("modified");
+  EXPECT_NE(broken.find("5: bolt, expected modified, got unmodified"), std::string::npos) << broken;
 }
 
 TEST(FirstRuns, CountAProcessThatDiesAndOneThatDoesWrong) {

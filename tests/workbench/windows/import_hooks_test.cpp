@@ -100,6 +100,13 @@ TEST_F(ImportHooks, FileDialogsAreAnsweredByTheUser) {
   EXPECT_EQ(Run("OpenFile"), FALSE);
 }
 
+TEST_F(ImportHooks, ANumberInAMessageGoesByAddress) {
+  EXPECT_EQ(NotesOf("NumberByValue"), Lines{});
+  EXPECT_EQ(Breaches(),
+            (Lines{"plug-in misused ProMessageDisplay: a number of \"Moved %0w\" is not "
+                   "given by address"}));
+}
+
 struct AnyProgram : AutomationProgram {
   long ClassOf(const std::string&, void*) override { return S_OK; }
   long Start(const void*, const void*, void**) override { return S_OK; }
@@ -134,6 +141,13 @@ TEST_F(ImportHooks, AFaultMakesEachCallFailInItsOwnWay) {
       {"LocalFolder", "SHGetFolderPathW", FALSE},
       {"OpenFile", "GetOpenFileNameW", FALSE},
       {"SaveFile", "GetSaveFileNameW", FALSE},
+      {"OpenNul", "CreateFileW", ERROR_ACCESS_DENIED},
+      {"DeleteNothing", "DeleteFileW", ERROR_ACCESS_DENIED},
+      {"OpenClipboard", "OpenClipboard", ERROR_ACCESS_DENIED},
+      {"CurrentFolder", "GetCurrentDirectoryW", ERROR_ACCESS_DENIED},
+      {"OwnFile", "GetModuleFileNameW", ERROR_MOD_NOT_FOUND},
+      {"ComText", "SysAllocStringLen", TRUE},
+      {"ComStart", "CoInitializeEx", E_OUTOFMEMORY},
   };
   user_.file = "C:\\a";
   for (const NaturalFailure& row : kFailures) {
@@ -143,6 +157,11 @@ TEST_F(ImportHooks, AFaultMakesEachCallFailInItsOwnWay) {
     EXPECT_EQ(host_.faults.struck(), 1);
     EXPECT_EQ(host_.trace.Count(row.function), 1);
   }
+}
+
+TEST_F(ImportHooks, ACallKeepsTheErrorThatWindowsLeftWhateverTheHostDoesAfterIt) {
+  EXPECT_EQ(Run("DeleteNothing"), ERROR_FILE_NOT_FOUND);
+  EXPECT_EQ(Run("OpenNul"), 0);
 }
 
 TEST_F(ImportHooks, FaultsOfAnyFunctionSpareWindowsUnlessThePlanSaysSo) {

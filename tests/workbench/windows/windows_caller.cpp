@@ -3,6 +3,7 @@
 
 #include <commdlg.h>
 #include <objbase.h>
+#include <oleauto.h>
 #include <shellapi.h>
 #include <shlobj.h>
 
@@ -50,8 +51,17 @@ int Timer() {
 // Answers by the message area, since a status is a number only.
 int ShowPath(bool found, wchar_t* path) {
   wchar_t file[] = L"menu.txt";
-  if (found) ProMessageDisplay(file, "Moved %0w", path, "here", 1, 2.5);
+  int count = 1;
+  double size = 2.5;
+  if (found) ProMessageDisplay(file, "Moved %0w", path, "here", &count, &size);
   return found;
+}
+
+int NumberByValue() {
+  wchar_t file[] = L"menu.txt";
+  wchar_t path[] = L"C:";
+  double size = 2.5;
+  return ProMessageDisplay(file, "Moved %0w", path, "here", 1, &size);
 }
 
 int Desktop() {
@@ -101,6 +111,49 @@ int Mouse() {
   return 0;
 }
 
+int LastErrorUnless(bool succeeded) {
+  return succeeded ? 0 : static_cast<int>(::GetLastError());
+}
+
+int OpenFile() {
+  const HANDLE file = ::CreateFileW(L"NUL", GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  const int error = LastErrorUnless(file != INVALID_HANDLE_VALUE);
+  if (error == 0) ::CloseHandle(file);
+  return error;
+}
+
+int DeleteNothing() {
+  return LastErrorUnless(::DeleteFileW(L"C:\\nothing here"));
+}
+
+int OpenAndCloseClipboard() {
+  const int error = LastErrorUnless(::OpenClipboard(nullptr));
+  if (error == 0) ::CloseClipboard();
+  return error;
+}
+
+int CurrentFolder() {
+  return LastErrorUnless(::GetCurrentDirectoryW(0, nullptr) != 0);
+}
+
+int OwnFile() {
+  wchar_t path[MAX_PATH] = {};
+  return LastErrorUnless(::GetModuleFileNameW(nullptr, path, MAX_PATH) != 0);
+}
+
+int ComText() {
+  const BSTR text = ::SysAllocStringLen(L"text", 4);
+  ::SysFreeString(text);
+  return text == nullptr;
+}
+
+int ComStart() {
+  const HRESULT result = ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  if (FAILED(result)) return result;
+  ::CoUninitialize();
+  return 0;
+}
+
 }  // namespace
 
 void RegisterCommands() {
@@ -116,4 +169,12 @@ void RegisterCommands() {
   Register<&Object>("Object");
   Register<&Spreadsheet>("Spreadsheet");
   Register<&Mouse>("Mouse");
+  Register<&NumberByValue>("NumberByValue");
+  Register<&OpenFile>("OpenNul");
+  Register<&DeleteNothing>("DeleteNothing");
+  Register<&OpenAndCloseClipboard>("OpenClipboard");
+  Register<&CurrentFolder>("CurrentFolder");
+  Register<&OwnFile>("OwnFile");
+  Register<&ComText>("ComText");
+  Register<&ComStart>("ComStart");
 }

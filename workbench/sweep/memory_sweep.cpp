@@ -1,5 +1,5 @@
 // Sweeps of allocations.
-#include "workbench/script/memory_sweep.h"
+#include "workbench/sweep/memory_sweep.h"
 
 #include <cstdio>
 #include <limits>
@@ -18,10 +18,6 @@ constexpr long kSparse = 24;
 // Nothing is struck, but everything counted.
 constexpr long kNever = std::numeric_limits<long>::max();
 
-std::vector<FolderSnapshot> Snapshots(const std::vector<std::filesystem::path>& folders) {
-  return {folders.begin(), folders.end()};
-}
-
 std::string FaultText(long nth, bool from_then_on) {
   return "fault allocation " + std::to_string(nth) + (from_then_on ? " from_then_on" : "");
 }
@@ -33,8 +29,8 @@ MemorySweep::MemorySweep(ScriptRun& run, const Statement& statement)
       statement_(statement),
       command_(run, statement),
       start_(run.host, command_.Folders()),
-      folders_(Snapshots(command_.Folders())),
-      session_before_(SessionText(run.host, folders_)) {
+      folders_(command_.Folders()),
+      before_(StateNow(run.host, folders_)) {
   command_.IgnoreDirectory();
 }
 
@@ -63,7 +59,7 @@ void MemorySweep::RunKind(const std::vector<long>& places, bool from_then_on) {
     if (judged.struck == 0) return;
     ++faults_;
     std::vector<std::string> complaints = judged.complaints;
-    const std::string harm = SilentHarm(judged.outcome, clean_, session_before_);
+    const std::string harm = SilentHarm(judged.outcome, clean_, before_);
     if (!harm.empty()) complaints.push_back(harm);
     Tell(FaultText(nth, from_then_on), complaints);
   }
@@ -74,7 +70,7 @@ void MemorySweep::RunFirst(const MemorySweepOptions& options) {
   const Judged first = RunOnce(only_counts ? kNever : options.nth, options.from_then_on);
   RunClean();
   std::vector<std::string> complaints = first.complaints;
-  const std::string harm = SilentHarm(first.outcome, clean_, session_before_);
+  const std::string harm = SilentHarm(first.outcome, clean_, before_);
   if (!harm.empty()) complaints.push_back(harm);
   Tell(only_counts ? "first run" : FaultText(options.nth, options.from_then_on), complaints);
   if (only_counts) {
@@ -89,15 +85,17 @@ MemorySweep::Judged MemorySweep::RunOnce(long nth, bool from_then_on) {
   plan.kind = FaultKind::kNoMemory;
   plan.nth = nth;
   plan.from_then_on = from_then_on;
-  const size_t mark = run_.host.events.Mark();
+  const RunMark mark = MarkRun(run_);
   const CommandRun result = command_.RunOnce(plan);
   Judged judged;
   judged.allocations = run_.host.faults.seen();
   judged.struck = run_.host.faults.struck();
+  judged.complaints = command_.Complaints(result);
   run_.host.faults.Clear();
-  judged.complaints = command_.Complaints(result, "");
-  judged.outcome = OutcomeOf(run_.host, result, mark, folders_);
+  judged.outcome = OutcomeOf(run_, result, mark, folders_);
   start_.Restore(run_.host);
+  const auto left = NotPutBack(before_, StateNow(run_.host, folders_));
+  judged.complaints.insert(judged.complaints.end(), left.begin(), left.end());
   return judged;
 }
 

@@ -5,8 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "workbench/script/run_outcome.h"
-#include "workbench/script/swept_command.h"
+#include "workbench/script/script_snapshot.h"
+#include "workbench/sweep/run_outcome.h"
+#include "workbench/sweep/swept_command.h"
 
 namespace wb {
 
@@ -39,8 +40,8 @@ class MemorySweep {
   const Statement& statement_;
   SweptCommand command_;
   const SessionSnapshot start_;
-  std::vector<FolderSnapshot> folders_;
-  const std::string session_before_;
+  const std::vector<std::filesystem::path> folders_;
+  const SessionState before_;
   RunOutcome clean_;
   long faults_ = 0;
   int bad_runs_ = 0;

@@ -12,7 +12,7 @@
 namespace wb {
 
 // One mistake tends to show at many calls; these many bad runs of a sweep are told in full.
-inline constexpr int kMostToldRuns = 10;
+inline constexpr int kMostToldRuns = 25;
 
 class ScriptRun;
 struct Statement;
@@ -29,8 +29,8 @@ class SweptCommand {
 
   // `plan` with nth 0: without any fault.
   CommandRun RunOnce(const FaultPlan& plan);
-  // `struck` is the function that the fault struck first, "" for none.
-  std::vector<std::string> Complaints(const CommandRun& result, const std::string& struck);
+  // To be taken before the fault is cleared.
+  std::vector<std::string> Complaints(const CommandRun& result);
   // Tells what was wrong with the run without faults, and learns from it.
   std::vector<std::string> ComplaintsOfClean(const CommandRun& clean);
   // For who compares whole sessions, of which the directory is a part.
@@ -47,7 +47,7 @@ class SweptCommand {
   const std::map<std::string, std::vector<std::string>> options_;             // before the sweep
   std::map<std::string, std::vector<std::string>> options_after_ = options_;  // without faults
   bool changes_directory_ = false;  // the command does so without any fault
-  bool all_calls_fail_ = false;     // from some call on: nothing can be changed back
+  bool strikes_again_ = false;      // the fault does, where it did before
 };
 
 }  // namespace wb

@@ -1,0 +1,84 @@
+// The comparison by which a sweep proves that it has put a session back.
+#include <algorithm>
+
+#include "tests/workbench/host/host_fixture.h"
+#include "workbench/script/script_snapshot.h"
+#include "workbench/sweep/session_state.h"
+
+namespace wb {
+namespace {
+
+class SessionStates : public HostFixture {
+ protected:
+  SessionStates() {
+    WriteFile("last.ini", "[last]\r\nmodel=box\r\n");
+    Model& assembly = ShowAssembly();
+    Model sheet({"box", ModelKind::kDrawing});
+    DrawingContent& content = *sheet.As<DrawingContent>();
+    content.sheets = {Sheet()};
+    ShowModel(content, {assembly.id, &assembly});
+    content.views.Add({.id = 1, .shows = ModelLink{assembly.id, &assembly}});
+    content.tables.Add({.id = 2, .cells = {{1, 1, "old"}}});
+    content.dimensions.Add({.id = 3});
+    drawing_ = &host_.session.Add(std::move(sheet));
+    host_.options["pro_format_dir"] = {"D:"};
+  }
+  SessionState Now() { return StateNow(host_, {folder_}); }
+  DrawingContent& Drawn() { return *drawing_->As<DrawingContent>(); }
+
+  Model* drawing_;
+};
+
+TEST_F(SessionStates, EveryChangeOfADrawingIsSeenAndPutBack) {
+  const SessionSnapshot start(host_, {folder_});
+  const SessionState before = Now();
+  Drawn().sheets[0].scale = 0.5;
+  Drawn().sheets[0].format = "frame.frm";
+  Drawn().sheets.emplace_back();
+  Drawn().views[0].scale = 2;
+  Drawn().views[0].shows->model = nullptr;
+  Drawn().tables[0].cells[0].text = "";
+  Drawn().dimensions[0].text = "@D mm";
+  Drawn().notes.Add({.id = 9});
+  const Lines changed = Differences(before, Now());
+  for (const std::string name :
+       {"box.drw sheets/1/scale", "box.drw sheets/1/format", "box.drw sheets",
+        "box.drw views/1/scale", "box.drw link 3", "box.drw tables/2/cells/1/text",
+        "box.drw dimensions/3/text", "box.drw notes"}) {
+    EXPECT_TRUE(std::ranges::count(changed, name)) << name;
+  }
+  start.Restore(host_);
+  EXPECT_EQ(NotPutBack(before, Now()), Lines());
+}
+
+TEST_F(SessionStates, EveryChangeAroundTheModelsIsSeenAndPutBack) {
+  const SessionSnapshot start(host_, {folder_});
+  const SessionState before = Now();
+  Session& session = host_.session;
+  session.ActivateWindow(session.ShowInWindow(*drawing_).id);
+  session.selection_buffer.push_back(
+      {.type = 3, .id = 7, .owner = drawing_, .root = drawing_, .path = {}});
+  session.ChangeDirectory(folder_ / "text");
+  session.Add(Model({"new", ModelKind::kPart}));
+  host_.options["pro_format_dir"] = {"E:"};
+  WriteFile("last.ini", "[last]\r\nmodel=\r\n");
+  WriteFile("new.txt", "new");
+  const Lines changed = Differences(before, Now());
+  for (const std::string name :
+       {"window of box.drw", "current window", "active window", "selection", "working directory",
+        "new.prt modified", "option pro_format_dir", "last.ini [last] model", "file new.txt"}) {
+    EXPECT_TRUE(std::ranges::count(changed, name)) << name;
+  }
+  start.Restore(host_);
+  EXPECT_EQ(NotPutBack(before, Now()), Lines());
+}
+
+TEST_F(SessionStates, WhatIsNotPutBackIsNamed) {
+  const SessionState before = Now();
+  drawing_->modified = !drawing_->modified;
+  EXPECT_EQ(NotPutBack(before, Now()),
+            Lines{"workbench: the sweep does not put back box.drw modified"});
+}
+
+}  // namespace
+}  // namespace wb

@@ -1,0 +1,146 @@
+// Sweeps of faults.
+#include "workbench/sweep/fault_sweep.h"
+
+#include <cstdio>
+
+#include "workbench/base/text.h"
+#include "workbench/checks/fault_sample.h"
+#include "workbench/script/script_runner.h"
+#include "workbench/script/script_watch.h"
+
+namespace wb {
+namespace {
+
+// A command that makes more calls than this on a small model goes round in circles.
+constexpr long kMostCalls = 100000;
+// Pairs begin at so many of the first calls and so many of the others. The second call lies close
+// behind, where the first failure is being dealt with.
+constexpr long kDensePairs = 10;
+constexpr long kSparsePairs = 10;
+constexpr long kPairGaps[] = {1, 2, 4};
+
+}  // namespace
+
+struct Sweep::Kind {
+  const char* name;
+  FaultKind kind;
+  int status;
+  bool from_then_on;
+  bool spares_telling = false;
+};
+
+Sweep::Sweep(ScriptRun& run, const Statement& statement)
+    : run_(run),
+      statement_(statement),
+      command_(run, statement),
+      folders_(command_.Folders()),
+      start_(run.host, folders_),
+      before_(StateNow(run.host, folders_)) {}
+
+// Nobody can tell of a failure while boxes and the run log fail as well, so that one of the lasting
+// kinds leaves them out.
+void Sweep::Run() {
+  static constexpr Kind kKinds[] = {
+      {"general_error", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, false},
+      {"general_error from_then_on", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, true},
+      {"bad_inputs", FaultKind::kStatus, PRO_TK_BAD_INPUTS, false},
+      {"bad_inputs from_then_on, boxes and log spared", FaultKind::kStatus, PRO_TK_BAD_INPUTS, true,
+       true},
+      {"empty", FaultKind::kEmptySuccess, 0, false},
+      {"empty from_then_on", FaultKind::kEmptySuccess, 0, true},
+  };
+  RunClean();
+  for (const Kind& kind : kKinds) RunKind(kind);
+  RunPairs();
+  std::printf("%s: sweep of %s: %ld faults, %d bad runs\n", statement_.Place().c_str(),
+              statement_.Text("COMMAND").c_str(), faults_, bad_runs_);
+  if (bad_runs_ == 0) run_.Pass();
+}
+
+void Sweep::RunClean() {
+  const RunMark mark = MarkRun(run_);
+  const CommandRun result = command_.RunOnce({});
+  clean_calls_ = run_.host.trace.calls();
+  std::vector<std::string> complaints = command_.ComplaintsOfClean(result);
+  clean_ = OutcomeOf(run_, result, mark, folders_);
+  PutBack(&complaints);
+  Tell("without any fault", "", complaints);
+}
+
+void Sweep::RunKind(const Kind& kind) {
+  FaultPlan plan;
+  plan.windows_too = true;
+  plan.from_then_on = kind.from_then_on;
+  plan.spares_telling = kind.spares_telling;
+  plan.kind = kind.kind;
+  plan.status = kind.status;
+  for (plan.nth = 1; plan.nth < kMostCalls; ++plan.nth) {
+    if (!RunOne(plan, "fault any " + std::to_string(plan.nth) + " " + kind.name)) return;
+  }
+  run_.Fail(statement_, "the command makes more than " + std::to_string(kMostCalls) + " calls");
+}
+
+void Sweep::RunPairs() {
+  FaultPlan plan;
+  plan.windows_too = true;
+  plan.status = PRO_TK_GENERAL_ERROR;
+  const std::vector<long> places = SampledPlaces(clean_calls_, kDensePairs, kSparsePairs);
+  for (const long first : places) {
+    for (const long gap : kPairGaps) {
+      plan.nth = first;
+      plan.second_nth = first + gap;
+      RunOne(plan, "fault any " + std::to_string(plan.nth) + " and " +
+                       std::to_string(plan.second_nth) + " general_error");
+    }
+  }
+}
+
+bool Sweep::RunOne(const FaultPlan& plan, const std::string& which) {
+  NotePlace(statement_.Place() + ", " + which);
+  const RunMark mark = MarkRun(run_);
+  const CommandRun result = command_.RunOnce(plan);
+  const bool has_struck = run_.host.faults.struck() > 0;
+  const std::string at = run_.host.faults.first_struck();
+  std::vector<std::string> complaints = command_.Complaints(result);
+  if (has_struck) CheckOutcome(OutcomeOf(run_, result, mark, folders_), plan, &complaints);
+  run_.host.faults.Clear();
+  PutBack(&complaints);
+  if (!has_struck) return false;
+  ++faults_;
+  Tell(which, at, complaints);
+  return true;
+}
+
+// What claims success and gives nothing may be believed, unless it is a text that is missing; and
+// nobody can tell of a failure when what tells of it fails as well.
+void Sweep::CheckOutcome(const RunOutcome& outcome, const FaultPlan& plan,
+                         std::vector<std::string>* complaints) const {
+  const Faults& faults = run_.host.faults;
+  const bool fails_all = plan.from_then_on && !plan.spares_telling;
+  const bool may_lose_log = plan.second_nth != 0 && faults.HasStruckTelling();
+  const bool can_be_told = !fails_all && !may_lose_log && !faults.HasStruck("MessageBoxW");
+  const bool may_be_believed = plan.kind == FaultKind::kEmptySuccess && !faults.HasStruckText();
+  if (may_be_believed || !can_be_told) return;
+  const std::string harm = UntoldHarm(outcome, clean_, before_);
+  if (!harm.empty()) complaints->push_back(harm);
+}
+
+// A fact that the snapshot forgets would go from one run into the next.
+void Sweep::PutBack(std::vector<std::string>* complaints) {
+  start_.Restore(run_.host);
+  const auto left = NotPutBack(before_, StateNow(run_.host, folders_));
+  complaints->insert(complaints->end(), left.begin(), left.end());
+}
+
+void Sweep::Tell(const std::string& which, const std::string& at,
+                 const std::vector<std::string>& complaints) {
+  if (complaints.empty()) return;
+  ++bad_runs_;
+  const std::string what = Join("; ", complaints);
+  const bool is_new = told_.size() < kMostToldRuns && told_.insert(at + what).second;
+  if (!is_new) return;
+  run_.Fail(statement_, which + (at.empty() ? "" : " at " + at) + " (" + run_.host.trace.last() +
+                            " was the last call): " + what);
+}
+
+}  // namespace wb
