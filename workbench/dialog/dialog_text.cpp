@@ -90,7 +90,7 @@ std::string DescribeTables(const Dialog& dialog) {
     const auto* const table = std::get_if<TableModel>(&field.state);
     if (table == nullptr) continue;
     text += field.name + ": " + TableText(*table) + "\n";
-    for (const TableModel::Row& row : table->Rows()) text += RowText(*table, row);
+    for (const TableModel::Row& row : table->Rows()) text += RowText(dialog, *table, row);
   }
   return text;
 }
