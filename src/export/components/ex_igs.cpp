@@ -65,9 +65,15 @@ void Export(const DialogView& dialog) {
   log.set_status(ExportComponents(*components, ChosenOf(*components, *wishes), *folder, format));
 }
 
+// A field that does not show it stays as it is, and so does the folder of the next export.
+void ShowFolder(const DialogView& dialog, const std::optional<std::wstring>& folder) {
+  if (!folder) return;
+  const ProError status = dialog.SetInputValue(kFolder, *folder);
+  if (!Ok(status)) LogFailure(nullptr, "ProUIInputpanelValueSet", status);
+}
+
 void ChooseFolder(const DialogView& dialog) {
-  const auto folder = AskFolder(kPrompt);
-  if (folder) dialog.SetInputValue(kFolder, *folder);
+  ShowFolder(dialog, AskFolder(kPrompt));
 }
 
 }  // namespace
@@ -79,8 +85,7 @@ ProError QmExIgs() {
     dialog.BindButton<&ChooseFolder>("ChooseDir");
     dialog.BindCloseButton();
     dialog.BindClose();
-    const auto folder = FolderFromCurrent(kOwnFolder);
-    if (folder) dialog.SetInputValue(kFolder, *folder);
+    ShowFolder(dialog, FolderFromCurrent(kOwnFolder));
     return PRO_TK_NO_ERROR;
   });
 }

@@ -23,9 +23,14 @@ bool IsAbsolute(std::wstring_view path) {
 std::optional<std::wstring> AskFolder(std::wstring prompt) {
   ProPath chosen = {};
   const ProError status = ProDirectoryChoose(prompt.data(), nullptr, nullptr, nullptr, chosen);
+  if (!Ok(status) && status != PRO_TK_USER_ABORT) {
+    LogFailure(std::string("ProDirectoryChoose answered ") + StatusName(status));
+  }
   const std::wstring folder(FixedText(chosen));
-  if (!Ok(status) || folder.empty()) return std::nullopt;
-  return FolderFromCurrent(folder);
+  if (Ok(status) && folder.empty()) {
+    LogFailure("ProDirectoryChoose answered success and gave no folder");
+  }
+  return Ok(status) && !folder.empty() ? FolderFromCurrent(folder) : std::nullopt;
 }
 
 std::optional<std::wstring> FolderFromCurrent(std::wstring_view folder) {
@@ -39,8 +44,8 @@ void CreateFolder(const std::wstring& path) {
   if (::CreateDirectoryW(path.c_str(), nullptr)) return;
   const DWORD error = ::GetLastError();
   if (error == ERROR_ALREADY_EXISTS) return;
-  LogEvent("the folder " + ToUtf8(path) + " cannot be made: Windows' error " +
-           std::to_string(error));
+  LogFailure("the folder " + ToUtf8(path) + " cannot be made: Windows' error " +
+             std::to_string(error));
 }
 
 }  // namespace qm
