@@ -207,9 +207,14 @@ TEST(StepWriter, APartAndAnAssemblyOfOneNameStayTwo) {
   Model& pump = models.Add("泵", ModelKind::kAssembly);
   Model& part = models.Add("泵");
   for (int i = 0; i < 3; ++i) models.Place(pump, part);
-  const ImportedModels read = Import(StepTextOf(pump, "x.stp"));
+  const std::string text = StepTextOf(pump, "x.stp");
+  const ImportedModels read = Import(text);
   ASSERT_EQ(read.models.size(), 2u);
   EXPECT_EQ(read.models[0].id.Text() + " " + read.models[1].id.Text(), "泵.asm 泵.prt");
+  for (const char* identifier :
+       {"('\\X2\\6CF5\\X0\\.asm','\\X2\\6CF5\\X0\\',", "('\\X2\\6CF5\\X0\\','\\X2\\6CF5\\X0\\',"}) {
+    EXPECT_NE(text.find(identifier), std::string::npos) << identifier;
+  }
   EXPECT_EQ(read.models[0].solid().features.size(), 3u);
 }
 

@@ -3,8 +3,10 @@
 
 #include <cmath>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
+#include "workbench/base/text.h"
 #include "workbench/step/write/step_blocks.h"
 #include "workbench/step/write/step_records.h"
 
@@ -54,6 +56,7 @@ class StepWriter {
   void Gather(const Model& top);
   void AddContexts();
   WrittenModel WriteModel(const Model& model);
+  std::string IdentifierOf(const Model& model) const;
   int WriteProduct(const Model& model);
   void WriteShape(const Model& model, const WrittenModel& written);
   void WriteUsages(const Model& model, const WrittenModel& written);
@@ -68,6 +71,7 @@ class StepWriter {
   int product_context_ = 0, design_context_ = 0, space_ = 0;
   std::vector<const Model*> models_;  // the top first, each before those that it places first
   std::unordered_map<const Model*, size_t> index_;
+  std::unordered_set<std::string> parts_;  // their names, without case
   std::vector<WrittenModel> written_;
 };
 
@@ -83,7 +87,9 @@ std::vector<const Feature*> StepWriter::ComponentsOf(const Model& model) {
 
 void StepWriter::Gather(const Model& top) {
   const auto add = [this](const Model* model) {
-    if (index_.emplace(model, models_.size()).second) models_.push_back(model);
+    if (!index_.emplace(model, models_.size()).second) return;
+    models_.push_back(model);
+    if (model->id.kind == ModelKind::kPart) parts_.insert(FoldCase(model->id.name));
   };
   add(&top);
   for (size_t i = 0; i < models_.size(); ++i) {
@@ -131,11 +137,18 @@ WrittenModel StepWriter::WriteModel(const Model& model) {
   return written;
 }
 
-// A part and an assembly may share a name, identifiers may not.
+// A part and an assembly may share a name, identifiers may not. Some readers show the identifier in
+// place of a name without ASCII characters, so that the two are one where they can.
+std::string StepWriter::IdentifierOf(const Model& model) const {
+  const bool is_shared =
+      model.id.kind != ModelKind::kPart && parts_.contains(FoldCase(model.id.name));
+  return is_shared ? model.id.Text() : model.id.name;
+}
+
 int StepWriter::WriteProduct(const Model& model) {
   const int product =
-      records_.Add("PRODUCT", {StepQuoted(model.id.Text()), StepQuoted(model.id.name), kStepNoText,
-                               StepRefs({product_context_})});
+      records_.Add("PRODUCT", {StepQuoted(IdentifierOf(model)), StepQuoted(model.id.name),
+                               kStepNoText, StepRefs({product_context_})});
   records_.Add("PRODUCT_RELATED_PRODUCT_CATEGORY", {"'part'", "$", StepRefs({product})});
   const int formation =
       records_.Add("PRODUCT_DEFINITION_FORMATION", {kStepNoText, kStepNoText, StepRef(product)});
