@@ -122,8 +122,7 @@ class FolderBench {
     const CommandRun run = RunCommand(command);
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
     RequireCleanRun(command, run);
-    // The run log asks for its folder each time that its lines are a lot, which is no host call.
-    const long calls = host_.trace.calls() - host_.trace.Count("SHGetFolderPathW");
+    const long calls = host_.trace.HostCalls();
     return {command, drawings_, calls, Notes() - notes_before, seconds.count()};
   }
 

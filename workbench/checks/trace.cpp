@@ -16,6 +16,14 @@ long Trace::Count(const std::string& function) const {
   return sum;
 }
 
+long Trace::HostCalls() const {
+  long sum = 0;
+  for (const auto& [name, tally] : tallies_) {
+    if (std::string_view(name).starts_with("Pro")) sum += tally.count;
+  }
+  return sum;
+}
+
 Trace::FirstCall Trace::First(const std::string& function) const {
   FirstCall first;
   for (const auto& [name, tally] : tallies_) {

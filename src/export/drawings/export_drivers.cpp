@@ -74,7 +74,7 @@ void CloseWindow(const std::wstring& name, int window) {
 void ChooseDwgRelease() {
   std::wstring option = L"dwg_export_format";
   ProPath value = {};
-  if (Ok(ProConfigoptGet(option.data(), value))) return;
+  if (Ok(ProConfigoptGet(option.data(), value)) && value[0] != L'\0') return;
   std::wstring release = L"2000";
   const ProError status = ProConfigoptSet(option.data(), release.data());
   if (!Ok(status)) LogFailure(nullptr, "ProConfigoptSet", status);

@@ -32,8 +32,9 @@ std::optional<std::wstring> SheetSize(ProDrawing drawing, int sheet) {
   ProName size = {};
   ProMatrix transform = {};
   const ProError status = ProDrawingSheetTrfGet(drawing, sheet, size, transform);
-  if (!Told(drawing, "ProDrawingSheetTrfGet", status)) return std::nullopt;
-  return std::wstring(FixedText(size));
+  if (Ok(status) && size[0] != L'\0') return std::wstring(FixedText(size));
+  LogFailure(drawing, "ProDrawingSheetTrfGet", status);
+  return std::nullopt;
 }
 
 // The model of the first view, in the order of their collection, that lies on each sheet; null for

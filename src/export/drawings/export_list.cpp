@@ -105,7 +105,7 @@ bool LoadSheetsOf(const DialogTable& table, const std::string& row) {
   ProName size = {};
   ProMatrix transform = {};
   status = ProDrawingSheetTrfGet(drawing, 1, size, transform);
-  if (Ok(status))
+  if (Ok(status) && size[0] != L'\0')
     return table.SetLabel(row, kSizeColumn, std::wstring(FixedText(size))) && is_whole;
   LogFailure(name, "ProDrawingSheetTrfGet", status);
   return false;

@@ -78,6 +78,9 @@ ProError ExportRecord::Tell() {
       entries_, [](const Entry& entry) { return IsThere(entry.file.outcome); }));
   LogCount("files expected", all);
   LogCount("files written", there);
+  const auto lost = std::ranges::count_if(
+      entries_, [](const Entry& entry) { return entry.file.outcome == FileOutcome::kWrittenOver; });
+  if (lost > 0) LogCount("files written over", static_cast<long long>(lost));
   if (there == all) return PRO_TK_NO_ERROR;
   DisplayNote("Exported files: %0w of %1w", std::to_wstring(there).c_str(),
               std::to_wstring(all).c_str());

@@ -15,8 +15,11 @@ namespace {
 ProMdl DrawingOf(const std::wstring& name) {
   auto host_name = RetrievalName::From(name);
   ProMdl drawing = nullptr;
-  if (!host_name || !Ok(ProMdlRetrieve(host_name->name, PRO_MDL_DRAWING, &drawing))) return nullptr;
-  return drawing;
+  if (!host_name) return nullptr;
+  const ProError status = ProMdlRetrieve(host_name->name, PRO_MDL_DRAWING, &drawing);
+  if (Ok(status) && drawing != nullptr) return drawing;
+  if (status != PRO_TK_E_NOT_FOUND) LogFailure(name + L".drw", "ProMdlRetrieve", status);
+  return nullptr;
 }
 
 class RowRenaming {

@@ -126,7 +126,8 @@ class Dialog : public DialogView {
   // A cell of the table takes the focus.
   template <auto Action>
   void BindCellFocus(const char* component) const {
-    ProUITableArmActionSet(name(), component, &DialogAction<Action>::Call, nullptr);
+    Bound(component,
+          ProUITableArmActionSet(name(), component, &DialogAction<Action>::Call, nullptr));
   }
   // The drawing area has got its place and size.
   template <auto Action>
