@@ -81,6 +81,7 @@ ProError ExportRecord::Tell() {
   const auto lost = std::ranges::count_if(
       entries_, [](const Entry& entry) { return entry.file.outcome == FileOutcome::kWrittenOver; });
   if (lost > 0) LogCount("files written over", static_cast<long long>(lost));
+  if (all > there + lost) LogLeftOutCount(all - there - lost);
   if (there == all) return PRO_TK_NO_ERROR;
   DisplayNote("Exported files: %0w of %1w", std::to_wstring(there).c_str(),
               std::to_wstring(all).c_str());
