@@ -159,7 +159,7 @@ class Bench {
   }
 
   // Without those of the run log, which is written in lots of so many bytes.
-  long Calls() const { return host_.trace.calls() - host_.trace.Count("SHGetFolderPathW"); }
+  long Calls() const { return host_.trace.HostCalls(); }
 
   Taken Collection() const {
     const Trace::FirstCall first = host_.trace.First("ProArrayAlloc");

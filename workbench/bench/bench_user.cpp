@@ -66,14 +66,14 @@ void BenchUser::Take(BenchPart part, const std::function<void()>& press) {
   std::optional<HeapWatch> watch;
   if (watched_ != nullptr) watch.emplace(watched_);
   const Trace& trace = TheHost().trace;
-  const long calls_before = trace.calls();
+  const long calls_before = trace.HostCalls();
   const long parameters_before = ParametersLookedUp();
   TheFamilyClock() = {"ProUITable"};
   const auto start = std::chrono::steady_clock::now();
   press();
   const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
   TheFamilyClock().family = nullptr;
-  presses_[part] = {trace.calls() - calls_before, ParametersLookedUp() - parameters_before,
+  presses_[part] = {trace.HostCalls() - calls_before, ParametersLookedUp() - parameters_before,
                     seconds.count(), TheFamilyClock().spent.count(), watch ? watch->peak() : 0};
 }
 
