@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds everything and runs all tests: the pure parts natively under the sanitizers, and the
 # plug-in in the workbench under Wine, with both code pages and both sets of the host's habits; then
-# the checks of sources, documents and package. With --long every allocation of every built command is failed instead of a sample.
-# Ends with "N passed, N failed".
+# the checks of sources, documents and package. With --long every allocation of every built command
+# is failed instead of a sample. Ends with "N passed, N failed".
 set -uo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 . "$here/environment.sh"
@@ -72,20 +72,31 @@ prepare_locale
 prepare_wine
 
 # The native tests, the tests under Wine with the code page of users' machines (936) and with
-# another one, and the scripts on a host of other habits, all at once.
+# another one, and the scripts on a host of other habits, all at once. Sweeps of faults take the
+# most: on the host of other habits they run with the other code page, so that each code page and
+# each set of habits has all of them.
 second=$build/wine-second
 third=$build/wine-third
 prepare_second_wine "$second"
 prepare_second_wine "$third"
 habits='*OtherHabits*'
+usual_faults='*Script.Passes/*faults'
+other_faults='*OtherHabits/*faults'
+
+# Tests under Wine in an environment, with a locale, and with a filter: in_wine PREFIX LOCALE FILTER
+in_wine() {
+  WINEPREFIX=$1 LC_ALL=$2 run_windows "$cross/quillmax_tests.exe" "--gtest_filter=$3"
+}
+
 "$native/native_tests" >"$build/native.log" 2>&1 &
 native_run=$!
-LC_ALL=zh_CN.UTF-8 run_windows "$cross/quillmax_tests.exe" "--gtest_filter=-$habits" \
-  >"$build/windows-936.log" 2>&1 &
-WINEPREFIX=$second LC_ALL=en_US.UTF-8 run_windows "$cross/quillmax_tests.exe" \
-  "--gtest_filter=-$habits" >"$build/windows-1252.log" 2>&1 &
-WINEPREFIX=$third LC_ALL=zh_CN.UTF-8 run_windows "$cross/quillmax_tests.exe" \
-  "--gtest_filter=$habits" >"$build/habits.log" 2>&1 &
+in_wine "$WINEPREFIX" zh_CN.UTF-8 "-$habits" >"$build/windows-936.log" 2>&1 &
+in_wine "$second" en_US.UTF-8 "-$habits:$usual_faults" >"$build/windows-1252.log" 2>&1 &
+(
+  in_wine "$third" zh_CN.UTF-8 "$habits-$other_faults" >"$build/habits.log" 2>&1
+  WINEPREFIX=$third wineserver -w
+  in_wine "$third" en_US.UTF-8 "$other_faults" >"$build/habits-sweeps.log" 2>&1
+) &
 native_code=0
 wait "$native_run" || native_code=$?
 wait
@@ -93,6 +104,7 @@ count_native "$build/native.log" "$native_code"
 count "windows, code page 936" "$build/windows-936.log"
 count "windows, code page 1252" "$build/windows-1252.log"
 count "scripts, other habits" "$build/habits.log"
+count "sweeps, other habits, code page 1252" "$build/habits-sweeps.log"
 
 # Commands run for the first time, each in a fresh process with one allocation failed. Mostly they
 # wait, so that the checks go on meanwhile.

@@ -8,6 +8,7 @@
 #include "workbench/base/utf8_text.h"
 #include "workbench/main/subcommands.h"
 #include "workbench/plugin/install_tree.h"
+#include "workbench/plugin/plugin_entry.h"
 #include "workbench/reasons/own_path.h"
 #include "workbench/report/report.h"
 #include "workbench/script/script_watch.h"
@@ -23,20 +24,33 @@ namespace {
 constexpr unsigned kHangSeconds = 600;
 constexpr unsigned kFirstRunHangSeconds = 60;
 
+// Needs no memory: a crash of the plug-in is followed by what failed before.
 void PrintFailures(const RunRecord& record, size_t from) {
   for (size_t i = from; i < record.failures.size(); ++i) {
     const RunFailure& failure = record.failures[i];
-    std::string place = failure.file;
-    if (failure.line != 0) place += ":" + std::to_string(failure.line);
-    std::printf("%s: %s\n", place.c_str(), failure.text.c_str());
+    std::printf("%s", failure.file.c_str());
+    if (failure.line != 0) std::printf(":%d", failure.line);
+    std::printf(": %s\n", failure.text.c_str());
   }
+}
+
+// The script that runs, for the end of the process.
+const RunRecord* running_record = nullptr;
+size_t first_failure = 0;
+
+void TellFailuresSoFar() {
+  if (running_record != nullptr) PrintFailures(*running_record, first_failure);
 }
 
 void RunOne(const std::string& script, const ScriptOptions& options, RunRecord& record,
             bool* readable) {
   const size_t failures = record.failures.size();
   const std::string name = OwnPath(PathFromUtf8(script));
+  running_record = &record;
+  first_failure = failures;
+  AfterLastWords(&TellFailuresSoFar);
   const ScriptOutcome outcome = RunScriptFile(PathFromUtf8(script), options, record);
+  running_record = nullptr;
   PrintFailures(record, failures);
   *readable = *readable && outcome.readable;
   if (!outcome.not_real.empty()) {

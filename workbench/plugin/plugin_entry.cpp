@@ -13,6 +13,7 @@ namespace {
 
 // What the plug-in is running now; texts of the callers further up the stack.
 const char* running_entry = "no entry";
+void (*tell_the_rest)() = nullptr;
 
 class NamedEntry {
  public:
@@ -46,6 +47,8 @@ void DescribeAddress(const void* address, char* text, size_t size) {
   std::fprintf(stderr, "plug-in %s in %s%s%s, last host call %s\n", what, running_entry,
                *place == '\0' ? "" : " at ", place, HasHost() ? TheHost().trace.last() : "none");
   std::fflush(stderr);
+  if (tell_the_rest != nullptr) tell_the_rest();
+  std::fflush(stdout);
   ::TerminateProcess(::GetCurrentProcess(), kCrashExitCode);
   for (;;) ::Sleep(INFINITE);
 }
@@ -75,6 +78,10 @@ void OnAbort(int) {
 }
 
 }  // namespace
+
+void AfterLastWords(void (*tell)()) {
+  tell_the_rest = tell;
+}
 
 void EnterPlugin(const std::string& what, const std::function<void()>& call) {
   const NamedEntry named(what.c_str());

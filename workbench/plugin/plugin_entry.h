@@ -24,5 +24,7 @@ void ReportLeftPrograms(long before);
 // box.
 void ReportCrashes();
 inline constexpr int kCrashExitCode = 3;
+// `tell` prints what else is known by then, without memory of its own: the heap may be broken.
+void AfterLastWords(void (*tell)());
 
 }  // namespace wb

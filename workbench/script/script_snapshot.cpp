@@ -55,35 +55,45 @@ void PutBack(const Model& held, const std::vector<bool>& resolved, Session& sess
 
 }  // namespace
 
-std::map<fs::path, std::string> FilesWithContents(const fs::path& folder) {
-  std::map<fs::path, std::string> files;
+FileContents FilesWithContents(const fs::path& folder) {
+  FileContents files;
   for (const fs::path& file : FilesBelow(folder)) files[file] = Content(file);
   return files;
+}
+
+FolderContents ContentsOf(const std::vector<fs::path>& folders) {
+  FolderContents contents;
+  for (const fs::path& folder : folders) contents.push_back(FilesWithContents(folder));
+  return contents;
 }
 
 FolderSnapshot::FolderSnapshot(fs::path folder)
     : folder_(std::move(folder)), files_(FilesWithContents(folder_)) {}
 
 std::vector<std::pair<std::string, std::string>> FolderSnapshot::Differences() const {
+  return DifferencesOf(FilesWithContents(folder_));
+}
+
+std::vector<std::pair<std::string, std::string>> FolderSnapshot::DifferencesOf(
+    const FileContents& now) const {
   std::vector<std::pair<std::string, std::string>> differences;
-  std::set<fs::path> present;
-  for (const fs::path& file : FilesBelow(folder_)) {
-    present.insert(file);
+  for (const auto& [file, content] : now) {
     const auto held = files_.find(file);
     if (held == files_.end()) {
       differences.emplace_back(PathToUtf8(file), "new");
-    } else if (Content(file) != held->second) {
+    } else if (content != held->second) {
       differences.emplace_back(PathToUtf8(file), "changed");
     }
   }
   for (const auto& [file, content] : files_) {
-    if (!present.contains(file)) differences.emplace_back(PathToUtf8(file), "deleted");
+    if (!now.contains(file)) differences.emplace_back(PathToUtf8(file), "deleted");
   }
   return differences;
 }
 
-void FolderSnapshot::Restore() const {
-  for (const auto& [name, what] : Differences()) {
+bool FolderSnapshot::Restore(const FileContents& now) const {
+  const auto differences = DifferencesOf(now);
+  for (const auto& [name, what] : differences) {
     const fs::path file = PathFromUtf8(name);
     if (what == "new") {
       fs::remove(file);
@@ -91,10 +101,12 @@ void FolderSnapshot::Restore() const {
       WriteBack(file, files_.at(file));
     }
   }
+  return !differences.empty();
 }
 
 SessionSnapshot::SessionSnapshot(const Host& host, const std::vector<fs::path>& folders)
-    : current_window_(host.session.current_window()),
+    : folder_paths_(folders),
+      current_window_(host.session.current_window()),
       active_window_(host.session.active_window()),
       working_directory_(host.session.working_directory()),
       current_folder_(fs::current_path()),
@@ -138,6 +150,10 @@ void SessionSnapshot::RestoreWindows(Session& session) const {
 }
 
 void SessionSnapshot::Restore(Host& host) const {
+  Restore(host, ContentsOf(folder_paths_));
+}
+
+bool SessionSnapshot::Restore(Host& host, const FolderContents& now) const {
   RestoreModels(host.session);
   RestoreWindows(host.session);
   host.session.selection_buffer.clear();
@@ -151,7 +167,9 @@ void SessionSnapshot::Restore(Host& host) const {
   fs::current_path(current_folder_);
   host.options = options_;
   if (ClipboardText().value_or("") != clipboard_) SetClipboardText(clipboard_);
-  for (const FolderSnapshot& folder : folders_) folder.Restore();
+  bool has_touched = false;
+  for (size_t i = 0; i < folders_.size(); ++i) has_touched |= folders_[i].Restore(now[i]);
+  return has_touched;
 }
 
 }  // namespace wb

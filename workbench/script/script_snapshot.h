@@ -11,19 +11,26 @@
 namespace wb {
 
 // All files below a folder with their contents; settings as they would be read now.
-std::map<std::filesystem::path, std::string> FilesWithContents(const std::filesystem::path& folder);
+using FileContents = std::map<std::filesystem::path, std::string>;
+FileContents FilesWithContents(const std::filesystem::path& folder);
+// Of several folders, in their order.
+using FolderContents = std::vector<FileContents>;
+FolderContents ContentsOf(const std::vector<std::filesystem::path>& folders);
 
 class FolderSnapshot {
  public:
   explicit FolderSnapshot(std::filesystem::path folder);
-  // Rewrites what has changed or gone, removes what is new.
-  void Restore() const;
+  // Rewrites what has changed or gone, removes what is new: against `now`, which was read before.
+  // False when all was as it should be.
+  bool Restore(const FileContents& now) const;
   // What differs now: path and "new", "changed" or "deleted".
   std::vector<std::pair<std::string, std::string>> Differences() const;
 
  private:
+  std::vector<std::pair<std::string, std::string>> DifferencesOf(const FileContents& now) const;
+
   std::filesystem::path folder_;
-  std::map<std::filesystem::path, std::string> files_;
+  FileContents files_;
 };
 
 class SessionSnapshot {
@@ -31,6 +38,8 @@ class SessionSnapshot {
   SessionSnapshot(const Host& host, const std::vector<std::filesystem::path>& folders);
   // Models erased meanwhile come back under new handles; models that came in are erased.
   void Restore(Host& host) const;
+  // The same by what the folders hold now, which is not read again. False when no file was touched.
+  bool Restore(Host& host, const FolderContents& now) const;
 
  private:
   struct HeldModel {
@@ -50,6 +59,7 @@ class SessionSnapshot {
   void RestoreModels(Session& session) const;
   void RestoreWindows(Session& session) const;
 
+  std::vector<std::filesystem::path> folder_paths_;
   std::vector<HeldModel> models_;
   std::vector<HeldPick> buffer_;
   std::vector<HeldWindow> windows_;

@@ -63,7 +63,7 @@ void Sweep::RunClean() {
   clean_calls_ = run_.host.trace.calls();
   std::vector<std::string> complaints = command_.ComplaintsOfClean(result);
   clean_ = OutcomeOf(run_, result, mark, folders_);
-  PutBack(&complaints);
+  PutBack(clean_, &complaints);
   Tell("without any fault", "", complaints);
 }
 
@@ -102,9 +102,10 @@ bool Sweep::RunOne(const FaultPlan& plan, const std::string& which) {
   const bool has_struck = run_.host.faults.struck() > 0;
   const std::string at = run_.host.faults.first_struck();
   std::vector<std::string> complaints = command_.Complaints(result);
-  if (has_struck) CheckOutcome(OutcomeOf(run_, result, mark, folders_), plan, &complaints);
+  const RunOutcome outcome = OutcomeOf(run_, result, mark, folders_);
+  if (has_struck) CheckOutcome(outcome, plan, &complaints);
   run_.host.faults.Clear();
-  PutBack(&complaints);
+  PutBack(outcome, &complaints);
   if (!has_struck) return false;
   ++faults_;
   Tell(which, at, complaints);
@@ -125,10 +126,8 @@ void Sweep::CheckOutcome(const RunOutcome& outcome, const FaultPlan& plan,
   if (!harm.empty()) complaints->push_back(harm);
 }
 
-// A fact that the snapshot forgets would go from one run into the next.
-void Sweep::PutBack(std::vector<std::string>* complaints) {
-  start_.Restore(run_.host);
-  const auto left = NotPutBack(before_, StateNow(run_.host, folders_));
+void Sweep::PutBack(const RunOutcome& outcome, std::vector<std::string>* complaints) {
+  const auto left = wb::PutBack(run_.host, start_, outcome, before_, folders_);
   complaints->insert(complaints->end(), left.begin(), left.end());
 }
 
@@ -137,8 +136,9 @@ void Sweep::Tell(const std::string& which, const std::string& at,
   if (complaints.empty()) return;
   ++bad_runs_;
   const std::string what = Join("; ", complaints);
-  const bool is_new = told_.size() < kMostToldRuns && told_.insert(at + what).second;
-  if (!is_new) return;
+  const bool is_first = told_functions_.insert(at).second;
+  const bool is_new = told_.insert(at + what).second && told_.size() <= kMostToldRuns;
+  if (!is_first && !is_new) return;
   run_.Fail(statement_, which + (at.empty() ? "" : " at " + at) + " (" + run_.host.trace.last() +
                             " was the last call): " + what);
 }

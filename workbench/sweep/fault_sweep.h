@@ -33,8 +33,9 @@ class Sweep {
   bool RunOne(const FaultPlan& plan, const std::string& which);
   void CheckOutcome(const RunOutcome& outcome, const FaultPlan& plan,
                     std::vector<std::string>* complaints) const;
-  void PutBack(std::vector<std::string>* complaints);
-  // Where `at` the same has been told before, the run is only counted.
+  void PutBack(const RunOutcome& outcome, std::vector<std::string>* complaints);
+  // Where `at` the same has been told before, the run is only counted. Of each function one is told
+  // whatever the bound.
   void Tell(const std::string& which, const std::string& at,
             const std::vector<std::string>& complaints);
 
@@ -49,6 +50,7 @@ class Sweep {
   long faults_ = 0;
   int bad_runs_ = 0;
   std::set<std::string> told_;
+  std::set<std::string> told_functions_;
 };
 
 }  // namespace wb

@@ -93,8 +93,7 @@ MemorySweep::Judged MemorySweep::RunOnce(long nth, bool from_then_on) {
   judged.complaints = command_.Complaints(result);
   run_.host.faults.Clear();
   judged.outcome = OutcomeOf(run_, result, mark, folders_);
-  start_.Restore(run_.host);
-  const auto left = NotPutBack(before_, StateNow(run_.host, folders_));
+  const auto left = PutBack(run_.host, start_, judged.outcome, before_, folders_);
   judged.complaints.insert(judged.complaints.end(), left.begin(), left.end());
   return judged;
 }

@@ -90,8 +90,8 @@ std::string WithoutCounts(const std::string& line) {
   for (size_t at = 0; at < outcome;) {
     const size_t end = std::min(line.find(", ", at), outcome);
     const std::string part = line.substr(at, end - at);
-    const bool tells = part.find("left out") != std::string::npos ||
-                       part.find("passed over") != std::string::npos;
+    const bool tells =
+        part.find("left out") != std::string::npos || part.find("passed over") != std::string::npos;
     if (at == 0) {
       text = part;
     } else if (tells) {
@@ -157,8 +157,17 @@ RunOutcome OutcomeOf(ScriptRun& run, const CommandRun& result, const RunMark& ma
   outcome.shown.assign(run.user.shown().begin() + static_cast<long>(mark.shown),
                        run.user.shown().end());
   outcome.logged = Logged(run, mark.log);
-  outcome.state = StateNow(run.host, folders);
+  outcome.files = ContentsOf(folders);
+  outcome.state = StateNow(run.host, folders, outcome.files);
   return outcome;
+}
+
+std::vector<std::string> PutBack(Host& host, const SessionSnapshot& start,
+                                 const RunOutcome& outcome, const SessionState& before,
+                                 const std::vector<std::filesystem::path>& folders) {
+  const bool has_touched = start.Restore(host, outcome.files);
+  return NotPutBack(before,
+                    has_touched ? StateNow(host, folders) : StateNow(host, folders, outcome.files));
 }
 
 std::string SilentHarm(const RunOutcome& outcome, const RunOutcome& clean,

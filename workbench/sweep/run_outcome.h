@@ -20,6 +20,7 @@ struct RunOutcome {
   std::vector<std::string> shown;    // the tables of its dialogs, before each press and at the end
   std::vector<std::string> logged;   // lines of the run log, without times
   SessionState state;                // afterwards
+  FolderContents files;              // likewise
 };
 
 // Where a run begins in what is only ever added to.
@@ -34,6 +35,12 @@ RunMark MarkRun(const ScriptRun& run);
 // Of the run that began at `mark`.
 RunOutcome OutcomeOf(ScriptRun& run, const CommandRun& result, const RunMark& mark,
                      const std::vector<std::filesystem::path>& folders);
+
+// Puts everything back that the run of this outcome changed. A complaint for each fact that is not
+// as it was: one that the snapshot forgets would go from one run into the next.
+std::vector<std::string> PutBack(Host& host, const SessionSnapshot& start,
+                                 const RunOutcome& outcome, const SessionState& before,
+                                 const std::vector<std::filesystem::path>& folders);
 
 // A command that meets a fault does its work all the same, or refuses it whole, or says something
 // that it does not say otherwise. What of that it failed to do, "" for nothing.

@@ -5,7 +5,6 @@
 
 #include "workbench/base/text.h"
 #include "workbench/base/utf8_text.h"
-#include "workbench/script/script_snapshot.h"
 #include "workbench/script/script_windows.h"
 #include "workbench/session/model_facts.h"
 
@@ -102,8 +101,8 @@ void AddRegistered(const Commands& commands, SessionState* state) {
   }
 }
 
-void AddFolder(const fs::path& folder, SessionState* state) {
-  for (const auto& [path, content] : FilesWithContents(folder)) {
+void AddFolder(const fs::path& folder, const FileContents& contents, SessionState* state) {
+  for (const auto& [path, content] : contents) {
     const std::string file = PathToUtf8(path.lexically_relative(folder));
     if (path.extension() == ".ini") {
       (*state)["file " + file] = "there";
@@ -117,13 +116,18 @@ void AddFolder(const fs::path& folder, SessionState* state) {
 }  // namespace
 
 SessionState StateNow(Host& host, const std::vector<fs::path>& folders) {
+  return StateNow(host, folders, ContentsOf(folders));
+}
+
+SessionState StateNow(Host& host, const std::vector<fs::path>& folders,
+                      const FolderContents& contents) {
   SessionState state;
   AddSession(host.session, &state);
   for (const auto& [name, values] : host.options) state["option " + name] = Join(" ", values);
   AddRegistered(host.commands, &state);
   state["timers"] = std::to_string(host.windows.timers.size());
   state["clipboard"] = ClipboardText().value_or("");
-  for (const fs::path& folder : folders) AddFolder(folder, &state);
+  for (size_t i = 0; i < folders.size(); ++i) AddFolder(folders[i], contents[i], &state);
   return state;
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "workbench/host/host.h"
+#include "workbench/script/script_snapshot.h"
 
 namespace wb {
 
@@ -16,6 +17,9 @@ namespace wb {
 using SessionState = std::map<std::string, std::string>;
 
 SessionState StateNow(Host& host, const std::vector<std::filesystem::path>& folders);
+// The same by what the folders hold, which was read before.
+SessionState StateNow(Host& host, const std::vector<std::filesystem::path>& folders,
+                      const FolderContents& contents);
 
 // The names of all facts that one of the two lacks or has otherwise.
 std::vector<std::string> Differences(const SessionState& a, const SessionState& b);

@@ -64,8 +64,8 @@ ProError Replace() {
   ForEachDrawing(names, [&](ProDrawing drawing, const std::wstring& name) {
     if (ReplaceFormats(drawing, {folder, name}, *format)) --without;
   });
-  LogCount("drawings without the format", without);
   if (without > 0) {
+    LogLeftOutCount(without);
     DisplayNote("Drawings without the new format: %0w", std::to_wstring(without).c_str());
   }
   ShowMessage(kDone);

@@ -221,7 +221,8 @@ class Exporter : public AbsentUser {
     TheHost().trace.keep_lines = true;
     Press(dialog, "ApplyBt");
     TheHost().trace.keep_lines = false;
-    // Which window is current, and must be closed as the user does it, rests on what was open before.
+    // Which window is current, and must be closed as the user does it, rests on what was open
+    // before.
     calls = TheHost().trace.HostCalls() - TheHost().trace.Count("ProWindowCurrentClose");
     asked = AskedFor(TheHost().trace.lines(), TheHost().events.All<ExportedFile>());
     erasures = TheHost().trace.Count("ProMdlEraseNotDisplayed");

@@ -296,6 +296,13 @@ TEST(AllocationSweeps, TellSuccessWithoutTheWorkAndWithoutAWord) {
   EXPECT_EQ(failures.find("qms:4: "), std::string::npos) << failures;
 }
 
+TEST(ScriptRunner, WhatFailedBeforeACrashIsToldAsWell) {
+  const std::string told = FailuresOf("part bolt\nexpect parameters bolt 3\nrun Wrong\n",
+                                      {"--plugin", WrongPlugin("crash")});
+  EXPECT_NE(told.find("plug-in crashed in Wrong"), std::string::npos) << told;
+  EXPECT_NE(told.find("scripts_test.qms:2: "), std::string::npos) << told;
+}
+
 TEST(FaultSweeps, TellWhatIsWrittenOtherwiseWithoutAWord) {
   const std::string failures =
       FailuresOf("part bolt\nopen bolt\nsweep Wrong\n", {"--plugin", WrongPlugin("blank_setting")});
