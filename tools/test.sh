@@ -74,13 +74,14 @@ prepare_wine
 # The native tests, the tests under Wine with the code page of users' machines (936) and with
 # another one, and the scripts on a host of other habits, all at once. Sweeps of faults take the
 # most: on the host of other habits they run with the other code page, so that each code page and
-# each set of habits has all of them.
+# each set of habits has all of them. The two longest go where there is time left.
 second=$build/wine-second
 third=$build/wine-third
 prepare_second_wine "$second"
 prepare_second_wine "$third"
 habits='*OtherHabits*'
 usual_faults='*Script.Passes/*faults'
+long_faults='*Script.Passes/export_faults:*Script.Passes/rename_faults'
 other_faults='*OtherHabits/*faults'
 
 # Tests under Wine in an environment, with a locale, and with a filter: in_wine PREFIX LOCALE FILTER
@@ -90,8 +91,12 @@ in_wine() {
 
 "$native/native_tests" >"$build/native.log" 2>&1 &
 native_run=$!
-in_wine "$WINEPREFIX" zh_CN.UTF-8 "-$habits" >"$build/windows-936.log" 2>&1 &
-in_wine "$second" en_US.UTF-8 "-$habits:$usual_faults" >"$build/windows-1252.log" 2>&1 &
+in_wine "$WINEPREFIX" zh_CN.UTF-8 "-$habits:$long_faults" >"$build/windows-936.log" 2>&1 &
+(
+  in_wine "$second" en_US.UTF-8 "-$habits:$usual_faults" >"$build/windows-1252.log" 2>&1
+  WINEPREFIX=$second wineserver -w
+  in_wine "$second" zh_CN.UTF-8 "$long_faults" >"$build/long-sweeps.log" 2>&1
+) &
 (
   in_wine "$third" zh_CN.UTF-8 "$habits-$other_faults" >"$build/habits.log" 2>&1
   WINEPREFIX=$third wineserver -w
@@ -103,6 +108,7 @@ wait
 count_native "$build/native.log" "$native_code"
 count "windows, code page 936" "$build/windows-936.log"
 count "windows, code page 1252" "$build/windows-1252.log"
+count "the longest sweeps" "$build/long-sweeps.log"
 count "scripts, other habits" "$build/habits.log"
 count "sweeps, other habits, code page 1252" "$build/habits-sweeps.log"
 
