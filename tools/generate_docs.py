@@ -12,7 +12,7 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TOOLKIT = ROOT / "src" / "toolkit"
 FAMILIES = ["array", "model", "feature", "assembly", "selection", "parameter", "geometry",
-            "view", "drawing", "drawing_view", "drawing_table", "dimension", "file", "export",
+            "view", "drawing", "drawing_view", "drawing_table", "dimension", "file", "export", "export_3d",
             "macro", "window", "message", "command", "ui", "ui_table"]
 
 

@@ -12,8 +12,7 @@ inline constexpr std::string_view kNotInBuild[] = {
     "QmBackup",        "NewPart",       "NewAsm",          "NewSmt",          "BatchColor",
     "QmClearAllColor", "QmTransparent", "SurfTransparent", "SetMat",          "SetBendTable",
     "QmRelations",     "SetUnit",       "CloneComp",       "CloneAndReplace", "QmMerge",
-    "QmMergeTo",       "QmExStp",       "QmExIgs",         "QmExSat",         "QmRemoveCons",
-    "QmMdlCount",      "QmSimRep",      "QmBox",
+    "QmMergeTo",       "QmRemoveCons",  "QmMdlCount",      "QmSimRep",        "QmBox",
 };
 
 // Says in a caption box that the command is not in this build.

@@ -18,6 +18,7 @@ inline constexpr const char* kDeclaredName = nullptr;
 #include "toolkit/drawing_table.h"
 #include "toolkit/drawing_view.h"
 #include "toolkit/export.h"
+#include "toolkit/export_3d.h"
 #include "toolkit/feature.h"
 #include "toolkit/file.h"
 #include "toolkit/geometry.h"

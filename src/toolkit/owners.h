@@ -9,6 +9,7 @@
 
 #include "toolkit/array.h"
 #include "toolkit/export.h"
+#include "toolkit/export_3d.h"
 #include "toolkit/geometry.h"
 #include "toolkit/selection.h"
 #include "toolkit/status.h"
@@ -69,6 +70,9 @@ inline void Data2d(Pro2dExportdata data) {
 inline void PdfOptions(ProPDFOptions options) {
   ProPDFoptionsFree(options);
 }
+inline void Brep(ProOutputBrepRepresentation brep) {
+  ProOutputBrepRepresentationFree(brep);
+}
 template <typename T>
 void Array(T* items) {
   ProArray array = items;
@@ -82,6 +86,7 @@ using NarrowText = Owner<char*, &release::NarrowText>;
 using SelectionEnvironment = Owner<ProSelectionEnv, &release::Environment>;
 using ExportData = Owner<Pro2dExportdata, &release::Data2d>;
 using PdfOptions = Owner<ProPDFOptions, &release::PdfOptions>;
+using BrepRepresentation = Owner<ProOutputBrepRepresentation, &release::Brep>;
 using GeometryData = Owner<ProGeomitemdata*, &release::Geometry>;
 
 // Number of elements of one of the host's arrays, 0 for no array; nothing when the host does not

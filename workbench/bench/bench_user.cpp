@@ -17,6 +17,7 @@ constexpr char kBillTable[] = "bom_list";
 constexpr char kRenameTable[] = "mdl_list";
 // The spreadsheet program is kept away, so that an export ends when its table has been read.
 constexpr char kNoSpreadsheet[] = "创建Excel失败";
+constexpr char kExported[] = "\tSTEP导出已完成\t";
 
 void Require(const UserOutcome& outcome) {
   if (!outcome.Done()) throw std::runtime_error(outcome.refusal);
@@ -65,14 +66,14 @@ void BenchUser::Take(BenchPart part, const std::function<void()>& press) {
   std::optional<HeapWatch> watch;
   if (watched_ != nullptr) watch.emplace(watched_);
   const Trace& trace = TheHost().trace;
-  const long calls_before = trace.calls();
+  const long calls_before = trace.HostCalls();
   const long parameters_before = ParametersLookedUp();
   TheFamilyClock() = {"ProUITable"};
   const auto start = std::chrono::steady_clock::now();
   press();
   const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
   TheFamilyClock().family = nullptr;
-  presses_[part] = {trace.calls() - calls_before, ParametersLookedUp() - parameters_before,
+  presses_[part] = {trace.HostCalls() - calls_before, ParametersLookedUp() - parameters_before,
                     seconds.count(), TheFamilyClock().spent.count(), watch ? watch->peak() : 0};
 }
 
@@ -113,8 +114,10 @@ std::optional<std::vector<PickedItem>> BenchUser::Pick(const PickRequest& reques
 }
 
 std::optional<std::string> BenchUser::ChooseFile(const FileRequest& request) {
+  const auto& folder = TheHost().session.working_directory();
+  if (request.asked_by == "ProDirectoryChoose") return PathToUtf8(folder);
   if (request.asked_by != "GetSaveFileNameW") Unexpected("file for " + request.asked_by);
-  return PathToUtf8(TheHost().session.working_directory() / "bench.xlsx");
+  return PathToUtf8(folder / "bench.xlsx");
 }
 
 std::optional<std::string> BenchUser::AnswerPrompt(const std::string& prompt, int) {
@@ -122,7 +125,7 @@ std::optional<std::string> BenchUser::AnswerPrompt(const std::string& prompt, in
 }
 
 int BenchUser::AnswerMessageBox(const MessageBox& box) {
-  if (box.text != kNoSpreadsheet) Unexpected("box \"" + box.text + "\"");
+  if (box.text != kNoSpreadsheet && box.text != kExported) Unexpected("box \"" + box.text + "\"");
   return 1;  // OK
 }
 

@@ -23,6 +23,7 @@ constexpr ResourceRow kResources[] = {
     {Resource::kDialog, "dialog"},
     {Resource::kExportData, "export data"},
     {Resource::kPdfOptions, "PDF options"},
+    {Resource::kBrepRepresentation, "boundary representation"},
 };
 
 }  // namespace

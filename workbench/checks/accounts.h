@@ -20,6 +20,7 @@ enum class Resource {
   kDialog,
   kExportData,
   kPdfOptions,
+  kBrepRepresentation,
 };
 const char* ResourceWord(Resource resource);
 

@@ -40,6 +40,7 @@ constexpr KindRow kKinds[] = {
     {HandleKind::kView, "view"},
     {HandleKind::kExportData, "export data"},
     {HandleKind::kPdfOptions, "PDF options"},
+    {HandleKind::kBrepRepresentation, "boundary representation"},
 };
 
 uint64_t KeyInside(HandleKind kind, int id) {

@@ -21,6 +21,7 @@ enum class HandleKind : uint8_t {
   kView,
   kExportData,
   kPdfOptions,
+  kBrepRepresentation,
 };
 const char* HandleKindWord(HandleKind kind);
 

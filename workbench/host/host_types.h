@@ -11,6 +11,7 @@
 #include "toolkit/drawing_table.h"
 #include "toolkit/drawing_view.h"
 #include "toolkit/export.h"
+#include "toolkit/export_3d.h"
 #include "toolkit/feature.h"
 #include "toolkit/file.h"
 #include "toolkit/geometry.h"

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "export/files/export_folder.h"
 #include "frame/folders/known_folders.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/host_name.h"
@@ -25,13 +26,6 @@ bool Told(const std::wstring& drawing, const char* function, ProError status) {
   return Ok(status);
 }
 
-void CreateFolder(const std::wstring& path) {
-  if (::CreateDirectoryW(path.c_str(), nullptr)) return;
-  const DWORD error = ::GetLastError();
-  if (error == ERROR_ALREADY_EXISTS) return;
-  LogEvent("the folder " + ToUtf8(path) + " cannot be made: Windows' error " +
-           std::to_string(error));
-}
 
 constexpr int kNoWindow = -1;
 

@@ -3,8 +3,8 @@
 #include "export/drawings/export_dwg.h"
 
 #include "export/drawings/export_drivers.h"
-#include "export/drawings/export_record.h"
 #include "export/drawings/single_export.h"
+#include "export/files/export_record.h"
 #include "frame/text/fixed_text.h"
 #include "toolkit/export.h"
 #include "toolkit/status.h"

@@ -5,8 +5,8 @@
 #include <windows.h>
 
 #include "export/drawings/export_drivers.h"
-#include "export/drawings/export_record.h"
 #include "export/drawings/single_export.h"
+#include "export/files/export_record.h"
 #include "frame/folders/known_folders.h"
 #include "frame/messages/run_log.h"
 #include "frame/text/fixed_text.h"

@@ -1,7 +1,8 @@
 // Goes through the drawings.
 #include "export/drawings/export_run.h"
 
-#include "export/drawings/export_record.h"
+#include "export/files/export_notes.h"
+#include "export/files/export_record.h"
 #include "frame/folders/known_folders.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
@@ -55,10 +56,7 @@ class ExportRun {
   // way.
   void TellUnfitNames(const std::vector<PlannedFile>& files) const {
     for (const PlannedFile& file : files) {
-      const bool fits = PathOf(file).size() < PRO_PATH_SIZE && IsWindowsFileName(file.name);
-      if (file.name.empty() || fits) continue;
-      LogEvent("Windows cannot hold a file of the name " + ToUtf8(file.name));
-      DisplayNote("Windows cannot hold the file name %0w", file.name.c_str());
+      if (!file.name.empty()) TellUnfitFile(PathOf(file), file.name);
     }
   }
 
@@ -91,11 +89,6 @@ class ExportRun {
   const std::wstring folder_;
   ExportRecord record_;
 };
-
-void TellProgress(size_t done, size_t count, const std::wstring& name) {
-  const std::wstring text = std::to_wstring(done) + L" / " + std::to_wstring(count) + L" " + name;
-  DisplayNote("Exporting %0w", text.c_str());
-}
 
 // No handle of before is used after it.
 void ClearSession() {

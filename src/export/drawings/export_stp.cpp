@@ -1,8 +1,8 @@
 // QmExportStp: the current model, a manufacturing model as its assembly, in one STEP file.
 #include "export/drawings/export_stp.h"
 
-#include "export/drawings/export_record.h"
 #include "export/drawings/single_export.h"
+#include "export/files/export_record.h"
 #include "frame/folders/known_folders.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/run_log.h"

@@ -4,11 +4,11 @@
 #include "export/drawings/export_facts.h"
 #include "export/drawings/export_name_rules.h"
 #include "export/drawings/export_plan_rules.h"
+#include "export/files/export_folder.h"
 #include "frame/folders/known_folders.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/model_name.h"
 #include "frame/settings/config.h"
-#include "frame/text/fixed_text.h"
 #include "frame/text/list_rules.h"
 #include "toolkit/status.h"
 #include "toolkit/window.h"
@@ -18,15 +18,6 @@ namespace {
 
 constexpr wchar_t kDesktop[] = L"deskTop";
 constexpr wchar_t kByUser[] = L"byUser";
-
-std::optional<std::wstring> AskFolder(std::wstring prompt) {
-  ProPath chosen = {};
-  const ProError status = ProDirectoryChoose(prompt.data(), nullptr, nullptr, nullptr, chosen);
-  const std::wstring folder(FixedText(chosen));
-  if (Ok(status) && !folder.empty()) return folder;
-  if (status != PRO_TK_USER_ABORT) LogFailure(nullptr, "ProDirectoryChoose", status);
-  return std::nullopt;
-}
 
 std::optional<std::wstring> FolderBySetting(const std::wstring& value, std::wstring prompt,
                                             OtherSetting other) {

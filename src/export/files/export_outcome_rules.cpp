@@ -1,5 +1,5 @@
 // Stamps into outcomes.
-#include "export/drawings/export_outcome_rules.h"
+#include "export/files/export_outcome_rules.h"
 
 #include <unordered_map>
 

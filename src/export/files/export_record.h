@@ -7,7 +7,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "export/drawings/export_outcome_rules.h"
+#include "export/files/export_outcome_rules.h"
 #include "toolkit/types.h"
 
 namespace qm {
@@ -30,8 +30,8 @@ class ExportRecord {
     std::wstring model;  // see ExpectedFile
     std::wstring of;     // what the log says behind the path; may be empty
   };
-  // Has `write` write the file.
-  void Write(const File& file, const std::function<ProError()>& write);
+  // Has `write` write the file, and tells what has become of it so far.
+  FileOutcome Write(const File& file, const std::function<ProError()>& write);
   // A file that is not written, and why.
   void AddUnwritten(const File& file, const char* reason);
 

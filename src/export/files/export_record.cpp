@@ -1,5 +1,5 @@
 // Looks at files before and after they are written.
-#include "export/drawings/export_record.h"
+#include "export/files/export_record.h"
 
 #include <windows.h>
 
@@ -56,7 +56,7 @@ ExportRecord::~ExportRecord() {
   }
 }
 
-void ExportRecord::Write(const File& file, const std::function<ProError()>& write) {
+FileOutcome ExportRecord::Write(const File& file, const std::function<ProError()>& write) {
   std::wstring key = LowerCased(file.path);
   FileStamp own;
   if (written_paths_.contains(key)) own = StampOf(file.path).value_or(own);
@@ -70,6 +70,7 @@ void ExportRecord::Write(const File& file, const std::function<ProError()>& writ
   if (outcome == FileOutcome::kWritten || outcome == FileOutcome::kEmpty) {
     written_paths_.insert(std::move(key));
   }
+  return outcome;
 }
 
 void ExportRecord::AddUnwritten(const File& file, const char* reason) {

@@ -1,5 +1,5 @@
 // What is believed of files that were to be written.
-#include "export/drawings/export_outcome_rules.h"
+#include "export/files/export_outcome_rules.h"
 
 #include <gtest/gtest.h>
 
