@@ -86,7 +86,8 @@ void CommandRecorder::NoteFiles() {
   NoteExported();
   for (const Watched& watched : watched_) {
     for (const auto& [path, what] : watched.before.Differences()) {
-      NoteFile(watched, PathFromUtf8(path), what);
+      const std::filesystem::path file = PathFromUtf8(path);
+      if (!IsFolder(file)) NoteFile(watched, file, what);
     }
   }
 }
