@@ -126,6 +126,11 @@ int DeleteNothing() {
   return LastErrorUnless(::DeleteFileW(L"C:\\nothing here"));
 }
 
+int LookAtFile() {
+  WIN32_FILE_ATTRIBUTE_DATA data = {};
+  return LastErrorUnless(::GetFileAttributesExW(L"C:\\", GetFileExInfoStandard, &data));
+}
+
 int OpenAndCloseClipboard() {
   const int error = LastErrorUnless(::OpenClipboard(nullptr));
   if (error == 0) ::CloseClipboard();
@@ -172,6 +177,7 @@ void RegisterCommands() {
   Register<&NumberByValue>("NumberByValue");
   Register<&OpenFile>("OpenNul");
   Register<&DeleteNothing>("DeleteNothing");
+  Register<&LookAtFile>("LookAtFile");
   Register<&OpenAndCloseClipboard>("OpenClipboard");
   Register<&CurrentFolder>("CurrentFolder");
   Register<&OwnFile>("OwnFile");
