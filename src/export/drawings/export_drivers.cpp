@@ -26,7 +26,6 @@ bool Told(const std::wstring& drawing, const char* function, ProError status) {
   return Ok(status);
 }
 
-
 constexpr int kNoWindow = -1;
 
 ProError OpenWindow(const std::wstring& name, int* window) {
