@@ -19,7 +19,8 @@ UnixNameFunction UnixName() {
   return reinterpret_cast<UnixNameFunction>(reinterpret_cast<void*>(found));
 }
 
-// Drives are links in one folder: z: to the root, c: to a folder beside it.
+// Drives are links in one folder: z: to the root, c: to a folder beside it. "" for another drive,
+// which may be linked to anything, or to nothing.
 std::string WithoutDriveLink(const std::string& path) {
   const std::string links = "/dosdevices/";
   const size_t at = path.find(links);
@@ -27,7 +28,7 @@ std::string WithoutDriveLink(const std::string& path) {
   if (at == std::string::npos || path.size() < drive + 2 || path[drive + 1] != ':') return path;
   const std::string rest = path.substr(drive + 2);
   if (path[drive] == 'z') return rest.empty() ? "/" : rest;
-  return path[drive] == 'c' ? path.substr(0, at) + "/drive_c" + rest : path;
+  return path[drive] == 'c' ? path.substr(0, at) + "/drive_c" + rest : "";
 }
 
 std::string AskedPath(UnixNameFunction unix_name, const std::filesystem::path& path) {
