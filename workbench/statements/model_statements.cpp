@@ -230,7 +230,7 @@ void Save(ScriptRun& run, const Statement& statement) {
     model.folder = run.WorkPath(statement.Text("PATH"));
     std::filesystem::create_directories(model.folder);
   }
-  run.host.session.Save(model);
+  run.host.session.SaveWithHeld(model);
 }
 
 #define WB_STATE                                                             \

@@ -51,8 +51,4 @@ std::wstring NumberedName(const std::wstring& name, int sheet) {
   return name + L"-" + std::to_wstring(sheet);
 }
 
-bool IsElsewhere(std::wstring_view name) {
-  return name.find_first_of(L":/\\") != std::wstring_view::npos;
-}
-
 }  // namespace qm

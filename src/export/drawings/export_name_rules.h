@@ -37,8 +37,4 @@ std::wstring FileName(const NamingRule& rule, const NameValues& values);
 // The name of a sheet that has none of its own.
 std::wstring NumberedName(const std::wstring& name, int sheet);
 
-// Whether Windows would take the name for something else than a file in the folder that it is put
-// into: a path, or the stream of a file.
-bool IsElsewhere(std::wstring_view name);
-
 }  // namespace qm

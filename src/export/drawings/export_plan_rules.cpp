@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "export/drawings/export_name_rules.h"
+#include "export/files/file_name_rules.h"
 
 namespace qm {
 namespace {
@@ -89,8 +90,7 @@ class Planner {
 
 std::vector<std::wstring> InOrder(std::vector<std::wstring> names) {
   std::ranges::sort(names);
-  const auto repeated = std::ranges::unique(names);
-  names.erase(repeated.begin(), repeated.end());
+  names.erase(std::unique(names.begin(), names.end()), names.end());
   return names;
 }
 

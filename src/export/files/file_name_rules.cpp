@@ -34,4 +34,8 @@ bool IsWindowsFileName(std::wstring_view name) {
   });
 }
 
+bool IsElsewhere(std::wstring_view name) {
+  return name.find_first_of(L":/\\") != std::wstring_view::npos;
+}
+
 }  // namespace qm
