@@ -13,7 +13,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 TOOLKIT = ROOT / "src" / "toolkit"
 FAMILIES = ["array", "model", "feature", "assembly", "component",
             "selection", "parameter", "geometry", "properties",
-            "view", "drawing", "drawing_view", "drawing_table", "dimension", "export",
+            "view", "drawing", "drawing_view", "drawing_table", "dimension", "export", "export_3d",
             "macro", "window", "message", "command", "ui", "ui_table"]
 
 

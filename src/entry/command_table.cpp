@@ -38,6 +38,9 @@
 #include "drawing/create/twe_views.h"
 #include "entry/not_in_build.h"
 #include "export/bill/bom.h"
+#include "export/components/ex_igs.h"
+#include "export/components/ex_sat.h"
+#include "export/components/ex_stp.h"
 #include "export/drawings/export.h"
 #include "export/drawings/export_dwg.h"
 #include "export/drawings/export_pdf.h"
@@ -98,9 +101,9 @@ constexpr CommandRow kCommandTable[] = {
     {"QmMergeTo",             "QmMergeTo_Help",             "QmMergeTo.png",             &QmMergeTo,      kAssemblyMode,       true},
     {"TweViews",              "TweViews_Help",              "TweViews.png",              &TweViews,       kSolidMode,          true},
     {"NewDraw",               "NewDraw_Help",               "NewDraw.png",               &NewDraw,        kSolidMode,          true},
-    {"QmExStp",               "QmExStp_Help",               "QmExStp.png",               &NotInBuild,     kAssemblyMode,       true},
-    {"QmExIgs",               "QmExIgs_Help",               "QmExIgs.png",               &NotInBuild,     kAssemblyMode,       true},
-    {"QmExSat",               "QmExSat_Help",               "QmExSat.png",               &NotInBuild,     kAssemblyMode,       true},
+    {"QmExStp",               "QmExStp_Help",               "QmExStp.png",               &QmExStp,       kAssemblyMode,       true},
+    {"QmExIgs",               "QmExIgs_Help",               "QmExIgs.png",               &QmExIgs,       kAssemblyMode,       true},
+    {"QmExSat",               "QmExSat_Help",               "QmExSat.png",               &QmExSat,       kAssemblyMode,       true},
     {"QmBom",                 "QmBom_Help",                 "QmBom.png",                 &QmBom,          kAssemblyMode,       true},
     {"QmRename",              "QmRename_Help",              "QmRename.png",              &QmRename,       kAssemblyMode,       true},
     {"QmRemoveCons",          "QmRemoveCons_Help",          "QmRemoveCons.png",          &QmRemoveCons,   kAssemblyMode,       true},

@@ -2,17 +2,14 @@
 // shrinks to nothing as they are built; the command table is checked against it at compile time.
 #pragma once
 
+#include <array>
 #include <string_view>
 
 #include "toolkit/types.h"
 
 namespace qm {
 
-inline constexpr std::string_view kNotInBuild[] = {
-    "QmExStp",
-    "QmExIgs",
-    "QmExSat",
-};
+inline constexpr std::array<std::string_view, 0> kNotInBuild = {};
 
 // Says in a caption box that the command is not in this build.
 ProError NotInBuild();

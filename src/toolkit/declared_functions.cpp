@@ -19,6 +19,7 @@ inline constexpr const char* kDeclaredName = nullptr;
 #include "toolkit/drawing_table.h"
 #include "toolkit/drawing_view.h"
 #include "toolkit/export.h"
+#include "toolkit/export_3d.h"
 #include "toolkit/feature.h"
 #include "toolkit/geometry.h"
 #include "toolkit/macro.h"

@@ -279,6 +279,14 @@ typedef enum {
   PRO_DWG_FILE = 34,
 } ProImportExportFile;
 
+// How a 3D file of an assembly comes to be. The names are likely, and so are the numbers.
+typedef enum {
+  PRO_OUTPUT_ASSEMBLY_FLAT_FILE = 0,
+  PRO_OUTPUT_ASSEMBLY_SINGLE_FILE = 1,
+  PRO_OUTPUT_ASSEMBLY_MULTI_FILES = 2,
+  PRO_OUTPUT_ASSEMBLY_PARTS = 3,
+} ProOutputAssemblyConfiguration;
+
 // Which sheets of a drawing a file shows. The number of the last is given: a chosen sheet.
 typedef enum {
   PRO2DEXPORT_CURRENT_TO_MODEL_SPACE = 0,

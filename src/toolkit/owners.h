@@ -11,6 +11,7 @@
 #include "toolkit/array.h"
 #include "toolkit/component.h"
 #include "toolkit/export.h"
+#include "toolkit/export_3d.h"
 #include "toolkit/feature.h"
 #include "toolkit/geometry.h"
 #include "toolkit/selection.h"
@@ -90,6 +91,9 @@ inline void ArrayTexts(wchar_t** texts) {
 inline void RepData(ProSimprepdata* data) {
   ProSimprepdataFree(&data);
 }
+inline void Brep(ProOutputBrepRepresentation brep) {
+  ProOutputBrepRepresentationFree(brep);
+}
 template <typename T>
 void Array(T* items) {
   ProArray array = items;
@@ -111,6 +115,7 @@ using SelectionEnvironment = Owner<ProSelectionEnv, &release::Environment>;
 using ExportData = Owner<Pro2dExportdata, &release::Data2d>;
 using PdfOptions = Owner<ProPDFOptions, &release::PdfOptions>;
 using SimplifiedRepData = Owner<ProSimprepdata*, &release::RepData>;
+using BrepRepresentation = Owner<ProOutputBrepRepresentation, &release::Brep>;
 using GeometryData = Owner<ProGeomitemdata*, &release::Geometry>;
 
 // Number of elements of one of the host's arrays, 0 for no array; nothing when the host does not

@@ -1,12 +1,13 @@
 // Host functions that write files of other programs: DXF files of drawings, which the companion
-// makes of their sheets, and texts that stand for the files of other formats. PDF has a file of its
-// own.
+// makes of their sheets, STEP of models, and texts that stand for the files of other formats. PDF
+// has a file of its own.
 #include <nlohmann/json.hpp>
 
 #include "workbench/api/export_file.h"
 #include "workbench/base/text.h"
 #include "workbench/host/arguments.h"
 #include "workbench/sheet/sheet_svg.h"
+#include "workbench/step/write/step_writer.h"
 
 namespace wb {
 namespace {
@@ -150,7 +151,11 @@ ProError ProOutputFileWrite(ProMdl model, int type, ProPath file, ProAppData arg
         if (from.As<SolidContent>() == nullptr) return PRO_TK_INVALID_TYPE;
         const std::string asked = std::string(call.function) + ", type " + std::to_string(kind) +
                                   ", no further arguments.";
-        const ExportJob step = {FileFormat::kStep, ".stp", "STEP", from.id.Text(), asked};
+        ExportJob step = {FileFormat::kStep, ".stp", "STEP", from.id.Text(), asked};
+        step.make = [&] {
+          return Companion::Answer{StepTextOf(from, PathToUtf8(path.filename())), ""};
+        };
+        step.by_companion = false;
         const ExportJob iges = {FileFormat::kIges, ".igs", "IGES", from.id.Text(), asked};
         return WriteExport(call, from, path, is_step ? step : iges);
       });

@@ -14,7 +14,7 @@ std::string StandIn(const ExportJob& job) {
 }
 
 Companion::Answer Make(const Host& host, const ExportJob& job) {
-  if (host.companion_is_missing) return {"", "the companion is missing"};
+  if (job.by_companion && host.companion_is_missing) return {"", "the companion is missing"};
   return job.make();
 }
 

@@ -20,6 +20,7 @@ struct ExportJob {
   std::string asked;
   // Asks for the real one; empty: nobody makes such files real.
   std::function<Companion::Answer()> make{};
+  bool by_companion = true;  // the real one comes from the companion
 };
 
 // Writes it into the working directory, or where its path says.

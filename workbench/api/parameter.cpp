@@ -1,6 +1,8 @@
 // Host functions of the parameter family.
 #include "workbench/api/parameter.h"
 
+#include <cstring>
+
 #include "workbench/host/arguments.h"
 
 namespace wb {
@@ -107,25 +109,41 @@ wchar_t* NameIn(const Call& call, ProParameter& record) {
              : record.id;
 }
 
+// The reserve behind a record is not the host's: a plug-in that was built without one has something
+// else there.
+size_t SizeOfRecord(const Habits& habits) {
+  return habits.parameter_record_has_unknown_order ? sizeof(ProParameter)
+                                                   : offsetof(ProParameter, reserve);
+}
+
 struct ParameterIn {
   const ProParameter* record;
   std::string Describe() const { return DescribeArgument(static_cast<const void*>(record)); }
   HeldParameter Look(const Call& call) const {
     if (record == nullptr) call.Fail("null parameter");
     Model& model = OwnerAt(call, &record->owner.who.item);
-    ProParameter copy = *record;
+    ProParameter copy = {};
+    std::memcpy(&copy, record, SizeOfRecord(call.host.habits));
     const wchar_t* const name = NameIn(call, copy);
     return {model, model.FindParameter(call.Text(name, PRO_NAME_SIZE, "parameter name"))};
   }
 };
 
-ProParameter RecordOf(const Call& call, const ProModelitem& owner, const std::string& name) {
+struct ParameterOut : Out<ProParameter> {
+  explicit ParameterOut(ProParameter* parameter) : Out(parameter, "parameter place") {}
+  void Empty() const {
+    if (place != nullptr) std::memset(place, 0, SizeOfRecord(TheHost().habits));
+  }
+};
+
+void FillRecord(const Call& call, const ProModelitem& owner, const std::string& name,
+                ProParameter& place) {
   ProParameter record = {};
   record.type = PRO_TYPE_UNUSED;
   call.CopyText(NameIn(call, record), PRO_NAME_SIZE, name);
   record.owner.type = PRO_PARAM_OWNER_ITEM;
   record.owner.who.item = owner;
-  return record;
+  std::memcpy(&place, &record, SizeOfRecord(call.host.habits));
 }
 
 }  // namespace
@@ -151,24 +169,23 @@ using namespace wb;
 ProError ProParameterCreate(ProModelitem* owner, ProName name, ProParamvalue* value,
                             ProParameter* parameter) {
   return Crossing(__func__, OwnerIn{owner}, ParameterNameIn(name), ValueIn{value},
-                  Out(parameter, "parameter place"))
+                  ParameterOut(parameter))
       .Run([&](const Call& call, Model& model, const std::string& text, const ParameterValue& held,
                ProParameter& place) {
         if (!IsParameterName(text)) return PRO_TK_INVALID_NAME;
         if (model.FindParameter(text) != nullptr) return PRO_TK_E_FOUND;
-        place = RecordOf(call, *owner, text);
+        FillRecord(call, *owner, text, place);
         model.SetParameter(text, held);
         return PRO_TK_NO_ERROR;
       });
 }
 
 ProError ProParameterInit(ProModelitem* owner, ProName name, ProParameter* parameter) {
-  return Crossing(__func__, OwnerIn{owner}, ParameterNameIn(name),
-                  Out(parameter, "parameter place"))
+  return Crossing(__func__, OwnerIn{owner}, ParameterNameIn(name), ParameterOut(parameter))
       .Run([&](const Call& call, Model& model, const std::string& text, ProParameter& place) {
         const Parameter* const held = model.FindParameter(text);
         if (held == nullptr) return PRO_TK_E_NOT_FOUND;
-        place = RecordOf(call, *owner, held->name);
+        FillRecord(call, *owner, held->name, place);
         return PRO_TK_NO_ERROR;
       });
 }

@@ -9,8 +9,8 @@ constexpr size_t kLabelLimit = 32 * 1024;
 
 // A null neighbour stands for the start, as an empty one does, unless the host has another habit.
 // No value: it is refused.
-struct NeighbourIn : NarrowIn {
-  explicit NeighbourIn(const char* name) : NarrowIn{name, "neighbour"} {}
+struct TableNeighbourIn : NarrowIn {
+  explicit TableNeighbourIn(const char* name) : NarrowIn{name, "neighbour"} {}
   std::optional<std::string> Look(const Call& call) const {
     const Habits& habits = call.host.habits;
     const std::string name = text == nullptr ? std::string() : NarrowIn::Look(call);
@@ -48,7 +48,7 @@ using namespace wb;
 
 ProError ProUITableRowsInsert(const char* dialog, const char* component, const char* neighbour,
                               int count, char** names) {
-  return Crossing(__func__, TableIn(dialog, component), NeighbourIn(neighbour),
+  return Crossing(__func__, TableIn(dialog, component), TableNeighbourIn(neighbour),
                   NamesIn{count, names})
       .Run([](const Call& call, TableModel& table, const std::optional<std::string>& after,
               const Names& rows) {
@@ -78,7 +78,7 @@ ProError ProUITableRownamesSet(const char* dialog, const char* component, int co
 
 ProError ProUITableColumnsInsert(const char* dialog, const char* component, const char* neighbour,
                                  int count, char** names) {
-  return Crossing(__func__, TableIn(dialog, component), NeighbourIn(neighbour),
+  return Crossing(__func__, TableIn(dialog, component), TableNeighbourIn(neighbour),
                   NamesIn{count, names})
       .Run([](const Call& call, TableModel& table, const std::optional<std::string>& after,
               const Names& columns) {

@@ -13,6 +13,7 @@ constexpr BenchPartRow kParts[] = {
     {BenchPart::kReadTable, "QmBom to Excel", "QmBom", BenchWork::kCollect, true},
     {BenchPart::kLevelBill, "QmBom levels", "QmBom", BenchWork::kCollect, true},
     {BenchPart::kRenameList, "QmRename list", "QmRename", BenchWork::kCollect, true},
+    {BenchPart::kExport, "QmExStp", "QmExStp", BenchWork::kCollect, false},
     {BenchPart::kColours, "BatchColor", "BatchColor", BenchWork::kCollect, false},
     {BenchPart::kAddRelations, "QmRelations AddRels", "QmRelations", BenchWork::kCollect, true},
     {BenchPart::kSetUnits, "SetUnit", "SetUnit", BenchWork::kCollect, true},

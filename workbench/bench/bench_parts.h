@@ -17,6 +17,7 @@ enum class BenchPart {
   kReadTable,     // the press of QmExportBom up to the start of the spreadsheet program
   kLevelBill,     // the press of QmLoadBom for all levels
   kRenameList,    // the press of UpdateRenameIni in the dialog of QmRename
+  kExport,        // of every component as STEP, by a writer that writes nothing
   kColours,       // BatchColor with random colours
   kAddRelations,  // the press of AddRels in the dialog of QmRelations, class AsmAndPart
   kSetUnits,      // the press of ApplyBt in the dialog of SetUnit

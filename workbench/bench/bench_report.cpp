@@ -291,6 +291,7 @@ std::string BenchHead() {
   QmBom ...     one press of QmLoadBom, for the summary (模型名称, 模型数量, 名称, 材料, 重量) or for
                 all levels (层级2 and these), and one of QmExportBom with the summary in the table,
                 up to the start of the spreadsheet program: the writer's preparation
+  QmExStp       every component's model as a STEP file, by a writer that writes nothing
   QmRelations, SetUnit   one press of AddRels or ApplyBt for all models; BatchColor and SetMat are
                 whole commands
   over a folder one run over so many drawings of two sheets and three views; each time the user is

@@ -19,9 +19,9 @@ constexpr char kRenameTable[] = "mdl_list";
 // The spreadsheet program is kept away, so that an export ends when its table has been read.
 constexpr char kNoSpreadsheet[] = "创建Excel失败";
 // What the commands say when they are done.
-constexpr std::string_view kDone[] = {"\t批量关系创建操作已完成\t", "\t模型批量单位设置完成\t",
-                                      "\t材料设置完成\t", "\t元件数量统计已完成\t",
-                                      "\t所选元件没有几何体\t"};
+constexpr std::string_view kDone[] = {"\tSTEP导出已完成\t",       "\t批量关系创建操作已完成\t",
+                                      "\t模型批量单位设置完成\t", "\t材料设置完成\t",
+                                      "\t元件数量统计已完成\t",   "\t所选元件没有几何体\t"};
 
 void Require(const UserOutcome& outcome) {
   if (!outcome.Done()) throw std::runtime_error(outcome.refusal);
@@ -70,14 +70,14 @@ void BenchUser::Take(BenchPart part, const std::function<void()>& press) {
   std::optional<HeapWatch> watch;
   if (watched_ != nullptr) watch.emplace(watched_);
   const Trace& trace = TheHost().trace;
-  const long calls_before = trace.calls();
+  const long calls_before = trace.HostCalls();
   const long parameters_before = ParametersLookedUp();
   TheFamilyClock() = {"ProUITable"};
   const auto start = std::chrono::steady_clock::now();
   press();
   const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
   TheFamilyClock().family = nullptr;
-  presses_[part] = {trace.calls() - calls_before, ParametersLookedUp() - parameters_before,
+  presses_[part] = {trace.HostCalls() - calls_before, ParametersLookedUp() - parameters_before,
                     seconds.count(), TheFamilyClock().spent.count(), watch ? watch->peak() : 0};
 }
 
@@ -135,11 +135,11 @@ std::optional<std::vector<PickedItem>> BenchUser::Pick(const PickRequest& reques
 }
 
 std::optional<std::string> BenchUser::ChooseFile(const FileRequest& request) {
-  if (request.asked_by == "ProFileOpen") {
-    return PathToUtf8(TheHost().session.working_directory() / kBenchMaterial);
-  }
+  const auto& folder = TheHost().session.working_directory();
+  if (request.asked_by == "ProDirectoryChoose") return PathToUtf8(folder);
+  if (request.asked_by == "ProFileOpen") return PathToUtf8(folder / kBenchMaterial);
   if (request.asked_by != "GetSaveFileNameW") Unexpected("file for " + request.asked_by);
-  return PathToUtf8(TheHost().session.working_directory() / "bench.xlsx");
+  return PathToUtf8(folder / "bench.xlsx");
 }
 
 std::optional<std::string> BenchUser::AnswerPrompt(const std::string& prompt, int) {

@@ -26,6 +26,7 @@ constexpr ResourceRow kResources[] = {
     {Resource::kDialog, "dialog"},
     {Resource::kExportData, "export data"},
     {Resource::kPdfOptions, "PDF options"},
+    {Resource::kBrepRepresentation, "boundary representation"},
     {Resource::kRepData, "data of a simplified representation"},
 };
 

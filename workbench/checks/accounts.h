@@ -23,6 +23,7 @@ enum class Resource {
   kDialog,
   kExportData,
   kPdfOptions,
+  kBrepRepresentation,
   kRepData,
 };
 const char* ResourceWord(Resource resource);

@@ -9,10 +9,8 @@ namespace wb {
 
 namespace {
 
-// By which the plug-in tells the user and writes its run log.
-constexpr std::string_view kTelling[] = {"MessageBoxW",      "ProMessageDisplay", "CreateFileW",
-                                         "SHGetFolderPathW", "CreateDirectoryW",  "GetFileSizeEx",
-                                         "WriteFile"};
+// By which the plug-in tells the user and finds the folder of its run log.
+constexpr std::string_view kTelling[] = {"MessageBoxW", "ProMessageDisplay", "SHGetFolderPathW"};
 
 bool Tells(std::string_view function) {
   return std::find(std::begin(kTelling), std::end(kTelling), function) != std::end(kTelling);
@@ -29,27 +27,25 @@ bool Faults::Reaches() {
   return true;
 }
 
-const FaultPlan* Faults::Strike(const char* function) {
+const FaultPlan* Faults::Strike(const char* function, bool is_of_run_log) {
   if (!plan_ || plan_->nth == 0 || plan_->kind == FaultKind::kNoMemory) return nullptr;
   if (!plan_->function.empty() && plan_->function != function) return nullptr;
-  if (plan_->spares_telling && struck_ > 0 && Tells(function)) return nullptr;
+  const bool tells = is_of_run_log || Tells(function);
+  if (plan_->spares_telling && struck_ > 0 && tells) return nullptr;
   if (!Reaches()) return nullptr;
+  has_struck_telling_ |= tells;
   if (names_.empty()) first_name_ = function;
   names_.insert(function);
   return &*plan_;
-}
-
-bool Faults::HasStruckTelling() const {
-  return std::ranges::any_of(names_, Tells);
 }
 
 bool Faults::StrikeAllocation() {
   return plan_ && plan_->nth != 0 && plan_->kind == FaultKind::kNoMemory && Reaches();
 }
 
-const FaultPlan* Faults::StrikeWindows(const char* function) {
+const FaultPlan* Faults::StrikeWindows(const char* function, bool is_of_run_log) {
   if (plan_ && plan_->function.empty() && !plan_->windows_too) return nullptr;
-  return Strike(function);
+  return Strike(function, is_of_run_log);
 }
 
 }  // namespace wb

@@ -28,12 +28,15 @@ struct FaultPlan {
 class Faults {
  public:
   void Order(FaultPlan plan) { Clear(), plan_ = std::move(plan), seen_ = 0, struck_ = 0; }
-  void Clear() { plan_.reset(), names_.clear(), first_name_.clear(), has_struck_text_ = false; }
-  // The fault this call of `function` meets, if any.
-  const FaultPlan* Strike(const char* function);
+  void Clear() {
+    plan_.reset(), names_.clear(), first_name_.clear();
+    has_struck_text_ = has_struck_telling_ = false;
+  }
+  // The fault this call of `function` meets, if any. Calls that write the run log tell as boxes do.
+  const FaultPlan* Strike(const char* function, bool is_of_run_log = false);
   // The same for an intercepted Windows call: unless the plan names it, it counts only where the
   // plan says so. It fails in the way natural to it, whatever status the plan has.
-  const FaultPlan* StrikeWindows(const char* function);
+  const FaultPlan* StrikeWindows(const char* function, bool is_of_run_log = false);
   // Whether this allocation of the plug-in is to give nothing.
   bool StrikeAllocation();
   // How many calls or allocations the current plan has failed.
@@ -43,7 +46,7 @@ class Faults {
   // Whether calls of this function are among those that the current plan has failed.
   bool HasStruck(const std::string& function) const { return names_.contains(function); }
   // Whether a call that tells the user, or writes the run log, is among them.
-  bool HasStruckTelling() const;
+  bool HasStruckTelling() const { return has_struck_telling_; }
   // A call that is struck should have given a text: that there is none can be noticed.
   void NoteText() { has_struck_text_ = true; }
   bool HasStruckText() const { return has_struck_text_; }
@@ -61,6 +64,7 @@ class Faults {
   std::set<std::string> names_;  // of the functions struck
   std::string first_name_;
   bool has_struck_text_ = false;
+  bool has_struck_telling_ = false;
 };
 
 }  // namespace wb

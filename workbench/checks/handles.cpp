@@ -44,6 +44,7 @@ constexpr KindRow kKinds[] = {
     {HandleKind::kView, "view"},
     {HandleKind::kExportData, "export data"},
     {HandleKind::kPdfOptions, "PDF options"},
+    {HandleKind::kBrepRepresentation, "boundary representation"},
     {HandleKind::kRepData, "data of a simplified representation"},
 };
 

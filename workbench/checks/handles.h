@@ -25,6 +25,7 @@ enum class HandleKind : uint8_t {
   kView,
   kExportData,
   kPdfOptions,
+  kBrepRepresentation,
   kRepData,
 };
 const char* HandleKindWord(HandleKind kind);

@@ -19,8 +19,8 @@ constexpr const wchar_t* kCommandVariable = L"WORKBENCH_COMPANION";
 // A busy machine may take this long to start a program.
 constexpr long kStartSeconds = 60;
 constexpr DWORD kAnswerMilliseconds = 120'000;
-// Answers kept are those of one run of a command over a folder, and then some.
-constexpr std::size_t kMostAnswers = 4000;
+// Questions and answers kept are those of one run of a command over a folder, and then some.
+constexpr std::size_t kMostBytesKept = std::size_t{128} << 20;
 constexpr std::size_t kLongestLine = 64;
 
 std::wstring CommandLine() {
@@ -161,9 +161,14 @@ const Companion::Answer& Companion::Ask(const std::string& question,
   const std::string key = question + '\0' + attachment;
   const auto known = answers_.find(key);
   if (known != answers_.end()) return known->second;
-  if (answers_.size() >= kMostAnswers) answers_.clear();
+  if (kept_bytes_ > kMostBytesKept) {
+    answers_.clear();
+    kept_bytes_ = 0;
+  }
   const std::string trouble = Start();
-  return answers_[key] = trouble.empty() ? AskAnew(question, attachment) : Answer{"", trouble};
+  Answer answer = trouble.empty() ? AskAnew(question, attachment) : Answer{"", trouble};
+  kept_bytes_ += key.size() + answer.bytes.size() + answer.trouble.size();
+  return answers_[key] = std::move(answer);
 }
 
 Companion& TheCompanion() {

@@ -3,6 +3,7 @@
 // with its connection.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <string>
@@ -39,6 +40,7 @@ class Companion {
   bool tried_ = false;
   std::string trouble_;
   std::map<std::string, Answer> answers_;
+  std::size_t kept_bytes_ = 0;
 };
 
 Companion& TheCompanion();

@@ -8,7 +8,7 @@
 
 namespace wb {
 
-enum class FileFormat { kDwg, kDxf, kPdf, kStep, kIges };
+enum class FileFormat { kDwg, kDxf, kPdf, kStep, kIges, kSat };
 
 enum class WriterConduct {
   kWorks,
@@ -23,6 +23,9 @@ class FileWriters {
   void Order(std::optional<FileFormat> format, WriterConduct conduct, const std::string& file);
   // By the last order that fits.
   WriterConduct ConductFor(FileFormat format, const std::filesystem::path& file) const;
+
+  // The number of the SAT format, which nobody knows: a host of a script has the one it is told.
+  std::optional<int> sat_type{};
 
  private:
   struct Ordered {

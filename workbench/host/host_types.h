@@ -12,6 +12,7 @@
 #include "toolkit/drawing_table.h"
 #include "toolkit/drawing_view.h"
 #include "toolkit/export.h"
+#include "toolkit/export_3d.h"
 #include "toolkit/feature.h"
 #include "toolkit/geometry.h"
 #include "toolkit/macro.h"

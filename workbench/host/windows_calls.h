@@ -55,6 +55,7 @@ struct WindowsCalls {
   std::function<void()> in_pause;          // what goes on elsewhere in each of them
   std::filesystem::path desktop_folder;    // what the desktop folder look-up answers
   std::filesystem::path local_app_folder;  // what the local application data look-up answers
+  std::set<void*> log_files;               // handles of the plug-in's run log
   std::set<std::string> withheld;          // host functions that this host does not offer
   unsigned long long next_timer = 0x5000;
   std::vector<PluginThread> threads;  // started since control was given to the plug-in
@@ -64,6 +65,7 @@ struct WindowsCalls {
 
 struct Interception {
   std::vector<std::string> replaced;
+  std::vector<std::string> left;  // imports by name that stay Windows'
   // Imports by number instead of by name, which cannot be intercepted: "USER32.dll#12".
   std::vector<std::string> by_ordinal;
 };

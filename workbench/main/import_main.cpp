@@ -4,5 +4,6 @@
 #include "workbench/main/subcommands.h"
 
 int main(int argc, char** argv) {
-  return wb::RunGuarded(&wb::ImportCommand, wb::CommandArguments(argv + 1, argv + argc));
+  const auto as_it_is = [](const std::string& text) { return text; };
+  return wb::RunGuarded(&wb::ImportCommand, wb::CommandArguments(argv + 1, argv + argc), as_it_is);
 }

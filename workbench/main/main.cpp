@@ -6,6 +6,7 @@
 #include "workbench/bench/bench.h"
 #include "workbench/main/guarded.h"
 #include "workbench/main/subcommands.h"
+#include "workbench/reasons/own_path.h"
 
 namespace wb {
 namespace {
@@ -24,8 +25,8 @@ constexpr Subcommand kSubcommands[] = {
                  "    reads a STEP file and writes its models into DIR; with --force as next versions\n"
                  "    beside models of the same names", &ImportCommand},
     {"run",      "run SCRIPT... [--out DIR] [--report FILE.html] [--trace FILE] [--plugin DLL]\n"
-                 "    [--install DIR] [--fault FUNCTION:NTH:STATUS[:from_then_on]] [--all-allocations]\n"
-                 "    [--first-run LINE:NTH[:from_then_on]]\n"
+                 "    [--install DIR] [--fault FUNCTION:NTH[:and:SECOND]:STATUS[:from_then_on]]\n"
+                 "    [--all-allocations] [--first-run LINE:NTH[:from_then_on]]\n"
                  "    runs scripts on copies of the install tree and closes with \"N passed, N failed\"",
                  &RunScriptsCommand},
     {"memory",   "memory SCRIPT... [--all] [--plugin DLL] [--install DIR]\n"
@@ -66,5 +67,5 @@ int wmain(int argc, wchar_t** argv) {
   ::SetConsoleOutputCP(CP_UTF8);
   wb::CommandArguments arguments;
   for (int i = 1; i < argc; ++i) arguments.push_back(wb::FromWide(argv[i]));
-  return wb::RunGuarded(&wb::Run, arguments);
+  return wb::RunGuarded(&wb::Run, arguments, &wb::WithOwnPath);
 }

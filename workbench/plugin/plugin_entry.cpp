@@ -4,6 +4,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <functional>
 
 #include "workbench/base/windows_headers.h"
 #include "workbench/host/call.h"
@@ -32,7 +33,9 @@ void DescribeAddress(const void* address, char* text, size_t size) {
   char path[MAX_PATH] = {};
   constexpr DWORD kFlags =
       GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
-  if (!::GetModuleHandleExA(kFlags, static_cast<LPCSTR>(address), &module)) {
+  const bool is_known = ::GetModuleHandleExA(kFlags, static_cast<LPCSTR>(address), &module);
+  // For no address at all Windows names the program.
+  if (!is_known || std::less<const void*>()(address, module)) {
     std::snprintf(text, size, "%p (in no module)", address);
     return;
   }

@@ -59,10 +59,15 @@ std::string WhatIsInSession(const Session& session, const std::string& name) {
   const auto file =
       std::ranges::find_if(files, [&](const ModelName& model) { return IsCalled(model, name); });
   if (file != files.end()) {
-    text += "; its file lies in the working directory, \"retrieve " + file->Text() +
-            "\" brings it into session";
+    return text + "; its file lies in the working directory, \"retrieve " + file->Text() +
+           "\" brings it into session";
   }
-  return text;
+  const std::vector<std::string> present = TextsOf(models);
+  std::vector<std::string> others = TextsOf(files);
+  std::erase_if(others, [&](const std::string& other) {
+    return std::ranges::find(present, other) != present.end();
+  });
+  return others.empty() ? text : text + "; the working directory holds " + Listed(others);
 }
 
 std::string WhatLiesIn(const std::filesystem::path& folder, const std::string& name) {

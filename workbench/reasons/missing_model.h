@@ -9,7 +9,7 @@
 namespace wb {
 
 // "; in session are bolt.prt, pump.asm", and how to bring it in where its file lies in the working
-// directory.
+// directory, or what else lies there that is not in session.
 std::string WhatIsInSession(const Session& session, const std::string& name);
 
 // "; the folder holds bolt.prt, pump.asm", other files where there are no models.

@@ -10,7 +10,8 @@ namespace wb {
 // Relative paths stay.
 std::string OwnPath(const std::filesystem::path& path);
 
-// A text with its path from a drive letter to the end, "notepad.exe C:\\a.ini", if it has one.
+// A text with the paths in it that begin with a drive, each up to a quote, ": ", ";", the end of
+// its line or the next one: "notepad.exe C:\\a.ini". In quotes a separator may stand doubled.
 std::string WithOwnPath(const std::string& text);
 
 }  // namespace wb

@@ -97,23 +97,29 @@ void CommandRecorder::Watch(const char* name, const std::filesystem::path& folde
 }
 
 void CommandRecorder::NoteFiles() {
+  NoteExported();
   for (const Watched& watched : watched_) {
     for (const auto& [path, what] : watched.before.Differences()) {
-      NoteFile(watched, PathFromUtf8(path), what);
+      const std::filesystem::path file = PathFromUtf8(path);
+      if (!IsFolder(file)) NoteFile(watched, file, what);
     }
+  }
+}
+
+// Of files written several times the last writing counts.
+void CommandRecorder::NoteExported() {
+  for (const ExportedFile& written : run_.host.events.Since<ExportedFile>(run_.marks.begin)) {
+    const std::string of = written.format + " of " + written.model;
+    exported_[PathToUtf8(PathFromUtf8(written.path).lexically_normal())] =
+        written.is_real ? of : "stands for the " + of;
   }
 }
 
 // "new: PDF of plate.drw" for a file that one of the host's writers made.
 std::string CommandRecorder::WhatOf(const std::filesystem::path& file,
                                     const std::string& change) const {
-  const std::string path = PathToUtf8(file.lexically_normal());
-  for (const ExportedFile& written : run_.host.events.Since<ExportedFile>(run_.marks.begin)) {
-    if (PathToUtf8(PathFromUtf8(written.path).lexically_normal()) != path) continue;
-    const std::string of = written.format + " of " + written.model;
-    return change + ": " + (written.is_real ? of : "stands for the " + of);
-  }
-  return change;
+  const auto found = exported_.find(PathToUtf8(file.lexically_normal()));
+  return found == exported_.end() ? change : change + ": " + found->second;
 }
 
 void CommandRecorder::NoteFile(const Watched& watched, const std::filesystem::path& file,

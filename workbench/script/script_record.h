@@ -1,6 +1,7 @@
 // Writes down for the report what one command did.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -39,6 +40,7 @@ class CommandRecorder {
   void NoteCalls();
   void DropShownScene();
   void NoteFiles();
+  void NoteExported();
   std::string WhatOf(const std::filesystem::path& file, const std::string& change) const;
   void NoteFile(const Watched& watched, const std::filesystem::path& file, const std::string& what);
   void NoteOpened();
@@ -46,6 +48,7 @@ class CommandRecorder {
   ScriptRun& run_;
   std::optional<SessionPicture> before_;
   std::vector<Watched> watched_;
+  std::map<std::string, std::string> exported_;  // by path: what the host's writers made
   unsigned clipboard_before_ = 0;
 };
 

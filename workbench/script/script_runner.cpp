@@ -9,6 +9,7 @@
 #include "workbench/base/utf8_text.h"
 #include "workbench/language/script_words.h"
 #include "workbench/reasons/missing_model.h"
+#include "workbench/reasons/own_path.h"
 #include "workbench/script/script_watch.h"
 
 namespace wb {
@@ -104,7 +105,7 @@ void ScriptRun::Execute(const Statement& statement) {
 
 void ScriptRun::Fail(const Statement& at, const std::string& what) {
   ++record_.failed;
-  record_.failures.push_back({at.file, at.line, what, recording});
+  record_.failures.push_back({at.file, at.line, WithOwnPath(what), recording});
 }
 
 void ScriptRun::Check(const Statement& at, bool holds, const std::string& what,

@@ -2,6 +2,7 @@
 #include "workbench/script/script_snapshot.h"
 
 #include <fstream>
+#include <ranges>
 #include <set>
 #include <unordered_set>
 
@@ -14,13 +15,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::vector<fs::path> FilesBelow(const fs::path& folder) {
-  std::vector<fs::path> files;
+std::vector<fs::path> AllBelow(const fs::path& folder) {
+  std::vector<fs::path> paths;
   std::error_code error;
   for (const auto& item : fs::recursive_directory_iterator(folder, error)) {
-    if (item.is_regular_file()) files.push_back(item.path());
+    if (item.is_directory()) paths.push_back(item.path() / "");
+    if (item.is_regular_file()) paths.push_back(item.path());
   }
-  return files;
+  return paths;
 }
 
 // Entries of settings are written through at once.
@@ -32,7 +34,12 @@ std::string Content(const fs::path& file) {
 void WriteBack(const fs::path& file, const std::string& content) {
   if (file.extension() == ".ini") FlushProfile(file);
   fs::create_directories(file.parent_path());
-  std::ofstream(file, std::ios::binary | std::ios::trunc) << content;
+  if (!IsFolder(file)) std::ofstream(file, std::ios::binary | std::ios::trunc) << content;
+}
+
+void Remove(const fs::path& path) {
+  std::error_code error;
+  fs::remove(IsFolder(path) ? path.parent_path() : path, error);
 }
 
 std::vector<bool> ResolvedLinks(Model& model) {
@@ -57,7 +64,9 @@ void PutBack(const Model& held, const std::vector<bool>& resolved, Session& sess
 
 FileContents FilesWithContents(const fs::path& folder) {
   FileContents files;
-  for (const fs::path& file : FilesBelow(folder)) files[file] = Content(file);
+  for (const fs::path& path : AllBelow(folder)) {
+    files[path] = IsFolder(path) ? "" : Content(path);
+  }
   return files;
 }
 
@@ -93,13 +102,13 @@ std::vector<std::pair<std::string, std::string>> FolderSnapshot::DifferencesOf(
 
 bool FolderSnapshot::Restore(const FileContents& now) const {
   const auto differences = DifferencesOf(now);
+  // What lies in a new folder stands behind it.
+  for (const auto& [name, what] : std::views::reverse(differences)) {
+    if (what == "new") Remove(PathFromUtf8(name));
+  }
   for (const auto& [name, what] : differences) {
     const fs::path file = PathFromUtf8(name);
-    if (what == "new") {
-      fs::remove(file);
-    } else {
-      WriteBack(file, files_.at(file));
-    }
+    if (what != "new") WriteBack(file, files_.at(file));
   }
   return !differences.empty();
 }

@@ -11,8 +11,12 @@
 
 namespace wb {
 
-// All files below a folder with their contents; settings as they would be read now.
+// All files below a folder with their contents, settings as they would be read now; folders, whose
+// paths end with a separator, with none.
 using FileContents = std::map<std::filesystem::path, std::string>;
+inline bool IsFolder(const std::filesystem::path& path) {
+  return !path.has_filename();
+}
 FileContents FilesWithContents(const std::filesystem::path& folder);
 // Of several folders, in their order.
 using FolderContents = std::vector<FileContents>;
@@ -22,7 +26,7 @@ class FolderSnapshot {
  public:
   explicit FolderSnapshot(std::filesystem::path folder);
   // Rewrites what has changed or gone, removes what is new: against `now`, which was read before.
-  // False when all was as it should be.
+  // What cannot be removed stays. False when all was as it should be.
   bool Restore(const FileContents& now) const;
   // What differs now: path and "new", "changed" or "deleted".
   std::vector<std::pair<std::string, std::string>> Differences() const;

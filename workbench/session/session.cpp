@@ -279,6 +279,21 @@ std::filesystem::path Session::Save(Model& model) {
   return file;
 }
 
+void Session::SaveWithHeld(Model& model) {
+  std::unordered_set<Model*> met = {&model};
+  std::vector<Model*> ahead = {&model};
+  while (!ahead.empty()) {
+    Model& next = *ahead.back();
+    ahead.pop_back();
+    if (next.id.kind == ModelKind::kAssembly) {
+      ForEachLink(next, [&](const ModelLink& link) {
+        if (link.model != nullptr && met.insert(link.model).second) ahead.push_back(link.model);
+      });
+    }
+    if (&next == &model || next.modified) Save(next);
+  }
+}
+
 Model* Session::Current() const {
   for (const Window& window : windows_) {
     if (window.id == current_window_) return window.model;

@@ -90,6 +90,8 @@ class Session {
   void EraseNotDisplayed();
   // Writes a new version into the model's folder (the working directory for a new model).
   std::filesystem::path Save(Model& model);
+  // As the user saves: with an assembly, the changed models that it holds, to any depth.
+  void SaveWithHeld(Model& model);
   // Under another name of the same kind, in session; its users point at it as before, and have work
   // for their next save. The files are left alone.
   void Rename(Model& model, const std::string& name);

@@ -17,11 +17,9 @@ namespace fs = std::filesystem;
 constexpr struct {
   const char* word;
   FileFormat format;
-} kFormats[] = {{"dwg", FileFormat::kDwg},
-                {"dxf", FileFormat::kDxf},
-                {"pdf", FileFormat::kPdf},
-                {"step", FileFormat::kStep},
-                {"iges", FileFormat::kIges}};
+} kFormats[] = {{"dwg", FileFormat::kDwg},   {"dxf", FileFormat::kDxf},
+                {"pdf", FileFormat::kPdf},   {"step", FileFormat::kStep},
+                {"iges", FileFormat::kIges}, {"sat", FileFormat::kSat}};
 
 constexpr struct {
   const char* word;
@@ -40,6 +38,10 @@ void OrderWriter(ScriptRun& run, const Statement& statement) {
     if (statement.Text("CONDUCT") != row.word) continue;
     run.host.writers.Order(format, row.conduct, statement.Text("FILE"));
   }
+}
+
+void SetSatType(ScriptRun& run, const Statement& statement) {
+  run.host.writers.sat_type = statement.Number("N");
 }
 
 void SwitchCompanion(ScriptRun& run, const Statement& statement) {
@@ -214,12 +216,13 @@ void ExpectPdfOf(ScriptRun& run, const Statement& statement) {
   run.CheckText(statement, "drawing", statement.Text("MODEL"), PdfOf(run, statement)["title"]);
 }
 
-#define WB_FORMAT "FORMAT:dwg|dxf|pdf|step|iges|all"
+#define WB_FORMAT "FORMAT:dwg|dxf|pdf|step|iges|sat|all"
 #define WB_CONDUCT "CONDUCT:works|fails|writes_nothing|writes_empty"
 
 // clang-format off
 constexpr StatementForm kExportForms[] = {
     {"writer " WB_FORMAT " " WB_CONDUCT " [for FILE]",   kTopOrDialog, &OrderWriter},
+    {"writer sat type N",                                kTopPlace,    &SetSatType},
     {"companion STATE:missing|ready",                    kTopPlace,    &SwitchCompanion},
     {"require companion",                                kTopPlace,    &RequireCompanion},
     {"expect written none",                              kTopOrDialog, &ExpectWritten},

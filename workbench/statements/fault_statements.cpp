@@ -13,17 +13,26 @@ namespace wb {
 namespace {
 
 constexpr const char* kAllocationPattern = "fault allocation NTH [from_then_on]";
+constexpr const char* kEmptyPairPattern = "fault FUNCTION NTH and SECOND empty";
 constexpr const char* kEmptyPattern = "fault FUNCTION NTH empty [from_then_on]";
 constexpr const char* kPairPattern = "fault FUNCTION NTH and SECOND status STATUS";
-constexpr const char* kStatusPattern = "fault FUNCTION NTH status STATUS [from_then_on]";
+constexpr const char* kStatusPattern =
+    "fault FUNCTION NTH status STATUS [from_then_on] [telling_spared]";
+
+// In place of a function: all of the host's, or all crossings, Windows' among them.
+constexpr const char* kAnyFunction = "any";
+constexpr const char* kAnyCrossing = "crossing";
 
 // Ends the script for a function that no call can bear.
 FaultPlan FaultOf(const Statement& statement) {
-  CheckFunctions(statement);
+  const std::string& function = statement.Text("FUNCTION");
   FaultPlan plan;
-  if (statement.Text("FUNCTION") != "any") plan.function = statement.Text("FUNCTION");
+  plan.windows_too = function == kAnyCrossing;
+  if (!plan.windows_too) CheckFunctions(statement);
+  if (!plan.windows_too && function != kAnyFunction) plan.function = function;
   plan.nth = statement.Number("NTH");
   plan.from_then_on = statement.Has("from_then_on");
+  plan.spares_telling = statement.Has("telling_spared");
   if (statement.Has("SECOND")) plan.second_nth = statement.Number("SECOND");
   if (statement.Has("empty")) {
     plan.kind = FaultKind::kEmptySuccess;
@@ -57,6 +66,7 @@ void OrderAllocationFault(ScriptRun& run, const Statement& statement) {
 constexpr StatementForm kFaultForms[] = {
     {"fault none",       kTopPlace, &FaultNone},
     {kAllocationPattern, kTopPlace, &OrderAllocationFault},
+    {kEmptyPairPattern,  kTopPlace, &OrderFault},
     {kEmptyPattern,      kTopPlace, &OrderFault},
     {kPairPattern,       kTopPlace, &OrderFault},
     {kStatusPattern,     kTopPlace, &OrderFault},
@@ -67,12 +77,17 @@ constexpr StatementForm kFaultForms[] = {
   throw UsageError(
       "--fault " + text + ": " + why +
       "; it wants FUNCTION:NTH:STATUS, for example ProMdlNameGet:2:general_error or, "
-      "with any function, an empty success and no end, any:5:empty:from_then_on, or, for "
+      "with any function, an empty success and no end, any:5:empty:from_then_on, or, with "
+      "Windows' functions among them and a second one, crossing:5:and:7:general_error, or, for "
       "the plug-in's own memory, allocation:5[:from_then_on]");
 }
 
 bool IsOfAllocations(const std::vector<ScriptWord>& words) {
   return words.size() > 1 && words[1].text == "allocation";
+}
+
+bool IsOfPair(const std::vector<ScriptWord>& words) {
+  return words.size() > 3 && words[3].text == "and";
 }
 
 // "A:2:empty" as the words of "fault A 2 empty"; before another status than "empty" the statement
@@ -84,11 +99,11 @@ std::vector<ScriptWord> StatementWords(const std::string& text) {
     words.push_back({text.substr(at, colon - at)});
     at = colon + 1;
   }
-  constexpr size_t kStatusPlace = 3;
-  const bool is_cut_short = words.size() < kStatusPlace;
+  const size_t status_place = IsOfPair(words) ? 5 : 3;
+  const bool is_cut_short = words.size() < status_place;
   if (!is_cut_short && !IsOfAllocations(words) &&
-      (words.size() == kStatusPlace || words[kStatusPlace].text != "empty")) {
-    words.insert(words.begin() + kStatusPlace, {"status"});
+      (words.size() == status_place || words[status_place].text != "empty")) {
+    words.insert(words.begin() + static_cast<long>(status_place), {"status"});
   }
   return words;
 }
@@ -96,6 +111,7 @@ std::vector<ScriptWord> StatementWords(const std::string& text) {
 const char* PatternFor(const std::vector<ScriptWord>& words) {
   if (IsOfAllocations(words)) return kAllocationPattern;
   const bool empty = words.back().text == "empty" || words[words.size() - 2].text == "empty";
+  if (IsOfPair(words)) return empty ? kEmptyPairPattern : kPairPattern;
   return empty ? kEmptyPattern : kStatusPattern;
 }
 

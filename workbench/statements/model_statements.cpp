@@ -179,11 +179,6 @@ void Bulk(ScriptRun& run, const Statement& statement) {
   FindBenchShape(statement.Text("SHAPE"))->build(run.host.session, statement.Number("TIMES"));
 }
 
-void Import(ScriptRun& run, const Statement& statement) {
-  const ImportedModels imported = ReadStepModels(run.ScriptPath(statement.Text("PATH")));
-  WriteModels(imported, run.host.session.working_directory());
-}
-
 void Show(ScriptRun& run, Model& model) {
   run.host.session.ActivateWindow(run.host.session.ShowInWindow(model).id);
 }
@@ -203,6 +198,12 @@ Model& Retrieved(ScriptRun& run, const std::string& name) {
   throw ScriptError("there is no model \"" + name + "\" in session or in " +
                     OwnPath(session.working_directory()) +
                     WhatLiesIn(session.working_directory(), name));
+}
+
+void Import(ScriptRun& run, const Statement& statement) {
+  const ImportedModels imported = ReadStepModels(run.ScriptPath(statement.Text("PATH")));
+  WriteModels(imported, run.host.session.working_directory());
+  if (statement.Has("open")) Show(run, Retrieved(run, MainModel(imported).Text()));
 }
 
 void Retrieve(ScriptRun& run, const Statement& statement) {
@@ -253,7 +254,7 @@ void Save(ScriptRun& run, const Statement& statement) {
     model.folder = run.WorkPath(statement.Text("PATH"));
     std::filesystem::create_directories(model.folder);
   }
-  run.host.session.Save(model);
+  run.host.session.SaveWithHeld(model);
 }
 
 #define WB_STATE                                                             \
@@ -279,7 +280,7 @@ constexpr StatementForm kModelForms[] = {
     {"surface MODEL X Y Z X2 Y2 Z2",                               kTopOrDialog, &Surface},
     {"csys MODEL {[id ID] [at X Y Z]}",                            kTopOrDialog, &Csys},
     {"bulk SHAPE:flat|tree|chain|single|half|repeated|pool TIMES", kTopPlace,    &Bulk},
-    {"import PATH",                                                kTopPlace,    &Import},
+    {"import PATH [and open]",                                     kTopPlace,    &Import},
     {"retrieve MODEL",                                             kTopPlace,    &Retrieve},
     {"open MODEL",                                                 kTopPlace,    &Open},
     {"activate component none",                                    kTopOrDialog, &ActivateComponent},

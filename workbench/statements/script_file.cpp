@@ -14,17 +14,24 @@ void FailWhole(const std::string& file, int line, const std::string& why, RunRec
   record.failures.push_back({file, line, why, -1});
 }
 
-// "3 files only stand for the host's, such as PDF/a.pdf: there is no companion"; "" for none.
+// "2 files only stand for the host's: PDF/a.pdf, DXF/a.dxf (there is no companion)", of more than
+// are named with "and 5 others"; "" for none.
 std::string NotReal(const ScriptRun& run) {
+  constexpr size_t kMostNamed = 20;
   size_t count = 0;
-  ExportedFile first;
+  std::vector<std::string> named;
+  std::string trouble;
   for (const ExportedFile& written : run.host.events.All<ExportedFile>()) {
-    if (!written.trouble.empty() && count++ == 0) first = written;
+    if (written.trouble.empty()) continue;
+    if (count++ == 0) trouble = written.trouble;
+    if (named.size() == kMostNamed) continue;
+    named.push_back(PathToUtf8(PathFromUtf8(written.path).lexically_relative(run.folders.work)));
   }
   if (count == 0) return "";
-  const auto below = PathFromUtf8(first.path).lexically_relative(run.folders.work);
-  return std::to_string(count) + " files only stand for the host's, such as " + PathToUtf8(below) +
-         ": " + first.trouble;
+  std::string text =
+      std::to_string(count) + " files only stand for the host's: " + Join(", ", named);
+  if (count > named.size()) text += " and " + std::to_string(count - named.size()) + " others";
+  return text + " (" + trouble + ")";
 }
 
 }  // namespace

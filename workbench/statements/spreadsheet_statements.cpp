@@ -26,7 +26,7 @@ void Order(ScriptRun& run, const Statement& statement) {
   run.spreadsheet.Order(orders);
 }
 
-void ExpectCalls(ScriptRun& run, const Statement& statement) {
+void ExpectExcelCalls(ScriptRun& run, const Statement& statement) {
   long calls = 0;
   for (const auto& [function, count] : run.host.trace.Counts()) {
     if (function.starts_with(kSpreadsheetPrefix)) calls += count;
@@ -36,7 +36,7 @@ void ExpectCalls(ScriptRun& run, const Statement& statement) {
 }
 
 // The whole sequence, call by call.
-void ExpectOrder(ScriptRun& run, const Statement& statement) {
+void ExpectExcelOrder(ScriptRun& run, const Statement& statement) {
   std::vector<std::string> got;
   for (const Crossed& line : LinesInOrder(run)) {
     if (!line.function.starts_with(kSpreadsheetPrefix)) continue;
@@ -185,8 +185,8 @@ constexpr StatementForm kSpreadsheetForms[] = {
     {"excel slow N",                                    kTopPlace,    &Order},
     {"excel fail call NTH {[of MEMBER] [silently]}",    kTopPlace,    &Order},
     {"excel dies at NTH",                               kTopPlace,    &Order},
-    {"expect excel calls N",                            kTopOrDialog, &ExpectCalls},
-    {"expect excel order MEMBER...",                    kTopOrDialog, &ExpectOrder},
+    {"expect excel calls N",                            kTopOrDialog, &ExpectExcelCalls},
+    {"expect excel order MEMBER...",                    kTopOrDialog, &ExpectExcelOrder},
     {"expect excel gone",                               kTopOrDialog, &ExpectGone},
     {"expect workbook PATH cell CELL is number NUMBER", kTopOrDialog, &ExpectValue},
     {"expect workbook PATH cell CELL is empty",         kTopOrDialog, &ExpectValue},

@@ -221,13 +221,16 @@ std::string ModelTable(const ImportedModels& imported) {
   return table;
 }
 
-std::vector<std::string> NextScript(const ImportedModels& imported, const fs::path& folder) {
+const ModelName& MainModel(const ImportedModels& imported) {
   const auto assembly = std::ranges::find(imported.tops, ModelKind::kAssembly,
                                           [](const auto& top) { return top.kind; });
-  const bool has_one = assembly != imported.tops.end();
-  const ModelName& top = has_one ? *assembly : imported.tops.front();
+  return assembly != imported.tops.end() ? *assembly : imported.tops.front();
+}
+
+std::vector<std::string> NextScript(const ImportedModels& imported, const fs::path& folder) {
+  const ModelName& top = MainModel(imported);
   return {"folder copy \"" + Quotable(folder) + "\"", "open " + top.Text(),
-          has_one ? "run QmShowAllComp" : "run QmOpenDir"};
+          top.kind == ModelKind::kAssembly ? "run QmShowAllComp" : "run QmOpenDir"};
 }
 
 }  // namespace wb

@@ -30,6 +30,9 @@ void WriteModels(const ImportedModels& imported, const std::filesystem::path& fo
 // occurs under the tops.
 std::string ModelTable(const ImportedModels& imported);
 
+// The first top that is an assembly; without one the first top.
+const ModelName& MainModel(const ImportedModels& imported);
+
 // A script, line by line, that tries the plug-in on a copy of what was imported into `folder`.
 std::vector<std::string> NextScript(const ImportedModels& imported,
                                     const std::filesystem::path& folder);

@@ -22,7 +22,7 @@ constexpr long kPairGaps[] = {1, 2, 4};
 }  // namespace
 
 struct Sweep::Kind {
-  const char* name;
+  const char* name;  // as the statement that repeats one run says it
   FaultKind kind;
   int status;
   bool from_then_on;
@@ -41,10 +41,10 @@ Sweep::Sweep(ScriptRun& run, const Statement& statement)
 // kinds leaves them out.
 void Sweep::Run() {
   static constexpr Kind kKinds[] = {
-      {"general_error", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, false},
-      {"general_error from_then_on", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, true},
-      {"bad_inputs", FaultKind::kStatus, PRO_TK_BAD_INPUTS, false},
-      {"bad_inputs from_then_on, boxes and log spared", FaultKind::kStatus, PRO_TK_BAD_INPUTS, true,
+      {"status general_error", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, false},
+      {"status general_error from_then_on", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, true},
+      {"status bad_inputs", FaultKind::kStatus, PRO_TK_BAD_INPUTS, false},
+      {"status bad_inputs from_then_on telling_spared", FaultKind::kStatus, PRO_TK_BAD_INPUTS, true,
        true},
       {"empty", FaultKind::kEmptySuccess, 0, false},
       {"empty from_then_on", FaultKind::kEmptySuccess, 0, true},
@@ -75,7 +75,7 @@ void Sweep::RunKind(const Kind& kind) {
   plan.kind = kind.kind;
   plan.status = kind.status;
   for (plan.nth = 1; plan.nth < kMostCalls; ++plan.nth) {
-    if (!RunOne(plan, "fault any " + std::to_string(plan.nth) + " " + kind.name)) return;
+    if (!RunOne(plan, "fault crossing " + std::to_string(plan.nth) + " " + kind.name)) return;
   }
   run_.Fail(statement_, "the command makes more than " + std::to_string(kMostCalls) + " calls");
 }
@@ -89,8 +89,8 @@ void Sweep::RunPairs() {
     for (const long gap : kPairGaps) {
       plan.nth = first;
       plan.second_nth = first + gap;
-      RunOne(plan, "fault any " + std::to_string(plan.nth) + " and " +
-                       std::to_string(plan.second_nth) + " general_error");
+      RunOne(plan, "fault crossing " + std::to_string(plan.nth) + " and " +
+                       std::to_string(plan.second_nth) + " status general_error");
     }
   }
 }

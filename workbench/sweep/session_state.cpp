@@ -90,22 +90,55 @@ void AddSettings(const std::string& file, const std::string& content, SessionSta
   }
 }
 
-void AddRegistered(const Commands& commands, SessionState* state) {
+std::string Together(const std::vector<std::string>& words) {
+  return Join(" ", words);
+}
+
+std::string CommandOf(const Command* command) {
+  return command == nullptr ? "nothing" : command->name;
+}
+
+void AddCommands(const Commands& commands, SessionState* state) {
   for (const Command& command : commands.commands) {
-    (*state)["command " + command.name] = std::to_string(command.registrations);
-  }
-  for (const Menu& menu : commands.menus) {
-    (*state)["menu " + menu.name] = std::to_string(menu.buttons.size());
-  }
-  for (const Popup& popup : commands.popups) {
-    (*state)["popup " + popup.name] = std::to_string(popup.buttons.size());
+    (*state)["command " + command.name] =
+        Together({std::to_string(command.registrations), std::to_string(command.priority),
+                  command.icon, command.designated ? "designated" : "", command.label_key,
+                  command.help_key, command.description_key, command.message_file});
   }
 }
 
-void AddFolder(const fs::path& folder, const FileContents& contents, SessionState* state) {
+void AddMenus(const Commands& commands, SessionState* state) {
+  for (const Menu& menu : commands.menus) {
+    std::string& fact = (*state)["menu " + menu.name] = menu.label_key + " " + menu.message_file;
+    for (const MenuButton& button : menu.buttons) {
+      fact += "; " + Together({button.name, button.label_key, button.help_key, button.message_file,
+                               CommandOf(button.command)});
+    }
+  }
+  for (const Popup& popup : commands.popups) {
+    std::string& fact = (*state)["popup " + popup.name];
+    for (const PopupButton& button : popup.buttons) {
+      fact += Together({button.name, button.label, button.help, CommandOf(button.command)}) + "; ";
+    }
+  }
+}
+
+void AddRegistered(const Commands& commands, SessionState* state) {
+  AddCommands(commands, state);
+  AddMenus(commands, state);
+  for (const auto& [type, callback] : commands.notifications) {
+    (*state)["notification " + std::to_string(type)] = callback == nullptr ? "none" : "there";
+  }
+}
+
+void AddFolder(const fs::path& folder, const std::string& prefix, const FileContents& contents,
+               SessionState* state) {
   for (const auto& [path, content] : contents) {
-    const std::string file = PathToUtf8(path.lexically_relative(folder));
-    if (path.extension() == ".ini") {
+    const fs::path below = path.lexically_relative(folder);
+    const std::string file = prefix + PathToUtf8(below);
+    if (IsFolder(path)) {
+      (*state)["folder " + prefix + PathToUtf8(below.parent_path())] = "there";
+    } else if (path.extension() == ".ini") {
       (*state)["file " + file] = "there";
       AddSettings(file, content, state);
     } else {
@@ -128,7 +161,10 @@ SessionState StateNow(Host& host, const std::vector<fs::path>& folders,
   AddRegistered(host.commands, &state);
   state["timers"] = std::to_string(host.windows.timers.size());
   state["clipboard"] = ClipboardText().value_or("");
-  for (size_t i = 0; i < folders.size(); ++i) AddFolder(folders[i], contents[i], &state);
+  for (size_t i = 0; i < folders.size(); ++i) {
+    const std::string prefix = i == 0 ? "" : PathToUtf8(folders[i].filename()) + "/";
+    AddFolder(folders[i], prefix, contents[i], &state);
+  }
   return state;
 }
 

@@ -12,8 +12,9 @@
 namespace wb {
 
 // Facts of models (of drawings with their sheets, views, tables and dimensions), windows,
-// selection, folders at work, options, clipboard, registered commands, entries of settings and
-// contents of other files.
+// selection, folders at work, options, clipboard, what is registered and how, entries of settings,
+// contents of other files, and folders. What lies in another folder than the first has that one's
+// name before its own.
 using SessionState = std::map<std::string, std::string>;
 
 SessionState StateNow(Host& host, const std::vector<std::filesystem::path>& folders);

@@ -54,7 +54,8 @@ std::vector<std::string> SweptCommand::ComplaintsOfClean(const CommandRun& clean
 }
 
 std::vector<std::filesystem::path> SweptCommand::Folders() const {
-  return {run_.folders.work, run_.folders.desktop, run_.Installed() / "QMconfig"};
+  return {run_.folders.work, run_.folders.desktop, run_.Installed() / "QMconfig",
+          run_.Installed() / "tp"};
 }
 
 void SweptCommand::CheckRestored(const CommandRun& result,

@@ -1,6 +1,8 @@
 // Files stay real, but for folders in which nobody may write; each call that makes, opens, writes,
 // moves or looks at one can be made to fail.
 #include <cstdio>
+#include <filesystem>
+#include <set>
 
 #include "workbench/base/text.h"
 #include "workbench/windows/windows_crossing.h"
@@ -15,33 +17,70 @@ bool IsRefused(LPCWSTR path, DWORD access) {
   return writes && TheHost().session.IsReadOnly(folder);
 }
 
+// The plug-in's run log, or its folder.
+bool IsOfRunLog(LPCWSTR path) {
+  const std::filesystem::path& local = TheHost().windows.local_app_folder;
+  if (local.empty()) return false;
+  const std::filesystem::path folder = (local / "Quillmax").lexically_normal();
+  const std::filesystem::path asked = std::filesystem::path(path).lexically_normal();
+  return asked == folder || asked.parent_path() == folder;
+}
+
+// A handle goes to another file once it is closed.
+void NoteHandle(HANDLE file, bool is_of_run_log) {
+  std::set<void*>& log_files = TheHost().windows.log_files;
+  if (is_of_run_log) {
+    log_files.insert(file);
+  } else {
+    log_files.erase(file);
+  }
+}
+
+bool IsOfRunLog(HANDLE file) {
+  return TheHost().windows.log_files.contains(file);
+}
+
 HANDLE WINAPI HookCreateFileW(LPCWSTR path, DWORD access, DWORD share,
                               LPSECURITY_ATTRIBUTES security, DWORD disposition, DWORD flags,
                               HANDLE like) {
-  return ErrorCrossing(
-      "CreateFileW", DescribeArgument(path), INVALID_HANDLE_VALUE, ERROR_ACCESS_DENIED, [&] {
+  const bool is_of_run_log = IsOfRunLog(path);
+  const HANDLE file = ErrorCrossing(
+      "CreateFileW", DescribeArgument(path), INVALID_HANDLE_VALUE, ERROR_ACCESS_DENIED,
+      [&] {
         if (!IsRefused(path, access)) {
           return ::CreateFileW(path, access, share, security, disposition, flags, like);
         }
         ::SetLastError(ERROR_ACCESS_DENIED);
         return INVALID_HANDLE_VALUE;
-      });
+      },
+      is_of_run_log);
+  if (file != INVALID_HANDLE_VALUE) NoteHandle(file, is_of_run_log);
+  return file;
 }
 
 BOOL WINAPI HookWriteFile(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written,
                           LPOVERLAPPED overlapped) {
-  return ErrorCrossing("WriteFile", std::to_string(size), BOOL{FALSE}, ERROR_DISK_FULL,
-                       [&] { return ::WriteFile(file, bytes, size, written, overlapped); });
+  return ErrorCrossing(
+      "WriteFile", std::to_string(size), BOOL{FALSE}, ERROR_DISK_FULL,
+      [&] { return ::WriteFile(file, bytes, size, written, overlapped); }, IsOfRunLog(file));
 }
 
 BOOL WINAPI HookGetFileSizeEx(HANDLE file, PLARGE_INTEGER size) {
-  return ErrorCrossing("GetFileSizeEx", "", BOOL{FALSE}, ERROR_IO_DEVICE,
-                       [&] { return ::GetFileSizeEx(file, size); });
+  return ErrorCrossing(
+      "GetFileSizeEx", "", BOOL{FALSE}, ERROR_IO_DEVICE,
+      [&] { return ::GetFileSizeEx(file, size); }, IsOfRunLog(file));
+}
+
+BOOL WINAPI HookSetFileTime(HANDLE file, const FILETIME* created, const FILETIME* read,
+                            const FILETIME* written) {
+  return ErrorCrossing("SetFileTime", "", BOOL{FALSE}, ERROR_ACCESS_DENIED,
+                       [&] { return ::SetFileTime(file, created, read, written); });
 }
 
 BOOL WINAPI HookCreateDirectoryW(LPCWSTR path, LPSECURITY_ATTRIBUTES security) {
-  return ErrorCrossing("CreateDirectoryW", DescribeArgument(path), BOOL{FALSE}, ERROR_ACCESS_DENIED,
-                       [&] { return ::CreateDirectoryW(path, security); });
+  return ErrorCrossing(
+      "CreateDirectoryW", DescribeArgument(path), BOOL{FALSE}, ERROR_ACCESS_DENIED,
+      [&] { return ::CreateDirectoryW(path, security); }, IsOfRunLog(path));
 }
 
 BOOL WINAPI HookDeleteFileW(LPCWSTR path) {
@@ -64,6 +103,12 @@ BOOL WINAPI HookCopyFileW(LPCWSTR from, LPCWSTR to, BOOL only_new) {
 DWORD WINAPI HookGetFileAttributesW(LPCWSTR path) {
   return ErrorCrossing("GetFileAttributesW", DescribeArgument(path), INVALID_FILE_ATTRIBUTES,
                        ERROR_ACCESS_DENIED, [&] { return ::GetFileAttributesW(path); });
+}
+
+BOOL WINAPI HookGetFileAttributesExW(LPCWSTR path, GET_FILEEX_INFO_LEVELS level, LPVOID data) {
+  return ErrorCrossing("GetFileAttributesExW", DescribeArgument(path), BOOL{FALSE},
+                       ERROR_ACCESS_DENIED,
+                       [&] { return ::GetFileAttributesExW(path, level, data); });
 }
 
 BOOL WINAPI HookSetFileAttributesW(LPCWSTR path, DWORD attributes) {
@@ -111,11 +156,13 @@ HookRows FileHooks() {
       HookRow<decltype(CreateFileW)>("CreateFileW", &HookCreateFileW),
       HookRow<decltype(WriteFile)>("WriteFile", &HookWriteFile),
       HookRow<decltype(GetFileSizeEx)>("GetFileSizeEx", &HookGetFileSizeEx),
+      HookRow<decltype(SetFileTime)>("SetFileTime", &HookSetFileTime),
       HookRow<decltype(CreateDirectoryW)>("CreateDirectoryW", &HookCreateDirectoryW),
       HookRow<decltype(DeleteFileW)>("DeleteFileW", &HookDeleteFileW),
       HookRow<decltype(MoveFileExW)>("MoveFileExW", &HookMoveFileExW),
       HookRow<decltype(CopyFileW)>("CopyFileW", &HookCopyFileW),
       HookRow<decltype(GetFileAttributesW)>("GetFileAttributesW", &HookGetFileAttributesW),
+      HookRow<decltype(GetFileAttributesExW)>("GetFileAttributesExW", &HookGetFileAttributesExW),
       HookRow<decltype(SetFileAttributesW)>("SetFileAttributesW", &HookSetFileAttributesW),
       HookRow<decltype(FindFirstFileW)>("FindFirstFileW", &HookFindFirstFileW),
       HookRow<decltype(FindNextFileW)>("FindNextFileW", &HookFindNextFileW),

@@ -47,8 +47,12 @@ class ImportTable {
       }
       const auto* const by_name =
           At<IMAGE_IMPORT_BY_NAME>(static_cast<DWORD>(name->u1.AddressOfData));
-      const Hook* const hook = HookOf(hooks, reinterpret_cast<const char*>(by_name->Name));
-      if (hook == nullptr) continue;
+      const auto* const name_text = reinterpret_cast<const char*>(by_name->Name);
+      const Hook* const hook = HookOf(hooks, name_text);
+      if (hook == nullptr) {
+        result.left.emplace_back(name_text);
+        continue;
+      }
       Replace(slot->u1.Function, hook->replacement);
       result.replaced.push_back(hook->name);
     }

@@ -30,7 +30,7 @@ int ResultForTrace(Result result) {
 // thread is a breach, but is answered.
 template <typename Result, typename Body>
 Result WindowsCrossing(const char* function, const std::string& arguments, Result failure,
-                       Body&& body) {
+                       Body&& body, bool is_of_run_log = false) {
   Host& host = TheHost();
   const bool on_ui_thread = host.OnUiThread();
   if (!on_ui_thread) {
@@ -38,7 +38,7 @@ Result WindowsCrossing(const char* function, const std::string& arguments, Resul
   }
   const Call call(host, function, on_ui_thread ? host.trace.Enter(function) : 0);
   Result result = failure;
-  const bool struck = on_ui_thread && host.faults.StrikeWindows(function) != nullptr;
+  const bool struck = on_ui_thread && host.faults.StrikeWindows(function, is_of_run_log) != nullptr;
   const bool user_acted = on_ui_thread && host.LetUserIn(function);
   try {
     if (!struck) result = body(call);
@@ -58,12 +58,13 @@ Result WindowsCrossing(const char* function, const std::string& arguments, Resul
 // function left it, whatever the host has done since. When a fault strikes it is `error`.
 template <typename Result, typename Body>
 Result ErrorCrossing(const char* function, const std::string& arguments, Result failure,
-                     unsigned long error, Body&& body) {
-  const Result result = WindowsCrossing(function, arguments, failure, [&](const Call&) {
+                     unsigned long error, Body&& body, bool is_of_run_log = false) {
+  const auto keeping_error = [&](const Call&) {
     const Result answer = body();
     error = ::GetLastError();
     return answer;
-  });
+  };
+  const Result result = WindowsCrossing(function, arguments, failure, keeping_error, is_of_run_log);
   ::SetLastError(error);
   return result;
 }

@@ -55,7 +55,8 @@ ProError NewDraw() {
   if (model == nullptr) return PRO_TK_E_NOT_FOUND;
   const auto name = ModelName(model);
   if (!name) return PRO_TK_GENERAL_ERROR;
-  if (ProMdl drawing = RetrieveModel(*name, PRO_MDL_DRAWING)) return DisplayDrawing(drawing, *name);
+  if (ProMdl drawing = RetrieveIfThere(*name, PRO_MDL_DRAWING))
+    return DisplayDrawing(drawing, *name);
   return MakeWithFormat(directory, model, *name);
 }
 

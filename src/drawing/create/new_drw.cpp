@@ -98,7 +98,7 @@ ProError QmNewDrw() {
   const auto name = ModelName(model);
   if (!name) return PRO_TK_GENERAL_ERROR;
   // A current drawing finds itself here and is brought up: no dialog opens on a drawing.
-  if (RetrieveModel(*name, PRO_MDL_DRAWING) != nullptr) return ShowAsCurrent(*name);
+  if (RetrieveIfThere(*name, PRO_MDL_DRAWING) != nullptr) return ShowAsCurrent(*name);
   return RunDialog(kDialog, [model](const Dialog& dialog) {
     dialog.BindButton<&CreateDrawing>("QmCreateDrw");
     dialog.BindClose();

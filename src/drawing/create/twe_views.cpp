@@ -107,7 +107,7 @@ ProError TweViews() {
   const auto model_name = ModelName(chosen.model);
   if (!model_name) return PRO_TK_GENERAL_ERROR;
   const std::wstring name = TweViewsDrawingName(*model_name);
-  if (ProMdl drawing = RetrieveModel(name, PRO_MDL_DRAWING)) return DisplayDrawing(drawing, name);
+  if (ProMdl drawing = RetrieveIfThere(name, PRO_MDL_DRAWING)) return DisplayDrawing(drawing, name);
   return RunDialog(kDialog, [](const Dialog& dialog) {
     dialog.BindButton<&Apply>("ApplyBt");
     dialog.BindCloseButton();

@@ -54,14 +54,6 @@ class StructureReader {
   HandleIndex index_;
 };
 
-// A host that does not tell gives a row too many rather than too few.
-bool IsSkeleton(ProMdl model) {
-  ProBoolean is_skeleton = PRO_B_FALSE;
-  const ProError status = ProMdlIsSkeleton(model, &is_skeleton);
-  if (!Ok(status)) LogFailure(model, "ProMdlIsSkeleton", status);
-  return Ok(status) && is_skeleton == PRO_B_TRUE;
-}
-
 // False when the components cannot be collected.
 bool ReadStructure(ProMdl assembly, BillPlan* plan) {
   ComponentList components;

@@ -92,7 +92,7 @@ void Export(const DialogView& dialog, StoredFields& fields) {
   auto wishes = ReadWishes(dialog, fields);
   if (!drawings || !wishes) return ShowMessage(kUnreadableField);
   wishes->drawings = InOrder(std::move(*drawings));
-  ExportDrawings(*wishes);
+  log.set_status(ExportDrawings(*wishes));
 }
 
 void OpenSettings(const DialogView&) {

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "export/files/export_folder.h"
 #include "frame/folders/known_folders.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/host_name.h"
@@ -25,54 +26,59 @@ bool Told(const std::wstring& drawing, const char* function, ProError status) {
   return Ok(status);
 }
 
-void CreateFolder(const std::wstring& path) {
-  if (::CreateDirectoryW(path.c_str(), nullptr)) return;
-  const DWORD error = ::GetLastError();
-  if (error == ERROR_ALREADY_EXISTS) return;
-  LogEvent("the folder " + ToUtf8(path) + " cannot be made: Windows' error " +
-           std::to_string(error));
+constexpr int kNoWindow = -1;
+
+ProError OpenWindow(const std::wstring& name, int* window) {
+  auto host_name = HostName::From(name);
+  ProError status = host_name ? ProObjectwindowCreate(host_name->name, PRO_DRAWING, window)
+                              : PRO_TK_LINE_TOO_LONG;
+  if (Ok(status) && *window <= kNoWindow) status = PRO_TK_E_NOT_FOUND;
+  Told(name, "ProObjectwindowCreate", status);
+  return status;
 }
 
-struct DrawingInWindow {
-  int window = -1;
-  ProMdl drawing = nullptr;           // null: there is no such window, ...
-  ProError status = PRO_TK_NO_ERROR;  // ... and why
-};
-
-bool IsDrawing(ProMdl model, const std::wstring& name) {
+// Nothing when the host does not tell.
+std::optional<bool> IsDrawing(ProMdl model, const std::wstring& name) {
   ProMdlType type = PRO_MDL_UNUSED;
-  if (model == nullptr || !Ok(ProMdlTypeGet(model, &type)) || type != PRO_MDL_DRAWING) return false;
+  if (model == nullptr || !Ok(ProMdlTypeGet(model, &type)) || type == PRO_MDL_UNUSED) {
+    return std::nullopt;
+  }
   const auto own = ModelName(model);
-  return own && EqualIgnoringCase(*own, name);
+  if (!own) return std::nullopt;
+  return type == PRO_MDL_DRAWING && EqualIgnoringCase(*own, name);
 }
+
+struct ShownDrawing {
+  ProMdl drawing = nullptr;           // null: the window does not show it, or nobody knows, ...
+  ProError status = PRO_TK_NO_ERROR;  // ... and why
+  bool is_other = false;              // it shows another model
+};
 
 // Looked into, since 0 is a window as well, and the user's: another one than the drawing's would be
 // exported and closed.
-DrawingInWindow OpenWindow(const std::wstring& name) {
-  DrawingInWindow opened;
-  auto host_name = HostName::From(name);
-  if (!host_name) {
-    opened.status = PRO_TK_LINE_TOO_LONG;
-    return opened;
+ShownDrawing LookInto(int window, const std::wstring& name) {
+  ShownDrawing shown;
+  ProMdl model = nullptr;
+  shown.status = ProWindowMdlGet(window, &model);
+  if (!Told(name, "ProWindowMdlGet", shown.status)) return shown;
+  const auto is_drawing = IsDrawing(model, name);
+  if (is_drawing.value_or(false)) {
+    shown.drawing = model;
+    return shown;
   }
-  opened.status = ProObjectwindowCreate(host_name->name, PRO_DRAWING, &opened.window);
-  if (!Told(name, "ProObjectwindowCreate", opened.status)) return opened;
-  ProMdl shown = nullptr;
-  opened.status = ProWindowMdlGet(opened.window, &shown);
-  if (!Told(name, "ProWindowMdlGet", opened.status)) return opened;
-  if (IsDrawing(shown, name)) {
-    opened.drawing = shown;
-  } else {
-    opened.status = PRO_TK_E_NOT_FOUND;
-    LogFailure(name, "a window for the drawing", opened.status);
-  }
-  return opened;
+  shown.is_other = is_drawing.has_value();
+  shown.status = PRO_TK_E_NOT_FOUND;
+  LogFailure(name, "a window for the drawing", shown.status);
+  return shown;
 }
 
-// The current window cannot be deleted, only closed as the user does it.
-void CloseWindow(const std::wstring& name, int window) {
+void CloseWindow(int window, const std::wstring& name) {
+  const ShownDrawing shown = LookInto(window, name);
+  if (shown.is_other) return;
   ProError status = ProWindowDelete(window);
-  if (status == PRO_TK_BAD_CONTEXT) status = ProWindowCurrentClose();
+  // The current window cannot be deleted, only closed as the user does it: when it is known to show
+  // the drawing.
+  if (status == PRO_TK_BAD_CONTEXT && shown.drawing != nullptr) status = ProWindowCurrentClose();
   Told(name, "closing of the drawing's window", status);
 }
 
@@ -160,21 +166,25 @@ ProError DrawingWriter::Write2d(int type, const PlannedFile& file, ProPath path)
 ProError DrawingWriter::WritePdf(ProPath path) const {
   // Without the options the host would open a viewer for each file.
   if (!pdf_options_) return PRO_TK_OUT_OF_MEMORY;
-  const DrawingInWindow opened = OpenWindow(drawing_.name);
+  int window = kNoWindow;
+  const bool is_open = Ok(OpenWindow(drawing_.name, &window));
   const ProError status = ProPDFExport(drawing_.drawing, path, pdf_options_.get());
-  if (opened.drawing != nullptr) CloseWindow(drawing_.name, opened.window);
+  if (is_open) CloseWindow(window, drawing_.name);
   return status;
 }
 
 // By the profile, which decides all that the options would. Deliberately the window stays open.
 ProError DrawingWriter::WritePdfOfSheet(int sheet, ProPath path) const {
   ShowSheet(sheet);
-  const DrawingInWindow opened = OpenWindow(drawing_.name);
+  int window = kNoWindow;
+  ProError status = OpenWindow(drawing_.name, &window);
+  if (!Ok(status)) return status;
+  Told(drawing_.name, "ProWindowCurrentSet", ProWindowCurrentSet(window));
+  Told(drawing_.name, "ProWindowActivate", ProWindowActivate(window));
+  const ShownDrawing opened = LookInto(window, drawing_.name);
   if (opened.drawing == nullptr) return opened.status;
-  Told(drawing_.name, "ProWindowCurrentSet", ProWindowCurrentSet(opened.window));
-  Told(drawing_.name, "ProWindowActivate", ProWindowActivate(opened.window));
   // The profile takes the current sheet: of another one the file would bear the wrong name.
-  const ProError status = ProDrawingCurrentSheetSet(opened.drawing, sheet);
+  status = ProDrawingCurrentSheetSet(opened.drawing, sheet);
   if (!Told(drawing_.name, "ProDrawingCurrentSheetSet", status)) return status;
   CopyProfile();
   ProPath profile = {};

@@ -3,10 +3,8 @@
 #include "export/drawings/export_dwg.h"
 
 #include "export/drawings/export_drivers.h"
-#include "export/drawings/export_record.h"
 #include "export/drawings/single_export.h"
-#include "frame/folders/known_folders.h"
-#include "frame/models/model_name.h"
+#include "export/files/export_record.h"
 #include "frame/text/fixed_text.h"
 #include "toolkit/export.h"
 #include "toolkit/status.h"
@@ -31,14 +29,15 @@ ProError QmExportDwg() {
   const auto folder =
       ExportFolder(L"QmExportDwgDIr", L"请选择DWG文件导出位置", OtherSetting::kEndsCommand);
   if (!folder) return PRO_TK_USER_ABORT;
-  const auto name = ModelName(drawing);
-  const auto count = CountSheets(drawing);
-  if (!name || !count) return PRO_TK_GENERAL_ERROR;
-  const std::wstring path = PathIn(*folder, *name);
+  const SheetFiles files = FilesOfSheets(drawing, *folder);
   ExportRecord record;
-  for (int number = 1; number <= *count; ++number) {
-    const std::wstring file = PathOfFile(path, number, *count);
-    record.Write({file + kExtension, {}, {}}, [&] { return WriteDwg(drawing, file); });
+  for (const std::wstring& path : files.paths) {
+    const ExportRecord::File file = {path + kExtension, {}, {}};
+    if (files.trouble != nullptr) {
+      record.AddUnwritten(file, files.trouble);
+    } else {
+      record.Write(file, [&] { return WriteDwg(drawing, path); });
+    }
   }
   return record.Tell();
 }

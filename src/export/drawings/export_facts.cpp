@@ -37,9 +37,23 @@ std::optional<std::wstring> SheetSize(ProDrawing drawing, int sheet) {
   return std::nullopt;
 }
 
-// The model of the first view, in the order of their collection, that lies on each sheet; null for
-// a sheet without views. Nothing when there are no views at all.
-std::optional<std::vector<ProSolid>> SolidsOfSheets(ProDrawing drawing, int sheet_count) {
+// What the first view of a sheet shows, in the order of their collection.
+struct ShownOnSheet {
+  bool has_view = false;
+  ProSolid solid = nullptr;  // null: the host does not tell, or there is no view
+};
+
+ProSolid SolidOfView(ProDrawing drawing, ProView view) {
+  ProSolid solid = nullptr;
+  const ProError status = ProDrawingViewSolidGet(drawing, view, &solid);
+  if (Ok(status) && solid != nullptr) return solid;
+  LogFailure(drawing, "ProDrawingViewSolidGet", status);
+  return nullptr;
+}
+
+// Nothing when there are no views at all, or when nobody knows where one lies: it may be the first
+// one of any sheet.
+std::optional<std::vector<ShownOnSheet>> ShownOnSheets(ProDrawing drawing, int sheet_count) {
   HostArray<ProView> views;
   const ProError status = ProDrawingViewsCollect(drawing, views.put());
   const int view_count = Ok(status) ? views.size() : 0;
@@ -47,21 +61,16 @@ std::optional<std::vector<ProSolid>> SolidsOfSheets(ProDrawing drawing, int shee
     LogFailure(drawing, "ProDrawingViewsCollect", status);
     return std::nullopt;
   }
-  std::vector<ProSolid> solids(static_cast<size_t>(sheet_count), nullptr);
-  std::vector<bool> is_met(solids.size(), false);
+  std::vector<ShownOnSheet> sheets(static_cast<size_t>(sheet_count));
   for (int i = 0; i < view_count; ++i) {
-    int sheet = 0;
-    Told(drawing, "ProDrawingViewSheetGet", ProDrawingViewSheetGet(drawing, views[i], &sheet));
-    if (sheet < kFirst || sheet > sheet_count || is_met[static_cast<size_t>(sheet - kFirst)])
-      continue;
-    is_met[static_cast<size_t>(sheet - kFirst)] = true;
-    ProSolid solid = nullptr;
-    const ProError answer = ProDrawingViewSolidGet(drawing, views[i], &solid);
-    if (Told(drawing, "ProDrawingViewSolidGet", answer)) {
-      solids[static_cast<size_t>(sheet - kFirst)] = solid;
-    }
+    int number = 0;
+    const ProError answer = ProDrawingViewSheetGet(drawing, views[i], &number);
+    if (!Told(drawing, "ProDrawingViewSheetGet", answer)) return std::nullopt;
+    if (number < kFirst || number > sheet_count) continue;
+    ShownOnSheet& sheet = sheets[static_cast<size_t>(number - kFirst)];
+    if (!sheet.has_view) sheet = {true, SolidOfView(drawing, views[i])};
   }
-  return solids;
+  return sheets;
 }
 
 // What names are made of, and what a model's own files are called.
@@ -76,6 +85,7 @@ class ModelReader {
  public:
   ModelReader(const NamingRule& naming, const ExportOptions& options)
       : naming_(naming),
+        reads_parameters_(options.NamesFiles()),
         reads_identity_(options.WritesModels()),
         reads_name_(reads_identity_ || (options.per_sheet && naming.Uses(NameToken::kName))) {}
 
@@ -91,6 +101,7 @@ class ModelReader {
     ModelFacts facts;
     if (reads_name_) facts.name = ModelName(solid);
     if (reads_identity_ && facts.name) facts.identity = Identity(solid, *facts.name);
+    if (!reads_parameters_) return facts;
     for (ParameterText& read : ReadParameterTexts(solid, naming_.parameters)) {
       facts.parameters.push_back(std::move(read.text));
     }
@@ -107,6 +118,7 @@ class ModelReader {
   }
 
   const NamingRule& naming_;
+  const bool reads_parameters_;
   const bool reads_identity_;
   const bool reads_name_;
   HandleIndex index_;
@@ -121,15 +133,17 @@ class DrawingReader {
   void Read() {
     const ModelFacts& first = models_.Of(drawing_.solid.handle);
     drawing_.solid.identity = first.identity;
-    drawing_.facts.base_name = FileName(naming_, {Size(kFirst), drawing_.name, first.parameters});
+    if (options_.NamesFiles()) {
+      drawing_.facts.base_name = FileName(naming_, {Size(kFirst), drawing_.name, first.parameters});
+    }
     drawing_.facts.sheet_count = CountSheets(drawing_.drawing);
     const int count = drawing_.facts.sheet_count.value_or(0);
     if (!NeedsViews(options_, count)) return;
-    const auto solids = SolidsOfSheets(drawing_.drawing, count);
-    if (!solids) return;
+    const auto shown = ShownOnSheets(drawing_.drawing, count);
+    if (!shown) return;
     drawing_.facts.sheets.emplace();
     for (int sheet = kFirst; sheet <= count; ++sheet) {
-      AddSheet(sheet, (*solids)[static_cast<size_t>(sheet - kFirst)]);
+      AddSheet(sheet, (*shown)[static_cast<size_t>(sheet - kFirst)]);
     }
   }
 
@@ -139,16 +153,20 @@ class DrawingReader {
     return SheetSize(drawing_.drawing, sheet);
   }
 
-  void AddSheet(int sheet, ProSolid solid) {
+  void AddSheet(int sheet, const ShownOnSheet& shown) {
     SheetFacts facts;
-    ExportSolid shown{solid, {}};
-    if (solid != nullptr) {
-      const ModelFacts& model = models_.Of(solid);
-      facts = {true, FileName(naming_, {Size(sheet), model.name, model.parameters}), model.name};
-      shown.identity = model.identity;
+    facts.has_view = shown.has_view;
+    ExportSolid solid{shown.solid, {}};
+    if (shown.solid != nullptr) {
+      const ModelFacts& model = models_.Of(shown.solid);
+      if (options_.NamesFiles()) {
+        facts.name = FileName(naming_, {Size(sheet), model.name, model.parameters});
+      }
+      facts.model = model.name;
+      solid.identity = model.identity;
     }
     drawing_.facts.sheets->push_back(std::move(facts));
-    drawing_.sheet_solids.push_back(std::move(shown));
+    drawing_.sheet_solids.push_back(std::move(solid));
   }
 
   const NamingRule& naming_;

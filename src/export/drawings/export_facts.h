@@ -1,5 +1,5 @@
 // A drawing as an export run needs it: what its files are called and which models they show. Each
-// fact is asked of the host once.
+// fact of a model is asked of the host once.
 #pragma once
 
 #include <optional>

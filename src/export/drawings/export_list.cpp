@@ -90,10 +90,13 @@ std::wstring NameOf(const DialogTable& table, const std::string& row) {
   return table.Label(row, kNameColumn).value_or(std::wstring());
 }
 
+// False when the user is to be told of the row. Deliberately not of a drawing that cannot be
+// retrieved: its cells stay empty, and the run log says why.
 bool LoadSheetsOf(const DialogTable& table, const std::string& row) {
   const std::wstring name = NameOf(table, row);
-  const ProMdl drawing = name.empty() ? nullptr : RetrieveModel(name, PRO_MDL_DRAWING);
-  if (drawing == nullptr) return false;
+  if (name.empty()) return false;
+  const ProMdl drawing = RetrieveModel(name, PRO_MDL_DRAWING);
+  if (drawing == nullptr) return true;
   int count = 0;
   ProError status = ProDrawingSheetsCount(drawing, &count);
   bool is_whole = Ok(status) && count > 0;
@@ -257,7 +260,9 @@ void LoadParameters(const DialogView& dialog) {
   const auto models = ModelsByName();
   long long left_out = 0;
   for (const std::string& row : *rows) {
-    const auto found = models.find(LowerCased(NameOf(table, row)));
+    const std::wstring name = NameOf(table, row);
+    if (name.empty()) ++left_out;
+    const auto found = models.find(LowerCased(name));
     if (found == models.end()) continue;
     const ProMdl model = RetrieveByExtension(found->second);
     if (model != nullptr) left_out += WriteParameters(table, row, model, *columns);

@@ -37,7 +37,4 @@ std::wstring FileName(const NamingRule& rule, const NameValues& values);
 // The name of a sheet that has none of its own.
 std::wstring NumberedName(const std::wstring& name, int sheet);
 
-// Whether Windows can hold a file of this name, its extension included.
-bool IsWindowsFileName(std::wstring_view name);
-
 }  // namespace qm

@@ -5,11 +5,10 @@
 #include <windows.h>
 
 #include "export/drawings/export_drivers.h"
-#include "export/drawings/export_record.h"
 #include "export/drawings/single_export.h"
+#include "export/files/export_record.h"
 #include "frame/folders/known_folders.h"
 #include "frame/messages/run_log.h"
-#include "frame/models/model_name.h"
 #include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
 #include "toolkit/export.h"
@@ -22,14 +21,17 @@ constexpr wchar_t kExtension[] = L".pdf";
 // Deliberately that of the DWG files.
 constexpr wchar_t kPrompt[] = L"请选择DWG文件导出位置";
 
-ProError MakeOptions(PdfOptions* options) {
+bool MakeOptions(PdfOptions* options) {
   const ProError status = ProPDFoptionsAlloc(options->put());
-  if (!Ok(status) || !*options) return Ok(status) ? PRO_TK_OUT_OF_MEMORY : status;
+  if (!Ok(status) || !*options) {
+    LogFailure(nullptr, "ProPDFoptionsAlloc", status);
+    return false;
+  }
   SetPdfNumber(options->get(), PRO_PDFOPT_FONT_STROKE, PRO_PDF_USE_TRUE_TYPE_FONTS);
   SetPdfNumber(options->get(), PRO_PDFOPT_COLOR_DEPTH, PRO_PDF_CD_MONO);
   SetPdfFlag(options->get(), PRO_PDFOPT_LAUNCH_VIEWER, false);
   SetPdfFlag(options->get(), PRO_PDFOPT_PENTABLE, true);
-  return PRO_TK_NO_ERROR;
+  return true;
 }
 
 // Deliberately in the code page: a name that it lacks characters of stays where it is. Deliberately
@@ -67,19 +69,21 @@ ProError QmExportPdf() {
   if (drawing == nullptr) return PRO_TK_E_NOT_FOUND;
   const auto folder = ExportFolder(L"QmExportPdfDIr", kPrompt, OtherSetting::kEndsCommand);
   if (!folder) return PRO_TK_USER_ABORT;
-  const auto name = ModelName(drawing);
-  const auto count = CountSheets(drawing);
+  SheetFiles files = FilesOfSheets(drawing, *folder);
   const auto working = CurrentFolder();
-  if (!name || !count || !working) return PRO_TK_GENERAL_ERROR;
+  if (!working) files.trouble = "the working directory is not known";
   PdfOptions options;
-  const ProError status = MakeOptions(&options);
-  if (!Ok(status)) return status;
-  const std::wstring path = PathIn(*folder, *name);
-  const std::wstring temporary = PathIn(*working, kTemporaryName);
+  if (!MakeOptions(&options)) files.trouble = "the options of the files cannot be made";
+  const std::wstring temporary = PathIn(working.value_or(std::wstring()), kTemporaryName);
   ExportRecord record;
-  for (int number = 1; number <= *count; ++number) {
-    const std::wstring file = PathOfFile(path, number, *count) + kExtension;
-    record.Write({file, {}, {}}, [&] { return WritePdf(drawing, options.get(), temporary, file); });
+  for (const std::wstring& path : files.paths) {
+    const std::wstring target = path + kExtension;
+    if (files.trouble != nullptr) {
+      record.AddUnwritten({target, {}, {}}, files.trouble);
+    } else {
+      record.Write({target, {}, {}},
+                   [&] { return WritePdf(drawing, options.get(), temporary, target); });
+    }
   }
   return record.Tell();
 }

@@ -4,14 +4,15 @@
 #include <algorithm>
 
 #include "export/drawings/export_name_rules.h"
+#include "export/files/file_name_rules.h"
 
 namespace qm {
 namespace {
 
-constexpr char kNotCounted[] = "its sheets cannot be counted";
 constexpr char kNoViews[] = "its views cannot be collected, or it has none";
-constexpr char kNoModelName[] = "the name of the sheet's model cannot be read";
-constexpr char kNoModel[] = "no view lies on the sheet";
+constexpr char kNoModelName[] = "the sheet's model or its name cannot be read";
+constexpr char kNoView[] = "no view lies on the sheet";
+constexpr char kElsewhere[] = "Windows cannot hold the name";
 
 class Planner {
  public:
@@ -21,6 +22,12 @@ class Planner {
   std::vector<PlannedFile> Plan() && {
     for (const ExportFormatRow& row : kExportFormats) {
       if (options_.Writes(row.format)) PlanFormat(row.format);
+    }
+    for (PlannedFile& file : files_) {
+      if (file.plan == FilePlan::kWrite && IsElsewhere(file.name)) {
+        file.plan = FilePlan::kCannot;
+        file.reason = kElsewhere;
+      }
     }
     return std::move(files_);
   }
@@ -50,11 +57,11 @@ class Planner {
     }
     const SheetFacts& facts = (*drawing_.sheets)[static_cast<size_t>(sheet - 1)];
     if (!IsOfModel(format)) {
-      Add(format, facts.has_model ? facts.name : NumberedName(drawing_.base_name, sheet), sheet);
+      Add(format, facts.name.value_or(NumberedName(drawing_.base_name, sheet)), sheet);
     } else {
       Add(format, facts.model.value_or(std::wstring()), sheet);
       if (!facts.model) Refuse(kNoModelName);
-      if (!facts.has_model) Refuse(kNoModel, FilePlan::kNotMeant);
+      if (!facts.has_view) Refuse(kNoView, FilePlan::kNotMeant);
     }
     files_.back().per_sheet = true;
   }
@@ -83,8 +90,7 @@ class Planner {
 
 std::vector<std::wstring> InOrder(std::vector<std::wstring> names) {
   std::ranges::sort(names);
-  const auto repeated = std::ranges::unique(names);
-  names.erase(repeated.begin(), repeated.end());
+  names.erase(std::unique(names.begin(), names.end()), names.end());
   return names;
 }
 

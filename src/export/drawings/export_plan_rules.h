@@ -45,6 +45,8 @@ struct ExportOptions {
   bool Writes(ExportFormat format) const { return formats[static_cast<std::size_t>(format)]; }
   bool WritesDrawings() const;
   bool WritesModels() const;
+  // Whether a file is named by the naming rule. Those of the models on the sheets are not.
+  bool NamesFiles() const { return !per_sheet || WritesDrawings(); }
 };
 
 // Whether the models on the sheets decide names or contents.
@@ -52,8 +54,8 @@ bool NeedsViews(const ExportOptions& options, int sheet_count);
 
 // A sheet of a drawing that is written per sheet.
 struct SheetFacts {
-  bool has_model = false;             // a view of one lies on it
-  std::wstring name;                  // by the naming rule
+  bool has_view = false;
+  std::optional<std::wstring> name;   // by the naming rule; nothing: no model to name it after
   std::optional<std::wstring> model;  // the model's name; nothing: not told
 };
 
@@ -71,13 +73,15 @@ enum class FilePlan {
 };
 
 struct PlannedFile {
-  ExportFormat format;
+  ExportFormat format = ExportFormat::kDwg;
   std::wstring name;       // with its extension; empty where it is not known
   int sheet = 0;           // 0: the whole drawing, or its first model
   bool per_sheet = false;  // the sheet is made the current one, and its model counts
   FilePlan plan = FilePlan::kWrite;
   const char* reason = nullptr;  // why it is not written
 };
+
+inline constexpr char kNotCounted[] = "its sheets cannot be counted";
 
 // In the order of writing. Deliberately a drawing whose views cannot be collected loses the format
 // that needs them and all that come after it, those before it stay.

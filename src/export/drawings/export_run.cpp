@@ -1,7 +1,8 @@
 // Goes through the drawings.
 #include "export/drawings/export_run.h"
 
-#include "export/drawings/export_record.h"
+#include "export/files/export_notes.h"
+#include "export/files/export_record.h"
 #include "frame/folders/known_folders.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
@@ -48,16 +49,14 @@ class ExportRun {
     }
   }
 
-  void Tell() { record_.Tell(); }
+  ProError Tell() { return record_.Tell(); }
 
  private:
-  // Before anything is written. The host is asked for these files as well: it may know a way.
+  // Before anything is written. The host is asked for most of these files as well: it may know a
+  // way.
   void TellUnfitNames(const std::vector<PlannedFile>& files) const {
     for (const PlannedFile& file : files) {
-      const bool fits = PathOf(file).size() < PRO_PATH_SIZE && IsWindowsFileName(file.name);
-      if (file.plan != FilePlan::kWrite || fits) continue;
-      LogEvent("Windows cannot hold a file of the name " + ToUtf8(file.name));
-      DisplayNote("Windows cannot hold the file name %0w", file.name.c_str());
+      if (!file.name.empty()) TellUnfitFile(PathOf(file), file.name);
     }
   }
 
@@ -91,11 +90,6 @@ class ExportRun {
   ExportRecord record_;
 };
 
-void TellProgress(size_t done, size_t count, const std::wstring& name) {
-  const std::wstring text = std::to_wstring(done) + L" / " + std::to_wstring(count) + L" " + name;
-  DisplayNote("Exporting %0w", text.c_str());
-}
-
 // No handle of before is used after it.
 void ClearSession() {
   const ProError status = ProMdlEraseNotDisplayed();
@@ -104,7 +98,7 @@ void ClearSession() {
 
 }  // namespace
 
-void ExportDrawings(const ExportWishes& wishes) {
+ProError ExportDrawings(const ExportWishes& wishes) {
   const auto folder = CurrentFolder();
   ExportRun run(wishes, folder.value_or(std::wstring()));
   const size_t count = wishes.drawings.size();
@@ -119,8 +113,9 @@ void ExportDrawings(const ExportWishes& wishes) {
     // Long runs would fill the session. Deliberately not after a drawing that was passed over.
     if (run.Export(name) && position % kClearingStep == 0) ClearSession();
   }
-  run.Tell();
+  const ProError status = run.Tell();
   ShowMessage(kDone);
+  return status;
 }
 
 }  // namespace qm

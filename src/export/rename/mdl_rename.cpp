@@ -14,6 +14,7 @@
 #include "frame/models/model_name.h"
 #include "frame/models/pointed_model.h"
 #include "frame/text/fixed_text.h"
+#include "frame/text/letter_case.h"
 #include "toolkit/message.h"
 #include "toolkit/window.h"
 
@@ -39,20 +40,45 @@ std::optional<RenameRow> RowOf(ProMdl model) {
   return RenameRow{L"1", *name, TypeWord(type), {}};
 }
 
-// Whether the model has its new name.
-bool Rename(const RenameRow& row) {
+// The name that was found legal last and could not be given, in lower case. It is not tried again:
+// where erasing acts late, the trial's part had it until the host had control back, and would have
+// it again.
+constinit ProName tried_name = {};
+
+LegalNames NamesTried() {
+  LegalNames names;
+  if (tried_name[0] != L'\0') names.insert(tried_name);
+  return names;
+}
+
+void Remember(const std::wstring& name) {
+  if (!FillFixedText(name, tried_name)) tried_name[0] = L'\0';
+}
+
+// What came of it; nothing when the model has its old name still.
+std::optional<RenameOutcome> Rename(const RenameRow& row) {
   const std::vector<RenameRow> rows = {row};
-  LegalNames legal;
+  LegalNames legal = NamesTried();
   const StoreBackOption option;
   if (const auto refusal = RefusalOf(rows, legal)) {
     ShowMessage(*refusal);
-    return false;
+    return std::nullopt;
   }
   RenameJournal no_journal;
-  if (!RenameModels(rows, no_journal).renamed.empty()) return true;
+  RenameOutcome outcome = RenameModels(rows, no_journal);
+  const std::wstring name = LowerCased(row.new_name);
+  const bool is_renamed = !outcome.renamed.empty();
+  Remember(!is_renamed && legal.contains(name) ? name : std::wstring());
+  if (is_renamed) return outcome;
   DisplayNote("%0w could not be renamed", row.old_name.c_str());
   LogOutcome("the model was not renamed");
-  return false;
+  return std::nullopt;
+}
+
+void TellRenamed(const RenameRow& row, const RenameOutcome& outcome) {
+  const std::wstring names = row.old_name + L" -> " + row.new_name;
+  if (outcome.in_part > 0) return NoteRenamedInPart(names);
+  DisplayNote("Model renamed: %0w", names.c_str());
 }
 
 void RefreshTree() {
@@ -74,10 +100,10 @@ ProError QmMdlRename() {
     LogOutcome("the name stays");
     return PRO_TK_NO_ERROR;
   }
-  if (!Rename(*row)) return PRO_TK_GENERAL_ERROR;
+  const auto outcome = Rename(*row);
+  if (!outcome) return PRO_TK_GENERAL_ERROR;
   RefreshTree();
-  const std::wstring names = row->old_name + L" -> " + row->new_name;
-  DisplayNote("Model renamed: %0w", names.c_str());
+  TellRenamed(*row, *outcome);
   return PRO_TK_NO_ERROR;
 }
 

@@ -40,7 +40,7 @@ std::vector<std::wstring> FoldersOf(const std::vector<RenameRow>& rows) {
 // The journal is there for the user's next look, the other note for the next save.
 void TellWhatIsLeftToDo(const RenameJournal& journal) {
   DisplayNote("Assemblies remember the new names only once they are saved");
-  if (!journal.path().empty()) {
+  if (journal.is_whole()) {
     DisplayNote("The renaming is recorded in %0w", journal.path().c_str());
   } else {
     DisplayNote("The renaming could not be recorded");
@@ -55,25 +55,24 @@ std::optional<std::wstring> WhyNot(const RenameTable& table, std::vector<RenameR
   auto again = table.Read();
   if (!again) return kUnreadableField;
   *rows = std::move(*again);
-  for (const RenameRow& row : *rows) {
-    if (IsTooLong(row.new_name)) return TooLongAtRename(row.new_name);
-  }
-  return std::nullopt;
+  return RefusalAtRename(*rows);
 }
 
-void Rename(const std::vector<RenameRow>& rows, RenameMemory& memory) {
+void Rename(const std::vector<RenameRow>& rows, const RenameTable& table, RenameMemory& memory) {
   if (rows.empty()) return;
   RenameJournal journal;
   journal.Begin(rows, FoldersOf(rows));
   const RenameOutcome outcome = RenameModels(rows, journal);
   for (const RenameRow& row : outcome.renamed) {
     memory.shown.Renamed(TypeOf(row.type), row.old_name, row.new_name);
+    table.ShowRenamed(row);
   }
   const auto renamed = static_cast<long long>(outcome.renamed.size());
   const auto left = static_cast<long long>(outcome.left.size());
   journal.End(renamed, left);
   LogCount("renamed", renamed);
-  if (left > 0) LogLeftOutCount(left);
+  NoteLeftOut(left);
+  if (outcome.in_part > 0) NoteRenamedInPart(std::to_wstring(outcome.in_part));
   TellWhatIsLeftToDo(journal);
 }
 
@@ -92,7 +91,7 @@ void RenameListed(const RenameTable& table, RenameMemory& memory) {
     option.Leave();
     return ShowMessage(*refusal);
   }
-  Rename(ToRename(*rows), memory);
+  Rename(ToRename(*rows), table, memory);
   option.Restore();
   ShowMessage(kDone);
 }

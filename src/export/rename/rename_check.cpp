@@ -26,7 +26,9 @@ std::optional<std::wstring> RefusalOf(const RenameRow& row, AskedNames& asked, N
     case NewName::kToBeTried:
       break;
   }
-  if (!asked.Add(row) || IsThere(row.new_name, TypeOf(row.type))) return TakenRefusal(row.new_name);
+  const bool is_taken = !asked.Add(row) || IsThere(row.new_name, TypeOf(row.type)) ||
+                        trial.HasFiles(row.new_name, row.type);
+  if (is_taken) return TakenRefusal(row.new_name);
   if (!trial.IsLegal(row.new_name)) return IllegalRefusal(row.new_name);
   return std::nullopt;
 }

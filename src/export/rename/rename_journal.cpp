@@ -15,9 +15,10 @@ constexpr wchar_t kOldFile[] = L"\\QmRename.old.txt";
 constexpr long long kMaxFileBytes = 1024LL * 1024;
 constexpr std::string_view kLineEnd = "\r\n";
 
+// Two hosts of one user write to it; appended lines do not overwrite each other.
 HANDLE OpenToAppend(const std::wstring& path) {
   return ::CreateFileW(path.c_str(), FILE_APPEND_DATA | FILE_READ_ATTRIBUTES,
-                       FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
+                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
                        FILE_ATTRIBUTE_NORMAL | FILE_FLAG_WRITE_THROUGH, nullptr);
 }
 
@@ -73,7 +74,7 @@ bool RenameJournal::Begin(const std::vector<RenameRow>& rows,
   return true;
 }
 
-void RenameJournal::Mark(const RenameRow& row, const char* what, ProError status) const noexcept {
+void RenameJournal::Mark(const RenameRow& row, const char* what, ProError status) noexcept {
   if (file_ == INVALID_HANDLE_VALUE) return;
   FixedLine<256> line;
   for (const wchar_t digit : row.number) {
@@ -92,11 +93,13 @@ void RenameJournal::End(long long renamed, long long left) {
   Write("end: " + std::to_string(renamed) + " renamed, " + std::to_string(left) + " not\r\n\r\n");
 }
 
-void RenameJournal::Write(std::string_view text) const noexcept {
+void RenameJournal::Write(std::string_view text) noexcept {
   DWORD written = 0;
   const bool is_written =
       ::WriteFile(file_, text.data(), static_cast<DWORD>(text.size()), &written, nullptr) != 0;
-  if (!is_written) LogEvent("a line of the journal could not be written");
+  if (is_written && written == text.size()) return;
+  has_failed_ = true;
+  LogEvent("a line of the journal could not be written");
 }
 
 }  // namespace qm

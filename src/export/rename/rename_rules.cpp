@@ -93,6 +93,15 @@ bool AskedNames::Add(const RenameRow& row) {
   return names_.emplace(row.type, LowerCased(row.new_name)).second;
 }
 
+void MovedNames::Add(const RenameRow& renamed) {
+  names_.emplace(renamed.type, LowerCased(renamed.old_name));
+  names_.emplace(renamed.type, LowerCased(renamed.new_name));
+}
+
+bool MovedNames::HoldOldNameOf(const RenameRow& row) const {
+  return names_.contains({row.type, LowerCased(row.old_name)});
+}
+
 std::wstring TooLongRefusal(std::wstring_view name) {
   return Quoted(kRefusal, name, kTooLong);
 }
@@ -111,6 +120,17 @@ std::wstring TooLongAtRename(std::wstring_view name) {
 
 std::wstring TooLongInWorkbook(std::wstring_view name) {
   return Quoted(L"新名称 ", name, L" 长度大于32位，名称无效，请修改后再操作");
+}
+
+std::optional<std::wstring> RefusalAtRename(const std::vector<RenameRow>& rows) {
+  AskedNames asked;
+  for (const RenameRow& row : rows) {
+    const NewName kind = Judge(row);
+    if (kind == NewName::kTooLong) return TooLongAtRename(row.new_name);
+    if (kind == NewName::kIllegal) return IllegalRefusal(row.new_name);
+    if (kind == NewName::kToBeTried && !asked.Add(row)) return TakenRefusal(row.new_name);
+  }
+  return std::nullopt;
 }
 
 std::vector<RenameRow> RowsOfWorkbook(const std::vector<std::vector<std::wstring>>& sheet) {

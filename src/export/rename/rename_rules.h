@@ -2,6 +2,7 @@
 // reads when it is refused, and what a workbook's rows say.
 #pragma once
 
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -72,6 +73,17 @@ class AskedNames {
   std::set<std::pair<std::wstring, std::wstring>> names_;
 };
 
+// Names that models of a batch have had or have got, by type. A row whose old name is one of them
+// means a model that is not there any more, or another one than it meant when it was written.
+class MovedNames {
+ public:
+  void Add(const RenameRow& renamed);
+  bool HoldOldNameOf(const RenameRow& row) const;
+
+ private:
+  std::set<std::pair<std::wstring, std::wstring>> names_;
+};
+
 // The refusals of a new name before anything is renamed, ...
 std::wstring TooLongRefusal(std::wstring_view name);
 std::wstring TakenRefusal(std::wstring_view name);
@@ -79,6 +91,10 @@ std::wstring IllegalRefusal(std::wstring_view name);
 // ... of one that is too long when the renaming begins, and of one in a workbook.
 std::wstring TooLongAtRename(std::wstring_view name);
 std::wstring TooLongInWorkbook(std::wstring_view name);
+
+// Why rows that are read again when the renaming begins cannot be renamed, as far as they tell it
+// themselves: what the first wrong one of them gives.
+std::optional<std::wstring> RefusalAtRename(const std::vector<RenameRow>& rows);
 
 // The rows of a workbook with number, old name, type and new name: those below title and labels.
 std::vector<RenameRow> RowsOfWorkbook(const std::vector<std::vector<std::wstring>>& sheet);

@@ -40,15 +40,24 @@ bool IsNumber(std::wstring_view text) {
   return !text.empty() && text.find_first_not_of(L"0123456789") == std::wstring_view::npos;
 }
 
-// The files of a part in a folder, found without memory of its own once it is made.
-class PartFiles {
+constexpr wchar_t kPart[] = L"prt";
+
+// The files of a model in a folder, found without memory of its own once it is made.
+class ModelFiles {
  public:
-  PartFiles(const std::wstring& folder, const std::wstring& part)
-      : file_(part + L".prt"), folder_(folder + L"\\"), pattern_(folder_ + file_ + L"*") {
+  ModelFiles(const std::wstring& folder, const std::wstring& model, const std::wstring& type)
+      : file_(model + L"." + type), folder_(folder + L"\\"), pattern_(folder_ + file_ + L"*") {
     folder_.reserve(folder_.size() + MAX_PATH);
   }
 
-  // Whether "part.prt" or any "part.prt.*" lies there; also when that cannot be told.
+  // Whether "model.type" or a version of it lies there.
+  bool AnyVersion() const {
+    bool any = false;
+    ForEach([&](std::wstring_view rest) { any |= IsVersion(rest); });
+    return any;
+  }
+
+  // The same, or any other "model.type.*"; also when that cannot be told.
   bool Any() const {
     bool any = false;
     const bool told =
@@ -56,11 +65,11 @@ class PartFiles {
     return any || !told;
   }
 
-  // Deletes "part.prt" and its versions.
+  // Deletes "model.type" and its versions.
   void Delete() noexcept {
     const size_t length = folder_.size();
     ForEach([&](std::wstring_view rest) {
-      if (!rest.empty() && !(rest[0] == L'.' && IsNumber(rest.substr(1)))) return;
+      if (!IsVersion(rest)) return;
       folder_.append(file_).append(rest);
       if (!DeleteOne()) LogEvent("a scratch part's file could not be deleted");
       folder_.resize(length);
@@ -68,7 +77,11 @@ class PartFiles {
   }
 
  private:
-  // `use(what follows "part.prt" in the file's name)`. False when the folder cannot be read.
+  static bool IsVersion(std::wstring_view rest) {
+    return rest.empty() || (rest[0] == L'.' && IsNumber(rest.substr(1)));
+  }
+
+  // `use(what follows "model.type" in the file's name)`. False when the folder cannot be read.
   template <typename Use>
   bool ForEach(Use use) const {
     WIN32_FIND_DATAW found = {};
@@ -104,7 +117,7 @@ class PartFiles {
 // before, so that all that are there in the end are its own.
 class ScratchPart {
  public:
-  ScratchPart(PartFiles files, HostName name) : files_(std::move(files)) {
+  ScratchPart(ModelFiles files, HostName name) : files_(std::move(files)) {
     ProSolid part = nullptr;
     const ProError status = ProSolidCreate(name.name, PRO_PART, &part);
     if (Ok(status)) part_ = part;
@@ -125,7 +138,7 @@ class ScratchPart {
   }
 
  private:
-  PartFiles files_;
+  ModelFiles files_;
   ProMdl part_ = nullptr;
 };
 
@@ -135,7 +148,7 @@ bool IsPartThere(std::wstring_view name) {
   return host_name && Ok(ProMdlRetrieve(host_name->name, PRO_MDL_PART, &part));
 }
 
-bool IsTaken(const std::wstring& name, PartFiles files) {
+bool IsTaken(const std::wstring& name, ModelFiles files) {
   const auto host_name = HostName::From(name);
   if (!host_name) return false;
   const ScratchPart part(std::move(files), *host_name);
@@ -146,15 +159,21 @@ bool IsTaken(const std::wstring& name, PartFiles files) {
 
 }  // namespace
 
-NameTrial::NameTrial(LegalNames& legal) : legal_(legal), directory_(WorkingFolder()) {
-  if (directory_.empty() || IsWritable(directory_)) return;
+NameTrial::NameTrial(LegalNames& legal)
+    : legal_(legal),
+      directory_(WorkingFolder()),
+      may_try_(!directory_.empty() && IsWritable(directory_)) {
+  if (may_try_ || directory_.empty()) return;
   LogEvent("new names are not tried: nobody may write in the working directory");
-  directory_.clear();
+}
+
+bool NameTrial::HasFiles(const std::wstring& name, const std::wstring& type) const {
+  return !directory_.empty() && ModelFiles(directory_, name, type).AnyVersion();
 }
 
 bool NameTrial::IsLegal(const std::wstring& name) {
-  if (directory_.empty() || legal_.contains(LowerCased(name))) return true;
-  PartFiles files(directory_, name);
+  if (!may_try_ || legal_.contains(LowerCased(name))) return true;
+  ModelFiles files(directory_, name, kPart);
   if (files.Any()) return true;
   if (!IsTaken(name, std::move(files))) return false;
   legal_.insert(LowerCased(name));

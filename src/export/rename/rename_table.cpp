@@ -9,6 +9,7 @@
 #include "frame/models/model_name.h"
 #include "frame/models/opening.h"
 #include "frame/models/retrieve.h"
+#include "frame/text/text.h"
 #include "toolkit/status.h"
 
 namespace qm {
@@ -153,6 +154,10 @@ std::optional<std::vector<RenameRow>> RenameTable::Read() const {
   return rows;
 }
 
+void RenameTable::ShowRenamed(const RenameRow& row) const {
+  table_.SetLabel(ToUtf8(row.number), kOldName, row.new_name);
+}
+
 std::optional<WorkbookTable> RenameTable::ForWorkbook(const std::wstring& title) const {
   auto labels = table_.ColumnLabels();
   const auto columns = table_.ColumnNames();
@@ -187,7 +192,8 @@ void RenameTable::ShowFocusedModel() const {
   if (!columns || columns->size() <= kTypePlace || row.empty()) return LogOutcome("nothing shown");
   const auto name = table_.Label(row, (*columns)[kOldNamePlace]);
   const auto type = table_.Label(row, (*columns)[kTypePlace]);
-  if (!name || name->empty() || !type) return LogOutcome("nothing shown");
+  // What a workbook says is no path.
+  if (!name || !CanBeName(*name) || !type) return LogOutcome("nothing shown");
   // Whatever is no part is shown as an assembly.
   const bool is_part = TypeOf(*type) == PRO_MDL_PART;
   const ProMdl model = RetrieveModel(*name, is_part ? PRO_MDL_PART : PRO_MDL_ASSEMBLY);

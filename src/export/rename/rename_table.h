@@ -30,6 +30,8 @@ class RenameTable {
   // All rows, new names without the blanks around them. Nothing when one cannot be read: half of a
   // batch must not be renamed.
   std::optional<std::vector<RenameRow>> Read() const;
+  // The row's model has its new name: as its old one from here on, for the next press.
+  void ShowRenamed(const RenameRow& row) const;
   // The list as a workbook shows it; nothing as above.
   std::optional<WorkbookTable> ForWorkbook(const std::wstring& title) const;
 

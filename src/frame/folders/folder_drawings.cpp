@@ -37,7 +37,8 @@ std::vector<std::wstring> FilesOfFolder(std::wstring filter) {
   if (!Ok(files.Allocate()) || !Ok(folders.Allocate())) return {};
   const ProError status = AddFiles(std::move(filter), &files, &folders);
   if (!Ok(status)) {
-    LogEvent(std::string("ProFilesList answered ") + StatusName(status));
+    // Some hosts answer so where no file fits.
+    if (status != PRO_TK_E_NOT_FOUND) LogFailure(nullptr, "ProFilesList", status);
     return {};
   }
   std::vector<std::wstring> paths;

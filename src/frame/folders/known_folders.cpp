@@ -5,6 +5,7 @@
 
 #include <shlobj.h>
 
+#include "frame/messages/run_log.h"
 #include "frame/text/fixed_text.h"
 #include "toolkit/status.h"
 #include "toolkit/window.h"
@@ -13,13 +14,16 @@ namespace qm {
 
 std::optional<std::wstring> CurrentFolder() {
   ProPath folder = {};
-  if (!Ok(ProDirectoryCurrentGet(folder)) || FixedText(folder).empty()) return std::nullopt;
-  return PathIn(FixedText(folder), {});
+  const ProError status = ProDirectoryCurrentGet(folder);
+  if (Ok(status) && !FixedText(folder).empty()) return PathIn(FixedText(folder), {});
+  LogFailure(nullptr, "ProDirectoryCurrentGet", status);
+  return std::nullopt;
 }
 
 std::optional<std::wstring> DesktopFolder() {
   wchar_t folder[MAX_PATH] = {};
   if (!::SHGetSpecialFolderPathW(nullptr, folder, CSIDL_DESKTOPDIRECTORY, FALSE)) {
+    LogFailure("the desktop's folder cannot be had of Windows");
     return std::nullopt;
   }
   return folder;

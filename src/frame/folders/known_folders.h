@@ -7,9 +7,10 @@
 
 namespace qm {
 
-// The host's working directory, with a separator behind. Nothing when the host does not tell.
-std::optional<std::wstring> CurrentFolder();
+// Nothing, after a failure in the run log, when nobody tells.
 
+// The host's working directory, with a separator behind.
+std::optional<std::wstring> CurrentFolder();
 std::optional<std::wstring> DesktopFolder();
 
 // The path of `name` in `folder`, which may end with a separator or not.

@@ -1,4 +1,4 @@
-// Reads names of models.
+// Asks the host.
 #include "frame/models/model_name.h"
 
 #include "frame/messages/run_log.h"
@@ -16,6 +16,13 @@ std::optional<std::wstring> ModelName(ProMdl model) {
     return std::nullopt;
   }
   return std::wstring(FixedText(name));
+}
+
+bool IsSkeleton(ProMdl model) {
+  ProBoolean is_skeleton = PRO_B_FALSE;
+  const ProError status = ProMdlIsSkeleton(model, &is_skeleton);
+  if (!Ok(status)) LogFailure(model, "ProMdlIsSkeleton", status);
+  return Ok(status) && is_skeleton == PRO_B_TRUE;
 }
 
 }  // namespace qm

@@ -1,4 +1,4 @@
-// The name of a model.
+// The name of a model, and whether it is a skeleton, which bills and exports leave out.
 #pragma once
 
 #include <optional>
@@ -10,5 +10,9 @@ namespace qm {
 
 // Nothing, with a line in the run log, when the host does not tell.
 std::optional<std::wstring> ModelName(ProMdl model);
+
+// False, with a line in the run log, where the host does not tell: a model too many is seen, one
+// too few is not.
+bool IsSkeleton(ProMdl model);
 
 }  // namespace qm

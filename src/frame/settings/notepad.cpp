@@ -14,7 +14,9 @@ void OpenInNotepad(const wchar_t* file) {
   constexpr UINT kLastFailure = 31;
   const std::wstring path = ConfigPath(file);
   if (LeadsNowhere(path)) return LogFailure("nobody knows where the settings file lies");
-  const UINT answer = ::WinExec(ToAnsi(L"notepad.exe " + path).c_str(), SW_SHOW);
+  const auto command = ToAnsiExactly(L"notepad.exe " + path);
+  if (!command) return LogFailure("the code page lacks characters of " + ToUtf8(path));
+  const UINT answer = ::WinExec(command->c_str(), SW_SHOW);
   if (answer > kLastFailure) return;
   LogFailure("notepad was not started, Windows answered " + std::to_string(answer));
 }

@@ -87,6 +87,24 @@ TEST(ExportPlan, ASheetWithoutViewsTakesTheNumberedNameAndGivesNoModelFile) {
             (Lines{"STP\\m1.stp 1 own", "STP\\ 2 own cannot"}));
 }
 
+TEST(ExportPlan, ASheetOfWhichTheModelIsNotToldIsNoneWithoutViews) {
+  DrawingFacts drawing = Drawing(2);
+  (*drawing.sheets)[1] = {true, std::nullopt, std::nullopt};
+  EXPECT_EQ(LinesOf(PlanFiles(drawing, Options(9, true))),
+            (Lines{"DWG\\s1.dwg 1 own", "DWG\\d-2.dwg 2 own", "STP\\m1.stp 1 own",
+                   "STP\\ 2 own cannot"}));
+}
+
+TEST(ExportPlan, NamesThatLeadElsewhereAreNotAskedFor) {
+  for (const wchar_t* name : {L"..\\x", L"a:b", L"a/b"}) {
+    const auto files = PlanFiles({name, 1, std::nullopt}, Options(1, false));
+    ASSERT_EQ(files.size(), 1u);
+    EXPECT_EQ(files[0].plan, FilePlan::kCannot);
+    EXPECT_EQ(files[0].name, name + std::wstring(L".dwg"));
+  }
+  EXPECT_EQ(PlanFiles({L"a?b", 1, std::nullopt}, Options(1, false))[0].plan, FilePlan::kWrite);
+}
+
 TEST(ExportPlan, WithoutViewsTheFormatThatNeedsThemAndAllLaterOnesAreLost) {
   DrawingFacts drawing{L"d", 2, std::nullopt};
   EXPECT_EQ(LinesOf(PlanFiles(drawing, Options(31, false))).size(), 2u + 2 + 1 + 1 + 1);

@@ -30,7 +30,8 @@ constexpr int kKinds = static_cast<int>(Kind::kIllegal) + 1;
 
 struct Row {
   ModelName before;
-  bool has_drawing = false;
+  Model* model = nullptr;
+  Model* drawing = nullptr;  // null: none
   std::string typed;
   bool renamed = false;
   std::string refusal;  // empty: none
@@ -69,24 +70,34 @@ class RenameBatch : public PluginHost {
     return host_.session.Add(std::move(model));
   }
 
-  // A top assembly with `count` components: every third an assembly, every second with a drawing.
+  // The owner of the `i`-th model: every third one is an assembly and holds the two behind it, and
+  // every third of these the other two, so that models are listed in the order of their numbers.
+  Model& OwnerOf(int i, Model& top) {
+    if (i % 9 == 0) return top;
+    return *rows_[static_cast<size_t>(i % 3 == 0 ? i - i % 9 : i - i % 3)].model;
+  }
+
+  // A product of `count` models under a top assembly, on three levels, every second model with a
+  // drawing.
   void Build(int count) {
+    rows_.clear();
     Model& top = Add({"top", ModelKind::kAssembly});
     for (int i = 0; i < count; ++i) {
       const ModelKind kind = i % 3 == 0 ? ModelKind::kAssembly : ModelKind::kPart;
       Row row;
       row.before = {"old_" + std::to_string(i), kind};
-      row.has_drawing = i % 2 == 0;
       Model& model = Add(row.before);
-      top.solid().features.Add(NewComponent(i + 1, model.id));
-      if (row.has_drawing) {
+      row.model = &model;
+      OwnerOf(i, top).solid().features.Add(NewComponent(i + 1, model.id));
+      if (i % 2 == 0) {
         Model& drawing = Add({row.before.name, ModelKind::kDrawing});
         drawing.As<DrawingContent>()->shows = ModelLink{model.id, &model};
         drawing.As<DrawingContent>()->sheets.emplace_back();
+        row.drawing = &drawing;
       }
       rows_.push_back(row);
     }
-    host_.session.Complete(top);
+    for (const auto& model : host_.session.models()) host_.session.Complete(*model);
     for (const ModelKind kind : {ModelKind::kPart, ModelKind::kAssembly}) {
       Model& lying = Add({"lying", kind});
       host_.session.Save(lying);
@@ -94,6 +105,12 @@ class RenameBatch : public PluginHost {
     }
     for (const auto& model : host_.session.models()) host_.session.Save(*model);
     host_.session.ActivateWindow(host_.session.ShowInWindow(top).id);
+  }
+
+  // Nothing in session, nothing in the folder.
+  void Empty() {
+    while (!host_.session.models().empty()) host_.session.Erase(*host_.session.models().front());
+    for (const auto& item : fs::directory_iterator(folder_)) fs::remove(item);
   }
 
   static std::string Refusal(const std::string& name, const std::string& ending) {
@@ -199,10 +216,10 @@ class RenameBatch : public PluginHost {
       EXPECT_TRUE(fs::exists(folder_ / PathFromUtf8(after.Text() + ".1")));
       EXPECT_EQ(fs::exists(folder_ / PathFromUtf8(after.Text() + ".2")), row.renamed);
       const ModelName drawing{after.name, ModelKind::kDrawing};
-      EXPECT_EQ(host_.session.Find(drawing) != nullptr, row.has_drawing);
+      EXPECT_EQ(host_.session.Find(drawing) != nullptr, row.drawing != nullptr);
       if (!row.renamed) continue;
       ++renamed;
-      drawings += row.has_drawing ? 1 : 0;
+      drawings += row.drawing != nullptr ? 1 : 0;
       old_names.insert(row.before.Text());
       EXPECT_EQ(host_.session.Find(row.before), nullptr);
     }
@@ -214,7 +231,7 @@ class RenameBatch : public PluginHost {
   // After the top assembly is saved, the newest file of every model knows new names only, and there
   // is a file for no model but those that were there before.
   void CheckNoFileKnows(const std::set<std::string>& old_names) {
-    host_.session.Save(*host_.session.Find({"top", ModelKind::kAssembly}));
+    host_.session.SaveWithHeld(*host_.session.Find({"top", ModelKind::kAssembly}));
     const FolderIndex index(folder_);
     const std::vector<ModelName> models = index.Models();
     size_t elsewhere = 0;
@@ -224,12 +241,44 @@ class RenameBatch : public PluginHost {
     EXPECT_EQ(models.size(), host_.session.models().size() + elsewhere);
     for (const ModelName& model : models) {
       EXPECT_FALSE(old_names.contains(model.Text())) << model.Text();
-      if (model.name == "top") {
+      if (model.kind == ModelKind::kAssembly) {
         for (const std::string& name : old_names) EXPECT_FALSE(Holds(index.Newest(model), name));
       } else if (model.kind == ModelKind::kDrawing) {
         const Model& drawing = *host_.session.Find(model);
         EXPECT_TRUE(Holds(index.Newest(model), drawing.As<DrawingContent>()->shows->name.Text()));
       }
+    }
+  }
+
+  // What a batch must do, in this order: the trials, then the rows.
+  Lines Operations() const {
+    Lines all;
+    for (const Row& row : rows_) {
+      // No trial where a part of the name lies.
+      const bool is_tried = row.renamed && row.typed != "old_1";
+      if (is_tried) all.insert(all.end(), {"ProSolidCreate", "ProMdlSave", "ProMdlErase"});
+    }
+    for (const Row& row : rows_) {
+      if (!row.renamed) continue;
+      all.push_back("ProMdlRename");
+      if (row.drawing != nullptr) all.insert(all.end(), {"ProMdlRename", "ProMdlSave"});
+      all.push_back("ProMdlSave");
+    }
+    return all;
+  }
+
+  // Every model that is there has its files under its name, and nobody else has any.
+  void CheckFilesAreOfModels() {
+    std::set<std::string> expected = {"top.asm", "lying.asm", "lying.prt"};
+    for (const Row& row : rows_) {
+      expected.insert(row.model->id.Text());
+      if (row.drawing != nullptr) expected.insert(row.drawing->id.Text());
+    }
+    std::set<std::string> found;
+    for (const ModelName& model : FolderIndex(folder_).Models()) found.insert(model.Text());
+    EXPECT_EQ(found, expected);
+    for (const std::string& model : expected) {
+      EXPECT_TRUE(fs::exists(folder_ / PathFromUtf8(model + ".1"))) << model;
     }
   }
 
@@ -239,22 +288,97 @@ class RenameBatch : public PluginHost {
   std::vector<Row> rows_;
 };
 
+// Of 300: most are renamed, the others of every kind that lets a batch pass.
+Kind KindThatPasses(size_t i) {
+  if (i == 10) return Kind::kLongest;
+  if (i == 12 || i == 13) return Kind::kOfOtherType;
+  if (i % 11 == 5) return Kind::kEmpty;
+  return i % 7 == 6 ? Kind::kSame : Kind::kFresh;
+}
+
 TEST_F(RenameBatch, ThreeHundredModelsWithDrawingsAreRenamedOrNone) {
   Plugin plugin(Installed().dll());
   ASSERT_EQ(plugin.Start(), 0);
   Build(300);
-  for (size_t i = 0; i < rows_.size(); ++i) Give(i, i % 7 == 6 ? Kind::kSame : Kind::kFresh);
+  for (size_t i = 0; i < rows_.size(); ++i) Give(i, KindThatPasses(i));
   const std::vector<Row> good = rows_;
-  for (const Kind kind : {Kind::kTooLong, Kind::kNoBuffer, Kind::kOfEarlierRow, Kind::kIllegal}) {
+  // Of parts and of assemblies; most near the beginning, since those before them are all tried.
+  const std::pair<size_t, Kind> wrong[] = {
+      {299, Kind::kOfEarlierRow}, {297, Kind::kIllegal}, {4, Kind::kTooLong},
+      {3, Kind::kNoBuffer},       {4, Kind::kInSession}, {3, Kind::kInSession},
+      {4, Kind::kOnDisk},         {3, Kind::kOnDisk},    {4, Kind::kIllegal},
+      {3, Kind::kOfEarlierRow},
+  };
+  for (const auto& [row, kind] : wrong) {
     rows_ = good;
-    Give(299, kind);
+    Give(row, kind);
     const FolderSnapshot before(folder_);
     Run();
-    CheckRefused(before, rows_[299].refusal);
+    CheckRefused(before, rows_[row].refusal);
   }
   rows_ = good;
+  Lines operations;
+  user_.at_call = [&](const std::string& function) {
+    const bool is_one = function == "ProSolidCreate" || function == "ProMdlSave" ||
+                        function == "ProMdlErase" || function == "ProMdlRename";
+    if (is_one) operations.push_back(function);
+  };
+  Run();
+  user_.at_call = nullptr;
+  EXPECT_EQ(operations, Operations());
+  CheckDone();
+}
+
+// Whatever fails: no file of the user's goes, none of a trial stays, and the option is what the
+// outcome says.
+TEST_F(RenameBatch, NoFaultCostsAFileOrLeavesOne) {
+  Plugin plugin(Installed().dll());
+  ASSERT_EQ(plugin.Start(), 0);
+  const auto run = [&](const FaultPlan& fault) {
+    Empty();
+    Build(2);
+    for (size_t i = 0; i < rows_.size(); ++i) Give(i, Kind::kFresh);
+    host_.options["override_store_back"] = {"no"};
+    host_.faults.Order(fault);
+    Run();
+    const bool has_struck = host_.faults.struck() > 0;
+    host_.faults.Clear();
+    CheckFilesAreOfModels();
+    const bool is_done = Boxes() == Lines{"\t批量重命名操作已完成\t"};
+    EXPECT_EQ(host_.options["override_store_back"], Lines{is_done ? "no" : "yes"});
+    return has_struck;
+  };
+  for (const char* function :
+       {"ProMdlErase", "ProMdlSave", "ProSolidCreate", "ProMdlRename", "ProMdlRetrieve",
+        "ProConfigoptGet", "ProConfigoptSet", "ProDirectoryCurrentGet"}) {
+    for (const FaultKind kind : {FaultKind::kStatus, FaultKind::kEmptySuccess}) {
+      FaultPlan fault;
+      fault.function = function;
+      fault.kind = kind;
+      for (fault.nth = 1;; ++fault.nth) {
+        SCOPED_TRACE(fault.function + " " + std::to_string(fault.nth));
+        if (!run(fault)) break;
+      }
+      EXPECT_GT(fault.nth, 1) << function;
+    }
+  }
+}
+
+TEST_F(RenameBatch, AFullJournalMakesRoomForANewOne) {
+  Plugin plugin(Installed().dll());
+  ASSERT_EQ(plugin.Start(), 0);
+  const fs::path folder = Installed().work() / "Quillmax";
+  fs::create_directories(folder);
+  const std::string full(1024 * 1024 + 1, 'x');
+  std::ofstream(folder / "QmRename.txt", std::ios::binary | std::ios::trunc) << full;
+  Build(3);
+  for (size_t i = 0; i < rows_.size(); ++i) Give(i, Kind::kFresh);
   Run();
   CheckDone();
+  EXPECT_EQ(ReadFileBytes(folder / "QmRename.old.txt"), full);
+  const std::string journal = ReadFileBytes(folder / "QmRename.txt").value_or("");
+  EXPECT_NE(journal.find("\tmodels to rename: 3\r\n"), std::string::npos);
+  EXPECT_EQ(journal.find("xx"), std::string::npos);
 }
 
 TEST_F(RenameBatch, EachRowCostsTheSameNumberOfCalls) {
@@ -263,9 +387,7 @@ TEST_F(RenameBatch, EachRowCostsTheSameNumberOfCalls) {
   std::vector<long> calls;
   // The first batch gives the option its value.
   for (const int count : {3, 30, 60, 90}) {
-    while (!host_.session.models().empty()) host_.session.Erase(*host_.session.models().front());
-    for (const auto& item : fs::directory_iterator(folder_)) fs::remove(item);
-    rows_.clear();
+    Empty();
     Build(count);
     for (size_t i = 0; i < rows_.size(); ++i) Give(i, Kind::kFresh);
     calls.push_back(Run());

@@ -72,6 +72,32 @@ TEST(NewNameRules, OneNameForTwoModelsOfATypeIsTakenWhateverItsCase) {
   EXPECT_TRUE(ask(L"prt", L"screw2"));
 }
 
+TEST(NewNameRules, RowsThatAreReadAgainAreJudgedAgain) {
+  const auto refusal = [](std::vector<RenameRow> rows) {
+    return RefusalAtRename(rows).value_or(L"");
+  };
+  const RenameRow good = {L"1", L"bolt", L"prt", L"screw"};
+  EXPECT_EQ(refusal({good, {L"2", L"nut", L"drw", L"nut"}, {L"3", L"pin", L"asm", L"screw"}}), L"");
+  EXPECT_EQ(refusal({good, {L"2", L"nut", L"drw", L"nut_2"}}), IllegalRefusal(L"nut_2"));
+  EXPECT_EQ(refusal({good, {L"2", L"nut", L"prt", L"a*"}}), IllegalRefusal(L"a*"));
+  EXPECT_EQ(refusal({good, {L"2", L"nut", L"prt", L"Screw"}}), TakenRefusal(L"Screw"));
+  const std::wstring long_name(33, L'x');
+  EXPECT_EQ(refusal({{L"1", L"bolt", L"prt", long_name}, {L"2", L"nut", L"prt", L"a*"}}),
+            TooLongAtRename(long_name));
+}
+
+TEST(MovedNameRules, ARowOfANameThatIsGoneOrNewMeansAnotherModel) {
+  MovedNames moved;
+  moved.Add({L"1", L"bolt", L"prt", L"Mid"});
+  const auto holds = [&](const wchar_t* type, const wchar_t* old_name) {
+    return moved.HoldOldNameOf({L"2", old_name, type, L"last"});
+  };
+  EXPECT_TRUE(holds(L"prt", L"mid"));
+  EXPECT_TRUE(holds(L"prt", L"BOLT"));
+  EXPECT_FALSE(holds(L"asm", L"mid"));
+  EXPECT_FALSE(holds(L"prt", L"last"));
+}
+
 TEST(NewNameRules, OnlyBlanksAroundANameGo) {
   EXPECT_EQ(Trimmed(L"  a b "), L"a b");
   EXPECT_EQ(Trimmed(L"\ta"), L"\ta");

@@ -4,7 +4,9 @@
 #include "tests/workbench/api/drawing_contract.h"
 #include "workbench/base/utf8_text.h"
 #include "workbench/companion/companion.h"
+#include "workbench/session/extents.h"
 #include "workbench/sheet/dxf_reader.h"
+#include "workbench/step/import.h"
 
 namespace wb {
 namespace {
@@ -103,16 +105,55 @@ TEST_F(ExportContract, AFileOfAnotherFormatTellsWhatItStandsForAndHowItWasAskedF
             "This file stands for the DWG file of sheet 2 of plate.drw.\n"
             "Pro2dExport, type 34, sheet option 3, model-space sheet 2, dwg_export_format 2000.\n");
   EXPECT_EQ(Export2d(PRO_DWG_FILE, L"A-3", 3), PRO_TK_BAD_INPUTS);
-  std::wstring step = PathText(L"plate.stp");
+  std::wstring iges = PathText(L"plate.igs");
+  const auto write = [&](ProMdl model) {
+    return ProOutputFileWrite(model, PRO_IGES_3D_FILE, iges.data(), nullptr, nullptr, nullptr,
+                              nullptr);
+  };
+  EXPECT_EQ(write(plate_->handle), PRO_TK_NO_ERROR);
+  EXPECT_EQ(Content("plate.igs"),
+            "This file stands for the IGES file of plate.prt.\n"
+            "ProOutputFileWrite, type 21, no further arguments.\n");
+  EXPECT_EQ(write(drw_->handle), PRO_TK_INVALID_TYPE);
+}
+
+TEST_F(ExportContract, AStepFileIsReadAsTheModelItIsOfAlsoWithoutACompanion) {
+  host_.companion_is_missing = true;
+  std::wstring step = PathText(L"a");
   EXPECT_EQ(ProOutputFileWrite(plate_->handle, PRO_STEP_FILE, step.data(), nullptr, nullptr,
                                nullptr, nullptr),
             PRO_TK_NO_ERROR);
-  EXPECT_EQ(Content("plate.stp"),
-            "This file stands for the STEP file of plate.prt.\n"
-            "ProOutputFileWrite, type 22, no further arguments.\n");
-  EXPECT_EQ(ProOutputFileWrite(drw_->handle, PRO_IGES_3D_FILE, step.data(), nullptr, nullptr,
-                               nullptr, nullptr),
-            PRO_TK_INVALID_TYPE);
+  const ImportedModels read = ReadStepModels(folder_ / "a.stp");
+  ASSERT_EQ(read.models.size(), 1u);
+  EXPECT_EQ(read.models[0].id.Text(), "plate.prt");
+  EXPECT_EQ(ExtentsOf(read.models[0])->max, ExtentsOf(*plate_)->max);
+  EXPECT_TRUE(host_.events.All<ExportedFile>().at(0).is_real);
+}
+
+TEST_F(ExportContract, SatHasTheNumberThatTheHostIsTold) {
+  ProOutputBrepRepresentation brep = nullptr;
+  std::wstring file = PathText(L"plate");
+  const auto write = [&] {
+    return ProIntf3DFileWrite(static_cast<ProSolid>(plate_->handle), 40, file.data(),
+                              PRO_OUTPUT_ASSEMBLY_SINGLE_FILE, nullptr, brep, nullptr, nullptr);
+  };
+  const auto set = [&] {
+    return ProOutputBrepRepresentationFlagsSet(brep, PRO_B_FALSE, PRO_B_FALSE, PRO_B_TRUE,
+                                               PRO_B_TRUE);
+  };
+  Check({
+      {"representation", [&] { return ProOutputBrepRepresentationAlloc(&brep); }, PRO_TK_NO_ERROR},
+      {"no flags", write, PRO_TK_BAD_INPUTS,
+       "ProIntf3DFileWrite: a boundary representation without flags"},
+      {"flags", set, PRO_TK_NO_ERROR},
+      {"not its number", write, PRO_TK_UNSUPPORTED},
+  });
+  host_.writers.sat_type = 40;
+  EXPECT_EQ(write(), PRO_TK_NO_ERROR);
+  EXPECT_EQ(Content("plate.sat"),
+            "This file stands for the SAT file of plate.prt.\n"
+            "ProIntf3DFileWrite, type 40, one file, solid, quilts.\n");
+  EXPECT_EQ(ProOutputBrepRepresentationFree(brep), PRO_TK_NO_ERROR);
 }
 
 TEST_F(ExportContract, DrawingsWithoutAWindowAreExportedAsTheHostsHabitIs) {

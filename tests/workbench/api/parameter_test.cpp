@@ -1,4 +1,7 @@
 // Parameters keep their type and their name.
+#include <algorithm>
+#include <cstring>
+
 #include "tests/workbench/api/host_contract.h"
 
 namespace wb {
@@ -46,6 +49,33 @@ TEST_F(HostContract, ParametersKeepTheirTypeAndTheirName) {
   });
   EXPECT_EQ(std::get<double>(lid_->FindParameter("MASS")->value), 1.5);
   EXPECT_TRUE(lid_->modified);
+}
+
+// A plug-in whose record has no reserve has something of its own there.
+TEST_F(HostContract, NothingIsWrittenBehindTheRecordOfAParameter) {
+  constexpr unsigned char kOwn = 0xCC;
+  constexpr size_t kRecord = 96;
+  ProModelitem owner = LidItem();
+  ProName mass = L"MASS";
+  ProName fresh = L"NEW";
+  ProParamvalue three = Value(PRO_PARAM_INTEGER, 3);
+  unsigned char bytes[sizeof(ProParameter)];
+  auto* const place = reinterpret_cast<ProParameter*>(bytes);
+  const auto is_own_kept = [&] {
+    return std::all_of(bytes + kRecord, std::end(bytes), [](auto byte) { return byte == kOwn; });
+  };
+  std::memset(bytes, kOwn, sizeof(bytes));
+  EXPECT_EQ(ProParameterInit(&owner, mass, place), PRO_TK_NO_ERROR);
+  EXPECT_TRUE(is_own_kept());
+  EXPECT_EQ(ProParameterCreate(&owner, fresh, &three, place), PRO_TK_NO_ERROR);
+  EXPECT_TRUE(is_own_kept());
+  host_.faults.Order({.function = "", .nth = 1, .kind = FaultKind::kEmptySuccess});
+  EXPECT_EQ(ProParameterInit(&owner, mass, place), PRO_TK_NO_ERROR);
+  EXPECT_TRUE(is_own_kept());
+  host_.faults.Clear();
+  host_.habits.parameter_record_has_unknown_order = true;
+  EXPECT_EQ(ProParameterInit(&owner, mass, place), PRO_TK_NO_ERROR);
+  EXPECT_FALSE(is_own_kept());
 }
 
 }  // namespace

@@ -70,5 +70,36 @@ TEST_F(HostContract, DialogsAreKnownByNameAndTheirFieldsByKind) {
   EXPECT_EQ(state, PRO_B_TRUE);
 }
 
+TEST_F(HostContract, WhatAChoiceAnswersIsAHabit) {
+  WriteFile("text/resource/Choices.res",
+            "(Dialog Choices\n  (Components (OptionMenu kind) (RadioGroup range))\n  (Resources\n"
+            "    (.Layout (Grid (Rows 0 0) (Cols 1) kind range))\n"
+            "    (kind.Names \"text\" \"number\") (kind.Labels \"Text\" \"Number\")\n"
+            "    (kind.SelectedNames \"number\") (range.Names \"part\" \"assembly\")\n  )\n)\n");
+  const char* const dialog = "Choices";
+  ASSERT_EQ(ProUIDialogCreate(dialog, dialog), PRO_TK_NO_ERROR);
+  const auto kind = [&] {
+    wchar_t* text = nullptr;
+    EXPECT_EQ(ProUIOptionmenuValueGet(dialog, "kind", &text), PRO_TK_NO_ERROR);
+    const std::wstring answer = text == nullptr ? L"" : text;
+    ProWstringFree(text);
+    return answer;
+  };
+  const auto choices = [&] {
+    int count = -1;
+    char** names = nullptr;
+    const ProError status = ProUIRadiogroupSelectednamesGet(dialog, "range", &count, &names);
+    EXPECT_EQ(count, 0);
+    if (names != nullptr) ProStringarrayFree(names, count);
+    return status;
+  };
+  EXPECT_EQ(kind(), L"number");
+  EXPECT_EQ(choices(), PRO_TK_E_NOT_FOUND);
+  host_.habits.option_menu_answers_label = true;
+  host_.habits.radio_without_choice_succeeds = true;
+  EXPECT_EQ(kind(), L"Number");
+  EXPECT_EQ(choices(), PRO_TK_NO_ERROR);
+}
+
 }  // namespace
 }  // namespace wb

@@ -26,9 +26,16 @@ TEST(Faults, APairStrikesItsTwoCallsAndNoOther) {
 TEST(Faults, ALastingOneMaySpareWhatTellsOfItUnlessThatIsTheFirst) {
   Faults faults;
   faults.Order({.function = "", .nth = 2, .from_then_on = true, .spares_telling = true});
-  EXPECT_EQ(Struck(faults, {"A", "A", "MessageBoxW", "A", "CreateFileW"}), ".x.x.");
+  EXPECT_EQ(Struck(faults, {"A", "A", "MessageBoxW", "A", "CreateFileW"}), ".x.xx");
+  EXPECT_FALSE(faults.HasStruckTelling());
+  const bool is_of_run_log = true;
+  EXPECT_EQ(faults.Strike("CreateFileW", is_of_run_log), nullptr);
   faults.Order({.function = "", .nth = 1, .from_then_on = true, .spares_telling = true});
   EXPECT_EQ(Struck(faults, {"MessageBoxW", "MessageBoxW", "A"}), "x.x");
+  EXPECT_TRUE(faults.HasStruckTelling());
+  faults.Order({.function = "", .nth = 1});
+  EXPECT_NE(faults.Strike("WriteFile", is_of_run_log), nullptr);
+  EXPECT_TRUE(faults.HasStruckTelling());
 }
 
 }  // namespace

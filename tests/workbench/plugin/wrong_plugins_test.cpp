@@ -91,6 +91,11 @@ TEST_F(WrongPluginsDeathTest, ACrashNamesCommandPlaceAndLastHostCall) {
               "ProModeCurrentGet");
 }
 
+TEST_F(WrongPluginsDeathTest, ACallOfNothingIsToldByItsAddress) {
+  EXPECT_EXIT(RunWrong("null_jump"), testing::ExitedWithCode(3),
+              "plug-in crashed in Wrong at 0+ .in no module., last host call none");
+}
+
 TEST_F(WrongPluginsDeathTest, AnEndlessDescentNamesTheCommand) {
   EXPECT_EXIT(RunWrong("endless_descent"), testing::ExitedWithCode(3),
               "plug-in ran out of stack in Wrong at wrong_endless_descent.dll");

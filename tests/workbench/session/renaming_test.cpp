@@ -75,6 +75,33 @@ TEST_F(Renaming, UsersPointAtTheModelAndHaveWorkForTheirNextSave) {
   EXPECT_EQ(held(2), "screw");
 }
 
+TEST_F(Renaming, TheUsersSaveTakesTheChangedModelsUnderAnAssembly) {
+  Model& bolt = Add({"bolt", ModelKind::kPart});
+  Model& plate = Add({"plate", ModelKind::kPart});
+  Model& rotor = Add({"rotor", ModelKind::kAssembly});
+  rotor.solid().features.Add(NewComponent(1, bolt.id));
+  rotor.solid().features.Add(NewComponent(2, plate.id));
+  Model& pump = Add({"pump", ModelKind::kAssembly});
+  pump.solid().features.Add(NewComponent(1, rotor.id));
+  Model& other = Add({"other", ModelKind::kPart});
+  for (Model* model : {&bolt, &plate, &rotor, &pump, &other}) {
+    session_.Complete(*model);
+    session_.Save(*model);
+  }
+  session_.Rename(bolt, "screw");
+  other.modified = true;
+  session_.SaveWithHeld(pump);
+  EXPECT_EQ(rotor.version, 2);
+  const Model saved = ReadModelFile(folder_.path / "rotor.asm.2");
+  EXPECT_EQ(saved.FindFeature(1)->component->link.name.name, "screw");
+  EXPECT_EQ(pump.version, 2);
+  EXPECT_EQ(plate.version, 1);
+  EXPECT_EQ(other.version, 1);
+  EXPECT_FALSE(bolt.modified);
+  session_.SaveWithHeld(bolt);
+  EXPECT_EQ(rotor.version, 2);
+}
+
 TEST(LegalModelNames, AreLettersDigitsAndTwoSigns) {
   for (const char* name : {"a", "A-1_b", "螺栓_M8", "1001"}) EXPECT_TRUE(IsLegalModelName(name));
   EXPECT_TRUE(IsLegalModelName(std::string(31, 'x')));

@@ -96,6 +96,9 @@ TEST_F(RunReportTest, WritesPathsAsTheUsersOwnMachineDoes) {
     EXPECT_FALSE(Shows("C:\\")) << html_.substr(html_.find("C:\\"), 200);
     EXPECT_EQ(WithOwnPath("notepad.exe \"Z:\\tmp\" x"), "notepad.exe \"/tmp\" x");
     EXPECT_EQ(OwnPath("Z:\\nowhere at all\\a.ini"), "/nowhere at all/a.ini");
+    EXPECT_EQ(WithOwnPath("Z:\\tmp\\a: line 1; Z:\\tmp is no file\n\"Z:\\\\tmp\\\\b\""),
+              "/tmp/a: line 1; /tmp is no file\n\"/tmp/b\"");
+    EXPECT_EQ(WithOwnPath("\"D:\\\\t\\\\a.drw\" of D:\\t"), "\"D:\\\\t\\\\a.drw\" of D:\\t");
   }
   const std::string slash = own.starts_with("/") ? "/" : "\\";
   EXPECT_TRUE(Shows(slash + "desktop" + slash + "明细 表.xlsx</a>"));

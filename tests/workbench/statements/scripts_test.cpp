@@ -33,8 +33,9 @@ std::vector<fs::path> Scripts() {
 void ExpectPasses(const std::vector<std::string>& arguments) {
   const std::string text = OutputOf(TestBinaryFolder() / "workbench.exe", arguments)
                                .value_or("workbench.exe cannot be started");
-  if (text.find(": skipped, since ") != std::string::npos) GTEST_SKIP() << text;
+  // What came before it in a script that is skipped holds as well.
   EXPECT_NE(text.find(" passed, 0 failed"), std::string::npos) << text;
+  if (text.find(": skipped, since ") != std::string::npos) GTEST_SKIP() << text;
   EXPECT_EQ(text.find("\n0 passed"), std::string::npos) << text;
 }
 
@@ -179,6 +180,10 @@ TEST(ScriptRunner, AModelThatIsNotThereIsToldWithWhatLiesInTheFolder) {
       {"open nothing", "; the folder is empty; the script ends here\n"},
       {"write notes.txt x\nmake_folder old\nopen nothing",
        "; the folder holds no models, but notes.txt, old/; the script ends here\n"},
+      {"part nut\nsave nut\nerase nut\ncomponent pump <- nit",
+       "in session: bolt.prt, pump.asm; the working directory holds nut.prt; the script"},
+      {"part nut\nsave nut\nerase nut\nexpect parameter nothing P is missing",
+       "in session: bolt.prt, pump.asm; the working directory holds nut.prt; the script"},
       {"save all\nsave all\nopen blot",
        "; did you mean \"bolt\"?; the folder holds the models bolt.prt, pump.asm; the script ends "
        "here\n"},
@@ -248,6 +253,7 @@ TEST(FaultOptions, AreReadAndRefusedAsTheStatementIs) {
       {"any:1:empty:for_ever", "\"for_ever\" is one word too many; it wants"},
       {"allocation:0", "\"0\" is not a count from 1; it wants"},
       {"allocation:2:empty", "\"empty\" is one word too many; it wants"},
+      {"any:1:and:2", "STATUS is missing at its end; it wants"},
       {":1:empty", "neither the host nor the intercepted part of Windows has"},
   };
   for (const auto& item : cases) {
@@ -263,6 +269,15 @@ TEST(FaultOptions, AreReadAndRefusedAsTheStatementIs) {
   EXPECT_TRUE(FaultOption("allocation:3:from_then_on").from_then_on);
   EXPECT_EQ(FaultOption("any:5:empty").function, "");
   EXPECT_EQ(FaultOption("any:5:empty").kind, FaultKind::kEmptySuccess);
+  EXPECT_FALSE(FaultOption("any:5:empty").windows_too);
+  const FaultPlan pair = FaultOption("crossing:5:and:7:general_error");
+  EXPECT_EQ(pair.function, "");
+  EXPECT_TRUE(pair.windows_too);
+  EXPECT_EQ(pair.second_nth, 7);
+  EXPECT_EQ(pair.status, -1);
+  EXPECT_EQ(FaultOption("ProMdlNameGet:1:and:3:empty").second_nth, 3);
+  EXPECT_EQ(FaultOption("ProMdlNameGet:1:and:3:empty").kind, FaultKind::kEmptySuccess);
+  EXPECT_TRUE(FaultOption("crossing:1:bad_inputs:from_then_on:telling_spared").spares_telling);
 }
 
 TEST(FaultOptions, ThatStrikeInNoActionFailTheScript) {
@@ -296,6 +311,20 @@ TEST(AllocationSweeps, TellSuccessWithoutTheWorkAndWithoutAWord) {
   EXPECT_EQ(failures.find("qms:4: "), std::string::npos) << failures;
 }
 
+TEST(ScriptRunner, FailuresHaveThePathsOfTheUsersOwnMachine) {
+  if (FolderSlash() != "/") GTEST_SKIP() << "Windows has no other paths than its own";
+  for (const char* statement :
+       {"import nope.stp", "expect no file bolt.prt.1", "expect file nope.txt", "delete nope.txt",
+        "folder copy nope", "expect workbook nope.xlsx cell A1 is empty",
+        "write \"bolt.prt.2\" x\nerase bolt\nopen bolt",
+        "run QmOpenDir\nexpect shell explorer \"{folder}\\\\nope\""}) {
+    const std::string told =
+        FailuresOf("part bolt\nsave bolt\nopen bolt\n" + std::string(statement));
+    EXPECT_NE(told, "") << statement;
+    EXPECT_EQ(told.find(":\\"), std::string::npos) << told;
+  }
+}
+
 TEST(ScriptRunner, WhatFailedBeforeACrashIsToldAsWell) {
   const std::string told = FailuresOf("part bolt\nexpect parameters bolt 3\nrun Wrong\n",
                                       {"--plugin", WrongPlugin("crash")});
@@ -308,6 +337,31 @@ TEST(FaultSweeps, TellWhatIsWrittenOtherwiseWithoutAWord) {
       FailuresOf("part bolt\nopen bolt\nsweep Wrong\n", {"--plugin", WrongPlugin("blank_setting")});
   EXPECT_NE(failures.find("notes.ini [last] model became \"\""), std::string::npos) << failures;
   EXPECT_EQ(failures.find("does not put back"), std::string::npos) << failures;
+}
+
+TEST(FaultSweeps, TellFaultsAsTheStatementsThatRepeatThem) {
+  const std::vector<std::string> plugin = {"--plugin", WrongPlugin("blank_setting")};
+  const auto with = [&](const std::string& statements) {
+    return FailuresOf("part bolt\nopen bolt\n" + statements, plugin);
+  };
+  const std::string told = with("sweep Wrong\n");
+  const std::string fault = "fault crossing 2 status general_error";
+  EXPECT_NE(told.find(":3: " + fault + " at ProMdlCurrentGet ("), std::string::npos) << told;
+  EXPECT_EQ(with(fault + "\nrun Wrong\nexpect faults 1\nexpect calls ProMdlNameGet none\n"), "");
+  EXPECT_EQ(with("fault crossing 2 and 3 empty\nrun Wrong\nexpect faults 2\n"), "");
+  // The settings' entry, which is Windows'.
+  EXPECT_EQ(with("fault crossing 4 status general_error\nrun Wrong\nexpect status general_error\n"),
+            "");
+  EXPECT_NE(with("fault any 4 status general_error\nrun Wrong\n").find("did not strike"),
+            std::string::npos);
+}
+
+TEST(FaultSweeps, TellADialogThatCannotBeClosed) {
+  const std::string failures =
+      FailuresOf("part bolt\nopen bolt\nsweep Wrong\n", {"--plugin", WrongPlugin("no_way_out")});
+  EXPECT_NE(failures.find(" at ProMdlCurrentGet ("), std::string::npos) << failures;
+  EXPECT_NE(failures.find("the dialog AboutQm gives the user no way out"), std::string::npos)
+      << failures;
 }
 
 TEST(FaultSweeps, CountAnExpectationInsideAsAnotherThingThatMustHold) {
@@ -353,6 +407,23 @@ TEST(ScriptRunner, FunctionsAreWithheldFromOneScriptAlone) {
                {"run", withholds, PathToUtf8(scripts / "frame" / "set_directory.qms"), withholds})
           .value_or("it cannot be started");
   EXPECT_TRUE(Trimmed(output).ends_with(" passed, 0 failed")) << output;
+}
+
+TEST(ScriptRunner, FilesThatOnlyStandForTheHostsAreNamed) {
+  std::string script = "folder temp\npart p\ncompanion missing\n";
+  for (int i = 10; i < 32; ++i) {
+    const std::string name = "d" + std::to_string(i) + ".drw";
+    script += "drawing d" + std::to_string(i) + " of p size A4\nsave " + name + "\n";
+  }
+  script +=
+      "save p\nopen p\nrun QmExport with\ndialog QmExport\nuncheck DWGCheck\ncheck DXFCheck\n"
+      "press selAll\npress ApplyBt\nmessage caption \"\\t工程图批量导出已完成\"\nclose\nend\nend\n";
+  const std::string told = FailuresOf(script);
+  EXPECT_NE(told.find("22 files only stand for the host's: "), std::string::npos) << told;
+  EXPECT_NE(told.find("d10.dxf, "), std::string::npos) << told;
+  EXPECT_NE(told.find("d29.dxf and 2 others (the companion is missing)"), std::string::npos)
+      << told;
+  EXPECT_EQ(told.find("d30.dxf"), std::string::npos) << told;
 }
 
 TEST(ScriptRunner, NothingRunsOfAScriptWithErrors) {

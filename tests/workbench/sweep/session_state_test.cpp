@@ -52,6 +52,7 @@ TEST_F(SessionStates, EveryChangeOfADrawingIsSeenAndPutBack) {
 }
 
 TEST_F(SessionStates, EveryChangeAroundTheModelsIsSeenAndPutBack) {
+  std::filesystem::create_directories(folder_ / "lost" / "empty");
   const SessionSnapshot start(host_, {folder_});
   const SessionState before = Now();
   Session& session = host_.session;
@@ -63,10 +64,13 @@ TEST_F(SessionStates, EveryChangeAroundTheModelsIsSeenAndPutBack) {
   host_.options["pro_format_dir"] = {"E:"};
   WriteFile("last.ini", "[last]\r\nmodel=\r\n");
   WriteFile("new.txt", "new");
+  WriteFile("DWG/2000/a.dwg", "drawn");
+  std::filesystem::remove_all(folder_ / "lost");
   const Lines changed = Differences(before, Now());
   for (const std::string name :
-       {"window of box.drw", "current window", "active window", "selection", "working directory",
-        "new.prt modified", "option pro_format_dir", "last.ini [last] model", "file new.txt"}) {
+       {"folder DWG", "folder DWG\\2000", "folder lost\\empty", "window of box.drw",
+        "current window", "active window", "selection", "working directory", "new.prt modified",
+        "option pro_format_dir", "last.ini [last] model", "file new.txt"}) {
     EXPECT_TRUE(std::ranges::count(changed, name)) << name;
   }
   start.Restore(host_);
@@ -91,6 +95,19 @@ TEST_F(SessionStates, ComponentsAreSeenAndPutBack) {
   }
   start.Restore(host_);
   EXPECT_EQ(NotPutBack(before, Now()), Lines());
+}
+
+TEST_F(SessionStates, WhatIsRegisteredIsComparedWholeAndFoldersAreToldApart) {
+  host_.commands.commands.emplace_back().name = "QmBom";
+  host_.commands.FindMenu("Help")->buttons.emplace_back().name = "QmBom";
+  WriteFile("desk/a.txt", "first");
+  WriteFile("a.txt", "first");
+  const auto now = [&] { return StateNow(host_, {folder_, folder_ / "desk"}); };
+  const SessionState before = now();
+  host_.commands.commands.back().icon = "Bom.png";
+  host_.commands.FindMenu("Help")->buttons.back().label_key = "Bom";
+  WriteFile("a.txt", "second");
+  EXPECT_EQ(Differences(before, now()), (Lines{"command QmBom", "file a.txt", "menu Help"}));
 }
 
 TEST_F(SessionStates, WhatIsNotPutBackIsNamed) {

@@ -169,6 +169,7 @@ TEST_F(ImportHooks, AFaultMakesEachCallFailInItsOwnWay) {
       {"SaveFile", "GetSaveFileNameW", FALSE},
       {"OpenNul", "CreateFileW", ERROR_ACCESS_DENIED},
       {"DeleteNothing", "DeleteFileW", ERROR_ACCESS_DENIED},
+      {"LookAtFile", "GetFileAttributesExW", ERROR_ACCESS_DENIED},
       {"OpenClipboard", "OpenClipboard", ERROR_ACCESS_DENIED},
       {"CurrentFolder", "GetCurrentDirectoryW", ERROR_ACCESS_DENIED},
       {"OwnFile", "GetModuleFileNameW", ERROR_MOD_NOT_FOUND},
@@ -195,6 +196,18 @@ TEST_F(ImportHooks, FaultsOfAnyFunctionSpareWindowsUnlessThePlanSaysSo) {
   EXPECT_EQ(Run("Box"), IDNO);
   host_.faults.Order({.function = "", .windows_too = true, .nth = 1});
   EXPECT_EQ(Run("Box"), 0);
+}
+
+TEST_F(ImportHooks, AFileThatIsNotTheRunLogIsNotSparedByWhatSparesTelling) {
+  host_.windows.local_app_folder = folder_;
+  host_.faults.Order({.function = "",
+                      .windows_too = true,
+                      .nth = 1,
+                      .from_then_on = true,
+                      .spares_telling = true});
+  EXPECT_EQ(Run("DeleteNothing"), ERROR_ACCESS_DENIED);
+  EXPECT_EQ(Run("OpenNul"), ERROR_ACCESS_DENIED);
+  EXPECT_FALSE(host_.faults.HasStruckTelling());
 }
 
 TEST_F(ImportHooks, AWithheldHostFunctionIsMissingForThePlugin) {

@@ -157,6 +157,11 @@ int DeleteNothing() {
   return LastErrorUnless(::DeleteFileW(L"C:\\nothing here"));
 }
 
+int LookAtFile() {
+  WIN32_FILE_ATTRIBUTE_DATA data = {};
+  return LastErrorUnless(::GetFileAttributesExW(L"C:\\", GetFileExInfoStandard, &data));
+}
+
 int OpenAndCloseClipboard() {
   const int error = LastErrorUnless(::OpenClipboard(nullptr));
   if (error == 0) ::CloseClipboard();
@@ -206,6 +211,7 @@ void RegisterCommands() {
   Register<&NumberByValue>("NumberByValue");
   Register<&OpenFile>("OpenNul");
   Register<&DeleteNothing>("DeleteNothing");
+  Register<&LookAtFile>("LookAtFile");
   Register<&OpenAndCloseClipboard>("OpenClipboard");
   Register<&CurrentFolder>("CurrentFolder");
   Register<&OwnFile>("OwnFile");

@@ -1,7 +1,6 @@
 // Stamps into outcomes.
-#include "export/drawings/export_outcome_rules.h"
+#include "export/files/export_outcome_rules.h"
 
-#include <ranges>
 #include <unordered_map>
 
 #include "frame/text/letter_case.h"
@@ -10,24 +9,30 @@ namespace qm {
 
 FileOutcome OutcomeOf(const FileWriting& writing) {
   if (!writing.after) return FileOutcome::kMissing;
-  const bool is_new = writing.after != writing.before;
-  if (!is_new && !(writing.replaces_own && writing.is_accepted)) return FileOutcome::kOld;
+  if (writing.after == writing.before) return FileOutcome::kOld;
   return writing.after->size == 0 ? FileOutcome::kEmpty : FileOutcome::kWritten;
 }
 
-void MarkWrittenOver(std::vector<ExpectedFile*> files) {
+void MarkWrittenOver(const std::vector<ExpectedFile*>& files) {
   std::unordered_map<std::wstring, const ExpectedFile*> later;
-  for (ExpectedFile* file : std::views::reverse(files)) {
+  for (size_t i = files.size(); i > 0; --i) {
+    ExpectedFile& file = *files[i - 1];
     const bool has_changed =
-        file->outcome == FileOutcome::kWritten || file->outcome == FileOutcome::kEmpty;
+        file.outcome == FileOutcome::kWritten || file.outcome == FileOutcome::kEmpty;
     if (!has_changed) continue;
-    const auto [found, is_last] = later.emplace(LowerCased(file->path), file);
-    if (is_last) continue;
+    const auto [found, is_last] = later.emplace(LowerCased(file.path), &file);
+    if (is_last || file.outcome == FileOutcome::kEmpty) continue;
     const ExpectedFile& over = *found->second;
     const bool is_same =
-        !file->model.empty() && file->model == over.model && over.outcome != FileOutcome::kEmpty;
-    file->outcome = is_same ? FileOutcome::kWrittenAgain : FileOutcome::kWrittenOver;
+        !file.model.empty() && file.model == over.model && over.outcome != FileOutcome::kEmpty;
+    file.outcome = is_same ? FileOutcome::kWrittenAgain : FileOutcome::kWrittenOver;
   }
+}
+
+FileOutcome OutcomeAtEnd(FileOutcome outcome, const std::optional<FileStamp>& stamp) {
+  if (!IsThere(outcome)) return outcome;
+  if (!stamp) return FileOutcome::kMissing;
+  return stamp->size == 0 ? FileOutcome::kEmpty : outcome;
 }
 
 bool IsThere(FileOutcome outcome) {

@@ -7,7 +7,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "export/drawings/export_outcome_rules.h"
+#include "export/files/export_outcome_rules.h"
 #include "toolkit/types.h"
 
 namespace qm {
@@ -15,8 +15,9 @@ namespace qm {
 // Nothing when there is no such file.
 std::optional<FileStamp> StampOf(const std::wstring& path);
 
-// Kept until the end, since only then is known which files were written over. The lines go into the
-// run log at the latest when the record ends.
+// What is not written is told at once, for a host that does not live to the end; what is, at the
+// end, since only then is known what of it is still there. The lines go into the run log at the
+// latest when the record ends.
 class ExportRecord {
  public:
   ExportRecord() = default;
@@ -29,8 +30,8 @@ class ExportRecord {
     std::wstring model;  // see ExpectedFile
     std::wstring of;     // what the log says behind the path; may be empty
   };
-  // Has `write` write the file.
-  void Write(const File& file, const std::function<ProError()>& write);
+  // Has `write` write the file, and tells what has become of it so far.
+  FileOutcome Write(const File& file, const std::function<ProError()>& write);
   // A file that is not written, and why.
   void AddUnwritten(const File& file, const char* reason);
 
@@ -43,9 +44,12 @@ class ExportRecord {
     std::wstring of;
     ExpectedFile file;
     const char* answer;  // the host's, or why it was not asked
+    bool is_told = false;
   };
 
+  void Add(Entry entry);
   void LogLines();
+  static void LogLine(Entry* entry);
 
   std::vector<Entry> entries_;
   std::unordered_set<std::wstring> written_paths_;  // lower case

@@ -25,13 +25,10 @@ enum class FileOutcome {
   kOld,  // missing, but a file of this name from before is there
 };
 
+// A file's stamps around its writing: the same ones are proof that nothing was written.
 struct FileWriting {
   std::optional<FileStamp> before;
   std::optional<FileStamp> after;
-  bool is_accepted = false;  // the host says success
-  // A file of this run had the name before. Then the stamps may be the same: clocks of file systems
-  // are too slow to tell two small files apart that are written one after the other.
-  bool replaces_own = false;
 };
 FileOutcome OutcomeOf(const FileWriting& writing);
 
@@ -41,8 +38,11 @@ struct ExpectedFile {
       model;  // what a file of the same path and the same model is the same as; may be empty
   FileOutcome outcome = FileOutcome::kMissing;
 };
-// Marks those that later ones of the list, in whatever case of letters, have written over.
-void MarkWrittenOver(std::vector<ExpectedFile*> files);
+// Marks the written ones that later ones of the list, in whatever case of letters, have written
+// over.
+void MarkWrittenOver(const std::vector<ExpectedFile*>& files);
+// What is left of it at the end of the run: a later attempt at the name may have lost the file.
+FileOutcome OutcomeAtEnd(FileOutcome outcome, const std::optional<FileStamp>& stamp);
 
 // Whether the user has the file.
 bool IsThere(FileOutcome outcome);

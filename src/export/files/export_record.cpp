@@ -1,5 +1,5 @@
 // Looks at files before and after they are written.
-#include "export/drawings/export_record.h"
+#include "export/files/export_record.h"
 
 #include <windows.h>
 
@@ -16,9 +16,26 @@
 namespace qm {
 namespace {
 
+constexpr int kWordBits = 32;
+
+// Two seconds of Windows' file times. A file of this run is made so much older before it is written
+// again: clocks of file systems are too slow to tell two small files apart that are written one
+// after the other.
+constexpr std::uint64_t kAgeing = 20'000'000;
+
 constexpr std::uint64_t Joined(DWORD high, DWORD low) {
-  constexpr int kBits = 32;
-  return (static_cast<std::uint64_t>(high) << kBits) | low;
+  return (static_cast<std::uint64_t>(high) << kWordBits) | low;
+}
+
+// Where this fails, a file written again may pass for the one of before, not the other way round.
+void SetTime(const std::wstring& path, std::uint64_t time) {
+  constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const HANDLE file = ::CreateFileW(path.c_str(), FILE_WRITE_ATTRIBUTES, kShared, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return;
+  const FILETIME written = {static_cast<DWORD>(time), static_cast<DWORD>(time >> kWordBits)};
+  ::SetFileTime(file, nullptr, nullptr, &written);
+  ::CloseHandle(file);
 }
 
 }  // namespace
@@ -39,23 +56,36 @@ ExportRecord::~ExportRecord() {
   }
 }
 
-void ExportRecord::Write(const File& file, const std::function<ProError()>& write) {
-  FileWriting writing;
+FileOutcome ExportRecord::Write(const File& file, const std::function<ProError()>& write) {
   std::wstring key = LowerCased(file.path);
-  writing.replaces_own = written_paths_.contains(key);
-  writing.before = StampOf(file.path);
+  FileStamp own;
+  if (written_paths_.contains(key)) own = StampOf(file.path).value_or(own);
+  if (own.time > kAgeing) SetTime(file.path, own.time - kAgeing);
+  const auto before = StampOf(file.path);
   const ProError status = write();
-  writing.is_accepted = Ok(status);
-  writing.after = StampOf(file.path);
-  const FileOutcome outcome = OutcomeOf(writing);
-  entries_.push_back({file.of, {file.path, file.model, outcome}, StatusName(status)});
+  const auto after = StampOf(file.path);
+  const FileOutcome outcome = OutcomeOf({before, after});
+  if (own.time > kAgeing && outcome == FileOutcome::kOld) SetTime(file.path, own.time);
+  Add({file.of, {file.path, file.model, outcome}, StatusName(status)});
   if (outcome == FileOutcome::kWritten || outcome == FileOutcome::kEmpty) {
     written_paths_.insert(std::move(key));
   }
+  return outcome;
 }
 
 void ExportRecord::AddUnwritten(const File& file, const char* reason) {
-  entries_.push_back({file.of, {file.path, file.model, FileOutcome::kMissing}, reason});
+  Add({file.of, {file.path, file.model, FileOutcome::kMissing}, reason});
+}
+
+void ExportRecord::Add(Entry entry) {
+  entries_.push_back(std::move(entry));
+  if (!IsThere(entries_.back().file.outcome)) LogLine(&entries_.back());
+}
+
+void ExportRecord::LogLine(Entry* entry) {
+  if (std::exchange(entry->is_told, true)) return;
+  const std::string line = ToUtf8(entry->file.path + entry->of) + ": ";
+  LogEvent(line + OutcomeText(entry->file.outcome) + " (" + entry->answer + ")");
 }
 
 void ExportRecord::LogLines() {
@@ -63,10 +93,11 @@ void ExportRecord::LogLines() {
   std::vector<ExpectedFile*> files;
   files.reserve(entries_.size());
   for (Entry& entry : entries_) files.push_back(&entry.file);
-  MarkWrittenOver(std::move(files));
-  for (const Entry& entry : entries_) {
-    std::string line = ToUtf8(entry.file.path + entry.of) + ": ";
-    LogEvent(line + OutcomeText(entry.file.outcome) + " (" + entry.answer + ")");
+  MarkWrittenOver(files);
+  for (Entry& entry : entries_) {
+    if (entry.is_told) continue;
+    entry.file.outcome = OutcomeAtEnd(entry.file.outcome, StampOf(entry.file.path));
+    LogLine(&entry);
   }
 }
 

@@ -1,5 +1,5 @@
 // What is believed of files that were to be written.
-#include "export/drawings/export_outcome_rules.h"
+#include "export/files/export_outcome_rules.h"
 
 #include <gtest/gtest.h>
 
@@ -11,22 +11,21 @@ constexpr FileStamp kToday = {100, 2000};
 constexpr FileStamp kEmptyToday = {0, 2000};
 
 TEST(ExportOutcome, YesterdaysFileIsNotTodays) {
-  EXPECT_EQ(OutcomeOf({std::nullopt, kToday, true, false}), FileOutcome::kWritten);
-  EXPECT_EQ(OutcomeOf({kYesterday, kToday, true, false}), FileOutcome::kWritten);
-  EXPECT_EQ(OutcomeOf({kYesterday, kYesterday, true, false}), FileOutcome::kOld);
-  EXPECT_EQ(OutcomeOf({std::nullopt, std::nullopt, true, false}), FileOutcome::kMissing);
-  EXPECT_EQ(OutcomeOf({kYesterday, std::nullopt, true, false}), FileOutcome::kMissing);
-  EXPECT_EQ(OutcomeOf({kYesterday, kEmptyToday, true, false}), FileOutcome::kEmpty);
+  EXPECT_EQ(OutcomeOf({std::nullopt, kToday}), FileOutcome::kWritten);
+  EXPECT_EQ(OutcomeOf({kYesterday, kToday}), FileOutcome::kWritten);
+  EXPECT_EQ(OutcomeOf({kYesterday, kYesterday}), FileOutcome::kOld);
+  EXPECT_EQ(OutcomeOf({std::nullopt, std::nullopt}), FileOutcome::kMissing);
+  EXPECT_EQ(OutcomeOf({kYesterday, std::nullopt}), FileOutcome::kMissing);
+  EXPECT_EQ(OutcomeOf({kYesterday, kEmptyToday}), FileOutcome::kEmpty);
 }
 
-TEST(ExportOutcome, AFileIsBelievedMoreThanTheHostsFailure) {
-  EXPECT_EQ(OutcomeOf({kYesterday, kToday, false, false}), FileOutcome::kWritten);
-  EXPECT_EQ(OutcomeOf({std::nullopt, kEmptyToday, false, false}), FileOutcome::kEmpty);
-}
-
-TEST(ExportOutcome, OfTheRunsOwnFileASlowClockIsNoProof) {
-  EXPECT_EQ(OutcomeOf({kToday, kToday, true, true}), FileOutcome::kWritten);
-  EXPECT_EQ(OutcomeOf({kToday, kToday, false, true}), FileOutcome::kOld);
+TEST(ExportOutcome, AtTheEndOnlyWhatIsStillThereCounts) {
+  using enum FileOutcome;
+  EXPECT_EQ(OutcomeAtEnd(kWritten, kToday), kWritten);
+  EXPECT_EQ(OutcomeAtEnd(kWrittenAgain, std::nullopt), kMissing);
+  EXPECT_EQ(OutcomeAtEnd(kWritten, kEmptyToday), kEmpty);
+  EXPECT_EQ(OutcomeAtEnd(kOld, std::nullopt), kOld);
+  EXPECT_EQ(OutcomeAtEnd(kWrittenOver, kToday), kWrittenOver);
 }
 
 std::vector<FileOutcome> Marked(std::vector<ExpectedFile> files) {
@@ -45,6 +44,7 @@ TEST(ExportOutcome, ALaterFileOfTheSameNameIsTheOneThatIsThere) {
   EXPECT_EQ(Marked({{L"a", L"", kWritten}, {L"a", L"", kOld}}), (std::vector{kWritten, kOld}));
   EXPECT_EQ(Marked({{L"a", L"", kWritten}, {L"a", L"", kEmpty}}),
             (std::vector{kWrittenOver, kEmpty}));
+  EXPECT_EQ(Marked({{L"a", L"", kEmpty}, {L"a", L"", kWritten}}), (std::vector{kEmpty, kWritten}));
 }
 
 TEST(ExportOutcome, OfTheSameModelNothingIsLost) {
