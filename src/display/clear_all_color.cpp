@@ -5,7 +5,7 @@
 #include <string>
 
 #include "display/clear_all_macro.h"
-#include "toolkit/macro.h"
+#include "toolkit/command.h"
 
 namespace qm {
 

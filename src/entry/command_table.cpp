@@ -36,7 +36,6 @@
 #include "drawing/create/new_draw.h"
 #include "drawing/create/new_drw.h"
 #include "drawing/create/twe_views.h"
-#include "entry/not_in_build.h"
 #include "export/bill/bom.h"
 #include "export/components/ex_igs.h"
 #include "export/components/ex_sat.h"
@@ -152,19 +151,6 @@ constexpr bool RowsAreFilled() {
   });
 }
 static_assert(RowsAreFilled());
-
-// A command says that it is not in this build exactly when the list of those says so.
-constexpr bool NotInBuildListIsExact() {
-  const auto is_listed = [](const CommandRow& row) {
-    return std::ranges::find(kNotInBuild, std::string_view(row.name)) != std::end(kNotInBuild);
-  };
-  const auto listed = std::ranges::count_if(kCommandTable, is_listed);
-  return static_cast<std::size_t>(listed) == std::size(kNotInBuild) &&
-         std::ranges::all_of(kCommandTable, [&](const CommandRow& row) {
-           return (row.action == &NotInBuild) == is_listed(row);
-         });
-}
-static_assert(NotInBuildListIsExact());
 
 template <std::size_t Row>
 int RunRow(uiCmdCmdId, uiCmdValue*, void*) noexcept {

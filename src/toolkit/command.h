@@ -1,4 +1,4 @@
-// Commands, menus, popup menus and notifications.
+// Commands, menus, popup menus, notifications, and macros.
 #pragma once
 
 #include "toolkit/host_function.h"
@@ -43,3 +43,7 @@ PRO_FUNCTION(ProError, ProPopupmenuButtonAdd, ProPopupMenuId menu, int position,
 
 // A null callback removes the notification.
 PRO_FUNCTION(ProError, ProNotificationSet, ProNotifyType type, ProFunction callback);
+
+// The macro is copied and queued: it runs after the command, and the answer says nothing of its
+// success.
+PRO_FUNCTION(ProError, ProMacroLoad, wchar_t* macro);

@@ -22,7 +22,6 @@ inline constexpr const char* kDeclaredName = nullptr;
 #include "toolkit/export_3d.h"
 #include "toolkit/feature.h"
 #include "toolkit/geometry.h"
-#include "toolkit/macro.h"
 #include "toolkit/message.h"
 #include "toolkit/model.h"
 #include "toolkit/parameter.h"

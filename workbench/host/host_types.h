@@ -15,7 +15,6 @@
 #include "toolkit/export_3d.h"
 #include "toolkit/feature.h"
 #include "toolkit/geometry.h"
-#include "toolkit/macro.h"
 #include "toolkit/message.h"
 #include "toolkit/model.h"
 #include "toolkit/parameter.h"

@@ -1,5 +1,5 @@
-// `workbench commands`: the plug-in's menu, where each command is available, and whether it is
-// built; for people, or as the table of a README.
+// `workbench commands`: the plug-in's menu, and where each command is available; for people, or as
+// the table of a README.
 #include <algorithm>
 #include <cstdio>
 
@@ -13,53 +13,35 @@
 namespace wb {
 namespace {
 
-// What a command says that is registered but not built yet.
-constexpr const char* kNotBuilt = "\t此命令不在当前版本中。\t";
-
 constexpr size_t kNameWidth = 23;
-constexpr size_t kBuiltWidth = 7;
 constexpr size_t kModeWidth = 15;
 
 struct ListedCommand {
   const MenuButton* button;
   std::vector<const ModeColumn*> modes;  // in which it is available
-  bool built = false;
 };
 
 std::string Padded(const std::string& text, size_t width) {
   return text + std::string(width - std::min(width, WideLength(text)), ' ');
 }
 
-// Picks the command as a user would who answers nothing and closes every dialog.
-bool IsBuilt(ScriptRun& run, const std::string& command, const ModeColumn& mode) {
-  run.host.forced_mode = mode.mode;
-  const size_t mark = run.host.events.Mark();
-  RunCommand(command);
-  const auto boxes = run.host.events.Since<MessageBox>(mark);
-  return std::ranges::none_of(boxes, [](const MessageBox& box) { return box.text == kNotBuilt; });
-}
-
-ListedCommand Listed(ScriptRun& run, const MenuButton& button) {
+ListedCommand Listed(Host& host, const MenuButton& button) {
   ListedCommand listed{&button, {}};
   const std::string& command = button.command->name;
   for (const ModeColumn& mode : ModeColumns()) {
-    if (IsAvailableIn(run.host, command, mode)) listed.modes.push_back(&mode);
+    if (IsAvailableIn(host, command, mode)) listed.modes.push_back(&mode);
   }
-  listed.built = !listed.modes.empty() && IsBuilt(run, command, *listed.modes.front());
   return listed;
 }
 
 void PrintMenu(const Menu& menu, const std::vector<ListedCommand>& commands) {
-  const auto built = std::ranges::count_if(commands, &ListedCommand::built);
-  std::string title = Padded("command", kNameWidth) + Padded("built", kBuiltWidth);
+  std::string title = Padded("command", kNameWidth);
   for (const ModeColumn& mode : ModeColumns()) title += Padded(mode.word, kModeWidth);
-  std::printf("%s: %zu commands, %zu of them built\n%slabel\n",
-              MenuLabel(menu.label_key, menu.message_file).c_str(), commands.size(),
-              static_cast<size_t>(built), title.c_str());
+  std::printf("%s: %zu commands\n%slabel\n", MenuLabel(menu.label_key, menu.message_file).c_str(),
+              commands.size(), title.c_str());
   for (const ListedCommand& command : commands) {
     const MenuButton& button = *command.button;
     std::string row = Padded(button.command->name, kNameWidth);
-    row += Padded(command.built ? "yes" : "-", kBuiltWidth);
     for (const ModeColumn& mode : ModeColumns()) {
       const bool available = std::ranges::count(command.modes, &mode) != 0;
       row += Padded(available ? "yes" : "-", kModeWidth);
@@ -74,23 +56,20 @@ struct TableWords {
   const char* host_language;  // of the help texts
   const char* title;
   const char* always;
-  const char* yes;
   const char* comma;
   const char* modes[5];  // as ModeColumns has them
 };
 constexpr TableWords kTableWords[] = {
     {"english",
      "usascii",
-     "| # | command | label | what it does | available in | built |",
+     "| # | command | label | what it does | available in |",
      "always",
-     "yes",
      ", ",
      {"part", "assembly", "manufacturing", "drawing", "none"}},
     {"chinese",
      "chinese_cn",
-     "| # | 命令 | 名称 | 作用 | 可用模式 | 已实现 |",
+     "| # | 命令 | 名称 | 作用 | 可用模式 |",
      "总是可用",
-     "是",
      "、",
      {"零件", "组件", "制造", "工程图", "无模型"}},
 };
@@ -118,15 +97,14 @@ std::string ModesText(const ListedCommand& command, const TableWords& words) {
 }
 
 void PrintTable(Host& host, const std::vector<ListedCommand>& commands, const TableWords& words) {
-  std::printf("%s\n|---|---|---|---|---|---|\n", words.title);
+  std::printf("%s\n|---|---|---|---|---|\n", words.title);
   for (size_t i = 0; i < commands.size(); ++i) {
     const MenuButton& button = *commands[i].button;
     const std::string label = TextIn(host, "chinese_cn", button.label_key, button.message_file);
     const std::string help =
         TextIn(host, words.host_language, button.help_key, button.message_file);
-    std::printf("| %zu | `%s` | %s | %s | %s | %s |\n", i + 1, button.command->name.c_str(),
-                label.c_str(), help.c_str(), ModesText(commands[i], words).c_str(),
-                commands[i].built ? words.yes : "");
+    std::printf("| %zu | `%s` | %s | %s | %s |\n", i + 1, button.command->name.c_str(),
+                label.c_str(), help.c_str(), ModesText(commands[i], words).c_str());
   }
 }
 
@@ -144,11 +122,10 @@ int ListCommandsCommand(const CommandArguments& arguments) {
   ScriptRun run("commands", options, record);
   if (line.Has("--english")) run.host.language = "usascii";
   run.EnsureStarted();
-  run.lenient = true;
   for (const Menu& menu : run.host.commands.menus) {
     if (menu.buttons.empty()) continue;
     std::vector<ListedCommand> commands;
-    for (const MenuButton& button : menu.buttons) commands.push_back(Listed(run, button));
+    for (const MenuButton& button : menu.buttons) commands.push_back(Listed(run.host, button));
     if (table != nullptr) {
       PrintTable(run.host, commands, *table);
     } else {

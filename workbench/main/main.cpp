@@ -33,7 +33,7 @@ constexpr Subcommand kSubcommands[] = {
                  "    runs the commands whose allocations a script sweeps for the first time, each time in\n"
                  "    a process of its own with another allocation failed", &MemoryCommand},
     {"commands", "commands [--english] [--markdown english|chinese] [--plugin DLL] [--install DIR]\n"
-                 "    lists the plug-in's menu, which commands are built and where each is available;\n"
+                 "    lists the plug-in's commands and where each is available;\n"
                  "    with --markdown as the table of a README", &ListCommandsCommand},
     {"bench",    "bench [options]\n"
                  "    measures how the commands grow with the assembly; see bench --help", &BenchCommand},

@@ -10,7 +10,7 @@
 #include "frame/guard/host_release.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/model_name.h"
-#include "toolkit/macro.h"
+#include "toolkit/command.h"
 #include "toolkit/owners.h"
 
 namespace qm {

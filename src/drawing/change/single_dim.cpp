@@ -8,7 +8,7 @@
 #include "frame/messages/message_box.h"
 #include "frame/settings/config.h"
 #include "frame/settings/text_file.h"
-#include "toolkit/macro.h"
+#include "toolkit/command.h"
 
 namespace qm {
 

@@ -1,4 +1,5 @@
 // Host functions that put components into assemblies and place them there.
+#include "workbench/api/matrix.h"
 #include "workbench/assembly/merging.h"
 #include "workbench/host/arguments.h"
 #include "workbench/session/extents.h"
@@ -13,19 +14,6 @@ struct AssemblyIn : SolidIn {
     if (model.id.kind != ModelKind::kAssembly)
       call.Fail("a part given where an assembly is needed");
     return model;
-  }
-};
-
-struct MatrixIn {
-  const double (*rows)[4];
-  std::string Describe() const { return DescribeArgument(static_cast<const void*>(rows)); }
-  Placement Look(const Call& call) const {
-    call.Place(rows, "matrix");
-    Placement placement{};
-    for (size_t row = 0; row < placement.size(); ++row) {
-      std::copy(rows[row], rows[row] + placement[row].size(), placement[row].begin());
-    }
-    return placement;
   }
 };
 
