@@ -121,8 +121,8 @@ using GeometryData = Owner<ProGeomitemdata*, &release::Geometry>;
 // Number of elements of one of the host's arrays, 0 for no array; nothing when the host does not
 // tell.
 inline std::optional<int> ToldArraySize(ProArray array) {
-  int size = 0;
-  if (array == nullptr) return size;
+  if (array == nullptr) return 0;
+  int size = -1;  // what a success that tells nothing leaves
   const bool is_told = Ok(ProArraySizeGet(array, &size)) && size >= 0;
   return is_told ? std::optional(size) : std::nullopt;
 }

@@ -14,15 +14,22 @@ void LogUnread(const char* function, ProError status) {
 
 }  // namespace
 
-std::optional<Preselected> ReadPreselection() {
+PreselectionAnswer AskPreselection() {
   SelectionArray selected;
   const ProError status = ProSelbufferSelectionsGet(selected.put());
   if (!Ok(status) && status != PRO_TK_E_NOT_FOUND) LogUnread("ProSelbufferSelectionsGet", status);
-  if (!Ok(status)) return std::nullopt;
+  if (!Ok(status)) return {};
   const auto count = ToldArraySize(selected.get());
-  if (!count) LogUnread("ProArraySizeGet", PRO_TK_GENERAL_ERROR);
-  if (count.value_or(0) < 1) return std::nullopt;
-  return Preselected(std::move(selected), *count);
+  if (!count) {
+    LogUnread("ProArraySizeGet", PRO_TK_GENERAL_ERROR);
+    return {std::nullopt, true};
+  }
+  if (*count < 1) return {};
+  return {Preselected(std::move(selected), *count), false};
+}
+
+std::optional<Preselected> ReadPreselection() {
+  return AskPreselection().items;
 }
 
 std::optional<ProModelitem> ItemOf(ProSelection selection) {

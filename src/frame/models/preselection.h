@@ -20,6 +20,13 @@ class Preselected {
   int count_;
 };
 
+struct PreselectionAnswer {
+  std::optional<Preselected> items;
+  bool is_unreadable = false;  // there are items, but how many is not told
+};
+// For commands that take everything where nothing is preselected.
+PreselectionAnswer AskPreselection();
+
 // What is preselected; nothing when the buffer cannot be read. Deliberately a success without
 // selections counts as such a failure: hosts answer an empty buffer either way.
 std::optional<Preselected> ReadPreselection();

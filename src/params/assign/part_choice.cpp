@@ -13,6 +13,7 @@ namespace qm {
 namespace {
 
 constexpr wchar_t kNotAllocated[] = L"ProArray Alloc error";
+constexpr ProFeattype kNoFeatureType = -1;
 
 // What is said of one assembly.
 struct AssemblyTexts {
@@ -31,8 +32,11 @@ class PartChooser {
 
   PartChoice OfAssembly(ProMdl assembly) {
     choice_.in_assembly = true;
-    if (const auto selected = ReadPreselection()) {
-      AddSelected(*selected);
+    const PreselectionAnswer selected = AskPreselection();
+    if (selected.items) {
+      AddSelected(*selected.items);
+    } else if (selected.is_unreadable) {
+      ++choice_.left_out;  // who has selected something does not mean everything
     } else {
       const wchar_t* const none =
           kind_.none_at_all != nullptr ? kind_.none_at_all : kind_.none_below;
@@ -62,13 +66,16 @@ class PartChooser {
     }
   }
 
-  // A component that is selected as a feature counts by its model, not by the assembly it lies in.
+  // A component that is selected as a feature counts by its model, not by the assembly it lies in:
+  // of a feature whose type is not told nobody knows which of the two is meant.
   static ProMdl ModelOf(ProModelitem& item) {
     ProMdl model = nullptr;
-    ProFeattype type = 0;
-    if (item.type == PRO_FEATURE && Ok(ProFeatureTypeGet(&item, &type)) &&
-        type == PRO_FEAT_COMPONENT) {
-      return Ok(ProAsmcompMdlGet(&item, &model)) ? model : nullptr;
+    ProFeattype type = kNoFeatureType;
+    if (item.type == PRO_FEATURE) {
+      if (!Ok(ProFeatureTypeGet(&item, &type)) || type == kNoFeatureType) return nullptr;
+      if (type == PRO_FEAT_COMPONENT) {
+        return Ok(ProAsmcompMdlGet(&item, &model)) ? model : nullptr;
+      }
     }
     return Ok(ProModelitemMdlGet(&item, &model)) ? model : nullptr;
   }
