@@ -7,6 +7,7 @@
 #include "frame/messages/run_log.h"
 #include "frame/models/parameters.h"
 #include "frame/text/fixed_text.h"
+#include "toolkit/filled.h"
 #include "toolkit/parameter.h"
 #include "toolkit/status.h"
 
@@ -70,15 +71,17 @@ class InstanceCell {
     ProParameter parameter{};
     const Step found = FindParameter(owner, parameter_, &parameter);
     if (!Ok(found.status)) return found;
-    return {"ProParameterToFamtableItem", ProParameterToFamtableItem(&parameter, &column_)};
+    status = ProParameterToFamtableItem(&parameter, &column_);
+    return {"ProParameterToFamtableItem", FilledStatus(status, column_)};
   }
 
   Step FindInstance(const std::wstring& name) {
-    const ProError status = ProFamtableInit(generic_, &table_);
+    ProError status = FilledStatus(ProFamtableInit(generic_, &table_), table_);
     if (!Ok(status)) return {"ProFamtableInit", status};
     auto host_name = HostName::From(name);
     if (!host_name) return {"ProFaminstanceInit", PRO_TK_LINE_TOO_LONG};
-    return {"ProFaminstanceInit", ProFaminstanceInit(host_name->name, &table_, &instance_)};
+    status = ProFaminstanceInit(host_name->name, &table_, &instance_);
+    return {"ProFaminstanceInit", FilledStatus(status, instance_)};
   }
 
   Step NeedColumn() {

@@ -3,7 +3,6 @@
 #include "assembly/components/sim_rep.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "assembly/components/sim_rep_rules.h"
 #include "frame/messages/message_area.h"
@@ -16,6 +15,7 @@
 #include "frame/structure/preselected_components.h"
 #include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
+#include "toolkit/filled.h"
 #include "toolkit/owners.h"
 #include "toolkit/window.h"
 
@@ -26,6 +26,8 @@ constexpr wchar_t kNothingSelected[] = L"\t请先选择要在简化表示中保�
 constexpr wchar_t kRefusedName[] = L"\t名称已存在或输入非法，请重新输入\t";
 constexpr char kPrompt[] = "Enter the name of the simplified representation:|||%0w";
 constexpr int kLongestName = PRO_NAME_SIZE - 1;
+// A host that can show a prompt and never read it would ask for ever.
+constexpr int kMostEmptyReplies = 20;
 
 // What the user wants, and what it means for the structure.
 struct RepPlan {
@@ -53,17 +55,20 @@ std::optional<RepPlan> MakePlan(ProMdl root) {
                  selection.left_out + static_cast<long long>(components.left_out().size())};
 }
 
-// An answer that fills nothing in is none.
+ProError FindRep(ProMdl root, HostName& name, ProSimprep* rep) {
+  const ProError status = ProSimprepInit(name.name, PRO_VALUE_UNUSED, root, rep);
+  return FilledStatus(status, *rep);
+}
+
 bool IsTaken(ProMdl root, const std::wstring& name) {
   auto host_name = HostName::From(name);
   ProSimprep rep{};
-  static constexpr ProSimprep kUntouched = {};
-  return host_name && Ok(ProSimprepInit(host_name->name, PRO_VALUE_UNUSED, root, &rep)) &&
-         std::memcmp(&rep, &kUntouched, sizeof(rep)) != 0;
+  return host_name && Ok(FindRep(root, *host_name, &rep));
 }
 
 // Nothing, after a line in the log, when the user quits, or when the prompt cannot be shown or
-// gives no text: asking again would never end then.
+// read: asking again would never end then. An empty name for a reply without any text, which the
+// host refuses to take.
 std::optional<std::wstring> AskName(const std::wstring& offered) {
   std::wstring file = kNoteFile;
   ProError status = ProMessageDisplay(file.data(), kPrompt, offered.c_str());
@@ -74,6 +79,7 @@ std::optional<std::wstring> AskName(const std::wstring& offered) {
   }
   ProLine reply = {};
   status = ProMessageStringRead(kLongestName, reply);
+  if (status == PRO_TK_GENERAL_ERROR) return std::wstring();
   if (Ok(status) && !FixedText(reply).empty()) return std::wstring(FixedText(reply));
   if (status != PRO_TK_MSG_USER_QUIT) {
     LogFailure(std::string("the prompt cannot be read: ProMessageStringRead answered ") +
@@ -82,26 +88,37 @@ std::optional<std::wstring> AskName(const std::wstring& offered) {
   return std::nullopt;
 }
 
-ProError AddItem(const LeftOutComponent& component, ProSimprepdata* data) {
+// How a step ended: the host's function that decided it, and its status.
+struct RepStep {
+  const char* function;
+  ProError status;
+};
+
+RepStep AddItem(const LeftOutComponent& component, ProSimprepdata* data) {
   ProSimprepAction action{};
   ProError status = ProSimprepActionInit(PRO_SIMPREP_EXCLUDE, nullptr, &action);
-  if (!Ok(status)) return status;
+  status = FilledStatus(status, action);
+  if (!Ok(status)) return {"ProSimprepActionInit", status};
+  const char* const init = "ProSimprepdataitemInit";
   // The host's table has a fixed size; no path of its own is longer.
-  if (component.path.size() > PRO_MAX_ASSEM_LEVEL) return PRO_TK_BAD_INPUTS;
+  if (component.path.size() > PRO_MAX_ASSEM_LEVEL) return {init, PRO_TK_BAD_INPUTS};
   ProIdTable path = {};
   std::copy(component.path.begin(), component.path.end(), path);
   ProSimprepitem item{};
   status = ProSimprepdataitemInit(path, static_cast<int>(component.path.size()), component.id,
                                   &action, &item);
-  return Ok(status) ? ProSimprepdataitemAdd(data, PRO_SIMPREP_COMPONENT_ITEM, &item) : status;
+  status = FilledStatus(status, item);
+  if (!Ok(status)) return {init, status};
+  return {"ProSimprepdataitemAdd", ProSimprepdataitemAdd(data, PRO_SIMPREP_COMPONENT_ITEM, &item)};
 }
 
 // False where a component could not be left out: such a representation is not made.
 bool AddItems(const RepPlan& plan, ProSimprepdata* data) {
   for (const LeftOutComponent& component : plan.left_out) {
-    const ProError status = AddItem(component, data);
+    const auto [function, status] = AddItem(component, data);
     if (Ok(status)) continue;
-    LogLeftOut({PRO_FEATURE, component.id, plan.root}, "ProSimprepdataitemAdd", status);
+    LogFailure("component " + IdPathText(component) + " cannot be left out: " + function +
+               " answered " + StatusName(status));
     LogOutcome("nothing done, a component cannot be left out");
     return false;
   }
@@ -109,6 +126,15 @@ bool AddItems(const RepPlan& plan, ProSimprepdata* data) {
 }
 
 enum class Making { kMade, kNameRefused, kFailed };
+
+// A success without a record: the representation is found by its name if there is one.
+Making FindMade(ProMdl root, HostName& name, ProSimprep* rep) {
+  const ProError status = FindRep(root, name, rep);
+  if (Ok(status)) return Making::kMade;
+  LogFailure(root, "ProSimprepInit, after a ProSimprepCreate that told nothing,", status);
+  LogOutcome("the host has told of a representation that cannot be found");
+  return Making::kFailed;
+}
 
 Making Make(const RepPlan& plan, const std::wstring& text, ProSimprep* rep) {
   auto name = HostName::From(text);
@@ -118,7 +144,7 @@ Making Make(const RepPlan& plan, const std::wstring& text, ProSimprep* rep) {
   if (Ok(status) && data) {
     if (!AddItems(plan, data.get())) return Making::kFailed;
     status = ProSimprepCreate(plan.root, data.get(), rep);
-    if (Ok(status)) return Making::kMade;
+    if (Ok(status)) return IsFilled(*rep) ? Making::kMade : FindMade(plan.root, *name, rep);
   }
   // Which status a bad name has is not known for sure: the user may try another one, or quit.
   LogEvent("no representation " + ToUtf8(text) + ": the host answered " + StatusName(status));
@@ -129,11 +155,14 @@ Making Make(const RepPlan& plan, const std::wstring& text, ProSimprep* rep) {
 ProError MakeByName(const RepPlan& plan, ProSimprep* rep) {
   const auto is_taken = [&](const std::wstring& name) { return IsTaken(plan.root, name); };
   const std::wstring offered = FreeRepName(is_taken).value_or(std::wstring());
+  int empty = 0;  // replies in a row
   while (const auto name = AskName(offered)) {
-    const Making made = Make(plan, *name, rep);
+    const Making made = name->empty() ? Making::kNameRefused : Make(plan, *name, rep);
     if (made == Making::kMade) return PRO_TK_NO_ERROR;
     if (made == Making::kFailed) return PRO_TK_GENERAL_ERROR;
     ShowMessage(kRefusedName);
+    empty = name->empty() ? empty + 1 : 0;
+    if (empty == kMostEmptyReplies) break;
   }
   LogOutcome("nothing done, no name");
   return PRO_TK_USER_ABORT;

@@ -35,6 +35,12 @@ class Branches {
 
 }  // namespace
 
+std::string IdPathText(const LeftOutComponent& component) {
+  std::string text;
+  for (const int id : component.path) text += std::to_string(id) + "/";
+  return text + std::to_string(component.id);
+}
+
 std::vector<LeftOutComponent> ComponentsToLeaveOut(const ComponentTree& kept,
                                                    const Levels& levels) {
   Branches branches(levels);

@@ -16,6 +16,9 @@ struct LeftOutComponent {
   int id;
 };
 
+// Its ids from the top, as in "31/21/12".
+std::string IdPathText(const LeftOutComponent& component);
+
 // All that is neither kept, nor above or below anything that is: of each branch only its uppermost
 // component, since what is below is left out with it.
 std::vector<LeftOutComponent> ComponentsToLeaveOut(const ComponentTree& kept, const Levels& levels);

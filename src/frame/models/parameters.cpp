@@ -1,10 +1,9 @@
 // The host's parameter records and calls.
 #include "frame/models/parameters.h"
 
-#include <cstring>
-
 #include "frame/messages/run_log.h"
 #include "frame/text/letter_case.h"
+#include "toolkit/filled.h"
 #include "toolkit/status.h"
 
 namespace qm {
@@ -60,10 +59,7 @@ std::optional<ProParamvalue> HostValue(const ParamValue& value) {
 ParameterResult FindParameter(ProModelitem owner, HostName& name, ProParameter* parameter) {
   *parameter = {};
   const ProError status = ProParameterInit(&owner, name.name, parameter);
-  // By the whole record: the places of its members are not certain.
-  static constexpr ProParameter kUntouched = {};
-  const bool filled = std::memcmp(parameter, &kUntouched, sizeof(kUntouched)) != 0;
-  return {"ProParameterInit", Ok(status) && !filled ? PRO_TK_GENERAL_ERROR : status};
+  return {"ProParameterInit", FilledStatus(status, *parameter)};
 }
 
 ParameterResult CreateParameter(ProModelitem owner, HostName& name, ProParamvalue value) {
