@@ -2,6 +2,7 @@
 #include "workbench/checks/accounts.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace wb {
 
@@ -41,24 +42,36 @@ const char* ResourceWord(Resource resource) {
 
 void Accounts::Give(const void* what, Resource resource, const char* function, long call) {
   open_[what] = {resource, function, call};
+  may_stay_.erase(what);
   ended_.erase(what);
+}
+
+const Account* Accounts::Find(const void* what) const {
+  if (const auto found = open_.find(what); found != open_.end()) return &found->second;
+  const auto staying = may_stay_.find(what);
+  return staying == may_stay_.end() ? nullptr : &staying->second;
+}
+
+void Accounts::LetStay(const void* what) {
+  if (auto account = open_.extract(what)) may_stay_.insert(std::move(account));
 }
 
 std::string Accounts::Check(const void* what, Resource resource) const {
   const std::string word = ResourceWord(resource);
   if (what == nullptr) return "null " + word;
-  const auto found = open_.find(what);
-  if (found == open_.end()) {
+  const Account* const found = Find(what);
+  if (found == nullptr) {
     return ended_.contains(what) ? word + " used after it was freed" : "foreign pointer as " + word;
   }
-  if (found->second.resource != resource) {
-    return std::string(ResourceWord(found->second.resource)) + " given as " + word;
+  if (found->resource != resource) {
+    return std::string(ResourceWord(found->resource)) + " given as " + word;
   }
   return "";
 }
 
 void Accounts::Take(const void* what) {
   open_.erase(what);
+  may_stay_.erase(what);
   ended_.insert(what);
 }
 
