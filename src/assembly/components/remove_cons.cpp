@@ -40,7 +40,10 @@ StepResult MakeFix(FixConstraint* fix) {
   if (!Ok(status)) return {"ProAsmcompconstraintTypeSet", status};
   status = fix->array.Allocate();
   if (!Ok(status)) return {"ProArrayAlloc", status};
-  return {"ProArrayObjectAdd", fix->array.Append(fix->constraint.get())};
+  status = fix->array.Append(fix->constraint.get());
+  // A success that added nothing would let the host put no constraint in the place of all.
+  if (Ok(status) && fix->array.size() != 1) status = PRO_TK_OUT_OF_MEMORY;
+  return {"ProArrayObjectAdd", status};
 }
 
 // Deliberately a success without constraints counts as none: hosts answer either way.
@@ -63,7 +66,7 @@ int CountConstraints(ProAsmcomp& component) {
 void PlaceByDialog(ProAsmcomp& component) {
   QueueMiddleClick();
   const ProError status = ProAsmcompConstrRedefUI(&component);
-  if (!Ok(status)) LogLeftOut(component, "ProAsmcompConstrRedefUI", status);
+  if (!Ok(status)) LogFailure(component.owner, "ProAsmcompConstrRedefUI", status);
 }
 
 // The indices grow while the list shrinks, which has always been so: soon they lie beyond the rest,
@@ -121,9 +124,11 @@ void Confirm(const DialogView&) {
 void TellCount(const Dialog& dialog) {
   const auto root = CurrentAssembly();
   ComponentList components;
-  if (!root || !Ok(CollectComponents(*root, ComponentKind::kAll, &components))) return;
+  if (!root) return;
+  ProError status = CollectComponents(*root, ComponentKind::kAll, &components);
+  if (!Ok(status)) return LogFailure(*root, "the count of its components", status);
   const std::wstring text = L"当前组件中的元件数量：" + std::to_wstring(components.size());
-  const ProError status = dialog.SetLabel("CountLabel", text);
+  status = dialog.SetLabel("CountLabel", text);
   if (!Ok(status)) LogFailure(*root, "ProUILabelTextSet", status);
 }
 
