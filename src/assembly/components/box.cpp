@@ -155,7 +155,8 @@ std::optional<ComponentTree> AskComponents(ProMdl root, long long* left_out) {
   ComponentTree kept = TreeOf(selection.components);
   if (!selection.components.empty()) return kept;
   kept.is_whole = true;
-  return selection.left_out == 0 ? std::optional(kept) : std::nullopt;
+  const bool is_known = selection.is_read && selection.left_out == 0;
+  return is_known ? std::optional(kept) : std::nullopt;
 }
 
 }  // namespace

@@ -36,9 +36,15 @@ struct RepPlan {
   long long unread;  // components that nobody could read
 };
 
-// Nothing, after the message, when nothing fit is preselected or the structure cannot be read.
-std::optional<RepPlan> MakePlan(ProMdl root) {
+// Nothing, after the message, when nothing fit is preselected or the structure cannot be read. A
+// preselection that cannot be read is not taken for none: `status` tells of it.
+std::optional<RepPlan> MakePlan(ProMdl root, ProError* status) {
   const ComponentSelection selection = PreselectedComponents(root);
+  if (!selection.is_read) {
+    LogOutcome("nothing done, the preselection cannot be read");
+    *status = PRO_TK_GENERAL_ERROR;
+    return std::nullopt;
+  }
   if (selection.components.empty()) {
     ShowMessage(kNothingSelected);
     NoteLeftOut(selection.left_out);
@@ -176,10 +182,11 @@ ProError QmSimRep() {
     LogOutcome("nothing done, no current assembly");
     return PRO_TK_NO_ERROR;
   }
-  const auto plan = MakePlan(*root);
-  if (!plan) return PRO_TK_NO_ERROR;
+  ProError status = PRO_TK_NO_ERROR;
+  const auto plan = MakePlan(*root, &status);
+  if (!plan) return status;
   ProSimprep rep{};
-  ProError status = MakeByName(*plan, &rep);
+  status = MakeByName(*plan, &rep);
   if (!Ok(status)) return status;
   LogCount("branches left out", static_cast<long long>(plan->left_out.size()));
   status = ProSimprepActivate(*root, &rep);

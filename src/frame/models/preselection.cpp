@@ -12,20 +12,26 @@ void LogUnread(const char* function, ProError status) {
              StatusName(status));
 }
 
+// Which one the host gives for an empty buffer is not known for sure.
+bool MayMeanEmpty(ProError status) {
+  return status == PRO_TK_E_NOT_FOUND || status == PRO_TK_BAD_CONTEXT ||
+         status == PRO_TK_CANT_ACCESS;
+}
+
 }  // namespace
 
 PreselectionAnswer AskPreselection() {
   SelectionArray selected;
   const ProError status = ProSelbufferSelectionsGet(selected.put());
   if (!Ok(status) && status != PRO_TK_E_NOT_FOUND) LogUnread("ProSelbufferSelectionsGet", status);
-  if (!Ok(status)) return {};
+  if (!Ok(status)) return {std::nullopt, false, !MayMeanEmpty(status)};
   const auto count = ToldArraySize(selected.get());
   if (!count) {
     LogUnread("ProArraySizeGet", PRO_TK_GENERAL_ERROR);
-    return {std::nullopt, true};
+    return {std::nullopt, true, false};
   }
   if (*count < 1) return {};
-  return {Preselected(std::move(selected), *count), false};
+  return {Preselected(std::move(selected), *count), false, false};
 }
 
 std::optional<Preselected> ReadPreselection() {

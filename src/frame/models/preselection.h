@@ -23,6 +23,7 @@ class Preselected {
 struct PreselectionAnswer {
   std::optional<Preselected> items;
   bool is_unreadable = false;  // there are items, but how many is not told
+  bool has_failed = false;     // the host gave a failure that an empty buffer does not have
 };
 // For commands that take everything where nothing is preselected.
 PreselectionAnswer AskPreselection();

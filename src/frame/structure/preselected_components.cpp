@@ -77,9 +77,10 @@ void ReadSelection(ProMdl root, ProSelection selection, ComponentSelection* pres
 
 ComponentSelection PreselectedComponents(ProMdl root) {
   ComponentSelection preselection;
-  const auto selections = ReadPreselection();
-  const int count = selections ? selections->size() : 0;
-  for (int i = 0; i < count; ++i) ReadSelection(root, (*selections)[i], &preselection);
+  const PreselectionAnswer answer = AskPreselection();
+  preselection.is_read = !answer.is_unreadable && !answer.has_failed;
+  const int count = answer.items ? answer.items->size() : 0;
+  for (int i = 0; i < count; ++i) ReadSelection(root, (*answer.items)[i], &preselection);
   return preselection;
 }
 

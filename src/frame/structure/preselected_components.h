@@ -19,6 +19,7 @@ struct SelectedComponent {
 struct ComponentSelection {
   std::vector<SelectedComponent> components;
   long long left_out = 0;  // items that cannot be read
+  bool is_read = true;     // false: what is preselected, if anything, is not known
 };
 
 // Parts, subassemblies and components picked as features, under the assembly `root`; without any
