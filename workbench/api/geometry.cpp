@@ -1,4 +1,5 @@
 // Host functions for surfaces and coordinate systems of solids, and for their regeneration.
+#include <cmath>
 #include <cstdlib>
 
 #include "workbench/api/matrix.h"
@@ -96,6 +97,8 @@ ProError ProSurfaceExtremesEval(ProSurface surface, ProVector direction, Pro3dPn
   return Crossing(__func__, SurfaceIn{surface}, DataIn{direction}, PointOut{extreme})
       .Run([&](const Call& call, const Surface& from, void*, PointPlace place) {
         const double* const towards = &call.Place(direction, "direction");
+        const double length = std::hypot(towards[0], towards[1], towards[2]);
+        if (!std::isfinite(length) || length == 0.0) call.Fail("a direction without a length");
         Point point = from.box.min;
         for (size_t axis = 0; axis < point.size(); ++axis) {
           if (towards[axis] > 0) point[axis] = from.box.max[axis];

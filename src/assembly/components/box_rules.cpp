@@ -3,15 +3,31 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace qm {
+namespace {
 
-Vector DirectionInPart(const Matrix& placement, BoxSide side) {
+// Of the numbers themselves; what two ways of computing one coordinate may differ by.
+constexpr double kRounding = 1e-9;
+
+// A flat part that is turned may reach less far up than down, by rounding alone.
+void PutInOrder(double* lower, double* upper) {
+  const double size = std::max({1.0, std::abs(*lower), std::abs(*upper)});
+  if (*lower > *upper && *lower - *upper <= kRounding * size) std::swap(*lower, *upper);
+}
+
+}  // namespace
+
+std::optional<Vector> DirectionInPart(const Matrix& placement, BoxSide side) {
   const int column = static_cast<int>(side.axis);
-  const double sign = side.is_upper ? 1.0 : -1.0;
   // A point stands on the left of its matrix, so that an axis of the assembly is a column.
-  return {{sign * placement.rows[0][column], sign * placement.rows[1][column],
-           sign * placement.rows[2][column]}};
+  Vector direction = {
+      {placement.rows[0][column], placement.rows[1][column], placement.rows[2][column]}};
+  const double length = std::hypot(direction.xyz[0], direction.xyz[1], direction.xyz[2]);
+  if (!std::isfinite(length) || length == 0.0) return std::nullopt;
+  for (double& coordinate : direction.xyz) coordinate /= side.is_upper ? length : -length;
+  return direction;
 }
 
 double CoordinateOf(const Matrix& placement, BoxSide side, const Vector& point) {
@@ -45,6 +61,7 @@ bool Reach::AddTo(const Matrix& placement, OutlineBox* box) const {
   for (int axis = 0; axis < kAxisCount; ++axis) {
     lower[axis] = lower_[axis] + placement.rows[kAxisCount][axis];
     upper[axis] = upper_[axis] + placement.rows[kAxisCount][axis];
+    PutInOrder(&lower[axis], &upper[axis]);
   }
   return box->Include(lower, upper);
 }

@@ -24,8 +24,9 @@ struct Vector {
   double xyz[3];
 };
 
-// The direction outwards of a side as a part sees it that is placed so.
-Vector DirectionInPart(const Matrix& placement, BoxSide side);
+// The direction outwards of a side as a part sees it that is placed so; of length 1, whatever the
+// scale of the placement. Nothing where the placement has no such direction.
+std::optional<Vector> DirectionInPart(const Matrix& placement, BoxSide side);
 
 // Where a point of the part lies along the side's axis in the assembly, its shift left out.
 double CoordinateOf(const Matrix& placement, BoxSide side, const Vector& point);

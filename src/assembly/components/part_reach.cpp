@@ -1,6 +1,7 @@
 // Extremes of surfaces.
 #include "assembly/components/part_reach.h"
 
+#include <iterator>
 #include <limits>
 
 #include "frame/guard/visit.h"
@@ -11,24 +12,49 @@ namespace qm {
 namespace {
 
 // A success that fills nothing in is a failure.
-ProError IncludeSurface(ProSurface surface, const Matrix& placement, Reach* reach) {
+ProError IncludeSide(ProSurface surface, const Matrix& placement, BoxSide side, Reach* reach) {
+  auto direction = DirectionInPart(placement, side);
+  if (!direction) return PRO_TK_BAD_INPUTS;
+  constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
+  Vector extreme = {{kNothing, kNothing, kNothing}};
+  const ProError status = ProSurfaceExtremesEval(surface, direction->xyz, extreme.xyz);
+  if (!Ok(status)) return status;
+  const bool is_included = reach->Include(side, CoordinateOf(placement, side, extreme));
+  return is_included ? PRO_TK_NO_ERROR : PRO_TK_INVALID_ITEM;
+}
+
+struct SurfaceAnswer {
+  ProError status = PRO_TK_NO_ERROR;
+  bool is_nowhere = false;  // reaches nowhere on any side
+};
+
+SurfaceAnswer IncludeSurface(ProSurface surface, const Matrix& placement, Reach* reach) {
+  size_t missing = 0;
   for (const BoxSide side : kBoxSides) {
-    Vector direction = DirectionInPart(placement, side);
-    constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
-    Vector extreme = {{kNothing, kNothing, kNothing}};
-    const ProError status = ProSurfaceExtremesEval(surface, direction.xyz, extreme.xyz);
-    if (!Ok(status)) return status;
-    if (!reach->Include(side, CoordinateOf(placement, side, extreme))) return PRO_TK_INVALID_ITEM;
+    const ProError status = IncludeSide(surface, placement, side, reach);
+    if (status == PRO_TK_E_NOT_FOUND) {
+      ++missing;
+    } else if (!Ok(status)) {
+      return {status, false};
+    }
   }
-  return PRO_TK_NO_ERROR;
+  // One that reaches somewhere must reach somewhere on all sides.
+  if (missing == std::size(kBoxSides)) return {PRO_TK_NO_ERROR, true};
+  return {missing == 0 ? PRO_TK_NO_ERROR : PRO_TK_E_NOT_FOUND, false};
 }
 
 std::optional<Reach> Measure(ProMdl part, const Matrix& placement) {
   Reach reach;
+  bool has_nowhere = false;
   ProError unread = PRO_TK_NO_ERROR;
   const ProError visited = VisitSurfaces(part, [&](ProSurface surface) {
-    return unread = IncludeSurface(surface, placement, &reach);
+    const SurfaceAnswer answer = IncludeSurface(surface, placement, &reach);
+    has_nowhere = has_nowhere || answer.is_nowhere;
+    return unread = answer.status;
   });
+  // Without it the part may still be measured by its other surfaces.
+  if (has_nowhere) LogFailure(part, "ProSurfaceExtremesEval on all sides", PRO_TK_E_NOT_FOUND);
+  if (has_nowhere && !reach.is_complete()) return std::nullopt;
   if (!Ok(unread)) {
     LogFailure(part, "ProSurfaceExtremesEval", unread);
     return std::nullopt;

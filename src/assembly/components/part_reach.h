@@ -14,8 +14,8 @@ namespace qm {
 // Measures each part once for each way in which it is turned, however often it is placed.
 class PartReaches {
  public:
-  // Null, after a line in the run log, when a surface cannot be read; a part without surfaces
-  // reaches nowhere.
+  // Null, after a line in the run log, when a surface cannot be read, or none of them reaches
+  // anywhere; a part without surfaces reaches nowhere.
   const Reach* Of(ProMdl part, const Matrix& placement);
 
  private:

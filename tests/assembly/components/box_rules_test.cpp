@@ -40,7 +40,12 @@ TEST(Box, OfTurnedPartsIsThatOfAllTheirPointsAtTheirPlaces) {
     for (int part = 0; part < 3; ++part) {
       Matrix placement =
           Turned(Turned(Identity(), Axis::kX, number(random) * 3), Axis::kZ, number(random) * 3);
-      for (int axis = 0; axis < 3; ++axis) placement.rows[3][axis] = number(random) * 4;
+      // A part in other units stands there with a scale.
+      const double scale = part == 1 ? 25.4 : 1.0;
+      for (int axis = 0; axis < 3; ++axis) {
+        for (int row = 0; row < 3; ++row) placement.rows[row][axis] *= scale;
+        placement.rows[3][axis] = number(random) * 4;
+      }
       Reach reach;
       for (int face = 0; face < 4; ++face) {
         std::vector<Point> cloud(5);
@@ -53,7 +58,11 @@ TEST(Box, OfTurnedPartsIsThatOfAllTheirPointsAtTheirPlaces) {
           }
         }
         for (const BoxSide side : kBoxSides) {
-          const Vector extreme = Extreme(cloud, DirectionInPart(placement, side));
+          const auto direction = DirectionInPart(placement, side);
+          ASSERT_TRUE(direction);
+          const auto& [x, y, z] = direction->xyz;
+          ASSERT_NEAR(x * x + y * y + z * z, 1.0, 1e-12);
+          const Vector extreme = Extreme(cloud, *direction);
           ASSERT_TRUE(reach.Include(side, CoordinateOf(placement, side, extreme)));
         }
       }
@@ -71,6 +80,20 @@ TEST(Box, WithoutSurfacesIsNoBox) {
   EXPECT_FALSE(reach.Include(kBoxSides[0], std::nan("")));
   EXPECT_TRUE(reach.Include(kBoxSides[0], 1.0));
   EXPECT_FALSE(reach.is_complete());
+}
+
+TEST(Box, OfAFlatPartMayBeTurnedInsideOutByRounding) {
+  const auto is_box = [](double lower, double upper) {
+    Reach reach;
+    for (const BoxSide side : kBoxSides) {
+      EXPECT_TRUE(reach.Include(side, side.is_upper ? upper : lower));
+    }
+    OutlineBox box;
+    return reach.AddTo(Identity(), &box);
+  };
+  EXPECT_TRUE(is_box(5.0 + 1e-12, 5.0));
+  EXPECT_FALSE(is_box(6.0, 5.0));
+  EXPECT_FALSE(DirectionInPart(Matrix{}, kBoxSides[0]));
 }
 
 TEST(Box, IsToldWithItsUnitAndWhatIsNotInIt) {

@@ -137,6 +137,7 @@ TEST_F(HostContract, SurfacesAreItemsOfTheirOwnModelAndHaveExtremes) {
   ProSolidSurfaceVisit(lid_->handle, &KeepSurface, nullptr, &surface);
   ProGeomitem item = {};
   ProVector direction = {-1, 1, 0};
+  ProVector nowhere = {};
   Pro3dPnt extreme = {};
   Check({
       {"an item", [&] { return ProSurfaceToGeomitem(lid_->handle, surface, &item); },
@@ -145,6 +146,8 @@ TEST_F(HostContract, SurfacesAreItemsOfTheirOwnModelAndHaveExtremes) {
        PRO_TK_BAD_INPUTS, "ProSurfaceToGeomitem: the surface is not one of box.asm"},
       {"furthest", [&] { return ProSurfaceExtremesEval(surface, direction, extreme); },
        PRO_TK_NO_ERROR},
+      {"towards nothing", [&] { return ProSurfaceExtremesEval(surface, nowhere, extreme); },
+       PRO_TK_BAD_INPUTS, "ProSurfaceExtremesEval: a direction without a length"},
   });
   EXPECT_EQ(item.type, PRO_SURFACE);
   EXPECT_EQ(item.id, 4);
