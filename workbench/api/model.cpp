@@ -237,9 +237,11 @@ ProError ProMdlDataGet(ProMdl model, ProMdldata* data) {
 
 ProError ProMdlOriginGet(ProMdl model, ProPath origin) {
   return Crossing(__func__, ModelIn{model}, OutText{origin, PRO_PATH_SIZE})
-      .Run([](const Model& from, TextPlace place) {
+      .Run([](const Call& call, const Model& from, TextPlace place) {
         if (from.version == 0) return PRO_TK_E_NOT_FOUND;
-        place = OriginOf(from);
+        const bool has_no_version = call.host.habits.origin_has_no_version;
+        place = has_no_version ? PathToUtf8(from.folder / PathFromUtf8(from.id.Text()))
+                               : OriginOf(from);
         return PRO_TK_NO_ERROR;
       });
 }

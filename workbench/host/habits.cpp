@@ -45,6 +45,7 @@ std::span<const HabitRow> HabitRows() {
       {"empty_file_list_fails", &Habits::empty_file_list_fails},
       {"file_list_repeats_names", &Habits::file_list_repeats_names},
       {"chosen_folder_has_separator", &Habits::chosen_folder_has_separator},
+      {"origin_has_no_version", &Habits::origin_has_no_version},
       {"backup_leaves_what_is_used", &Habits::backup_leaves_what_is_used, true},
   };
   return kRows;

@@ -40,6 +40,7 @@ struct Habits {
   bool empty_file_list_fails = false;                // with "not found", instead of no files
   bool file_list_repeats_names = false;          // one for each version, asked for the newest alone
   bool chosen_folder_has_separator = false;      // at its end
+  bool origin_has_no_version = false;            // of the file that a model came from
   bool lacking_appearance_is_not_found = false;  // instead of success with the record untouched
   bool appearance_record_has_unknown_order = false;
   bool post_relations_are_always_there = false;  // a set that has no lines can be opened

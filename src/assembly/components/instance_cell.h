@@ -8,11 +8,17 @@
 
 namespace qm {
 
-// Writes a count into the cell of the instance of this name, in the type of the generic's
-// parameter, which is made, as 0, where the generic lacks it. The column is added where it is
+struct InstanceCount {
+  ProMdl generic;            // right above the instance
+  bool is_generic_instance;  // itself: then its parameters are those of the table above it
+  std::wstring instance;
+  int count;
+};
+
+// Writes a count into the cell of its instance, in the type of the generic's parameter, which is
+// made, as 0, where a generic that is no instance lacks it. The column is added where it is
 // missing, but only where the generic's file is writable. False, after a line in the run log, when
 // the cell does not have the count.
-bool WriteInstanceCount(ProMdl generic, const std::wstring& instance, HostName& parameter,
-                        int count);
+bool WriteInstanceCount(const InstanceCount& counted, HostName& parameter);
 
 }  // namespace qm

@@ -2,6 +2,7 @@
 // the counts. All is counted and asked before anything is written.
 #include "assembly/components/mdl_count.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -26,6 +27,8 @@ namespace {
 constexpr wchar_t kNoComponents[] = L"当前模型中没有合适的子零件/组件";
 constexpr wchar_t kDone[] = L"\t元件数量统计已完成\t";
 constexpr wchar_t kDefaultName[] = L"数量";
+// Above one instance; beyond that the host goes round in a ring.
+constexpr int kMostGenerics = 100;
 
 // What the user has set.
 struct CountWishes {
@@ -37,16 +40,19 @@ struct ModelCount {
   ProMdl model;
   int count;
   ProMdl generic;  // of an instance whose count goes into its own cell; else null
+  int depth = 0;   // so many generics stand above it; of instances with cells of their own alone
 };
 
 // Counts by model, in the order in which the models are first met.
 class Tally {
  public:
-  void Add(ProMdl model, int count, ProMdl generic = nullptr) {
+  void Add(ProMdl model, int count, ProMdl generic = nullptr, int depth = 0) {
     const auto [number, is_new] = numbers_.Insert(model);
-    if (is_new) counts_.push_back({model, 0, generic});
+    if (is_new) counts_.push_back({model, 0, generic, depth});
     counts_[number].count += count;
   }
+  // What a table gives its instances is there before those that are generics are looked at.
+  void OuterFirst() { std::ranges::stable_sort(counts_, {}, &ModelCount::depth); }
   const std::vector<ModelCount>& counts() const { return counts_; }
 
  private:
@@ -87,6 +93,26 @@ std::optional<ProMdl> GenericOf(ProMdl model, InstanceCounts instances) {
   return std::nullopt;
 }
 
+// How many generics stand above an instance, of which `generic` is the nearest. Nothing, after a
+// line in the log, when the host does not tell.
+std::optional<int> DepthBelow(ProMdl generic) {
+  for (int depth = 1; depth <= kMostGenerics; ++depth) {
+    const auto above = GenericOf(generic, InstanceCounts::kOwnCells);
+    if (!above) return std::nullopt;
+    if (*above == nullptr) return depth;
+    generic = *above;
+  }
+  LogFailure(generic, "ProFaminstanceGenericGet, again and again,", PRO_TK_GENERAL_ERROR);
+  return std::nullopt;
+}
+
+// False when it is not known whether its generic is an instance itself.
+bool AddInstance(const ModelCount& counted, ProMdl generic, Tally* plan) {
+  const auto depth = DepthBelow(generic);
+  if (depth) plan->Add(counted.model, counted.count, generic, *depth);
+  return depth.has_value();
+}
+
 // What is to be written; a model of which it is not known whether it is an instance is left out.
 Tally Plan(const Tally& occurrences, InstanceCounts instances, long long* left_out) {
   Tally plan;
@@ -94,12 +120,15 @@ Tally Plan(const Tally& occurrences, InstanceCounts instances, long long* left_o
     const auto generic = GenericOf(counted.model, instances);
     if (!generic) {
       ++*left_out;
-    } else if (*generic != nullptr && instances == InstanceCounts::kIntoGeneric) {
+    } else if (*generic == nullptr) {
+      plan.Add(counted.model, counted.count);
+    } else if (instances == InstanceCounts::kIntoGeneric) {
       plan.Add(*generic, counted.count);
-    } else {
-      plan.Add(counted.model, counted.count, *generic);
+    } else if (!AddInstance(counted, *generic, &plan)) {
+      ++*left_out;
     }
   }
+  plan.OuterFirst();
   return plan;
 }
 
@@ -123,7 +152,8 @@ ParameterResult WriteParameter(ProMdl model, HostName& name, int count) {
 bool Write(const ModelCount& counted, HostName& name) {
   if (counted.generic != nullptr) {
     const auto instance = ModelName(counted.model);
-    return instance && WriteInstanceCount(counted.generic, *instance, name, counted.count);
+    return instance &&
+           WriteInstanceCount({counted.generic, counted.depth > 1, *instance, counted.count}, name);
   }
   const auto [function, status] = WriteParameter(counted.model, name, counted.count);
   if (!Ok(status) && function != nullptr) LogFailure(counted.model, function, status);
