@@ -31,7 +31,7 @@ constexpr wchar_t kChooserTitle[] = L"请选择模型备份目录";
 struct Tally {
   int models = 0;
   int drawings = 0;
-  int failed = 0;
+  long long failed = 0;
 };
 
 // Nothing when the user cancels.
@@ -50,8 +50,11 @@ std::optional<std::wstring> AskFolder() {
 
 class BackupRun {
  public:
-  BackupRun(std::wstring folder, WorkingDirectory* directory)
-      : folder_(std::move(folder)), directory_(*directory) {}
+  // A component whose model nobody can tell is a model that is not in the folder.
+  BackupRun(std::wstring folder, WorkingDirectory* directory, long long unknown)
+      : folder_(std::move(folder)), directory_(*directory) {
+    tally_.failed = unknown;
+  }
 
   void BackUpWithDrawing(ProMdl model) {
     const auto name = ModelName(model);
@@ -59,7 +62,7 @@ class BackupRun {
       ++tally_.failed;
       return;
     }
-    Write(model, *name, &tally_.models);
+    Write(model, *name, *name, &tally_.models);
     // Drawings count only where they lie in the working directory.
     if (!directory_.Return()) {
       LogFailure(*name, "the search for its drawing without the working directory",
@@ -67,13 +70,16 @@ class BackupRun {
       ++tally_.failed;
       return;
     }
-    if (const ProMdl drawing = DrawingOf(*name)) Write(drawing, *name, &tally_.drawings);
+    if (const ProMdl drawing = DrawingOf(*name)) {
+      Write(drawing, *name, L"drawing " + *name, &tally_.drawings);
+    }
   }
 
   const Tally& tally() const { return tally_; }
 
  private:
-  void Write(ProMdl model, const std::wstring& name, int* written) {
+  // `logged` is what the run log calls it: a model and its drawing have one name.
+  void Write(ProMdl model, const std::wstring& name, const std::wstring& logged, int* written) {
     ProMdldata data = {};
     const char* function = "ProMdlDataGet";
     ProError status = ProMdlDataGet(model, &data);
@@ -86,10 +92,10 @@ class BackupRun {
     }
     if (Ok(status)) {
       ++*written;
-      LogEvent(ToUtf8(name) + " backed up to " + ToUtf8(folder_));
+      LogEvent(ToUtf8(logged) + " backed up to " + ToUtf8(folder_));
     } else {
       ++tally_.failed;
-      LogFailure(name, function, status);
+      LogFailure(logged, function, status);
     }
   }
 
@@ -133,12 +139,14 @@ ProError QmBackup() {
   const auto targets = CollectTargets({*root, PRO_MDL_ASSEMBLY}, "AsmAndPart");
   std::optional<int> count;
   if (targets) count = targets->component_count;
+  // Before the user reads that nothing is done.
+  if (count.value_or(0) == 0) directory.Return();
   if (!HasComponents(count, kNoComponents)) {
     if (targets) NoteLeftOut(targets->left_out);
     return PRO_TK_NO_ERROR;
   }
   LogCount("components", *count);
-  BackupRun run(*folder, &directory);
+  BackupRun run(*folder, &directory, targets->left_out);
   for (const ProMdl model : targets->models) run.BackUpWithDrawing(model);
   directory.Return();
   ShowMessage(Result(run.tally()));
