@@ -57,7 +57,9 @@ TEST_F(HostContract, CellsOfInstancesLieInTheGenericsTable) {
 TEST_F(HostContract, RepresentationsAreMadeOfDataThatStaysTheCallers) {
   ProName name = L"REP";
   ProName bad = L"a b/c";
+  ProName other = L"OTHER";
   ProSimprepdata* data = nullptr;
+  ProSimprepdata* twice = nullptr;
   ProSimprepdata* refused = nullptr;
   ProSimprepAction action = {};
   ProSimprepAction unfilled = {};
@@ -101,6 +103,14 @@ TEST_F(HostContract, RepresentationsAreMadeOfDataThatStaysTheCallers) {
       {"added",
        [&] { return ProSimprepdataitemAdd(refused, PRO_SIMPREP_COMPONENT_ITEM, &elsewhere); },
        PRO_TK_NO_ERROR},
+      {"data with an item twice", [&] { return alloc(other, &twice); }, PRO_TK_NO_ERROR},
+      {"once", [&] { return ProSimprepdataitemAdd(twice, PRO_SIMPREP_COMPONENT_ITEM, &item); },
+       PRO_TK_NO_ERROR},
+      {"twice", [&] { return ProSimprepdataitemAdd(twice, PRO_SIMPREP_COMPONENT_ITEM, &item); },
+       PRO_TK_NO_ERROR},
+      {"not made", [&] { return ProSimprepCreate(box_->handle, twice, &rep); }, PRO_TK_BAD_INPUTS,
+       "ProSimprepCreate: two items for the component 7"},
+      {"freed as well", [&] { return ProSimprepdataFree(&twice); }, PRO_TK_NO_ERROR},
       {"freed", [&] { return ProSimprepdataFree(&data); }, PRO_TK_NO_ERROR},
       {"the other one", [&] { return ProSimprepdataFree(&refused); }, PRO_TK_NO_ERROR},
   });

@@ -1,4 +1,7 @@
 // Host functions of simplified representations.
+#include <map>
+#include <vector>
+
 #include "workbench/api/assembly/opaque_record.h"
 #include "workbench/host/arguments.h"
 #include "workbench/session/renaming.h"
@@ -62,6 +65,28 @@ void CheckRepItem(const Call& call, const Model& top, const RepItem& item) {
   };
   for (const int id : item.path) step(id);
   step(item.component);
+}
+
+// Each component has one item at most, and what lies below one that is left out has none: a host
+// may refuse such data, or take either of the two.
+void CheckNoRepItemTwice(const Call& call, const std::vector<RepItem>& items) {
+  std::map<std::vector<int>, RepAction> actions;
+  for (const RepItem& item : items) {
+    std::vector<int> way = item.path;
+    way.push_back(item.component);
+    if (!actions.emplace(way, item.action).second) {
+      call.Fail("two items for the component " + std::to_string(item.component));
+    }
+  }
+  for (const RepItem& item : items) {
+    for (std::vector<int> above = item.path; !above.empty(); above.pop_back()) {
+      const auto found = actions.find(above);
+      if (found != actions.end() && found->second == RepAction::kExclude) {
+        call.Fail("an item below the component " + std::to_string(above.back()) +
+                  ", which is left out");
+      }
+    }
+  }
 }
 
 RepContent ContentOfRep(const Call& call, const Model& solid, const std::string& name) {
@@ -146,6 +171,7 @@ ProError ProSimprepCreate(ProSolid solid, ProSimprepdata* data, ProSimprep* rep)
         if (!IsLegalModelName(draft.name)) return PRO_TK_INVALID_NAME;
         if (reps.Find(FoldCase(draft.name)) != nullptr) return PRO_TK_E_FOUND;
         for (const RepItem& item : draft.items) CheckRepItem(call, to, item);
+        CheckNoRepItemTwice(call, draft.items);
         reps.Add(draft);
         to.modified = true;
         FillOpaque(place, ContentOfRep(call, to, draft.name));
