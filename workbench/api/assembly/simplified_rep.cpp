@@ -1,4 +1,5 @@
 // Host functions of simplified representations.
+#include <algorithm>
 #include <map>
 #include <vector>
 
@@ -53,18 +54,20 @@ struct RepActionIn {
   }
 };
 
-// The assembly at the end of a path of ids, which must have the component of an item.
-void CheckRepItem(const Call& call, const Model& top, const RepItem& item) {
+// The assembly at the end of a path of ids must have the component of an item. False when the user
+// has erased one on the way.
+bool CheckRepItem(const Call& call, const Model& top, const RepItem& item) {
   const Model* at = &top;
   const auto step = [&](int id) {
-    const Feature* const feature = at == nullptr ? nullptr : at->FindFeature(id);
+    if (at == nullptr) return false;
+    const Feature* const feature = at->FindFeature(id);
     if (feature == nullptr || !feature->IsComponent()) {
       call.Fail("an item for a component " + std::to_string(id) + " that is not there");
     }
     at = feature->ComponentModel();
+    return true;
   };
-  for (const int id : item.path) step(id);
-  step(item.component);
+  return std::ranges::all_of(item.path, step) && step(item.component);
 }
 
 // Each component has one item at most, and what lies below one that is left out has none: a host
@@ -170,7 +173,8 @@ ProError ProSimprepCreate(ProSolid solid, ProSimprepdata* data, ProSimprep* rep)
         ItemList<SimplifiedRep>& reps = to.solid().reps;
         if (!IsLegalModelName(draft.name)) return PRO_TK_INVALID_NAME;
         if (reps.Find(FoldCase(draft.name)) != nullptr) return PRO_TK_E_FOUND;
-        for (const RepItem& item : draft.items) CheckRepItem(call, to, item);
+        const auto is_there = [&](const RepItem& item) { return CheckRepItem(call, to, item); };
+        if (!std::ranges::all_of(draft.items, is_there)) return PRO_TK_E_NOT_FOUND;
         CheckNoRepItemTwice(call, draft.items);
         reps.Add(draft);
         to.modified = true;
