@@ -62,6 +62,11 @@ void Accounts::Take(const void* what) {
   ended_.insert(what);
 }
 
+void Accounts::Excuse(const void* what) {
+  const auto found = open_.find(what);
+  if (found != open_.end()) found->second.excused = true;
+}
+
 void Accounts::MoveTo(const void* from, const void* to) {
   if (from == to) return;
   const auto found = open_.find(from);
@@ -75,7 +80,7 @@ void Accounts::MoveTo(const void* from, const void* to) {
 std::vector<std::string> Accounts::Describe(long after) const {
   std::vector<Account> accounts;
   for (const auto& [what, account] : open_) {
-    if (account.call > after) accounts.push_back(account);
+    if (account.call > after && !account.excused) accounts.push_back(account);
   }
   std::sort(accounts.begin(), accounts.end(),
             [](const Account& a, const Account& b) { return a.call < b.call; });

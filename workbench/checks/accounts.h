@@ -32,6 +32,7 @@ struct Account {
   Resource resource;
   const char* function;  // the call that handed it out
   long call = 0;         // its number within the command
+  bool excused = false;  // may be left out
 };
 
 class Accounts {
@@ -43,6 +44,8 @@ class Accounts {
   void Take(const void* what);
   // A fault kept the plug-in from giving this back: it is not held against it.
   void Forgive(const void* what) { open_.erase(what); }
+  // A fault may keep the plug-in from giving this back: it may, but need not.
+  void Excuse(const void* what);
   void MoveTo(const void* from, const void* to);
 
   const std::unordered_map<const void*, Account>& open() const { return open_; }

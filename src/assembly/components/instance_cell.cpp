@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include "assembly/components/mdl_count_rules.h"
+#include "frame/guard/filled.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/parameters.h"
 #include "frame/text/fixed_text.h"
@@ -54,8 +55,8 @@ class InstanceCell {
   // The generic's parameter decides the type; its column need not be in the table.
   Step FindColumn(int count) {
     ProModelitem owner{};
-    ProError status = ProMdlToModelitem(generic_, &owner);
-    if (!Ok(status) || owner.owner == nullptr) return {"ProMdlToModelitem", Failing(status)};
+    const ProError owned = ProMdlToModelitem(generic_, &owner);
+    if (!Ok(owned) || owner.owner == nullptr) return {"ProMdlToModelitem", Failing(owned)};
     const ReadValue held = ReadParameter(owner, parameter_);
     if (!held.is_known) return kLoggedAlready;
     if (!held.value) {
@@ -70,15 +71,17 @@ class InstanceCell {
     ProParameter parameter{};
     const Step found = FindParameter(owner, parameter_, &parameter);
     if (!Ok(found.status)) return found;
-    return {"ProParameterToFamtableItem", ProParameterToFamtableItem(&parameter, &column_)};
+    const ProError status = ProParameterToFamtableItem(&parameter, &column_);
+    return {"ProParameterToFamtableItem", FilledStatus(status, column_)};
   }
 
   Step FindInstance(const std::wstring& name) {
-    const ProError status = ProFamtableInit(generic_, &table_);
+    const ProError status = FilledStatus(ProFamtableInit(generic_, &table_), table_);
     if (!Ok(status)) return {"ProFamtableInit", status};
     auto host_name = HostName::From(name);
     if (!host_name) return {"ProFaminstanceInit", PRO_TK_LINE_TOO_LONG};
-    return {"ProFaminstanceInit", ProFaminstanceInit(host_name->name, &table_, &instance_)};
+    const ProError named = ProFaminstanceInit(host_name->name, &table_, &instance_);
+    return {"ProFaminstanceInit", FilledStatus(named, instance_)};
   }
 
   Step NeedColumn() {

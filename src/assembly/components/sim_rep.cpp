@@ -3,9 +3,9 @@
 #include "assembly/components/sim_rep.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "assembly/components/sim_rep_rules.h"
+#include "frame/guard/filled.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
@@ -56,10 +56,10 @@ std::optional<RepPlan> MakePlan(ProMdl root) {
 // An answer that fills nothing in is none.
 bool IsTaken(ProMdl root, const std::wstring& name) {
   auto host_name = HostName::From(name);
+  if (!host_name) return false;
   ProSimprep rep{};
-  static constexpr ProSimprep kUntouched = {};
-  return host_name && Ok(ProSimprepInit(host_name->name, PRO_VALUE_UNUSED, root, &rep)) &&
-         std::memcmp(&rep, &kUntouched, sizeof(rep)) != 0;
+  const ProError status = ProSimprepInit(host_name->name, PRO_VALUE_UNUSED, root, &rep);
+  return Ok(FilledStatus(status, rep));
 }
 
 // Nothing, after a line in the log, when the user quits, or when the prompt cannot be shown or
@@ -85,6 +85,7 @@ std::optional<std::wstring> AskName(const std::wstring& offered) {
 ProError AddItem(const LeftOutComponent& component, ProSimprepdata* data) {
   ProSimprepAction action{};
   ProError status = ProSimprepActionInit(PRO_SIMPREP_EXCLUDE, nullptr, &action);
+  status = FilledStatus(status, action);
   if (!Ok(status)) return status;
   // The host's table has a fixed size; no path of its own is longer.
   if (component.path.size() > PRO_MAX_ASSEM_LEVEL) return PRO_TK_BAD_INPUTS;
@@ -93,6 +94,7 @@ ProError AddItem(const LeftOutComponent& component, ProSimprepdata* data) {
   ProSimprepitem item{};
   status = ProSimprepdataitemInit(path, static_cast<int>(component.path.size()), component.id,
                                   &action, &item);
+  status = FilledStatus(status, item);
   return Ok(status) ? ProSimprepdataitemAdd(data, PRO_SIMPREP_COMPONENT_ITEM, &item) : status;
 }
 
@@ -110,6 +112,15 @@ bool AddItems(const RepPlan& plan, ProSimprepdata* data) {
 
 enum class Making { kMade, kNameRefused, kFailed };
 
+// Without the representation the command can neither go on nor try another name.
+bool IsGiven(const RepPlan& plan, const ProSimprep& rep) {
+  const ProError status = FilledStatus(PRO_TK_NO_ERROR, rep);
+  if (Ok(status)) return true;
+  LogFailure(plan.root, "ProSimprepCreate", status);
+  LogOutcome("ended, the host has not given the representation");
+  return false;
+}
+
 Making Make(const RepPlan& plan, const std::wstring& text, ProSimprep* rep) {
   auto name = HostName::From(text);
   if (!name) return Making::kNameRefused;
@@ -118,7 +129,7 @@ Making Make(const RepPlan& plan, const std::wstring& text, ProSimprep* rep) {
   if (Ok(status) && data) {
     if (!AddItems(plan, data.get())) return Making::kFailed;
     status = ProSimprepCreate(plan.root, data.get(), rep);
-    if (Ok(status)) return Making::kMade;
+    if (Ok(status)) return IsGiven(plan, *rep) ? Making::kMade : Making::kFailed;
   }
   // Which status a bad name has is not known for sure: the user may try another one, or quit.
   LogEvent("no representation " + ToUtf8(text) + ": the host answered " + StatusName(status));
