@@ -16,8 +16,8 @@ struct TextsGivenBack : GivenBack<wchar_t*> {
   }
 };
 
-// Who is not told how many elements there are cannot free the constraints among them, unless it
-// asks once more.
+// Who is not told how many elements there are cannot free the constraints among them, but may ask
+// again.
 struct CountedArrayIn : DataIn {
   void Forgive(Host& host) const {
     if (!host.accounts.Check(data, Resource::kArray).empty()) return;
@@ -26,7 +26,7 @@ struct CountedArrayIn : DataIn {
     for (int i = 0; i < count; ++i) {
       const void* const element = static_cast<void**>(data)[i];
       if (host.accounts.Check(element, Resource::kConstraint).empty()) {
-        host.accounts.LetStay(element);
+        host.accounts.Excuse(element);
       }
     }
   }

@@ -2,7 +2,6 @@
 #include "workbench/checks/accounts.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace wb {
 
@@ -42,37 +41,30 @@ const char* ResourceWord(Resource resource) {
 
 void Accounts::Give(const void* what, Resource resource, const char* function, long call) {
   open_[what] = {resource, function, call};
-  may_stay_.erase(what);
   ended_.erase(what);
-}
-
-const Account* Accounts::Find(const void* what) const {
-  if (const auto found = open_.find(what); found != open_.end()) return &found->second;
-  const auto staying = may_stay_.find(what);
-  return staying == may_stay_.end() ? nullptr : &staying->second;
-}
-
-void Accounts::LetStay(const void* what) {
-  if (auto account = open_.extract(what)) may_stay_.insert(std::move(account));
 }
 
 std::string Accounts::Check(const void* what, Resource resource) const {
   const std::string word = ResourceWord(resource);
   if (what == nullptr) return "null " + word;
-  const Account* const found = Find(what);
-  if (found == nullptr) {
+  const auto found = open_.find(what);
+  if (found == open_.end()) {
     return ended_.contains(what) ? word + " used after it was freed" : "foreign pointer as " + word;
   }
-  if (found->resource != resource) {
-    return std::string(ResourceWord(found->resource)) + " given as " + word;
+  if (found->second.resource != resource) {
+    return std::string(ResourceWord(found->second.resource)) + " given as " + word;
   }
   return "";
 }
 
 void Accounts::Take(const void* what) {
   open_.erase(what);
-  may_stay_.erase(what);
   ended_.insert(what);
+}
+
+void Accounts::Excuse(const void* what) {
+  const auto found = open_.find(what);
+  if (found != open_.end()) found->second.excused = true;
 }
 
 void Accounts::MoveTo(const void* from, const void* to) {
@@ -88,7 +80,7 @@ void Accounts::MoveTo(const void* from, const void* to) {
 std::vector<std::string> Accounts::Describe(long after) const {
   std::vector<Account> accounts;
   for (const auto& [what, account] : open_) {
-    if (account.call > after) accounts.push_back(account);
+    if (account.call > after && !account.excused) accounts.push_back(account);
   }
   std::sort(accounts.begin(), accounts.end(),
             [](const Account& a, const Account& b) { return a.call < b.call; });

@@ -32,6 +32,7 @@ struct Account {
   Resource resource;
   const char* function;  // the call that handed it out
   long call = 0;         // its number within the command
+  bool excused = false;  // may be left out
 };
 
 class Accounts {
@@ -43,22 +44,18 @@ class Accounts {
   void Take(const void* what);
   // A fault kept the plug-in from giving this back: it is not held against it.
   void Forgive(const void* what) { open_.erase(what); }
-  // The same where it may still be given back, but need not be.
-  void LetStay(const void* what);
+  // A fault may keep the plug-in from giving this back: it may, but need not.
+  void Excuse(const void* what);
   void MoveTo(const void* from, const void* to);
 
   const std::unordered_map<const void*, Account>& open() const { return open_; }
   // What was handed out after call number `after`, one line each in order of hand-out: "array from
   // ProArrayAlloc (call 12)".
   std::vector<std::string> Describe(long after = 0) const;
-  void Clear() { open_.clear(), may_stay_.clear(), ended_.clear(); }
+  void Clear() { open_.clear(), ended_.clear(); }
 
  private:
-  // Null when it is not out.
-  const Account* Find(const void* what) const;
-
   std::unordered_map<const void*, Account> open_;
-  std::unordered_map<const void*, Account> may_stay_;
   std::unordered_set<const void*> ended_;
 };
 

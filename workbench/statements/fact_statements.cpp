@@ -70,7 +70,7 @@ void ExpectEntries(ScriptRun& run, const Statement& statement) {
 // clang-format off
 constexpr StatementForm kFactForms[] = {
     {"fact MODEL FACT VALUE",         kTopOrDialog, &SetFact},
-    {"add MODEL ENTRY FACTS...",      kTopOrDialog, &Add},
+    {"add MODEL ENTRY [FACTS...]",    kTopOrDialog, &Add},
     {"expect fact MODEL FACT VALUE",  kTopOrDialog, &ExpectFact},
     {"expect entries MODEL ENTRY N",  kTopOrDialog, &ExpectEntries},
 };

@@ -120,6 +120,7 @@ class BoxWalk {
 std::wstring LengthUnitOf(ProMdl model) {
   ProUnitsystem system = {};
   ProError status = ProMdlPrincipalunitsystemGet(model, &system);
+  if (Ok(status) && system.owner != model) status = PRO_TK_GENERAL_ERROR;
   if (!Ok(status)) {
     LogFailure(model, "ProMdlPrincipalunitsystemGet", status);
     return {};

@@ -8,10 +8,10 @@
 #include <string_view>
 
 #include "assembly/components/mdl_count_rules.h"
+#include "frame/guard/filled.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/parameters.h"
 #include "frame/text/fixed_text.h"
-#include "toolkit/filled.h"
 #include "toolkit/parameter.h"
 #include "toolkit/status.h"
 

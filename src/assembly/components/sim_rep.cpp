@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "assembly/components/sim_rep_rules.h"
+#include "frame/guard/filled.h"
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
@@ -15,7 +16,6 @@
 #include "frame/structure/preselected_components.h"
 #include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
-#include "toolkit/filled.h"
 #include "toolkit/owners.h"
 #include "toolkit/window.h"
 

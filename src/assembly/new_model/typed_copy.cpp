@@ -52,7 +52,9 @@ std::optional<std::wstring> AskForName(const NamePrompt& prompt) {
   // Deliberately those before the last one count for nothing, not even when the user quits.
   for (int reply = 1; reply < prompt.replies; ++reply) {
     ProLine unused = {};
-    ProMessageStringRead(static_cast<int>(kLongestNewName), unused);
+    const ProError unread = ProMessageStringRead(static_cast<int>(kLongestNewName), unused);
+    if (Ok(unread) || unread == PRO_TK_MSG_USER_QUIT) continue;
+    LogFailure(std::wstring_view(), "ProMessageStringRead", unread);
   }
   return ReadReply();
 }

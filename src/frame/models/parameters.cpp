@@ -1,9 +1,9 @@
 // The host's parameter records and calls.
 #include "frame/models/parameters.h"
 
+#include "frame/guard/filled.h"
 #include "frame/messages/run_log.h"
 #include "frame/text/letter_case.h"
-#include "toolkit/filled.h"
 #include "toolkit/status.h"
 
 namespace qm {

@@ -21,7 +21,8 @@ std::vector<ProUnitsystem> SystemsOf(ProMdl model) {
   const int count = array.size();
   std::vector<ProUnitsystem> systems;
   for (int i = 0; i < count && array[i].owner == model; ++i) systems.push_back(array[i]);
-  if (Ok(status) && static_cast<int>(systems.size()) == count) return systems;
+  // No model is without any: seven come with the host.
+  if (Ok(status) && count > 0 && static_cast<int>(systems.size()) == count) return systems;
   LogFailure(model, "ProMdlUnitsystemsCollect", Ok(status) ? PRO_TK_INVALID_PTR : status);
   return {};
 }
@@ -52,11 +53,15 @@ bool UnitSetter::Set(ProMdl model) {
 }
 
 bool UnitSetter::SetNamed(ProMdl model) {
+  const std::vector<ProUnitsystem> systems = SystemsOf(model);
+  bool is_found = systems.empty();
   bool is_set = false;
-  for (const ProUnitsystem& system : SystemsOf(model)) {
+  for (const ProUnitsystem& system : systems) {
     if (!EqualIgnoringCase(FixedText(system.name), system_)) continue;
+    is_found = true;
     is_set = MakePrincipal(model, system) || is_set;
   }
+  if (!is_found) LogFailure(model, "ProMdlUnitsystemsCollect", PRO_TK_E_NOT_FOUND);
   return is_set;
 }
 
@@ -65,7 +70,11 @@ bool UnitSetter::SetOwn(ProMdl model) {
   ProName name = {};
   HostArray<ProUnititem> array;
   if (!units || !FillFixedText(kOwnUnitSystem, name)) return false;
-  if (!Ok(array.Assign(*units))) return false;
+  const ProError assigned = array.Assign(*units);
+  if (!Ok(assigned)) {
+    LogFailure(model, "ProArrayObjectAdd", assigned);
+    return false;
+  }
   ProUnitsystem created = {};
   const ProError status =
       ProMdlUnitsystemCreate(model, OwnType(model), name, array.get(), &created);

@@ -1,23 +1,20 @@
-// Whether a call that answered success has filled its record in: hosts may claim more than they do,
-// and zeroes taken for an answer would go back to them.
+// Records whose layout nobody knows: whether the host has filled one that was zeroed before.
 #pragma once
 
 #include <cstring>
-#include <type_traits>
 
 #include "toolkit/status.h"
 
 namespace qm {
 
-// By the whole record, which was zeroes before: the places of its members are not certain.
+// By the whole record: the places of its members are not certain.
 template <typename Record>
 bool IsFilled(const Record& record) {
-  static_assert(std::is_trivially_copyable_v<Record>);
   static constexpr Record kUntouched = {};
   return std::memcmp(&record, &kUntouched, sizeof(record)) != 0;
 }
 
-// The status of such a call; a success that left the record as it was is a failure.
+// The status, but a failing one for a success that has filled nothing in.
 template <typename Record>
 ProError FilledStatus(ProError status, const Record& record) {
   return Ok(status) && !IsFilled(record) ? PRO_TK_GENERAL_ERROR : status;
