@@ -52,9 +52,9 @@ std::optional<std::wstring> AskForName(const NamePrompt& prompt) {
   // Deliberately those before the last one count for nothing, not even when the user quits.
   for (int reply = 1; reply < prompt.replies; ++reply) {
     ProLine unused = {};
-    const ProError unread = ProMessageStringRead(static_cast<int>(kLongestNewName), unused);
-    if (Ok(unread) || unread == PRO_TK_MSG_USER_QUIT) continue;
-    LogFailure(std::wstring_view(), "ProMessageStringRead", unread);
+    const ProError read = ProMessageStringRead(static_cast<int>(kLongestNewName), unused);
+    const bool is_answered = Ok(read) ? unused[0] != 0 : read == PRO_TK_MSG_USER_QUIT;
+    if (!is_answered) LogFailure(std::wstring_view(), "ProMessageStringRead", read);
   }
   return ReadReply();
 }

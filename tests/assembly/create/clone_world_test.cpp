@@ -138,6 +138,7 @@ struct LongName {
 TEST_F(CloneWorld, NamesEndWhereTheHostsDo) {
   constexpr char kTooLong[] = "新建模型名称长度不能超过32位";
   Set(L"CompCopyAutoNum", L"byAsm");
+  for (const wchar_t* const section : {L"AsmAssembly", L"PrtAssembly"}) Set(section, L"0");
   for (const LongName& row : {LongName{29, "NewPart", true, ""},
                               {30, "NewPart", false, ""},
                               {31, "NewPart", false, kTooLong},
