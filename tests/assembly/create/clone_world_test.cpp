@@ -24,6 +24,8 @@ class CloneWorld : public PluginHost {
     for (Model* const start : {start_part_, start_assembly_}) host_.session.Save(*start);
     host_.options["template_solidpart"] = {PathToUtf8(folder_ / "start.prt")};
     host_.options["template_designasm"] = {PathToUtf8(folder_ / "begin.asm.1")};
+    // The tops have no coordinate systems to constrain by.
+    for (const wchar_t* const section : {L"PrtAssembly", L"AsmAssembly"}) Set(section, L"0");
     plugin_.Start();
   }
   ~CloneWorld() override {
