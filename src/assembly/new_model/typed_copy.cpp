@@ -36,8 +36,8 @@ Reply ReadReply() {
   return {status, Ok(status) ? std::wstring(FixedText(text)) : std::wstring()};
 }
 
-// A default is offered where a reply counts for nothing, so that the host has a text for it. Without
-// one it has read nothing, and the reply meant for it is the next one's.
+// A default is offered where a reply counts for nothing, so that the host has a text for it.
+// Without one it has read nothing, and the reply meant for it is the next one's.
 void ReadUnused() {
   const Reply reply = ReadReply();
   if (reply.status == PRO_TK_MSG_USER_QUIT || !reply.text.empty()) return;
