@@ -2,8 +2,9 @@
 #include "workbench/assembly/merging.h"
 
 #include <cmath>
-#include <deque>
+#include <ranges>
 #include <unordered_set>
+#include <vector>
 
 #include "workbench/session/extents.h"
 
@@ -39,14 +40,15 @@ std::optional<Placement> PlacementAt(const Model& root, const std::vector<int>& 
 }
 
 std::optional<Placement> FirstPlacementOf(const Model& root, const Model& model) {
-  std::deque<Found> pending = {{&root, kIdentityPlacement}};
+  std::vector<Found> pending = {{&root, kIdentityPlacement}};
   std::unordered_set<const Model*> met;
   while (!pending.empty()) {
-    const Found at = pending.front();
-    pending.pop_front();
+    const Found at = pending.back();
+    pending.pop_back();
     if (at.model == &model) return at.placement;
     if (!met.insert(at.model).second) continue;
-    for (const Feature& feature : FeaturesOf(*at.model)) {
+    // The last one waits the longest.
+    for (const Feature& feature : FeaturesOf(*at.model) | std::views::reverse) {
       const Model* const below = feature.ComponentModel();
       if (below == nullptr) continue;
       pending.push_back({below, PlacedWithin(feature.component->placement, at.placement)});

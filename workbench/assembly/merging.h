@@ -12,8 +12,8 @@ namespace wb {
 // Where the occurrence at the end of the path lies in `root`; none for a way that leads nowhere.
 std::optional<Placement> PlacementAt(const Model& root, const std::vector<int>& path);
 
-// The same for the first occurrence of a model, an assembly's own components before those inside
-// them; none when it is not there.
+// The same for the first occurrence of a model: what a component holds comes before the components
+// behind it. None when it is not there.
 std::optional<Placement> FirstPlacementOf(const Model& root, const Model& model);
 
 // The way back, of a placement that neither scales nor mirrors.

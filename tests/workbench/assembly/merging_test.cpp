@@ -48,8 +48,8 @@ TEST_F(Merging, APathLeadsThroughTheLevels) {
   EXPECT_FALSE(PlacementAt(*pump_, {7, 3, 1}));
 }
 
-TEST_F(Merging, AnAssemblysOwnComponentsComeFirst) {
-  EXPECT_EQ(FirstPlacementOf(*pump_, *body_), kShifted);
+TEST_F(Merging, WhatAComponentHoldsComesBeforeTheNextOne) {
+  EXPECT_EQ(FirstPlacementOf(*pump_, *body_), kTurned);
   EXPECT_EQ(FirstPlacementOf(*rotor_, *pump_), std::nullopt);
 }
 
@@ -74,7 +74,7 @@ TEST_F(Merging, OnlyTurnsAndShiftsAreRigid) {
 
 TEST_F(Merging, SurfacesLieWhereTheAssemblyShowsThem) {
   const Placement from = *PlacementAt(*pump_, {7, 3});
-  const Placement to = *FirstPlacementOf(*pump_, *body_);
+  const Placement to = *PlacementAt(*pump_, {8});
   const int id = AddMergeFeature(*body_, *bolt_, PlacedWithin(from, Inverse(to)), "joined");
   EXPECT_EQ(body_->FindFeature(id)->merged, "bolt.prt");
   EXPECT_TRUE(body_->modified);
