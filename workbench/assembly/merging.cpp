@@ -86,6 +86,23 @@ bool IsRigid(const Placement& placement) {
   return turn > 0 && placement[3][3] == 1;
 }
 
+bool HasGeometryOf(Session& session, const Model& part, const Model& other) {
+  std::vector<const Model*> pending = {&part};
+  std::unordered_set<const Model*> met;
+  while (!pending.empty()) {
+    const Model* const at = pending.back();
+    pending.pop_back();
+    if (at == &other) return true;
+    if (!met.insert(at).second) continue;
+    for (const Feature& feature : FeaturesOf(*at)) {
+      const auto name = ParseModelName(feature.merged);
+      const Model* const merged = name ? session.Find(*name) : nullptr;
+      if (merged != nullptr) pending.push_back(merged);
+    }
+  }
+  return false;
+}
+
 int AddMergeFeature(Model& target, const Model& source, const Placement& placement,
                     const std::string& name) {
   SolidContent& solid = target.solid();

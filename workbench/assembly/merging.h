@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "workbench/session/model.h"
+#include "workbench/session/session.h"
 
 namespace wb {
 
@@ -20,6 +20,10 @@ std::optional<Placement> FirstPlacementOf(const Model& root, const Model& model)
 Placement Inverse(const Placement& placement);
 // Whether it does neither.
 bool IsRigid(const Placement& placement);
+
+// Whether a part is `other`, or has its geometry by merge features, its own or those of the parts
+// merged into it: `other` can take nothing from it.
+bool HasGeometryOf(Session& session, const Model& part, const Model& other);
 
 // Gives `target` a merge feature with the surfaces of `source`, which lies at `placement` in the
 // target's own frame. Gives the feature's id.

@@ -83,5 +83,14 @@ TEST_F(Merging, SurfacesLieWhereTheAssemblyShowsThem) {
   EXPECT_EQ(box.max, (Point{7, 23, 31}));
 }
 
+TEST_F(Merging, GeometryIsFollowedThroughSeveralParts) {
+  Model& plate = session_.Add(Model({"plate", ModelKind::kPart}));
+  AddMergeFeature(*body_, *bolt_, kIdentityPlacement, "joined");
+  AddMergeFeature(plate, *body_, kIdentityPlacement, "joined");
+  EXPECT_TRUE(HasGeometryOf(session_, plate, *bolt_));
+  EXPECT_TRUE(HasGeometryOf(session_, plate, plate));
+  EXPECT_FALSE(HasGeometryOf(session_, *bolt_, plate));
+}
+
 }  // namespace
 }  // namespace wb
