@@ -54,15 +54,17 @@ std::optional<std::wstring> FileOf(ProMdl model) {
   return file;
 }
 
-// Index of the first part with this file; each model is asked once.
+// Index of the first part with this file. Each model is asked once, those behind it as well: a
+// search costs the same wherever the part lies.
 std::optional<int> FirstWith(const std::wstring& file, const ComponentList& components) {
   HandleIndex asked;
+  std::optional<int> first;
   for (int i = 0; i < components.size(); ++i) {
     const ProMdl model = components.model(i);
     const bool is_new = components.type(i) == PRO_MDL_PART && asked.Insert(model).second;
-    if (is_new && FileOf(model) == file) return i;
+    if (is_new && FileOf(model) == file && !first) first = i;
   }
-  return std::nullopt;
+  return first;
 }
 
 // Feature ids from the top model down to a component. The assembly that holds it is the last one
