@@ -16,6 +16,7 @@
 #include "frame/models/current_assembly.h"
 #include "frame/models/handle_index.h"
 #include "frame/models/model_name.h"
+#include "frame/text/letter_case.h"
 #include "frame/text/model_record_rules.h"
 #include "toolkit/assembly.h"
 #include "toolkit/selection.h"
@@ -27,6 +28,7 @@ namespace {
 // Deliberately each of them is called so.
 constexpr wchar_t kFeatureName[] = L"合并";
 constexpr int kAnyNumber = -1;
+constexpr wchar_t kPartEnd[] = L".prt";
 
 // Whether the host has done it; else the run log says so.
 bool Done(const char* function, ProError status) {
@@ -41,17 +43,21 @@ ProMdl ActivePart() {
   return nullptr;
 }
 
-// "bolt.prt" as the host's record has it. Nothing, after a line in the run log, where it does not
-// tell.
-std::optional<std::wstring> FileOf(ProMdl model) {
-  const auto name = ModelName(model);
+// "bolt.prt" as the host's record of a part has it, and made of the name where the record does not
+// say. Nothing, after a line in the run log, where not even the name is told.
+std::optional<std::wstring> FileOf(ProMdl part) {
+  const auto name = ModelName(part);
   if (!name) return std::nullopt;
   ProMdldata data = {};
-  const ProError status = ProMdlDataGet(model, &data);
+  const ProError status = ProMdlDataGet(part, &data);
+  if (!Done("ProMdlDataGet", status)) return *name + kPartEnd;
   const std::wstring_view record(data.texts, std::size(data.texts));
-  auto file = Ok(status) ? FileInModelRecord(record, *name) : std::nullopt;
-  if (!file) LogFailure(model, "ProMdlDataGet", status);
-  return file;
+  return FileInModelRecord(record, *name).value_or(*name + kPartEnd);
+}
+
+bool IsFile(ProMdl part, const std::wstring& file) {
+  const auto own = FileOf(part);
+  return own && EqualIgnoringCase(*own, file);
 }
 
 // Index of the first part with this file. Each model is asked once, those behind it as well: a
@@ -62,7 +68,7 @@ std::optional<int> FirstWith(const std::wstring& file, const ComponentList& comp
   for (int i = 0; i < components.size(); ++i) {
     const ProMdl model = components.model(i);
     const bool is_new = components.type(i) == PRO_MDL_PART && asked.Insert(model).second;
-    if (is_new && FileOf(model) == file && !first) first = i;
+    if (is_new && IsFile(model, file) && !first) first = i;
   }
   return first;
 }
