@@ -54,11 +54,13 @@ std::optional<double> NumberIn(const std::string& text) {
   return number;
 }
 
-// What was shown last is what a reading call asks.
+// What the running command has shown last is what a reading call asks. Where that could not be
+// shown the user sees no prompt.
 PromptText LastPrompt(const Call& call) {
-  const auto notes = call.host.events.All<Note>();
-  if (notes.empty()) throw NotModelled{"a reply without a prompt"};
-  return SplitPrompt(notes.back().text);
+  const auto notes = call.host.events.Since<Note>(call.host.command_began);
+  if (!notes.empty()) return SplitPrompt(notes.back().text);
+  if (call.host.faults.struck() == 0) call.Fail("a reply without a prompt");
+  return {};
 }
 
 }  // namespace

@@ -2,8 +2,9 @@
 #include "workbench/assembly/merging.h"
 
 #include <cmath>
-#include <deque>
+#include <ranges>
 #include <unordered_set>
+#include <vector>
 
 #include "workbench/session/extents.h"
 
@@ -39,14 +40,15 @@ std::optional<Placement> PlacementAt(const Model& root, const std::vector<int>& 
 }
 
 std::optional<Placement> FirstPlacementOf(const Model& root, const Model& model) {
-  std::deque<Found> pending = {{&root, kIdentityPlacement}};
+  std::vector<Found> pending = {{&root, kIdentityPlacement}};
   std::unordered_set<const Model*> met;
   while (!pending.empty()) {
-    const Found at = pending.front();
-    pending.pop_front();
+    const Found at = pending.back();
+    pending.pop_back();
     if (at.model == &model) return at.placement;
     if (!met.insert(at.model).second) continue;
-    for (const Feature& feature : FeaturesOf(*at.model)) {
+    // The last one waits the longest.
+    for (const Feature& feature : FeaturesOf(*at.model) | std::views::reverse) {
       const Model* const below = feature.ComponentModel();
       if (below == nullptr) continue;
       pending.push_back({below, PlacedWithin(feature.component->placement, at.placement)});
@@ -82,6 +84,23 @@ bool IsRigid(const Placement& placement) {
                       p[0][1] * (p[1][0] * p[2][2] - p[1][2] * p[2][0]) +
                       p[0][2] * (p[1][0] * p[2][1] - p[1][1] * p[2][0]);
   return turn > 0 && placement[3][3] == 1;
+}
+
+bool HasGeometryOf(Session& session, const Model& part, const Model& other) {
+  std::vector<const Model*> pending = {&part};
+  std::unordered_set<const Model*> met;
+  while (!pending.empty()) {
+    const Model* const at = pending.back();
+    pending.pop_back();
+    if (at == &other) return true;
+    if (!met.insert(at).second) continue;
+    for (const Feature& feature : FeaturesOf(*at)) {
+      const auto name = ParseModelName(feature.merged);
+      const Model* const merged = name ? session.Find(*name) : nullptr;
+      if (merged != nullptr) pending.push_back(merged);
+    }
+  }
+  return false;
 }
 
 int AddMergeFeature(Model& target, const Model& source, const Placement& placement,

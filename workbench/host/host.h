@@ -58,6 +58,7 @@ struct Host {
   std::vector<ModelName> leaving;  // erased, but their names are taken until control is back
 
   std::string running_command;  // empty: the plug-in is idle
+  size_t command_began = 0;     // the mark of the events since the last command's start
   unsigned long ui_thread = 0;
 
   // Erased models count until the plug-in's action has come back.

@@ -68,6 +68,7 @@ class RunningCommand {
     if (before_.empty()) {
       host.trace.Restart();
       host.accounts.Clear();
+      host.command_began = host.events.Mark();
     }
     host.running_command = name;
   }

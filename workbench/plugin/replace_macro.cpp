@@ -5,26 +5,32 @@
 #include <vector>
 
 #include "workbench/base/text.h"
+#include "workbench/host/call.h"
 #include "workbench/session/model_cycle.h"
+#include "workbench/session/model_file.h"
 
 namespace wb {
 namespace {
 
-// "~ Select `dialog` `button`": what stands before the first name, and the names.
+// "~ Select `dialog` `button` 1 `choice`": what stands before the first name, the names, and what
+// stands before the third one.
 struct ReplaceStep {
   std::string text;
   std::string action;
   std::vector<std::string> names;
+  std::string count;
 };
 
 ReplaceStep StepOf(const std::string& text) {
-  ReplaceStep step{text, "", {}};
+  ReplaceStep step{text, "", {}, ""};
   const size_t quote = std::min(text.find('`'), text.size());
   step.action = Trimmed(text.substr(0, quote));
   for (size_t at = quote; at < text.size();) {
     const size_t end = std::min(text.find('`', at + 1), text.size());
     step.names.push_back(text.substr(at + 1, end - at - 1));
     at = std::min(text.find('`', end + 1), text.size());
+    const bool is_third_next = step.names.size() == 2 && at < text.size();
+    if (is_third_next) step.count = Trimmed(text.substr(end + 1, at - end - 1));
   }
   return step;
 }
@@ -42,19 +48,33 @@ std::vector<ReplaceStep> StepsOf(std::string_view macro) {
 }
 
 // How far the dialog has come; each step wants the one before.
-enum class Stage { kClosed, kOpen, kUnrelated, kChoosing, kInWorkingDirectory, kChosen, kDone };
+enum class Stage {
+  kClosed,
+  kPopup,
+  kOpen,
+  kUnrelated,
+  kChoosing,
+  kInWorkingDirectory,
+  kChosen,
+  kDone,
+};
+
+// Older releases open the dialog from their menu, newer ones from the component's popup menu.
+enum class Releases { kAll, kOlder, kNewer };
 
 struct StageRow {
   const char* action;
-  const char* first;   // names of the step; null: any
-  const char* second;  // the rest of the names is the choice
+  const char* first;   // names of the step
+  const char* second;  // null: any; the rest of the names is the choice
   Stage wants;
   Stage then;
+  Releases releases = Releases::kAll;
 };
 // clang-format off
 constexpr StageRow kStages[] = {
-    {"~ Command",  "ProCmdReplace",                          nullptr,                      Stage::kClosed,             Stage::kOpen},
-    {"~ Command",  "ProCmdReplComp@PopupMenuGraphicWinStack", nullptr,                     Stage::kClosed,             Stage::kOpen},
+    {"~ Command",  "ProCmdReplace",                          nullptr,                      Stage::kClosed,             Stage::kOpen,   Releases::kOlder},
+    {"~",          "rmb_popup",                              "PopupMenu",                  Stage::kClosed,             Stage::kPopup,  Releases::kNewer},
+    {"~ Command",  "ProCmdReplComp@PopupMenuGraphicWinStack", nullptr,                     Stage::kPopup,              Stage::kOpen,   Releases::kNewer},
     {"~ Select",   "gen_repl_dlg",                           "ByCompPH.rpl_method_radio",  Stage::kOpen,               Stage::kUnrelated},
     {"~ Activate", "gen_repl_dlg",                           "PB_NewComp",                 Stage::kUnrelated,          Stage::kChoosing},
     {"~ Activate", "file_open",                              "Current Dir",                Stage::kChoosing,           Stage::kInWorkingDirectory},
@@ -63,6 +83,15 @@ constexpr StageRow kStages[] = {
 };
 // clang-format on
 
+bool IsOlder(std::string_view release) {
+  return release == "5.0" || release == "Creo 1.0" || release == "Creo 2.0";
+}
+
+bool IsOf(const StageRow& row, std::string_view release) {
+  if (row.releases == Releases::kAll) return true;
+  return (row.releases == Releases::kOlder) == IsOlder(release);
+}
+
 bool Fits(const ReplaceStep& step, const StageRow& row) {
   if (step.action != row.action || step.names.empty() || step.names[0] != row.first) return false;
   return row.second == nullptr || (step.names.size() > 1 && step.names[1] == row.second);
@@ -70,9 +99,14 @@ bool Fits(const ReplaceStep& step, const StageRow& row) {
 
 // What only records where the mouse was.
 bool IsWithoutEffect(const ReplaceStep& step) {
-  const bool opens_popup =
-      step.action == "~" && !step.names.empty() && step.names[0] == "rmb_popup";
-  return opens_popup || step.action == "~ Trail" || step.action.empty();
+  return step.action == "~ Trail" || step.action.empty();
+}
+
+// A choice is one entry of a list; the method is a certain one.
+bool IsChoiceRight(const ReplaceStep& step, Stage reached) {
+  const bool is_choice = reached == Stage::kUnrelated || reached == Stage::kChosen;
+  if (is_choice && (step.names.size() != 3 || step.count != "1")) return false;
+  return reached != Stage::kUnrelated || step.names.back() == "Unrelated Component";
 }
 
 // The feature that places the one selected component; null: none is selected.
@@ -87,7 +121,16 @@ Feature* SelectedComponent(Session& session, Model** owner) {
     feature = at->FindFeature(id);
     at = feature != nullptr ? feature->ComponentModel() : nullptr;
   }
-  return feature;
+  return feature != nullptr && feature->IsComponent() ? feature : nullptr;
+}
+
+// Null for a file that cannot be read.
+Model* ChosenModel(const ModelName& name, Session& session) {
+  try {
+    return session.Retrieve(name);
+  } catch (const ModelFileError&) {
+    return nullptr;
+  }
 }
 
 std::string Replace(const std::string& file, Session& session) {
@@ -98,7 +141,8 @@ std::string Replace(const std::string& file, Session& session) {
   const bool is_listed = name && file == FoldCase(file) &&
                          !FolderIndex(session.working_directory()).Newest(*name).empty();
   if (!is_listed) return "the list of files has no " + file;
-  Model* const model = session.Retrieve(*name);
+  Model* const model = ChosenModel(*name, session);
+  if (model == nullptr) return file + " cannot be read";
   const ModelLink before = feature->component->link;
   feature->component->link = {model->id, model};
   if (!FindCycle({owner}).empty()) {
@@ -118,18 +162,18 @@ bool IsReplaceMacro(std::string_view macro) {
 }
 
 PlayedReplacement PlayReplaceMacro(std::string_view macro, Session& session) {
+  const std::string& release = TheHost().release;
   Stage stage = Stage::kClosed;
   std::string file;
   for (const ReplaceStep& step : StepsOf(macro)) {
     if (IsWithoutEffect(step)) continue;
-    const auto* const row =
-        std::ranges::find_if(kStages, [&](const StageRow& known) { return Fits(step, known); });
-    if (row == std::end(kStages) || row->wants != stage)
-      return {"macro step \"" + step.text + "\"", ""};
-    stage = row->then;
-    if (stage == Stage::kUnrelated && step.names.back() != "Unrelated Component") {
+    const auto* const row = std::ranges::find_if(
+        kStages, [&](const StageRow& known) { return Fits(step, known) && IsOf(known, release); });
+    const bool is_known = row != std::end(kStages) && row->wants == stage;
+    if (!is_known || !IsChoiceRight(step, row->then)) {
       return {"macro step \"" + step.text + "\"", ""};
     }
+    stage = row->then;
     if (stage == Stage::kChosen) file = step.names.back();
   }
   if (stage != Stage::kDone) return {"a macro that leaves its dialog open", ""};

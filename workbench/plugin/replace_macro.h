@@ -16,8 +16,8 @@ struct PlayedReplacement {
   std::string refused;  // why the host stopped, in words of its own; empty: it went through
 };
 
-// Carries such a macro out: the selected component gets the chosen model of the working directory
-// in its place, without its constraints.
+// Carries such a macro out, as the release of the running host knows it: the selected component
+// gets the chosen model of the working directory in its place, without its constraints.
 PlayedReplacement PlayReplaceMacro(std::string_view macro, Session& session);
 
 }  // namespace wb

@@ -229,6 +229,9 @@ void ActivateComponent(ScriptRun& run, const Statement& statement) {
   const ComponentSpot spot = FindComponentSpot(run.Root(), statement.Text("PATH"));
   Model* const model = spot.feature->ComponentModel();
   if (model == nullptr) throw ScriptError(statement.Text("PATH") + " is not in session");
+  if (spot.feature->status != FeatureStatus::kActive) {
+    throw ScriptError(statement.Text("PATH") + " is suppressed");
+  }
   run.host.session.ActivateComponent(model);
 }
 

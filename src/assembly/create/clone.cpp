@@ -38,8 +38,12 @@ ProMdl ModelOf(ProModelitem item) {
 }
 
 std::optional<CloneMode> ReadMode() {
-  const auto mode =
-      CloneModeOf(ReadSetting(L"CompCopyAutoNum", kValueKey, ConfigPath(kConfigFile)));
+  const auto value = TryReadSetting(L"CompCopyAutoNum", kValueKey, ConfigPath(kConfigFile));
+  if (!value) {
+    LogOutcome("nothing made, QmConfig.ini cannot be read");
+    return std::nullopt;
+  }
+  const auto mode = CloneModeOf(*value);
   if (!mode) LogOutcome("nothing made, the setting CompCopyAutoNum names no mode");
   return mode;
 }

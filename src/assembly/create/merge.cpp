@@ -48,7 +48,8 @@ void Merge(ProSolid target, const Preselected& selected) {
 }  // namespace
 
 ProError QmMerge() {
-  const ProMdl start = LoadTemplate(kPartTemplate);
+  const auto file = TemplateFile(kPartTemplate);
+  const ProMdl start = file ? LoadTemplate(kPartTemplate, *file) : nullptr;
   if (start == nullptr) return PRO_TK_NO_ERROR;
   const auto selected = ReadParts();
   const auto assembly = selected ? AssemblyForMerge() : std::nullopt;

@@ -14,6 +14,7 @@
 #include "frame/settings/config.h"
 #include "frame/text/letter_case.h"
 #include "frame/text/list_rules.h"
+#include "toolkit/status.h"
 #include "toolkit/window.h"
 
 namespace qm {
@@ -32,11 +33,13 @@ std::optional<ProMdl> AssemblyForNew() {
 }
 
 std::optional<NewJob> Prepare(const NewKind& kind) {
-  ProMdl model = kind.loads_first ? LoadTemplate(kind.start) : nullptr;
+  const auto file = TemplateFile(kind.start);
+  if (!file) return std::nullopt;
+  ProMdl model = kind.loads_first ? LoadTemplate(kind.start, *file) : nullptr;
   if (kind.loads_first && model == nullptr) return std::nullopt;
   const auto assembly = AssemblyForNew();
   if (!assembly) return std::nullopt;
-  if (!kind.loads_first) model = LoadTemplate(kind.start);
+  if (!kind.loads_first) model = LoadTemplate(kind.start, *file);
   if (model == nullptr) return std::nullopt;
   return NewJob{model, *assembly};
 }
@@ -76,7 +79,8 @@ ProError MakeNew(const NewKind& kind) {
   if (!component || !WantsConstraint(kind)) return PRO_TK_NO_ERROR;
   // Deliberately the tree is refreshed only behind a constraint.
   if (ConstrainByCsys(job->assembly, *component, made, kind.no_csys)) {
-    ProTreetoolRefresh(job->assembly);
+    const ProError refreshed = ProTreetoolRefresh(job->assembly);
+    if (!Ok(refreshed)) LogFailure(job->assembly, "ProTreetoolRefresh", refreshed);
   }
   return PRO_TK_NO_ERROR;
 }

@@ -52,24 +52,29 @@ OwnSelection SelectAssemblyCsys(ProAssembly assembly, ProCsys csys) {
   return OwnSelection();
 }
 
-ProError Fill(ProAsmcompconstraint constraint, ProSelection in_assembly, ProSelection in_model) {
-  ProError status = ProAsmcompconstraintTypeSet(constraint, PRO_ASM_CSYS);
-  if (!Ok(status)) return status;
-  status = ProAsmcompconstraintAsmreferenceSet(constraint, in_assembly, PRO_DATUM_SIDE_YELLOW);
-  if (!Ok(status)) return status;
-  return ProAsmcompconstraintCompreferenceSet(constraint, in_model, PRO_DATUM_SIDE_YELLOW);
+bool Fill(ProSolid owner, ProAsmcompconstraint constraint, ProSelection in_assembly,
+          ProSelection in_model) {
+  return Done(owner, "ProAsmcompconstraintTypeSet",
+              ProAsmcompconstraintTypeSet(constraint, PRO_ASM_CSYS)) &&
+         Done(
+             owner, "ProAsmcompconstraintAsmreferenceSet",
+             ProAsmcompconstraintAsmreferenceSet(constraint, in_assembly, PRO_DATUM_SIDE_YELLOW)) &&
+         Done(owner, "ProAsmcompconstraintCompreferenceSet",
+              ProAsmcompconstraintCompreferenceSet(constraint, in_model, PRO_DATUM_SIDE_YELLOW));
 }
 
 void Constrain(ProAsmcomp component, ProSelection in_assembly, ProSelection in_model) {
+  const ProSolid owner = component.owner;
   HostArray<ProAsmcompconstraint> constraints;
+  if (!Done(owner, "ProArrayAlloc", constraints.Allocate())) return;
   Constraint constraint;
-  ProError status = constraints.Allocate();
-  if (Ok(status)) status = ProAsmcompconstraintAlloc(constraint.put());
-  if (Ok(status) && !constraint) status = PRO_TK_OUT_OF_MEMORY;
-  if (Ok(status)) status = Fill(constraint.get(), in_assembly, in_model);
-  if (Ok(status)) status = constraints.Append(constraint.get());
-  if (Ok(status)) status = ProAsmcompConstraintsSet(nullptr, &component, constraints.get());
-  Done(component.owner, "ProAsmcompConstraintsSet", status);
+  ProError made = ProAsmcompconstraintAlloc(constraint.put());
+  if (Ok(made) && !constraint) made = PRO_TK_OUT_OF_MEMORY;
+  if (!Done(owner, "ProAsmcompconstraintAlloc", made)) return;
+  if (!Fill(owner, constraint.get(), in_assembly, in_model)) return;
+  if (!Done(owner, "ProArrayObjectAdd", constraints.Append(constraint.get()))) return;
+  Done(owner, "ProAsmcompConstraintsSet",
+       ProAsmcompConstraintsSet(nullptr, &component, constraints.get()));
 }
 
 }  // namespace

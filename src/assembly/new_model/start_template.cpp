@@ -10,29 +10,27 @@
 #include "toolkit/window.h"
 
 namespace qm {
-namespace {
 
-ProMdl Load(const StartTemplate& start) {
+std::optional<std::wstring> TemplateFile(const StartTemplate& start) {
   auto option = HostName::From(start.option);
   HostArray<ProPath> values;
   const ProError told = ProConfigoptArrayGet(option->name, values.put());
-  if (!Ok(told) || values.size() < 1) {
-    LogEvent(std::string("no template: ProConfigoptArrayGet answered ") + StatusName(told));
-    return nullptr;
-  }
-  ProMdl model = nullptr;
-  const ProError loaded = ProMdlLoad(values[0], start.type, PRO_B_FALSE, &model);
-  if (Ok(loaded) && model != nullptr) return model;
-  LogEvent(std::string("no template: ProMdlLoad answered ") + StatusName(loaded));
-  return nullptr;
+  if (Ok(told) && values.size() > 0) return std::wstring(FixedText(values[0]));
+  LogEvent(std::string("no template: ProConfigoptArrayGet answered ") + StatusName(told));
+  ShowMessage(start.not_loaded);
+  return std::nullopt;
 }
 
-}  // namespace
-
-ProMdl LoadTemplate(const StartTemplate& start) {
-  const ProMdl model = Load(start);
-  if (model == nullptr) ShowMessage(start.not_loaded);
-  return model;
+ProMdl LoadTemplate(const StartTemplate& start, const std::wstring& file) {
+  ProPath path = {};
+  ProMdl model = nullptr;
+  const bool fits = FillFixedText(file, path);
+  const ProError loaded =
+      fits ? ProMdlLoad(path, start.type, PRO_B_FALSE, &model) : PRO_TK_LINE_TOO_LONG;
+  if (Ok(loaded) && model != nullptr) return model;
+  LogEvent(std::string("no template: ProMdlLoad answered ") + StatusName(loaded));
+  ShowMessage(start.not_loaded);
+  return nullptr;
 }
 
 }  // namespace qm

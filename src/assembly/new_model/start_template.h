@@ -1,6 +1,9 @@
 // The templates that the host's users start new models from.
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "toolkit/model.h"
 
 namespace qm {
@@ -15,7 +18,10 @@ inline constexpr StartTemplate kPartTemplate = {
     L"template_solidpart", PRO_MDL_PART,
     L"\t零件模板加载失败，请确认template_solidpart选项是否配置正确\t"};
 
-// Null, after a message, where the option has no value or the file cannot be loaded.
-ProMdl LoadTemplate(const StartTemplate& start);
+// The template's file. Nothing, after a message, where the option has no value.
+std::optional<std::wstring> TemplateFile(const StartTemplate& start);
+
+// Null, after a message, where the file cannot be loaded.
+ProMdl LoadTemplate(const StartTemplate& start, const std::wstring& file);
 
 }  // namespace qm

@@ -25,19 +25,34 @@ ProError ShowPrompt(const NamePrompt& prompt) {
                                    : ProMessageDisplay(file.data(), prompt.key);
 }
 
-// An empty name for a reply without any text, which the host refuses to take.
-std::optional<std::wstring> ReadReply() {
-  ProLine reply = {};
-  const ProError status = ProMessageStringRead(static_cast<int>(kLongestNewName), reply);
-  if (status == PRO_TK_MSG_USER_QUIT) {
+struct Reply {
+  ProError status;
+  std::wstring text;
+};
+
+Reply ReadReply() {
+  ProLine text = {};
+  const ProError status = ProMessageStringRead(static_cast<int>(kLongestNewName), text);
+  return {status, Ok(status) ? std::wstring(FixedText(text)) : std::wstring()};
+}
+
+// A default is offered where a reply counts for nothing, so that the host has a text for it.
+// Without one it has read nothing, and the reply meant for it is the next one's.
+void ReadUnused() {
+  const Reply reply = ReadReply();
+  if (reply.status == PRO_TK_MSG_USER_QUIT || !reply.text.empty()) return;
+  LogFailure(std::wstring_view(), "ProMessageStringRead", reply.status);
+}
+
+// Every reply is tried as a name, also an empty one, which the host refuses to take.
+std::optional<std::wstring> ReadName() {
+  const Reply reply = ReadReply();
+  if (Ok(reply.status) || reply.status == PRO_TK_GENERAL_ERROR) return reply.text;
+  if (reply.status == PRO_TK_MSG_USER_QUIT) {
     LogOutcome("nothing made, the user quit the prompt");
     return std::nullopt;
   }
-  if (status == PRO_TK_GENERAL_ERROR) return L"";
-  const std::wstring name(FixedText(reply));
-  // Nobody can answer a prompt that reads nothing: asking again would never end.
-  if (Ok(status) && !name.empty()) return name;
-  LogFailure(std::wstring_view(), "ProMessageStringRead", status);
+  LogFailure(std::wstring_view(), "ProMessageStringRead", reply.status);
   LogOutcome("nothing made, the prompt cannot be read");
   return std::nullopt;
 }
@@ -50,13 +65,8 @@ std::optional<std::wstring> AskForName(const NamePrompt& prompt) {
     return std::nullopt;
   }
   // Deliberately those before the last one count for nothing, not even when the user quits.
-  for (int reply = 1; reply < prompt.replies; ++reply) {
-    ProLine unused = {};
-    const ProError read = ProMessageStringRead(static_cast<int>(kLongestNewName), unused);
-    const bool is_answered = Ok(read) ? unused[0] != 0 : read == PRO_TK_MSG_USER_QUIT;
-    if (!is_answered) LogFailure(std::wstring_view(), "ProMessageStringRead", read);
-  }
-  return ReadReply();
+  for (int reply = 1; reply < prompt.replies; ++reply) ReadUnused();
+  return ReadName();
 }
 
 }  // namespace

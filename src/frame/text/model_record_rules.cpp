@@ -111,4 +111,12 @@ std::optional<std::wstring> FolderInModelRecord(std::wstring_view record, std::w
   return ModelFolder(device, path);
 }
 
+std::optional<std::wstring> FileInModelRecord(std::wstring_view record, std::wstring_view name) {
+  const ProMdldataOrder* const order = name.empty() ? nullptr : OrderWithNameAt(record, name);
+  if (order == nullptr) return std::nullopt;
+  const std::wstring type(TextAt(record, order->type));
+  if (type.empty()) return std::nullopt;
+  return std::wstring(TextAt(record, order->name)) + L"." + type;
+}
+
 }  // namespace qm

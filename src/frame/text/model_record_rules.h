@@ -1,4 +1,5 @@
-// The folder in a record of the host whose layout is not certain: read by where known texts stand.
+// The folder and the file in a record of the host whose layout is not certain: read by where known
+// texts stand.
 #pragma once
 
 #include <optional>
@@ -7,6 +8,10 @@
 #include <string_view>
 
 namespace qm {
+
+// The model's file without its version ("bolt.prt"), by the same rules. No value: the record has
+// another order and says nothing.
+std::optional<std::wstring> FileInModelRecord(std::wstring_view record, std::wstring_view name);
 
 // `record` is the host's record of a model's data as characters, zeroed before the host filled it;
 // `name` the model's name, which must stand at the place of one of the two orders that are known.

@@ -24,6 +24,8 @@ class CloneWorld : public PluginHost {
     for (Model* const start : {start_part_, start_assembly_}) host_.session.Save(*start);
     host_.options["template_solidpart"] = {PathToUtf8(folder_ / "start.prt")};
     host_.options["template_designasm"] = {PathToUtf8(folder_ / "begin.asm.1")};
+    // The tops have no coordinate systems to constrain by.
+    for (const wchar_t* const section : {L"PrtAssembly", L"AsmAssembly"}) Set(section, L"0");
     plugin_.Start();
   }
   ~CloneWorld() override {
@@ -130,8 +132,9 @@ TEST_F(CloneWorld, DeliberatelyACopyOfASubassemblyStopsAtItsOwnName) {
 struct LongName {
   size_t length;  // of the active assembly
   const char* command;
-  bool makes;       // a model
-  const char* box;  // "": none
+  bool makes;                // a model
+  const char* box;           // "": none
+  bool of_assembly = false;  // is cloned
 };
 
 // Names of 32 characters pass the limit of new components, and no model can have them.
@@ -146,10 +149,12 @@ TEST_F(CloneWorld, NamesEndWhereTheHostsDo) {
                               {29, "NewAsm", false, ""},
                               {30, "NewAsm", false, kTooLong},
                               {29, "CloneComp", true, ""},
-                              {30, "CloneComp", false, kTooLong}}) {
+                              {30, "CloneComp", false, kTooLong},
+                              {28, "CloneComp", true, "", true},
+                              {29, "CloneComp", false, kTooLong, true}}) {
     SCOPED_TRACE(row.command + std::to_string(row.length));
     Model& top = Show(std::string(row.length, 'n'));
-    Select(top, *valve_, 1);
+    Select(top, row.of_assembly ? *sub_ : *valve_, row.of_assembly ? 2 : 1);
     host_.events.Forget<MessageBox>();
     EXPECT_EQ(Run(row.command).size(), row.makes ? 1u : 0u);
     const auto boxes = host_.events.All<MessageBox>();

@@ -14,8 +14,7 @@ struct Texts {
   const wchar_t* path;
 };
 
-std::optional<std::wstring> FolderIn(const ProMdldataOrder& order, const Texts& texts,
-                                     std::wstring_view asked = L"BOLT") {
+std::wstring RecordOf(const ProMdldataOrder& order, const Texts& texts) {
   std::wstring record(2048, L'\0');
   const auto put = [&](int place, std::wstring_view text) {
     record.replace(static_cast<std::size_t>(place), text.size(), text);
@@ -25,7 +24,12 @@ std::optional<std::wstring> FolderIn(const ProMdldataOrder& order, const Texts& 
   put(order.host, texts.host);
   put(order.device, texts.device);
   put(order.path, texts.path);
-  return FolderInModelRecord(record, asked);
+  return record;
+}
+
+std::optional<std::wstring> FolderIn(const ProMdldataOrder& order, const Texts& texts,
+                                     std::wstring_view asked = L"BOLT") {
+  return FolderInModelRecord(RecordOf(order, texts), asked);
 }
 
 TEST(ModelRecord, IsReadByWhereItsTextsStand) {
@@ -45,6 +49,14 @@ TEST(ModelRecord, IsReadByWhereItsTextsStand) {
   };
   for (const ProMdldataOrder& order : {kModelDataNameLast, kModelDataNameFirst}) {
     for (const auto& item : cases) EXPECT_EQ(FolderIn(order, item.texts), item.folder);
+  }
+}
+
+TEST(ModelRecord, TellsTheFileInBothOrders) {
+  const Texts texts = {L"", L"C:", L"\\work\\"};
+  for (const ProMdldataOrder& order : {kModelDataNameLast, kModelDataNameFirst}) {
+    EXPECT_EQ(FileInModelRecord(RecordOf(order, texts), L"BOLT"), L"bolt.prt");
+    EXPECT_EQ(FileInModelRecord(RecordOf(order, texts), L"lid"), std::nullopt);
   }
 }
 

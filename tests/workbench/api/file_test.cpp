@@ -136,6 +136,14 @@ TEST_F(DrawingContract, ATextIsAskedForAndAnEmptyReplyGivesWhatIsOffered) {
   EXPECT_EQ(Breaches().size(), 1u);
 }
 
+TEST_F(DrawingContract, WhatAnEarlierCommandHasShownIsNoPrompt) {
+  host_.events.Add(Note{"Name: |||bolt"});
+  host_.command_began = host_.events.Mark();
+  ProLine text = L"untouched";
+  EXPECT_EQ(ProMessageStringRead(31, text), PRO_TK_BAD_INPUTS);
+  EXPECT_EQ(Breaches(), Lines{"ProMessageStringRead: a reply without a prompt"});
+}
+
 TEST_F(DrawingContract, AModelIsSavedElsewhereWhereTheOptionSaysSo) {
   std::filesystem::create_directories(folder_ / "other");
   host_.session.ChangeDirectory(folder_ / "other");

@@ -48,8 +48,8 @@ TEST_F(Merging, APathLeadsThroughTheLevels) {
   EXPECT_FALSE(PlacementAt(*pump_, {7, 3, 1}));
 }
 
-TEST_F(Merging, AnAssemblysOwnComponentsComeFirst) {
-  EXPECT_EQ(FirstPlacementOf(*pump_, *body_), kShifted);
+TEST_F(Merging, WhatAComponentHoldsComesBeforeTheNextOne) {
+  EXPECT_EQ(FirstPlacementOf(*pump_, *body_), kTurned);
   EXPECT_EQ(FirstPlacementOf(*rotor_, *pump_), std::nullopt);
 }
 
@@ -74,13 +74,22 @@ TEST_F(Merging, OnlyTurnsAndShiftsAreRigid) {
 
 TEST_F(Merging, SurfacesLieWhereTheAssemblyShowsThem) {
   const Placement from = *PlacementAt(*pump_, {7, 3});
-  const Placement to = *FirstPlacementOf(*pump_, *body_);
+  const Placement to = *PlacementAt(*pump_, {8});
   const int id = AddMergeFeature(*body_, *bolt_, PlacedWithin(from, Inverse(to)), "joined");
   EXPECT_EQ(body_->FindFeature(id)->merged, "bolt.prt");
   EXPECT_TRUE(body_->modified);
   const Box box = body_->solid().surfaces[0].box;
   EXPECT_EQ(box.min, (Point{5, 19, 30}));
   EXPECT_EQ(box.max, (Point{7, 23, 31}));
+}
+
+TEST_F(Merging, GeometryIsFollowedThroughSeveralParts) {
+  Model& plate = session_.Add(Model({"plate", ModelKind::kPart}));
+  AddMergeFeature(*body_, *bolt_, kIdentityPlacement, "joined");
+  AddMergeFeature(plate, *body_, kIdentityPlacement, "joined");
+  EXPECT_TRUE(HasGeometryOf(session_, plate, *bolt_));
+  EXPECT_TRUE(HasGeometryOf(session_, plate, plate));
+  EXPECT_FALSE(HasGeometryOf(session_, *bolt_, plate));
 }
 
 }  // namespace

@@ -8,7 +8,10 @@
 namespace wb {
 namespace {
 
-constexpr char kOpen[] = "~ Command `ProCmdReplace` ;";
+constexpr char kPopup[] = "~`rmb_popup` `PopupMenu`;";
+constexpr char kOpen[] =
+    "~`rmb_popup` `PopupMenu`;~ Command `ProCmdReplComp@PopupMenuGraphicWinStack` ;";
+constexpr char kOlderOpen[] = "~ Command `ProCmdReplace` ;";
 constexpr char kUnrelated[] =
     "~ Select `gen_repl_dlg` `ByCompPH.rpl_method_radio` 1 `Unrelated Component`;";
 constexpr char kNew[] = "~ Activate `gen_repl_dlg` `PB_NewComp`;";
@@ -29,10 +32,11 @@ class ReplaceMacro : public HostFixture {
   static std::string Choose(const std::string& file) {
     return "~ Activate `file_open` `Ph_list.Filelist` 1 `" + file + "`;";
   }
+  static std::string MacroFor(const std::string& file, const std::string& open = kOpen) {
+    return open + kUnrelated + kNew + kFolder + Choose(file) + kDone;
+  }
   std::string Refusal(const std::string& file) {
-    const std::string macro =
-        std::string(kOpen) + kUnrelated + kNew + kFolder + Choose(file) + kDone;
-    const PlayedReplacement played = PlayReplaceMacro(macro, host_.session);
+    const PlayedReplacement played = PlayReplaceMacro(MacroFor(file), host_.session);
     EXPECT_EQ(played.unknown, "");
     return played.refused;
   }
@@ -62,9 +66,31 @@ TEST_F(ReplaceMacro, AStepThatComesTooEarlyIsUnknown) {
   for (const std::string& wrong :
        {begun + kFolder, begun + kDone, std::string(kNew), begun + "~ Activate `other` `x`;",
         std::string(kOpen) + "~ Select `gen_repl_dlg` `ByCompPH.rpl_method_radio` 1 `Family`;",
+        std::string(kOpen) +
+            "~ Select `gen_repl_dlg` `ByCompPH.rpl_method_radio` `Unrelated Component`;",
         begun + kNew}) {
     EXPECT_NE(PlayReplaceMacro(wrong, host_.session).unknown, "") << wrong;
   }
+}
+
+TEST_F(ReplaceMacro, EachReleaseOpensTheDialogInItsOwnWay) {
+  const std::string older = MacroFor("pin.prt", kOlderOpen);
+  const std::string without_popup =
+      MacroFor("pin.prt", std::string(kOpen).substr(sizeof(kPopup) - 1));
+  const std::string newer = MacroFor("pin.prt");
+  EXPECT_NE(PlayReplaceMacro(older, host_.session).unknown, "");
+  EXPECT_NE(PlayReplaceMacro(without_popup, host_.session).unknown, "");
+  host_.release = "Creo 2.0";
+  EXPECT_NE(PlayReplaceMacro(newer, host_.session).unknown, "");
+  EXPECT_EQ(box_->FindFeature(7)->ComponentModel(), lid_);
+  EXPECT_EQ(PlayReplaceMacro(older, host_.session).unknown, "");
+  EXPECT_EQ(box_->FindFeature(7)->component->link.name.Text(), "pin.prt");
+}
+
+TEST_F(ReplaceMacro, AFileThatCannotBeReadReplacesNothing) {
+  WriteFile("broken.prt.1", "no model");
+  EXPECT_EQ(Refusal("broken.prt"), "broken.prt cannot be read");
+  EXPECT_EQ(box_->FindFeature(7)->ComponentModel(), lid_);
 }
 
 }  // namespace

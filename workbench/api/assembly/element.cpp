@@ -73,7 +73,9 @@ ProError Merge(const Call& call, const PickedItem& into, const TreeElement& tree
   const TreeValue& selected = *ValueAt(tree, {PRO_E_MERGE_3388, PRO_E_MERGE_SOURCE});
   const PickedItem& source = call.SelectionAt(selected.selection);
   const bool is_part = source.type == PRO_PART && source.owner != nullptr;
-  if (!is_part || source.owner == into.owner) return PRO_TK_INVALID_ITEM;
+  if (!is_part || HasGeometryOf(call.host.session, *source.owner, *into.owner)) {
+    return PRO_TK_INVALID_ITEM;
+  }
   if (source.root == nullptr) throw NotModelled{"merging a part that is selected without a path"};
   const auto from = PlacementAt(*source.root, source.path);
   const auto to = FirstPlacementOf(*source.root, *into.owner);
