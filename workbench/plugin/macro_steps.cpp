@@ -58,8 +58,9 @@ void ClearAppearances(Model& top) {
 // What is open while a macro runs.
 enum class Opened { kAsBefore, kNothing, kGallery, kClearMenu, kQuestion };
 
-constexpr char kMainWindow[] = "main_dlg_cur";
-constexpr char kQuestionDialog[] = "UI Message Dialog";
+// Windows that steps name.
+constexpr char kMain[] = "main_dlg_cur";
+constexpr char kAsking[] = "UI Message Dialog";
 
 struct StepRow {
   const char* action;
@@ -74,15 +75,15 @@ constexpr char kGallery[] = "ProCmdViewGallery.view";
 // Menus that are closed behind the question leave it open: what is open stays so.
 // clang-format off
 constexpr StepRow kSteps[] = {
-    {"Select",   kMainWindow,     kGallery,             Opened::kNothing,   Opened::kGallery,   false},
-    {"Select",   kMainWindow,     kClearMenu,           Opened::kGallery,   Opened::kClearMenu, false},
-    {"Activate", kMainWindow,     "clearAllAppearance", Opened::kClearMenu, Opened::kQuestion,  false},
-    {"Close",    kMainWindow,     kClearMenu,           Opened::kClearMenu, Opened::kAsBefore,  false},
-    {"Close",    kMainWindow,     kGallery,             Opened::kGallery,   Opened::kAsBefore,  false},
-    {"FocusIn",  kQuestionDialog, "yes",                Opened::kQuestion,  Opened::kQuestion,  false},
-    {"FocusIn",  kQuestionDialog, "no",                 Opened::kQuestion,  Opened::kQuestion,  false},
-    {"Activate", kQuestionDialog, "yes",                Opened::kQuestion,  Opened::kNothing,   true},
-    {"Activate", kQuestionDialog, "no",                 Opened::kQuestion,  Opened::kNothing,   false},
+    {"Select",   kMain,   kGallery,             Opened::kNothing,   Opened::kGallery,   false},
+    {"Select",   kMain,   kClearMenu,           Opened::kGallery,   Opened::kClearMenu, false},
+    {"Activate", kMain,   "clearAllAppearance", Opened::kClearMenu, Opened::kQuestion,  false},
+    {"Close",    kMain,   kClearMenu,           Opened::kClearMenu, Opened::kAsBefore,  false},
+    {"Close",    kMain,   kGallery,             Opened::kGallery,   Opened::kAsBefore,  false},
+    {"FocusIn",  kAsking, "yes",                Opened::kQuestion,  Opened::kQuestion,  false},
+    {"FocusIn",  kAsking, "no",                 Opened::kQuestion,  Opened::kQuestion,  false},
+    {"Activate", kAsking, "yes",                Opened::kQuestion,  Opened::kNothing,   true},
+    {"Activate", kAsking, "no",                 Opened::kQuestion,  Opened::kNothing,   false},
 };
 // clang-format on
 
