@@ -57,6 +57,11 @@ class Bench {
     ::WritePrivateProfileStringW(L"tableCols_level", L"content", kLevelColumns, settings.c_str());
     std::ofstream(folder / kBenchMaterial) << "bench\n";
     top_ = &job.shape->build(host_.session, job.occurrences);
+    // So that a change of units has something to measure.
+    for (const auto& model : host_.session.models()) {
+      if (model->id.kind != ModelKind::kPart) continue;
+      model->solid().surfaces.Add({1, {{0, 0, 0}, {10, 20, 30}}});
+    }
     host_.session.ActivateWindow(host_.session.ShowInWindow(*top_).id);
     plugin_.emplace(dll);
     if (plugin_->Start() != 0) throw std::runtime_error("the plug-in does not start");
