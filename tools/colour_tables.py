@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes the two colour tables of BatchColor into install/QMconfig: QmUGColor.ini, 217 colours that
 go round the hues, and QmOptiColor.ini, 201 colours of which any two differ visibly. The same run
-gives the same files.
+gives the same files; with --check they are compared with those that are there.
 
 Differences are distances in CIE L*a*b* (D65): CIE76. Some 2.3 of it is the least that a trained eye
 tells apart side by side; parts that lie apart in a picture want several times as much.
@@ -9,11 +9,13 @@ tells apart side by side; parts that lie apart in a picture want several times a
 import itertools
 import math
 import pathlib
+import sys
 
 FOLDER = pathlib.Path(__file__).resolve().parent.parent / "install" / "QMconfig"
 HUES, SHADES = 31, 7  # 217 colours
 DISTINCT = 201
 DARKEST, BRIGHTEST = 32.0, 88.0  # L* of colours that are neither near black nor near white
+LEAST, LEAST_OF_NEIGHBOURS = 8.0, 50.0  # differences of any two of the 217, and of neighbours
 
 
 def linear(channel):
@@ -52,21 +54,33 @@ def with_lightness(hue, saturation, lightness):
     return min(steps, key=lambda rgb: abs(lab(rgb)[0] - lightness))
 
 
+def shades_near(hue, saturation, lightness):
+    """Colours of a hue, those that are most like the wanted shade first."""
+    offsets = [(ds / 20, dl) for ds in range(-6, 7) for dl in range(-24, 25, 2)]
+    for ds, dl in sorted(offsets, key=lambda by: abs(by[0]) * 40 + abs(by[1])):
+        if 0.3 <= saturation + ds <= 1 and DARKEST <= lightness + dl <= BRIGHTEST:
+            yield with_lightness(hue, saturation + ds, lightness + dl)
+
+
+def fits(rgb, seen):
+    """Whether a colour differs enough from those before it, from the last one above all."""
+    here = lab(rgb)
+    return (DARKEST <= here[0] <= BRIGHTEST
+            and all(difference(here, other) >= LEAST for other in seen)
+            and (not seen or difference(here, seen[-1]) >= LEAST_OF_NEIGHBOURS))
+
+
 def hue_table():
     """Seven shades of 31 hues that lie evenly on the wheel; neighbours in the table are far apart."""
     shades = [(0.95, 50), (0.55, 72), (0.80, 40), (0.40, 82), (0.95, 62), (0.60, 48), (0.75, 76)]
     colours = []
     for number in range(HUES * SHADES):
         # Both steps have no divisor in common with what they go through.
-        hue = number * 12 % HUES
-        shade = number * 3 % SHADES
-        saturation, lightness = shades[shade]
-        colour = with_lightness(hue * 360 / HUES, saturation, lightness)
-        # Two shades of a hue may end at the brightest that it has.
-        while colour in colours:
-            lightness -= 4
-            colour = with_lightness(hue * 360 / HUES, saturation, lightness)
-        colours.append(colour)
+        hue = number * 12 % HUES * 360 / HUES
+        seen = [lab(rgb) for rgb in colours]
+        # Two shades of a hue may end at the brightest that it has: then another one is taken.
+        colours.append(next(rgb for rgb in shades_near(hue, *shades[number * 3 % SHADES])
+                            if fits(rgb, seen)))
     return colours
 
 
@@ -86,11 +100,11 @@ def distinct_table():
     return chosen
 
 
-def write(name, colours, *head):
+def text_of(colours, *head):
     lines = [f"; {line}" for line in head]
     for number, colour in enumerate(colours):
         lines += [f"[{number}]", "value=" + ".".join(map(str, colour))]
-    (FOLDER / name).write_text("\n".join(lines) + "\n", encoding="utf-8")
+    return "\n".join(lines) + "\n"
 
 
 def least(colours):
@@ -106,14 +120,23 @@ def least_of_neighbours(colours):
 def main():
     hues = hue_table()
     distinct = distinct_table()
-    write("QmUGColor.ini", hues,
-          "批量着色颜色表：217种颜色，色相均匀分布，编号相邻的颜色相差较大。格式：红.绿.蓝，各为0到255。",
-          f"相邻颜色的最小色差（CIE76）：{least_of_neighbours(hues):.1f}")
-    write("QmOptiColor.ini", distinct,
-          "批量着色颜色表：201种颜色，任意两种都能区分。格式：红.绿.蓝，各为0到255。",
-          f"任意两种颜色的最小色差（CIE76，即CIE L*a*b*中的距离，D65）：{least(distinct):.1f}")
-    print(f"217 hues: neighbours differ by {least_of_neighbours(hues):.1f} at least; "
-          f"201 colours: any two by {least(distinct):.1f}")
+    tables = {
+        "QmUGColor.ini": text_of(
+            hues,
+            "批量着色颜色表：217种颜色，色相均匀分布，编号相邻的颜色相差较大。格式：红.绿.蓝，各为0到255。",
+            f"相邻颜色的最小色差（CIE76）：{least_of_neighbours(hues):.1f}"),
+        "QmOptiColor.ini": text_of(
+            distinct,
+            "批量着色颜色表：201种颜色，任意两种都能区分。格式：红.绿.蓝，各为0到255。",
+            f"任意两种颜色的最小色差（CIE76，即CIE L*a*b*中的距离，D65）：{least(distinct):.1f}"),
+    }
+    print(f"217 hues: neighbours differ by {least_of_neighbours(hues):.1f} at least, any two by "
+          f"{least(hues):.1f}; 201 colours: any two by {least(distinct):.1f}")
+    for name, text in tables.items():
+        if "--check" not in sys.argv[1:]:
+            (FOLDER / name).write_text(text, encoding="utf-8")
+        elif (FOLDER / name).read_text(encoding="utf-8") != text:
+            sys.exit(f"{name} is not what this script writes")
 
 
 if __name__ == "__main__":

@@ -134,6 +134,7 @@ WINEPREFIX=$second run_windows "$cross/workbench.exe" memory "${memory[@]}" "${e
 check "rooms" python3 "$here/check_rooms.py"
 check "format" "$here/check_format.sh"
 check "tidy" "$here/check_tidy.sh"
+check "colour tables" python3 "$here/colour_tables.py" --check
 check "documents are up to date" python3 "$here/generate_docs.py" --check
 check "both READMEs say the same" python3 "$here/check_readmes.py"
 check "the library's file" "$here/check_dll.sh" "$cross/quillmax5.1C3.dll"

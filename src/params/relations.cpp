@@ -72,24 +72,28 @@ std::optional<RelationPlan> MakePlan(const RelationWishes& wishes, RelationActio
   return plan;
 }
 
-// The set, for an append on an ordinary one made where there is none. Deliberately none is made in
+struct SetToWrite {
+  std::optional<ProRelset> set;
+  bool is_new = false;
+};
+
+// For an append on an ordinary set one is made where there is none. Deliberately none is made in
 // the place of a set of the other kind, nor to be covered: only what was chosen may change.
-std::optional<ProRelset> SetToWrite(const ModelTarget& target, const RelationPlan& plan) {
+SetToWrite FindSet(const ModelTarget& target, const RelationPlan& plan) {
   auto set = OpenRelations(target, plan.kind);
-  const bool may_create = plan.action != RelationAction::kCover;
-  if (set || plan.kind == RelationKind::kPostRegeneration) return set;
-  if (may_create) return CreateRelations(target);
+  if (set || plan.kind == RelationKind::kPostRegeneration) return {set, false};
+  if (plan.action != RelationAction::kCover) return {CreateRelations(target), true};
   LogFailure(target.name, "ProModelitemToRelset", PRO_TK_E_NOT_FOUND);
-  return std::nullopt;
+  return {};
 }
 
 // False, after a line in the log, when the model keeps what it has. Deliberately a set whose lines
-// cannot be read is not written: an append would wipe them.
+// cannot be read is not written: an append would wipe them. A new set has no lines to be read.
 bool ApplyTo(const ModelTarget& target, const RelationPlan& plan) {
-  auto set = SetToWrite(target, plan);
+  auto [set, is_new] = FindSet(target, plan);
   if (!set) return false;
   RelationLines present;
-  if (plan.action != RelationAction::kCover) {
+  if (plan.action != RelationAction::kCover && !is_new) {
     auto read = ReadRelations(target, &*set);
     if (!read) return false;
     present = std::move(*read);

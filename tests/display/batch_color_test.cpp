@@ -1,5 +1,7 @@
 // BatchColor by the shipped tables, and on more placements than a script would write down.
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <set>
 #include <unordered_map>
 
@@ -43,6 +45,8 @@ std::set<Rgb> ColoursIn(const std::string& file) {
 
 class BatchColour : public PluginHost {
  protected:
+  ~BatchColour() override { UseMode("random"); }
+
   void UseMode(const char* mode) {
     ASSERT_TRUE(WriteProfile(Installed().tree() / "QMconfig" / "QmConfig.ini", "QmRandomColorOpt",
                              "value", mode));
@@ -55,6 +59,15 @@ class BatchColour : public PluginHost {
     EXPECT_EQ(run.left_out, Lines());
     counts_ = host_.trace.Counts();
     EXPECT_EQ(TakeBreaches(), Lines());
+  }
+  std::vector<Rgb> ColoursOfParts() {
+    std::vector<Rgb> colours;
+    for (const auto& model : host_.session.models()) {
+      if (model->id.kind != ModelKind::kPart) continue;
+      EXPECT_TRUE(model->solid().appearance);
+      colours.push_back(model->solid().appearance.value_or(Appearance()).colour);
+    }
+    return colours;
   }
   std::unordered_map<std::string, long> counts_;
 };
@@ -87,7 +100,36 @@ TEST_F(BatchColour, TakesTheColoursOfTheChosenTableAlone) {
     }
     EXPECT_GT(used.size(), 50u);
   }
+}
+
+TEST_F(BatchColour, ReadsTableValuesWithBlanks) {
+  const std::filesystem::path file = Installed().tree() / "QMconfig" / "QmUGColor.ini";
+  const std::filesystem::path kept = Installed().tree() / "QMconfig" / "QmUGColor.kept";
+  std::filesystem::rename(file, kept);
+  std::ofstream blank(file);
+  for (int section = 0; section < 217; ++section) {
+    blank << "[" << section << "]\nvalue=10 . 20 . 30\n";
+  }
+  blank.close();
+  UseMode("asUG");
+  AddAssembly(host_.session, 3, 3);
+  RunClean();
+  const Rgb written = {10 / 255.0, 20 / 255.0, 30 / 255.0};
+  EXPECT_EQ(ColoursOfParts(), std::vector<Rgb>(3, written));
+  std::filesystem::remove(file);
+  std::filesystem::rename(kept, file);
+}
+
+TEST_F(BatchColour, DrawsOtherColoursWhenTimeHasPassed) {
   UseMode("random");
+  AddAssembly(host_.session, 8, 8);
+  std::set<std::vector<Rgb>> drawn;
+  for (int second = 0; second < 3; ++second) {
+    host_.windows.slept_ms = 1000 * static_cast<unsigned>(second);
+    RunClean();
+    drawn.insert(ColoursOfParts());
+  }
+  EXPECT_EQ(drawn.size(), 3u);
 }
 
 }  // namespace

@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdlib>
 #include <fstream>
 #include <map>
-#include <set>
 
 #include "display/colour_rules.h"
 #include "tests/source_folder.h"
@@ -47,60 +47,78 @@ double HueOf(const Colour& c) {
                          : 60 * (c.red - c.green) / range + 240;
 }
 
-// The colours of a table in the order of their numbers; a gap or a repeated number fails.
-std::vector<Colour> TableOf(const char* file) {
+struct Table {
+  std::vector<Colour> colours;  // in the order of their numbers; a gap or a repeated number fails
+  double least = 0;             // the difference that the table's head tells
+};
+
+Table TableOf(const char* file) {
   std::ifstream in(SourceFolder() / "install" / "QMconfig" / file);
   std::map<int, Colour> colours;
+  Table table;
   int section = -1;
   for (std::string line; std::getline(in, line);) {
+    if (line.starts_with(";")) table.least = std::atof(line.substr(line.rfind("：") + 3).c_str());
     if (line.starts_with("[")) section = std::stoi(line.substr(1));
     if (!line.starts_with("value=")) continue;
     const std::string value = line.substr(6);
     EXPECT_TRUE(
         colours.emplace(section, ParseColour(std::wstring(value.begin(), value.end()))).second);
   }
-  std::vector<Colour> table;
   for (const auto& [number, colour] : colours) {
-    EXPECT_EQ(number, static_cast<int>(table.size()));
-    table.push_back(colour);
+    EXPECT_EQ(number, static_cast<int>(table.colours.size()));
+    table.colours.push_back(colour);
   }
   return table;
 }
 
 void ExpectNeitherBlackNorWhite(const std::vector<Colour>& table) {
   for (const Colour& colour : table) {
-    EXPECT_GE(LabOf(colour)[0], 30);
-    EXPECT_LE(LabOf(colour)[0], 90);
+    EXPECT_GE(LabOf(colour)[0], 32);
+    EXPECT_LE(LabOf(colour)[0], 88);
   }
 }
 
+double LeastOfAny(const std::vector<Colour>& table) {
+  double least = HUGE_VAL;
+  for (size_t i = 0; i < table.size(); ++i) {
+    for (size_t k = 0; k < i; ++k) {
+      least = std::min(least, Difference(LabOf(table[i]), LabOf(table[k])));
+    }
+  }
+  return least;
+}
+
+double LeastOfNeighbours(const std::vector<Colour>& table) {
+  double least = HUGE_VAL;
+  for (size_t i = 1; i < table.size(); ++i) {
+    least = std::min(least, Difference(LabOf(table[i - 1]), LabOf(table[i])));
+  }
+  return least;
+}
+
+// What a head tells is rounded.
+constexpr double kRounding = 0.051;
+
 TEST(ColourTables, HuesLieEvenlyAndNeighboursFarApart) {
-  const std::vector<Colour> table = TableOf("QmUGColor.ini");
+  const auto [table, told] = TableOf("QmUGColor.ini");
   ASSERT_EQ(table.size(), 217u);
   ExpectNeitherBlackNorWhite(table);
-  std::set<std::array<double, 3>> distinct;
-  std::map<int, int> of_hue;  // twelfths of the wheel
-  for (const Colour& colour : table) {
-    distinct.insert({colour.red, colour.green, colour.blue});
-    ++of_hue[static_cast<int>(HueOf(colour) / 30)];
-  }
-  EXPECT_EQ(distinct.size(), table.size());
-  EXPECT_EQ(of_hue.size(), 12u);
-  for (const auto& [twelfth, count] : of_hue) EXPECT_NEAR(count, 217 / 12.0, 5) << twelfth;
-  for (size_t i = 1; i < table.size(); ++i) {
-    EXPECT_GE(Difference(LabOf(table[i - 1]), LabOf(table[i])), 50) << i;
-  }
+  std::map<long, int> of_hue;  // 31 parts of the wheel
+  for (const Colour& colour : table) ++of_hue[std::lround(HueOf(colour) * 31 / 360) % 31];
+  EXPECT_EQ(of_hue.size(), 31u);
+  for (const auto& [hue, count] : of_hue) EXPECT_EQ(count, 7) << hue;
+  EXPECT_GE(LeastOfAny(table), 8);
+  EXPECT_GE(LeastOfNeighbours(table), 50);
+  EXPECT_NEAR(LeastOfNeighbours(table), told, kRounding);
 }
 
 TEST(ColourTables, AnyTwoOfTheDistinctColoursDifferVisibly) {
-  const std::vector<Colour> table = TableOf("QmOptiColor.ini");
+  const auto [table, told] = TableOf("QmOptiColor.ini");
   ASSERT_EQ(table.size(), 201u);
   ExpectNeitherBlackNorWhite(table);
-  for (size_t i = 0; i < table.size(); ++i) {
-    for (size_t k = 0; k < i; ++k) {
-      EXPECT_GE(Difference(LabOf(table[i]), LabOf(table[k])), 13.5) << i << " and " << k;
-    }
-  }
+  EXPECT_GE(LeastOfAny(table), 13.5);
+  EXPECT_NEAR(LeastOfAny(table), told, kRounding);
 }
 
 }  // namespace

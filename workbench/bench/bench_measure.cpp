@@ -20,6 +20,9 @@
 namespace wb {
 namespace {
 
+// Lines that the press of AddRels adds.
+constexpr size_t kBenchRelations = 2;
+
 // Columns of the level bill. The position number is none of them: in a chain its text grows with
 // the depth, so that writing it is quadratic by itself.
 constexpr wchar_t kLevelColumns[] = L"层级2,模型名称,模型数量,名称,材料,重量";
@@ -56,6 +59,11 @@ class Bench {
     ::WritePrivateProfileStringW(L"tableCols_level", L"content", kLevelColumns, settings.c_str());
     std::ofstream(folder / kBenchMaterial) << "bench\n";
     top_ = &job.shape->build(host_.session, job.occurrences);
+    // So that a change of units has something to measure.
+    for (const auto& model : host_.session.models()) {
+      if (model->id.kind != ModelKind::kPart) continue;
+      model->solid().surfaces.Add({1, {{0, 0, 0}, {10, 20, 30}}});
+    }
     host_.session.ActivateWindow(host_.session.ShowInWindow(*top_).id);
     host_.session.ActivateComponent(SomePart());
     plugin_.emplace(dll);
@@ -151,8 +159,7 @@ class Bench {
   std::vector<Taken> Command(std::span<const BenchPartRow> parts) {
     const BenchPartRow& first = parts.front();
     DropParameter(first.part == BenchPart::kAddParameter);
-    DropRelations(first.part == BenchPart::kAddRelations);
-    DropCounts(first.part == BenchPart::kModelCount);
+    DropWork(first.part);
     host_.dialogs.pictures.clear();
     const auto start = std::chrono::steady_clock::now();
     const CommandRun run = RunCommand(first.command);
@@ -203,6 +210,11 @@ class Bench {
     if (part.part == BenchPart::kAddParameter && top_->FindParameter(kBenchParameter) == nullptr) {
       fail("the parameter was not created");
     }
+    const bool has_worked = std::ranges::any_of(host_.session.models(), [&](const auto& model) {
+      const SolidContent* const solid = model->template As<SolidContent>();
+      return solid != nullptr && HasWork(part.part, *solid);
+    });
+    if (!has_worked) fail("no model has got anything");
   }
 
   void DropParameter(bool from_all) {
@@ -210,15 +222,30 @@ class Bench {
     for (const auto& model : host_.session.models()) model->DeleteParameter(kBenchParameter);
   }
 
-  void DropCounts(bool from_all) {
-    if (!from_all) return;
-    for (const auto& model : host_.session.models()) model->DeleteParameter("数量");
+  // What a command has given to a model, where it is a command that gives something to models.
+  bool HasWork(BenchPart part, const SolidContent& solid) const {
+    switch (part) {
+      case BenchPart::kColours:
+        return solid.appearance.has_value();
+      case BenchPart::kAddRelations:
+        return solid.relations && solid.relations->size() == kBenchRelations;
+      case BenchPart::kSetUnits:
+        return solid.units == user_.units();
+      case BenchPart::kSetMaterial:
+        return !solid.material.empty();
+      default:
+        return true;
+    }
   }
 
-  void DropRelations(bool from_all) {
-    if (!from_all) return;
+  void DropWork(BenchPart part) {
     for (const auto& model : host_.session.models()) {
-      if (SolidContent* const solid = model->As<SolidContent>()) solid->relations.reset();
+      SolidContent* const solid = model->As<SolidContent>();
+      if (solid == nullptr) continue;
+      if (part == BenchPart::kModelCount) model->DeleteParameter("数量");
+      if (part == BenchPart::kColours) solid->appearance.reset();
+      if (part == BenchPart::kAddRelations) solid->relations.reset();
+      if (part == BenchPart::kSetMaterial) solid->material.clear();
     }
   }
 

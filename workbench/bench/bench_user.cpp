@@ -14,6 +14,9 @@
 namespace wb {
 namespace {
 
+constexpr char kCentimetres[] = "Centimeter Gram Second (CGS)";
+constexpr char kMillimetres[] = "millimeter Kilogram Sec (mmKs)";
+
 constexpr char kBillTable[] = "bom_list";
 constexpr char kRenameTable[] = "mdl_list";
 // The spreadsheet program is kept away, so that an export ends when its table has been read.
@@ -109,7 +112,10 @@ void BenchUser::AddRelations(LiveDialog& dialog) {
 }
 
 void BenchUser::SetUnits(LiveDialog& dialog) {
-  Require(dialog.state.UserSelect("UnitRadio", {"mmKs"}));
+  // In turn, so that lengths change each time.
+  const bool are_centimetres = units_ == kCentimetres;
+  units_ = are_centimetres ? kMillimetres : kCentimetres;
+  Require(dialog.state.UserSelect("UnitRadio", {are_centimetres ? "mmKs" : "CGS"}));
   Take(BenchPart::kSetUnits, [&] { Press(dialog, "ApplyBt"); });
 }
 

@@ -33,6 +33,8 @@ class BenchUser : public User {
 
   // The heap of this HMODULE is watched during each press, which takes time; null: no longer.
   void WatchHeapOf(void* module) { watched_ = module; }
+  // The unit system that the latest press has asked for.
+  const std::string& units() const { return units_; }
   // The latest press of a part.
   const BenchPress& press(BenchPart part) const { return presses_.at(part); }
 
@@ -45,6 +47,7 @@ class BenchUser : public User {
   void Take(BenchPart part, const std::function<void()>& press);
 
   void* watched_ = nullptr;
+  std::string units_;
   std::map<BenchPart, BenchPress> presses_;
 };
 

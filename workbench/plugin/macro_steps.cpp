@@ -56,10 +56,15 @@ void ClearAppearances(Model& top) {
 }
 
 // What is open while a macro runs.
-enum class Opened { kNothing, kGallery, kClearMenu, kQuestion };
+enum class Opened { kAsBefore, kNothing, kGallery, kClearMenu, kQuestion };
+
+// Windows that steps name.
+constexpr char kMain[] = "main_dlg_cur";
+constexpr char kAsking[] = "UI Message Dialog";
 
 struct StepRow {
   const char* action;
+  const char* window;
   const char* name;  // the last one of the step
   Opened at_least;   // what must be open
   Opened then;       // what is open afterwards
@@ -67,32 +72,25 @@ struct StepRow {
 };
 constexpr char kClearMenu[] = "ProCmdViewGallery_layoutph.palette_holder.clearAppearance";
 constexpr char kGallery[] = "ProCmdViewGallery.view";
-constexpr char kQuestionDialog[] = "UI Message Dialog";
+// Menus that are closed behind the question leave it open: what is open stays so.
 // clang-format off
 constexpr StepRow kSteps[] = {
-    {"Select",   kGallery,             Opened::kNothing,   Opened::kGallery,   false},
-    {"Select",   kClearMenu,           Opened::kGallery,   Opened::kClearMenu, false},
-    {"Activate", "clearAllAppearance", Opened::kClearMenu, Opened::kQuestion,  false},
-    {"FocusIn",  "yes",                Opened::kQuestion,  Opened::kQuestion,  false},
-    {"FocusIn",  "no",                 Opened::kQuestion,  Opened::kQuestion,  false},
-    {"Activate", "yes",                Opened::kQuestion,  Opened::kNothing,   true},
-    {"Activate", "no",                 Opened::kQuestion,  Opened::kNothing,   false},
+    {"Select",   kMain,   kGallery,             Opened::kNothing,   Opened::kGallery,   false},
+    {"Select",   kMain,   kClearMenu,           Opened::kGallery,   Opened::kClearMenu, false},
+    {"Activate", kMain,   "clearAllAppearance", Opened::kClearMenu, Opened::kQuestion,  false},
+    {"Close",    kMain,   kClearMenu,           Opened::kClearMenu, Opened::kAsBefore,  false},
+    {"Close",    kMain,   kGallery,             Opened::kGallery,   Opened::kAsBefore,  false},
+    {"FocusIn",  kAsking, "yes",                Opened::kQuestion,  Opened::kQuestion,  false},
+    {"FocusIn",  kAsking, "no",                 Opened::kQuestion,  Opened::kQuestion,  false},
+    {"Activate", kAsking, "yes",                Opened::kQuestion,  Opened::kNothing,   true},
+    {"Activate", kAsking, "no",                 Opened::kQuestion,  Opened::kNothing,   false},
 };
 // clang-format on
 
-// Menus that are closed behind the question leave it open.
-bool IsClosing(const MacroStep& step) {
-  return step.action == "Close" &&
-         (step.names.back() == kClearMenu || step.names.back() == kGallery);
-}
-
 const StepRow* FindStep(const MacroStep& step) {
   const auto* const row = std::ranges::find_if(kSteps, [&](const StepRow& known) {
-    const bool in_question = step.names.front() == kQuestionDialog;
-    const bool is_answer =
-        known.name == std::string_view("yes") || known.name == std::string_view("no");
-    return step.action == known.action && step.names.back() == known.name &&
-           in_question == is_answer;
+    return step.action == known.action && step.names.front() == known.window &&
+           step.names.back() == known.name;
   });
   return row == std::end(kSteps) ? nullptr : row;
 }
@@ -114,11 +112,10 @@ std::string PlayMacro(std::string_view macro, Session& session) {
   Opened opened = Opened::kNothing;
   for (const MacroStep& step : ParseMacro(macro)) {
     if (step.names.empty()) return "macro step \"" + step.text + "\"";
-    if (IsClosing(step)) continue;
     const StepRow* const row = FindStep(step);
     if (row == nullptr) return "macro step \"" + step.text + "\"";
     if (opened < row->at_least) return "macro step \"" + step.text + "\" with nothing open for it";
-    opened = row->then;
+    if (row->then != Opened::kAsBefore) opened = row->then;
     if (row->clears && session.Current() != nullptr)
       ClearAppearances(ShownSolid(*session.Current()));
   }

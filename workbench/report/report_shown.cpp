@@ -81,9 +81,15 @@ std::string SheetFigures(const DrawingPicture& drawing, std::size_t number) {
 
 std::string SceneFigure(const Scene& scene, const SceneFrame& frame, const char* moment) {
   if (scene.model.empty()) return {};
+  const std::size_t drawn = scene.boxes.size();
+  const std::string more = scene.are_all_met ? "small part" : "part";
+  std::string chosen;
+  if (!scene.are_all_met) {
+    chosen = "<p class=\"more\">Drawn are the largest of the first " +
+             Counted(kMostOccurrencesMet, "component") + ".</p>";
+  }
   return "<figure><figcaption>" + EscapeHtml(scene.model) + moment + "</figcaption>" +
-         DrawScene(scene, frame) +
-         MoreLine(scene.boxes.size() + scene.left_out, scene.boxes.size(), "small part") +
+         DrawScene(scene, frame) + MoreLine(drawn + scene.left_out, drawn, more) + chosen +
          "</figure>";
 }
 

@@ -80,9 +80,9 @@ struct Parting {
 
 class FaceSorter {
  public:
-  FaceSorter(std::vector<SeenFace> faces, std::size_t most_pieces)
+  FaceSorter(std::vector<SeenFace> faces, const PaintingBounds& bounds)
       : faces_(std::move(faces)),
-        most_pieces_(most_pieces),
+        bounds_(bounds),
         pieces_(faces_.size()),
         touching_(kTouching * SizeOfAll(faces_)),
         is_hidden_(faces_.size()),
@@ -92,7 +92,12 @@ class FaceSorter {
     FaceGroup all;
     for (FacePlace i = 0; i < faces_.size(); ++i) all.members.push_back(i);
     all.pairs = PairsAmong(all.members);
-    pending_.push_back(std::move(all));
+    if (MayCompare()) {
+      pending_.push_back(std::move(all));
+    } else {
+      DropHidden(all);
+      GiveByDepth(std::move(all.members));
+    }
     while (!pending_.empty()) {
       FaceGroup group = std::move(pending_.back());
       pending_.pop_back();
@@ -121,10 +126,13 @@ class FaceSorter {
     });
   }
 
+  bool MayCompare() const { return comparisons_ < bounds_.comparisons; }
+
   // Adds the pair where one has to be painted before the other.
   void Compare(FacePlace first, FacePlace second, std::vector<FacePair>& pairs) {
     if (is_hidden_[first] || is_hidden_[second]) return;
     if (faces_[first].box == faces_[second].box) return;
+    ++comparisons_;
     const Covering covering = CoveringOf(faces_[first], faces_[second], touching_);
     if (covering.hides_one) {
       is_hidden_[covering.first_is_behind ? first : second] = true;
@@ -141,6 +149,7 @@ class FaceSorter {
     std::vector<FacePair> pairs;
     std::vector<FaceBounds> under_line;
     for (const FaceBounds& next : bounds) {
+      if (!MayCompare()) break;
       std::erase_if(under_line, [&](const FaceBounds& other) { return other.right <= next.left; });
       for (const FaceBounds& other : under_line) {
         if (other.low < next.high && next.low < other.high) Compare(other.face, next.face, pairs);
@@ -218,7 +227,7 @@ class FaceSorter {
 
   void Part(const FaceGroup& group) {
     const Parting parting = BestParting(group.members);
-    if (pieces_ + parting.cuts > most_pieces_) return GiveByDepth(group.members);
+    if (pieces_ + parting.cuts > bounds_.pieces || !MayCompare()) return GiveByDepth(group.members);
     pieces_ += parting.cuts;
     const SeenFace by = faces_[parting.by];
     Side behind, before;
@@ -283,8 +292,9 @@ class FaceSorter {
   }
 
   std::vector<SeenFace> faces_;  // pieces behind the faces they were cut from
-  std::size_t most_pieces_;
+  PaintingBounds bounds_;
   std::size_t pieces_;
+  std::size_t comparisons_ = 0;
   double touching_;
   std::vector<bool> is_hidden_;
   std::vector<FacePlace> local_;  // a face's place in what is looked at
@@ -294,8 +304,8 @@ class FaceSorter {
 
 }  // namespace
 
-std::vector<SeenFace> PaintersOrder(std::vector<SeenFace> faces, std::size_t most_pieces) {
-  return FaceSorter(std::move(faces), most_pieces).Sorted();
+std::vector<SeenFace> PaintersOrder(std::vector<SeenFace> faces, const PaintingBounds& bounds) {
+  return FaceSorter(std::move(faces), bounds).Sorted();
 }
 
 }  // namespace wb

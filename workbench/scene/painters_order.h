@@ -8,14 +8,18 @@
 
 namespace wb {
 
-// Beyond so many pieces nothing is cut any more.
-inline constexpr std::size_t kMostFacePieces = 20'000;
+struct PaintingBounds {
+  // Beyond so many pieces nothing is cut any more.
+  std::size_t pieces = 20'000;
+  // After so many comparisons of two faces no more are made: of thousands of clear boxes that lie
+  // in one place nothing can be told apart anyway.
+  std::size_t comparisons = 2'000'000;
+};
 
 // What is behind first. Faces that pass through each other, or cover each other in a ring, are cut;
 // those that a single opaque one hides are left out. Of faces in one plane the later one is painted
-// last. Up to `most_pieces` nothing that is further away covers anything nearer; of what is not cut
-// any more, the middles are sorted.
-std::vector<SeenFace> PaintersOrder(std::vector<SeenFace> faces,
-                                    std::size_t most_pieces = kMostFacePieces);
+// last. Up to both bounds nothing that is further away covers anything nearer; of what is not cut
+// or compared any more, the middles are sorted.
+std::vector<SeenFace> PaintersOrder(std::vector<SeenFace> faces, const PaintingBounds& bounds = {});
 
 }  // namespace wb

@@ -4,14 +4,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "workbench/scene/box_count.h"
 #include "workbench/scene/painters_order.h"
 #include "workbench/session/extents.h"
 
 namespace wb {
 namespace {
-
-// An assembly may hold the same models over and over at many levels.
-constexpr std::size_t kMostOccurrencesSeen = 50'000;
 
 // From the front, the right and above, the model's z upright.
 const double kSide = std::sqrt(1.0 / 2);
@@ -75,10 +73,15 @@ double SizeOf(const SeenBox& box) {
   return std::hypot(high[0] - low[0], high[1] - low[1]);
 }
 
-std::vector<SeenPart> PartsIn(const Model& top) {
+struct SeenParts {
   std::vector<SeenPart> parts;
+  bool are_all = true;
+};
+
+SeenParts PartsIn(const Model& top) {
+  SeenParts seen;
   std::vector<PlacedModel> pending = {{&top, kViewFromCorner}};
-  for (std::size_t met = 0; !pending.empty() && met < kMostOccurrencesSeen; ++met) {
+  for (std::size_t met = 0; !pending.empty() && met < kMostOccurrencesMet; ++met) {
     const PlacedModel at = pending.back();
     pending.pop_back();
     const SolidContent* const solid = at.model->As<SolidContent>();
@@ -88,16 +91,21 @@ std::vector<SeenPart> PartsIn(const Model& top) {
       const SeenBox box = SeenFrom(*extents, at.placement);
       const double size = SizeOf(box);
       if (std::isfinite(size)) {
-        parts.push_back({at.model, look == nullptr ? Appearance() : *look, box, size});
+        seen.parts.push_back({at.model, look == nullptr ? Appearance() : *look, box, size});
       }
     }
     for (const Feature& feature : solid->features) {
-      if (!IsShown(feature) || pending.size() >= kMostOccurrencesSeen) continue;
+      if (!IsShown(feature)) continue;
+      if (pending.size() >= kMostOccurrencesMet) {
+        seen.are_all = false;
+        break;
+      }
       pending.push_back({feature.ComponentModel(),
                          PlacedWithin(ComponentPlacement(*at.model, feature), at.placement), look});
     }
   }
-  return parts;
+  seen.are_all = seen.are_all && pending.empty();
+  return seen;
 }
 
 // Keeps the largest, in their order.
@@ -133,11 +141,13 @@ std::vector<SeenFace> FacesOf(const std::vector<SeenPart>& parts) {
 
 Scene TakeScene(const Model& solid, std::size_t most) {
   Scene scene;
-  std::vector<SeenPart> parts = PartsIn(solid);
+  auto [parts, are_all] = PartsIn(solid);
   if (parts.empty()) return scene;
   scene.model = solid.id.Text();
-  scene.left_out = parts.size() > most ? parts.size() - most : 0;
+  scene.are_all_met = are_all;
+  const std::size_t count = are_all ? parts.size() : CountBoxes(solid);
   KeepLargest(parts, most);
+  scene.left_out = count > parts.size() ? count - parts.size() : 0;
   for (const SeenPart& part : parts) {
     scene.boxes.push_back({part.model->id.Text(), part.look.colour, part.look.transparency});
   }

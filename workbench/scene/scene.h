@@ -45,10 +45,14 @@ struct Scene {
   std::vector<SceneBox> boxes;   // some of which others may hide
   std::vector<SceneFace> faces;  // what is behind first
   std::size_t left_out = 0;      // boxes beyond those kept, the smallest ones
+  bool are_all_met = true;       // else the largest of those that were met first are kept
   bool operator==(const Scene&) const = default;
 };
 
 inline constexpr std::size_t kMostSceneBoxes = 2'000;
+// An assembly may hold the same models over and over at many levels: the largest are looked for
+// among so many occurrences.
+inline constexpr std::size_t kMostOccurrencesMet = 50'000;
 
 // Each shown part at every level is the box around its surfaces. A part looks like its own
 // appearance, or that of its surfaces where each has one; otherwise like the nearest assembly above

@@ -93,10 +93,10 @@ void ForEachBorder(const SeenFace& face, double touching, const Visit& visit) {
   }
 }
 
-// What of `region` lies further inside a border than where things touch.
-void KeepInside(std::vector<FlatPoint>& region, const Border& border, double touching) {
-  std::vector<FlatPoint> kept;
-  kept.reserve(region.size() + 1);
+// What of `region` lies further inside a border than where things touch. `kept` is a place for it.
+void KeepInside(std::vector<FlatPoint>& region, std::vector<FlatPoint>& kept, const Border& border,
+                double touching) {
+  kept.clear();
   for (std::size_t i = 0; i < region.size(); ++i) {
     const FlatPoint& at = region[i];
     const FlatPoint& next = region[(i + 1) % region.size()];
@@ -107,14 +107,16 @@ void KeepInside(std::vector<FlatPoint>& region, const Border& border, double tou
     const double part = inside / (inside - next_inside);
     kept.push_back({at[0] + (next[0] - at[0]) * part, at[1] + (next[1] - at[1]) * part});
   }
-  region = std::move(kept);
+  region.swap(kept);
 }
 
 std::vector<FlatPoint> CommonRegion(const SeenFace& a, const SeenFace& b, double touching) {
-  std::vector<FlatPoint> region;
+  std::vector<FlatPoint> region, kept;
+  region.reserve(a.corners.size() + b.corners.size());
+  kept.reserve(a.corners.size() + b.corners.size());
   for (const SeenCorner& corner : a.corners) region.push_back({corner.at[0], corner.at[1]});
   ForEachBorder(b, touching, [&](const Border& border) {
-    if (!region.empty()) KeepInside(region, border, touching);
+    if (!region.empty()) KeepInside(region, kept, border, touching);
   });
   return region;
 }

@@ -1,6 +1,7 @@
 // Sweeps of faults.
 #include "workbench/sweep/fault_sweep.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "workbench/base/text.h"
@@ -18,6 +19,15 @@ constexpr long kMostCalls = 100000;
 constexpr long kDensePairs = 10;
 constexpr long kSparsePairs = 10;
 constexpr long kPairGaps[] = {1, 2, 4};
+
+// After a failure of these a command works all the same, with other values than without it.
+constexpr const char* kChangeWhatIsMeant[] = {
+    "ProSelbufferSelectionsGet",  // a host may say so that nothing is selected: all is meant
+    // A colour table that cannot be read is as black as one that is missing.
+    "GetModuleHandleW",
+    "GetModuleFileNameW",
+    "GetPrivateProfileStringW",
+};
 
 }  // namespace
 
@@ -103,13 +113,25 @@ bool Sweep::RunOne(const FaultPlan& plan, const std::string& which) {
   const std::string at = run_.host.faults.first_struck();
   std::vector<std::string> complaints = command_.Complaints(result);
   const RunOutcome outcome = OutcomeOf(run_, result, mark, folders_);
-  if (has_struck) CheckOutcome(outcome, plan, &complaints);
+  if (has_struck) {
+    CheckValues(outcome, plan, &complaints);
+    CheckOutcome(outcome, plan, &complaints);
+  }
   run_.host.faults.Clear();
   PutBack(outcome, &complaints);
   if (!has_struck) return false;
   ++faults_;
   Tell(which, at, complaints);
   return true;
+}
+
+void Sweep::CheckValues(const RunOutcome& outcome, const FaultPlan& plan,
+                        std::vector<std::string>* complaints) const {
+  const bool is_other_work = std::ranges::any_of(
+      kChangeWhatIsMeant, [&](const char* name) { return run_.host.faults.HasStruck(name); });
+  if (plan.kind != FaultKind::kStatus || is_other_work) return;
+  const std::string wrong = WrongValue(outcome, clean_, before_);
+  if (!wrong.empty()) complaints->push_back(wrong);
 }
 
 // What claims success and gives nothing may be believed, unless it is a text that is missing; and

@@ -31,6 +31,9 @@ class Sweep {
   void RunPairs();
   // False when the fault did not strike: the command makes fewer calls.
   bool RunOne(const FaultPlan& plan, const std::string& which);
+  // Models after failing statuses, whatever was told.
+  void CheckValues(const RunOutcome& outcome, const FaultPlan& plan,
+                   std::vector<std::string>* complaints) const;
   void CheckOutcome(const RunOutcome& outcome, const FaultPlan& plan,
                     std::vector<std::string>* complaints) const;
   void PutBack(const RunOutcome& outcome, std::vector<std::string>* complaints);

@@ -141,6 +141,46 @@ std::string Strange(const RunOutcome& outcome, const RunOutcome& clean,
   return "";
 }
 
+// Facts that a command writes for good into parts and assemblies, and that nobody would notice to
+// be wrong: what they look like, their relations, units and sizes, and what they are made of. Those
+// in lists bear the list's name in front.
+constexpr std::string_view kLasting[] = {
+    "appearance",      "colour",     "transparency",     "ambient",    "diffuse",
+    "highlight",       "shininess",  "highlight_colour", "reflection", "appearance_name",
+    "finish",          "relations",  "post_relations",   "units",      "unit_systems",
+    "surfaces",        "dimensions", "material",         "materials",  "bend_table",
+    "bend_table_text",
+};
+constexpr std::string_view kPlacement = "/placement";
+
+// "bolt.prt surfaces/1/max" in its parts.
+struct ModelFact {
+  std::string model;
+  std::string path;
+};
+
+bool IsLasting(const ModelFact& fact) {
+  if (!fact.model.ends_with(".prt") && !fact.model.ends_with(".asm")) return false;
+  const std::string first = fact.path.substr(0, fact.path.find('/'));
+  return fact.path.ends_with(kPlacement) ||
+         std::ranges::find(kLasting, first) != std::end(kLasting);
+}
+
+// Whether some model has the value under the same path.
+bool IsAnyModels(const ModelFact& fact, const std::string& value, const SessionState& state) {
+  return std::ranges::any_of(state, [&](const auto& entry) {
+    return entry.second == value && entry.first.ends_with(" " + fact.path);
+  });
+}
+
+// Colours are handed out one after the other, so that one model less moves those of the others. A
+// set of relations that was made and then could not be written is an empty one.
+bool IsExcused(const ModelFact& fact, const std::string& value, const std::string& was,
+               const SessionState& clean) {
+  if (fact.path == "colour") return IsAnyModels(fact, value, clean);
+  return fact.path == "relations" && was == "none" && value.empty();
+}
+
 }  // namespace
 
 RunMark MarkRun(const ScriptRun& run) {
@@ -177,6 +217,25 @@ std::string SilentHarm(const RunOutcome& outcome, const RunOutcome& clean,
   if (outcome.refused && is_untouched) return "";
   if (is_untouched) return "it answered success without its work and without a word";
   return "it left its work half done without a word";
+}
+
+std::string WrongValue(const RunOutcome& outcome, const RunOutcome& clean,
+                       const SessionState& before) {
+  if (outcome.state == clean.state) return "";
+  for (const auto& [name, value] : outcome.state) {
+    const size_t blank = std::min(name.find(' '), name.size() - 1);
+    const ModelFact fact{name.substr(0, blank), name.substr(blank + 1)};
+    const bool was_there = before.contains(fact.model + " version");
+    if (!was_there || !IsLasting(fact)) continue;
+    if (HaveSame(name, outcome.state, clean.state) || HaveSame(name, outcome.state, before)) {
+      continue;
+    }
+    const auto was = before.find(name);
+    if (IsExcused(fact, value, was == before.end() ? "" : was->second, clean.state)) continue;
+    return name + " became " + TextOfFact(outcome.state, name) + ", before " +
+           TextOfFact(before, name) + ", without a fault " + TextOfFact(clean.state, name);
+  }
+  return "";
 }
 
 std::string UntoldHarm(const RunOutcome& outcome, const RunOutcome& clean,

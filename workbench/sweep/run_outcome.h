@@ -54,4 +54,10 @@ std::string SilentHarm(const RunOutcome& outcome, const RunOutcome& clean,
 std::string UntoldHarm(const RunOutcome& outcome, const RunOutcome& clean,
                        const SessionState& before);
 
+// Told or not: a call that fails leaves each model that was there with what it had, or with what it
+// gets without the fault. The first appearance, set of relations, unit, size, material or bend
+// table that is neither; "" for none.
+std::string WrongValue(const RunOutcome& outcome, const RunOutcome& clean,
+                       const SessionState& before);
+
 }  // namespace wb

@@ -76,6 +76,7 @@ void SetUnits(const UnitTargets& targets, const UnitWishes& wishes) {
     if (setter.Set(target.model)) ++changed;
     if (is_part) probe.After(target.model);
   }
+  probe.End();
   LogCount("models", static_cast<long long>(targets.models.size()));
   LogCount("worked on", changed);
 }

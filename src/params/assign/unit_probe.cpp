@@ -42,12 +42,27 @@ ProError Include(ProSurface surface, std::optional<Extents>* extents) {
   return PRO_TK_NO_ERROR;
 }
 
-// Nothing for a part without surfaces, or with one that cannot be measured.
-std::optional<Extents> Measure(ProMdl part) {
-  std::optional<Extents> extents;
-  const ProError status =
-      VisitSurfaces(part, [&](ProSurface surface) { return Include(surface, &extents); });
-  return Ok(status) ? extents : std::nullopt;
+// Where units cannot be set, each part would be measured in vain.
+constexpr int kMostPartsThatKeep = 10;
+
+constexpr char kUnknownUnit[] = "a length unit of it is not known";
+constexpr char kNotMeasured[] = "it cannot be measured";
+
+struct Measurement {
+  std::optional<Extents> extents;  // nothing for a part without surfaces
+  bool failed = false;             // there is a surface that cannot be measured
+};
+
+Measurement Measure(ProMdl part) {
+  Measurement measured;
+  bool has_surfaces = false;
+  const ProError status = VisitSurfaces(part, [&](ProSurface surface) {
+    has_surfaces = true;
+    return Include(surface, &measured.extents);
+  });
+  if (Ok(status)) return measured;
+  // That is what hosts answer when there is nothing to visit.
+  return {std::nullopt, has_surfaces || status != PRO_TK_E_NOT_FOUND};
 }
 
 const char* TextOf(UnitChange change) {
@@ -64,22 +79,53 @@ const char* TextOf(UnitChange change) {
 
 }  // namespace
 
+bool UnitProbe::IsOver() const {
+  return is_done_ || !to_ || parts_that_kept_ >= kMostPartsThatKeep;
+}
+
 void UnitProbe::Before(ProMdl part) {
   before_.reset();
-  if (is_done_ || !to_) return;
+  doubt_ = nullptr;
+  if (IsOver()) return;
   const auto from = LengthUnitOf(part);
-  if (!from || *from == *to_) return;
-  const auto extents = Measure(part);
-  if (extents) before_ = {*from, *extents};
+  if (from == to_) return;
+  const Measurement measured = from ? Measure(part) : Measurement{};
+  if (measured.extents) before_ = {*from, *measured.extents};
+  if (!from) doubt_ = kUnknownUnit;
+  if (measured.failed) doubt_ = kNotMeasured;
 }
 
 void UnitProbe::After(ProMdl part) {
-  // A part that has kept its units says nothing about the conversion.
-  if (!before_ || LengthUnitOf(part) != to_) return;
-  const auto after = Measure(part);
-  if (!after) return;
+  if (!before_ && doubt_ == nullptr) return;
+  const auto now = LengthUnitOf(part);
+  if (now == to_) {
+    Judge(part);
+  } else if (before_ && !now) {
+    Doubt(part, kUnknownUnit);
+  } else {
+    ++parts_that_kept_;  // and says nothing about the conversion
+  }
+}
+
+void UnitProbe::Judge(ProMdl part) {
+  if (!before_) return Doubt(part, doubt_);
+  const Measurement after = Measure(part);
+  if (!after.extents) return Doubt(part, kNotMeasured);
   is_done_ = true;
-  Tell(part, *after);
+  Tell(part, *after.extents);
+}
+
+void UnitProbe::Doubt(ProMdl part, const char* why) {
+  if (!unjudged_.empty()) return;
+  unjudged_ = ToUtf8(ModelName(part).value_or(L"a part")) + ": " + why;
+}
+
+void UnitProbe::End() const {
+  if (is_done_) return;
+  if (!unjudged_.empty()) return LogEvent("units: not judged, " + unjudged_);
+  if (parts_that_kept_ >= kMostPartsThatKeep) {
+    LogEvent("units: not judged, " + std::to_string(parts_that_kept_) + " parts kept theirs");
+  }
 }
 
 void UnitProbe::Tell(ProMdl part, const Extents& after) const {

@@ -21,17 +21,25 @@ class UnitProbe {
   // promises.
   void Before(ProMdl part);
   void After(ProMdl part);
+  // After the last one: a line in the run log where units changed and no part could be judged.
+  void End() const;
 
  private:
   struct Measured {
     double from;
     Extents extents;
   };
+  bool IsOver() const;
+  void Judge(ProMdl part);
+  void Doubt(ProMdl part, const char* why);
   void Tell(ProMdl part, const Extents& after) const;
 
   std::optional<double> to_;
   KeptByConversion kept_;
-  std::optional<Measured> before_;
+  std::optional<Measured> before_;  // of the part at hand
+  const char* doubt_ = nullptr;     // why it cannot be judged if its unit changes
+  std::string unjudged_;            // the first such part that has changed
+  int parts_that_kept_ = 0;
   bool is_done_ = false;
 };
 

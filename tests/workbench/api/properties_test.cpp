@@ -34,6 +34,22 @@ TEST_F(HostContract, AppearancesAreReadAndWrittenWhole) {
   wrong.transparency = 1.5;
   Check({
       {"a part's", [&] { return ProSurfaceAppearancepropsGet(&lid, &record); }, PRO_TK_NO_ERROR},
+      {"a part's, with a text lost",
+       [&] {
+         ProSurfaceAppearanceProps lost = record;
+         lost.label = nullptr;
+         return ProSurfaceAppearancepropsSet(&face, &lost);
+       },
+       PRO_TK_BAD_INPUTS,
+       "ProSurfaceAppearancepropsSet: an appearance of which only a part is written back"},
+      {"a part's, with a byte lost",
+       [&] {
+         ProSurfaceAppearanceProps lost = record;
+         lost.reserve[100] = 0;
+         return ProSurfaceAppearancepropsSet(&face, &lost);
+       },
+       PRO_TK_BAD_INPUTS,
+       "ProSurfaceAppearancepropsSet: an appearance of which only a part is written back"},
       {"a surface's", [&] { return ProSurfaceAppearancepropsSet(&face, &record); },
        PRO_TK_NO_ERROR},
       {"taken away", [&] { return ProSurfaceAppearancepropsSet(&lid, nullptr); }, PRO_TK_NO_ERROR},

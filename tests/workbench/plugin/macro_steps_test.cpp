@@ -6,10 +6,10 @@
 namespace wb {
 namespace {
 
-constexpr char kOpen[] = "~ Select `d` `ProCmdViewGallery.view`;";
+constexpr char kOpen[] = "~ Select `main_dlg_cur` `ProCmdViewGallery.view`;";
 constexpr char kMenu[] =
-    "~ Select `d` `ProCmdViewGallery_layoutph.palette_holder.clearAppearance`;";
-constexpr char kClear[] = "~ Activate `d` `clearAllAppearance`;";
+    "~ Select `main_dlg_cur` `ProCmdViewGallery_layoutph.palette_holder.clearAppearance`;";
+constexpr char kClear[] = "~ Activate `main_dlg_cur` `clearAllAppearance`;";
 
 TEST(ParseMacro, PartsAtSemicolonsOutsideOfNames) {
   const auto steps = ParseMacro("~ Select `a b`  `c;d` ;~Activate `e`; ProCmdX;;  ");
@@ -46,6 +46,9 @@ TEST_F(PlayedMacro, TellsWhatItDoesNotKnow) {
   EXPECT_NE(PlayMacro("ProCmdX;", session_), "");
   EXPECT_NE(PlayMacro(std::string(kOpen) + kClear, session_), "");
   EXPECT_NE(PlayMacro("~ Activate `UI Message Dialog` `yes`;", session_), "");
+  // Another window's gallery, and a menu that nobody has opened.
+  EXPECT_NE(PlayMacro("~ Select `other` `ProCmdViewGallery.view`;", session_), "");
+  EXPECT_NE(PlayMacro("~ Close `main_dlg_cur` `ProCmdViewGallery.view`;", session_), "");
   // A question that nobody answers.
   EXPECT_NE(PlayMacro(std::string(kOpen) + kMenu + kClear, session_), "");
   EXPECT_TRUE(IsColoured());

@@ -217,9 +217,24 @@ TEST(PaintersOrder, StopsCuttingAtItsBound) {
   for (int i = 0; i < 150; ++i) boxes.push_back({tangle.AnyBox(5, 20), tangle.AnyPlacement(20)});
   const std::vector<SeenFace> faces = FacesOfAll(boxes, false);
   EXPECT_GT(PaintersOrder(faces).size(), 1000u);
-  const std::vector<SeenFace> bounded = PaintersOrder(faces, 1000);
+  const std::vector<SeenFace> bounded = PaintersOrder(faces, {.pieces = 1000});
   EXPECT_LE(bounded.size(), 1000u);
   EXPECT_GE(bounded.size(), faces.size());
+}
+
+TEST(PaintersOrder, StopsComparingThousandsOfClearBoxesInOnePlace) {
+  Tangle tangle(17);
+  PlacedBoxes boxes;
+  for (int i = 0; i < 2000; ++i) boxes.push_back({tangle.AnyBox(5, 20), tangle.AnyPlacement(5)});
+  const std::vector<SeenFace> painted =
+      PaintersOrder(FacesOfAll(boxes, false), {.comparisons = 50'000});
+  ASSERT_EQ(painted.size(), 3 * boxes.size());
+  const auto middle = [](const SeenFace& face) {
+    double sum = 0;
+    for (const SeenCorner& corner : face.corners) sum += corner.at[2];
+    return sum / static_cast<double>(face.corners.size());
+  };
+  EXPECT_TRUE(std::ranges::is_sorted(painted, {}, middle));
 }
 
 }  // namespace

@@ -118,6 +118,20 @@ TEST_F(PicturedAssembly, KeepsTheLargestOfTooMany) {
   EXPECT_EQ(names, (Names{"p16.prt", "p17.prt", "p18.prt", "p19.prt", "p20.prt"}));
 }
 
+TEST_F(PicturedAssembly, CountsWhatItDoesNotMeet) {
+  Model& cube = AddPart("cube", {{0, 0, 0}, {8, 8, 8}});
+  Model& row = AddAssembly("row");
+  for (int i = 0; i < 300; ++i) Place(row, cube, At(10 * i, 0, 0));
+  row.solid().features[0].hidden = true;
+  Model& top = AddAssembly("top");
+  for (int i = 0; i < 200; ++i) Place(top, row, At(0, 10 * i, 0));
+  const Scene scene = TakeScene(top, 100);
+  EXPECT_EQ(scene.boxes.size(), 100u);
+  EXPECT_EQ(scene.left_out, 200u * 299 - 100);
+  EXPECT_FALSE(scene.are_all_met);
+  EXPECT_TRUE(TakeScene(row, 100).are_all_met);
+}
+
 TEST_F(PicturedAssembly, TakesComponentsInTheirAssemblysUnits) {
   Model& inch = AddPart("inch", {{0, 0, 0}, {1, 1, 1}});
   inch.solid().units = "Inch Pound Second (IPS)";

@@ -44,6 +44,48 @@ constexpr NumberRow kNumbers[] = {
     {&ProSurfaceAppearanceProps::transparency, &Appearance::transparency},
 };
 
+// What an appearance with a finish holds beside its numbers and its name: a caller that writes back
+// what it has read keeps all of it.
+struct TextRow {
+  char* ProSurfaceAppearanceProps::*field;
+  const char* text;
+};
+constexpr TextRow kTexts[] = {
+    {&ProSurfaceAppearanceProps::label, "finish label"},
+    {&ProSurfaceAppearanceProps::description, "finish description"},
+    {&ProSurfaceAppearanceProps::keywords, "finish keywords"},
+};
+
+char ReserveAt(int finish, size_t place) {
+  return finish == 0 ? '\0' : static_cast<char>(static_cast<size_t>(finish) + place);
+}
+
+void FillFinish(int finish, ProSurfaceAppearanceProps& to) {
+  for (size_t i = 0; i < sizeof(to.reserve); ++i) to.reserve[i] = ReserveAt(finish, i);
+  std::memcpy(to.reserve, &finish, sizeof(finish));
+  // The record's type has no const; nobody may write there all the same.
+  for (const TextRow& row : kTexts) {
+    to.*row.field = finish == 0 ? nullptr : const_cast<char*>(row.text);
+  }
+}
+
+int ReadFinish(const Call& call, const ProSurfaceAppearanceProps& from) {
+  int finish = 0;
+  std::memcpy(&finish, from.reserve, sizeof(finish));
+  bool is_whole = true;
+  for (size_t i = sizeof(finish); i < sizeof(from.reserve); ++i) {
+    is_whole = is_whole && from.reserve[i] == ReserveAt(finish, i);
+  }
+  for (const TextRow& row : kTexts) {
+    const char* const text = from.*row.field;
+    const bool has_text = text != nullptr;
+    is_whole = is_whole && has_text == (finish != 0) &&
+               (!has_text || call.Narrow(text, kNarrowLimit, "appearance's text") == row.text);
+  }
+  if (!is_whole) call.Fail("an appearance of which only a part is written back");
+  return finish;
+}
+
 // Where a number stands that is none of an appearance.
 constexpr double kNoNumber = 255;
 
@@ -53,7 +95,7 @@ void FillAppearance(const Call& call, Appearance& from, ProSurfaceAppearanceProp
   for (const NumberRow& row : kNumbers) to.*row.field = from.*row.fact;
   to.reflection = from.reflection;
   to.name = from.name.data();
-  std::memcpy(to.reserve, &from.finish, sizeof(from.finish));
+  FillFinish(from.finish, to);
   if (call.host.habits.appearance_record_has_unknown_order) to.ambient = kNoNumber;
 }
 
@@ -72,7 +114,7 @@ Appearance ReadAppearance(const Call& call, const ProSurfaceAppearanceProps& fro
   if (!std::isfinite(from.reflection)) call.Fail("a reflection that is no number");
   to.reflection = from.reflection;
   if (from.name != nullptr) to.name = call.Narrow(from.name, kNarrowLimit, "appearance's name");
-  std::memcpy(&to.finish, from.reserve, sizeof(to.finish));
+  to.finish = ReadFinish(call, from);
   return to;
 }
 

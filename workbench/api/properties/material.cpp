@@ -1,4 +1,6 @@
 // Host functions for materials, bend tables and regeneration.
+#include <cstdlib>
+
 #include "workbench/base/utf8_text.h"
 #include "workbench/host/arguments.h"
 
@@ -19,6 +21,24 @@ struct TableNameIn : TextIn {
   TableNameIn(const wchar_t* name, const char* name_of) : TextIn{name, PRO_NAME_SIZE, name_of} {}
 };
 
+// The file, or else its highest version, "q235.mtl.2". None: empty.
+fs::path NewestOf(const fs::path& file) {
+  if (fs::is_regular_file(file)) return file;
+  const std::string beginning = PathToUtf8(file.filename()) + ".";
+  fs::path newest;
+  int highest = 0;
+  std::error_code error;
+  for (const auto& item : fs::directory_iterator(file.parent_path(), error)) {
+    const std::string name = PathToUtf8(item.path().filename());
+    if (!name.starts_with(beginning)) continue;
+    const int version = std::atoi(name.c_str() + beginning.size());
+    if (version <= highest) continue;
+    highest = version;
+    newest = item.path();
+  }
+  return newest;
+}
+
 // The file of this name in the first folder that has it: the working directory, or one of those
 // that the option names. None: empty.
 fs::path FindNamed(Host& host, const std::string& name, const char* option,
@@ -30,8 +50,8 @@ fs::path FindNamed(Host& host, const std::string& name, const char* option,
   }
   for (const fs::path& folder : folders) {
     for (const char* const extension : extensions) {
-      const fs::path file = folder / PathFromUtf8(name + extension);
-      if (fs::is_regular_file(file)) return file;
+      const fs::path file = NewestOf(folder / PathFromUtf8(name + extension));
+      if (!file.empty()) return file;
     }
   }
   return {};
