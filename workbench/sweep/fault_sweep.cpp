@@ -18,6 +18,9 @@ constexpr long kMostCalls = 100000;
 constexpr long kDensePairs = 10;
 constexpr long kSparsePairs = 10;
 constexpr long kPairGaps[] = {1, 2, 4};
+// A sample takes, beside calls of every function, so many of the first and so many of the others.
+constexpr long kDenseSample = 10;
+constexpr long kSparseSample = 10;
 
 }  // namespace
 
@@ -59,8 +62,13 @@ void Sweep::Run() {
 
 void Sweep::RunClean() {
   const RunMark mark = MarkRun(run_);
-  const CommandRun result = command_.RunOnce({});
+  FaultPlan census;
+  census.windows_too = true;
+  census.nth = Faults::kNever;
+  const CommandRun result = command_.RunOnce(census);
   clean_calls_ = run_.host.trace.calls();
+  sample_ = SampledCalls(run_.host.faults.census(), kDenseSample, kSparseSample);
+  run_.host.faults.Clear();
   std::vector<std::string> complaints = command_.ComplaintsOfClean(result);
   clean_ = OutcomeOf(run_, result, mark, folders_);
   PutBack(clean_, &complaints);
@@ -74,8 +82,16 @@ void Sweep::RunKind(const Kind& kind) {
   plan.spares_telling = kind.spares_telling;
   plan.kind = kind.kind;
   plan.status = kind.status;
-  for (plan.nth = 1; plan.nth < kMostCalls; ++plan.nth) {
-    if (!RunOne(plan, "fault crossing " + std::to_string(plan.nth) + " " + kind.name)) return;
+  const auto run_at = [&](long nth) {
+    plan.nth = nth;
+    return RunOne(plan, "fault crossing " + std::to_string(nth) + " " + kind.name);
+  };
+  if (run_.options.sampled_faults) {
+    for (const long nth : sample_) run_at(nth);
+    return;
+  }
+  for (long nth = 1; nth < kMostCalls; ++nth) {
+    if (!run_at(nth)) return;
   }
   run_.Fail(statement_, "the command makes more than " + std::to_string(kMostCalls) + " calls");
 }

@@ -47,6 +47,7 @@ class Sweep {
   const SessionState before_;
   RunOutcome clean_;
   long clean_calls_ = 0;
+  std::vector<long> sample_;
   long faults_ = 0;
   int bad_runs_ = 0;
   std::set<std::string> told_;
