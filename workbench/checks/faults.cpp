@@ -32,6 +32,7 @@ const FaultPlan* Faults::Strike(const char* function, bool is_of_run_log) {
   if (!plan_->function.empty() && plan_->function != function) return nullptr;
   const bool tells = is_of_run_log || Tells(function);
   if (plan_->spares_telling && struck_ > 0 && tells) return nullptr;
+  if (plan_->nth == kNever) census_.push_back(function);
   if (!Reaches()) return nullptr;
   has_struck_telling_ |= tells;
   if (names_.empty()) first_name_ = function;

@@ -2,9 +2,11 @@
 // the plug-in's own, once or from then on.
 #pragma once
 
+#include <limits>
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace wb {
 
@@ -27,9 +29,12 @@ struct FaultPlan {
 
 class Faults {
  public:
+  // A plan for this call fails nothing, but notes what it could have failed.
+  static constexpr long kNever = std::numeric_limits<long>::max();
+
   void Order(FaultPlan plan) { Clear(), plan_ = std::move(plan), seen_ = 0, struck_ = 0; }
   void Clear() {
-    plan_.reset(), names_.clear(), first_name_.clear();
+    plan_.reset(), names_.clear(), first_name_.clear(), census_.clear();
     has_struck_text_ = has_struck_telling_ = false;
   }
   // The fault this call of `function` meets, if any. Calls that write the run log tell as boxes do.
@@ -54,6 +59,8 @@ class Faults {
   const std::string& first_struck() const { return first_name_; }
   // How many it could have failed so far.
   long seen() const { return seen_; }
+  // Of which functions they were, one by one, where the plan is for kNever.
+  const std::vector<std::string>& census() const { return census_; }
 
  private:
   bool Reaches();
@@ -63,6 +70,7 @@ class Faults {
   long struck_ = 0;
   std::set<std::string> names_;  // of the functions struck
   std::string first_name_;
+  std::vector<std::string> census_;
   bool has_struck_text_ = false;
   bool has_struck_telling_ = false;
 };

@@ -40,8 +40,8 @@ bool StartProgram(std::wstring line, unsigned short port) {
                         nullptr, nullptr, &start, &process)) {
     return false;
   }
-  ::CloseHandle(process.hThread);
-  ::CloseHandle(process.hProcess);
+  // Its handles are not closed: for a native program Wine leaves there what lay on its stack, and
+  // what is closed may be our own output.
   return true;
 }
 

@@ -26,7 +26,8 @@ constexpr Subcommand kSubcommands[] = {
                  "    beside models of the same names", &ImportCommand},
     {"run",      "run SCRIPT... [--out DIR] [--report FILE.html] [--trace FILE] [--plugin DLL]\n"
                  "    [--install DIR] [--fault FUNCTION:NTH[:and:SECOND]:STATUS[:from_then_on]]\n"
-                 "    [--all-allocations] [--first-run LINE:NTH[:from_then_on]]\n"
+                 "    [--other-habits] [--sampled-faults] [--all-allocations]\n"
+                 "    [--first-run LINE:NTH[:from_then_on]]\n"
                  "    runs scripts on copies of the install tree and closes with \"N passed, N failed\"",
                  &RunScriptsCommand},
     {"memory",   "memory SCRIPT... [--all] [--plugin DLL] [--install DIR]\n"

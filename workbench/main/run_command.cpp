@@ -103,7 +103,9 @@ void RunApart(const std::string& script, const CommandLine& line, RunRecord& rec
   for (const char* option : {"--out", "--plugin", "--install", "--fault"}) {
     if (line.Has(option)) arguments.insert(arguments.end(), {option, line.Value(option)});
   }
-  if (line.Has("--other-habits")) arguments.push_back("--other-habits");
+  for (const char* option : {"--other-habits", "--sampled-faults"}) {
+    if (line.Has(option)) arguments.push_back(option);
+  }
   TakeOver(script, OutputOf(ProgramFile(), arguments).value_or(""), record);
 }
 
@@ -125,7 +127,7 @@ MemorySweepOptions FirstRunOption(const std::string& text) {
 
 int RunScriptsCommand(const CommandArguments& arguments) {
   const CommandLine line(
-      arguments, {"--all-allocations", "--other-habits"},
+      arguments, {"--all-allocations", "--other-habits", "--sampled-faults"},
       {"--out", "--report", "--trace", "--plugin", "--install", "--fault", "--first-run"});
   if (line.words().empty()) throw UsageError("run wants one script or more");
   ScriptOptions options;
@@ -135,6 +137,7 @@ int RunScriptsCommand(const CommandArguments& arguments) {
   options.trace = line.Path("--trace");
   options.report = line.Path("--report");
   options.other_habits = line.Has("--other-habits");
+  options.sampled_faults = line.Has("--sampled-faults");
   options.fault = FaultOption(line.Value("--fault"));
   options.memory = FirstRunOption(line.Value("--first-run"));
   options.memory.all = line.Has("--all-allocations");

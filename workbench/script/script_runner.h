@@ -39,6 +39,7 @@ struct ScriptOptions {
   std::filesystem::path trace;    // file that takes the calls of every action; empty: none
   std::filesystem::path report;   // page to collect for, with files beside it; empty: none
   bool other_habits = false;      // the host starts with the other set of its habits
+  bool sampled_faults = false;    // sweeps take calls of every function, not every call
   FaultPlan fault;                // met by every action without one of its own; nth 0: none
   MemorySweepOptions memory;
 };

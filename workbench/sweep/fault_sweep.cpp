@@ -19,6 +19,9 @@ constexpr long kMostCalls = 100000;
 constexpr long kDensePairs = 10;
 constexpr long kSparsePairs = 10;
 constexpr long kPairGaps[] = {1, 2, 4};
+// A sample takes, beside calls of every function, so many of the first and so many of the others.
+constexpr long kDenseSample = 10;
+constexpr long kSparseSample = 10;
 
 // After a failure of these a command works all the same, with other values than without it.
 constexpr const char* kChangeWhatIsMeant[] = {
@@ -60,7 +63,11 @@ void Sweep::Run() {
       {"empty from_then_on", FaultKind::kEmptySuccess, 0, true},
   };
   RunClean();
-  for (const Kind& kind : kKinds) RunKind(kind);
+  if (run_.options.sampled_faults) {
+    RunSample(kKinds);
+  } else {
+    for (const Kind& kind : kKinds) RunKind(kind);
+  }
   RunPairs();
   std::printf("%s: sweep of %s: %ld faults, %d bad runs\n", statement_.Place().c_str(),
               statement_.Text("COMMAND").c_str(), faults_, bad_runs_);
@@ -69,34 +76,54 @@ void Sweep::Run() {
 
 void Sweep::RunClean() {
   const RunMark mark = MarkRun(run_);
-  const CommandRun result = command_.RunOnce({});
-  clean_calls_ = run_.host.trace.calls();
+  FaultPlan census;
+  census.windows_too = true;
+  census.nth = Faults::kNever;
+  const CommandRun result = command_.RunOnce(census);
+  census_ = run_.host.faults.census();
+  run_.host.faults.Clear();
   std::vector<std::string> complaints = command_.ComplaintsOfClean(result);
   clean_ = OutcomeOf(run_, result, mark, folders_);
   PutBack(clean_, &complaints);
   Tell("without any fault", "", complaints);
 }
 
-void Sweep::RunKind(const Kind& kind) {
+bool Sweep::RunAt(long nth, const Kind& kind) {
   FaultPlan plan;
+  plan.nth = nth;
   plan.windows_too = true;
   plan.from_then_on = kind.from_then_on;
   plan.spares_telling = kind.spares_telling;
   plan.kind = kind.kind;
   plan.status = kind.status;
-  for (plan.nth = 1; plan.nth < kMostCalls; ++plan.nth) {
-    if (!RunOne(plan, "fault crossing " + std::to_string(plan.nth) + " " + kind.name)) return;
+  return RunOne(plan, "fault crossing " + std::to_string(nth) + " " + kind.name);
+}
+
+void Sweep::RunKind(const Kind& kind) {
+  for (long nth = 1; nth < kMostCalls; ++nth) {
+    if (!RunAt(nth, kind)) return;
   }
   run_.Fail(statement_, "the command makes more than " + std::to_string(kMostCalls) + " calls");
+}
+
+void Sweep::RunSample(std::span<const Kind> kinds) {
+  size_t turn = 0;
+  for (const long nth : SampledCalls(census_, kDenseSample, kSparseSample)) {
+    RunAt(nth, kinds.front());
+    RunAt(nth, kinds[1 + turn++ % (kinds.size() - 1)]);
+  }
 }
 
 void Sweep::RunPairs() {
   FaultPlan plan;
   plan.windows_too = true;
   plan.status = PRO_TK_GENERAL_ERROR;
-  const std::vector<long> places = SampledPlaces(clean_calls_, kDensePairs, kSparsePairs);
+  const std::vector<long> places =
+      SampledPlaces(static_cast<long>(census_.size()), kDensePairs, kSparsePairs);
+  const auto gaps =
+      std::span(kPairGaps).first(run_.options.sampled_faults ? 1 : std::size(kPairGaps));
   for (const long first : places) {
-    for (const long gap : kPairGaps) {
+    for (const long gap : gaps) {
       plan.nth = first;
       plan.second_nth = first + gap;
       RunOne(plan, "fault crossing " + std::to_string(plan.nth) + " and " +

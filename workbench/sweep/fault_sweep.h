@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <set>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,9 @@ class Sweep {
   void RunClean();
   // One kind of fault at call 1, 2, 3 ...
   void RunKind(const Kind& kind);
+  // The first kind, and one of the others in turn, at some calls of every function.
+  void RunSample(std::span<const Kind> kinds);
+  bool RunAt(long nth, const Kind& kind);
   void RunPairs();
   // False when the fault did not strike: the command makes fewer calls.
   bool RunOne(const FaultPlan& plan, const std::string& which);
@@ -49,7 +53,7 @@ class Sweep {
   const SessionSnapshot start_;
   const SessionState before_;
   RunOutcome clean_;
-  long clean_calls_ = 0;
+  std::vector<std::string> census_;  // the function of each call without any fault
   long faults_ = 0;
   int bad_runs_ = 0;
   std::set<std::string> told_;

@@ -3,6 +3,7 @@
 // it was loaded first, and takes its settings from there.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <fstream>
 
 #include "tests/source_folder.h"
@@ -39,14 +40,22 @@ void ExpectPasses(const std::vector<std::string>& arguments) {
   EXPECT_EQ(text.find("\n0 passed"), std::string::npos) << text;
 }
 
-class Script : public testing::TestWithParam<fs::path> {};
+class Script : public testing::TestWithParam<fs::path> {
+ protected:
+  // The long run fails every call, the ordinary one a sample.
+  static void ExpectItPasses(std::vector<std::string> options) {
+    options.insert(options.begin(), {"run", PathToUtf8(GetParam())});
+    if (std::getenv("QM_EVERY_FAULT") == nullptr) options.push_back("--sampled-faults");
+    ExpectPasses(options);
+  }
+};
 
 TEST_P(Script, Passes) {
-  ExpectPasses({"run", PathToUtf8(GetParam())});
+  ExpectItPasses({});
 }
 
 TEST_P(Script, PassesOnAHostOfOtherHabits) {
-  ExpectPasses({"run", PathToUtf8(GetParam()), "--other-habits"});
+  ExpectItPasses({"--other-habits"});
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, Script, testing::ValuesIn(Scripts()),
@@ -354,6 +363,22 @@ TEST(FaultSweeps, TellFaultsAsTheStatementsThatRepeatThem) {
             "");
   EXPECT_NE(with("fault any 4 status general_error\nrun Wrong\n").find("did not strike"),
             std::string::npos);
+}
+
+TEST(FaultSweeps, AreLargeOrSampledAsOrdered) {
+  // `faults` that a sweep says it tried.
+  const auto faults = [](const std::vector<std::string>& options) {
+    const std::string told = FailuresOf(
+        std::string(kPump) +
+            "sweep QmParams with\ndialog QmParams\nset ParaName X\npress Add\nclose\nend\nend\n",
+        options);
+    long count = 0;
+    std::sscanf(told.c_str(), "%*[^ ] sweep of QmParams: %ld faults, 0 bad runs", &count);
+    return count;
+  };
+  const long sampled = faults({"--sampled-faults"});
+  EXPECT_GT(sampled, 100);
+  EXPECT_GT(faults({}), 2 * sampled);
 }
 
 TEST(FaultSweeps, TellADialogThatCannotBeClosed) {
