@@ -164,8 +164,8 @@ TEST_F(ModelFacts, AreFoundAndSetByPath) {
       {"surfaces/4/min", "1 2", "\"1 2\" instead of 3 numbers"},
       {"features/7/model", "bolt", "\"bolt\" instead of a model name such as"},
       {"features/8/hidden", "yes", "pump.asm: there is no features/8"},
-      {"colour", "red",
-       "pump.asm: there is no fact \"colour\"; there are: note, view, parameters/..., "},
+      {"smell", "red",
+       "pump.asm: there is no fact \"smell\"; there are: note, view, parameters/..., "},
   };
   for (const auto& item : cases) {
     try {
@@ -226,7 +226,7 @@ TEST_F(ModelFacts, WhatAFileMayNotSayIsToldWithItsLine) {
     const char* rest;  // from line 4 on
     const char* why;
   } cases[] = {
-      {"\"colour\": \"red\"", "line 4: unknown entry \"colour\""},
+      {"\"smell\": \"red\"", "line 4: unknown entry \"smell\""},
       {"\"note\": 5", "line 4: \"note\": \"5\" instead of a text"},
       {"\"features\": [\n {\"id\": 1, \"type\": 5},\n {\"id\": 2, \"type\": 5, \"hiden\": true}]",
        "line 6: unknown entry \"hiden\""},

@@ -29,7 +29,9 @@ constexpr const char* kHarmless[] = {"CloseHandle",
                                      "SysStringLen",
                                      "VariantClear",
                                      "VariantInit",
-                                     "WideCharToMultiByte"};
+                                     "WideCharToMultiByte",
+                                     "rand",
+                                     "srand"};
 
 // Of the run-time library: threads, exceptions, the clock.
 constexpr const char* kOfTheRunTime[] = {"AddVectoredExceptionHandler",
