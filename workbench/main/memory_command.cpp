@@ -33,6 +33,7 @@ class FirstRuns {
       : script_(std::move(script)), line_(line), tally_(tally) {}
 
   void Sweep(const Statement& statement, bool is_first) {
+    const int failed_before = tally_.failed;
     const std::string census = Output(statement.line, "");
     const long allocations = Allocations(census);
     Count(census, "without any fault");
@@ -44,8 +45,8 @@ class FirstRuns {
         Count(Output(statement.line, fault), "allocation " + fault);
       }
     }
-    std::printf("%s: %ld allocations, %zu first runs\n", statement.text.c_str(), allocations,
-                1 + 2 * places.size());
+    std::printf("%s: %ld allocations, %zu first runs, %d bad runs\n", statement.text.c_str(),
+                allocations, 1 + 2 * places.size(), tally_.failed - failed_before);
     std::fflush(stdout);
   }
 

@@ -1,0 +1,120 @@
+#!/usr/bin/env python3
+"""Sums what sweeps of faults say of themselves in the logs of a test run: a row for each command
+with its calls, faults and findings, on the host as it is and on one of other habits.
+
+    reliability_table.py [--write] LOG...    prints the table; with --write into docs/reliability.md
+    reliability_table.py --check             every command has a sweep of its calls and one of its
+                                             allocations in some script
+
+Fails when a command is missing from a log's sum, or has a finding.
+"""
+import collections
+import pathlib
+import re
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+DOCUMENT = ROOT / "docs" / "reliability.md"
+BEGIN, END = "<!-- faults by command -->\n", "<!-- end of faults by command -->\n"
+TEST = re.compile(r"^\[ RUN      \] \S*?\.(\w+)")
+SWEEP = re.compile(r"^(.*:\d+): sweep of (\w+): (\d+) (calls|allocations), (\d+) faults, (\d+) bad runs$")
+FIRST_RUNS = re.compile(r"^\s*sweep allocations of (\w+).*: (\d+) allocations, (\d+) first runs, "
+                        r"(\d+) bad runs$")
+COLUMNS = ("usual", "other", "memory")
+
+
+class Row:
+    """What was swept of one command; findings are runs that went wrong."""
+
+    def __init__(self):
+        self.calls = {}  # of each sweep, wherever it ran
+        self.faults = collections.Counter()
+        self.findings = 0
+
+    def cells(self):
+        return (sum(self.calls.values()), *(self.faults[column] for column in COLUMNS), self.findings)
+
+
+def commands():
+    """Those that the English README calls built, in the menu's order."""
+    text = (ROOT / "README.md").read_text(encoding="utf-8")
+    has_column = "| available in | built |" in text
+    rows = re.findall(r"^\| \d+ \| `(\w+)` \|.*\| ([^|]*) \|$", text, re.M)
+    return [name for name, last in rows if not has_column or last.strip() == "yes"]
+
+
+def read_log(path, rows):
+    habits = "usual"
+    for line in path.read_text(encoding="utf-8", errors="replace").splitlines():
+        line = line.rstrip("\r")
+        if test := TEST.match(line):
+            habits = "other" if test[1].endswith("OtherHabits") else "usual"
+        elif sweep := SWEEP.match(line):
+            place, command, count, what, faults, findings = sweep.groups()
+            row = rows[command]
+            if what == "calls":
+                name = pathlib.PurePath(place.replace("\\", "/")).name
+                row.calls[name] = max(row.calls.get(name, 0), int(count))
+            row.faults[habits if what == "calls" else "memory"] += int(faults)
+            row.findings += int(findings)
+        elif runs := FIRST_RUNS.match(line):
+            rows[runs[1]].faults["memory"] += int(runs[3])
+            rows[runs[1]].findings += int(runs[4])
+
+
+def table(names, rows):
+    lines = ["| command | calls | faults | faults, other habits | allocations failed | findings |",
+             "|---|---:|---:|---:|---:|---:|"]
+    cells = [rows[name].cells() for name in names]
+    lines += [f"| `{name}` | " + " | ".join(f"{n:,}" for n in row) + " |"
+              for name, row in zip(names, cells)]
+    lines.append("| all | " + " | ".join(f"{sum(column):,}" for column in zip(*cells)) + " |")
+    return "\n".join(lines) + "\n"
+
+
+def complaints(names, rows):
+    words = {"usual": "calls are not swept", "other": "calls are not swept with other habits",
+             "memory": "allocations are not swept"}
+    for name in names:
+        yield from (f"{name}: {words[column]}" for column in COLUMNS if not rows[name].faults[column])
+        if rows[name].findings:
+            yield f"{name}: {rows[name].findings} findings"
+    yield from (f"{name} is swept but no command of README.md" for name in set(rows) - set(names))
+
+
+def sweeps_in_scripts(rows):
+    for script in (ROOT / "tests" / "scripts").rglob("*.qms"):
+        text = script.read_text(encoding="utf-8")
+        for memory, command in re.findall(r"^\s*sweep (allocations of )?(\w+)", text, re.M):
+            columns = ("memory",) if memory else ("usual", "other")
+            rows[command].faults.update(columns)
+
+
+def write(text):
+    document = DOCUMENT.read_text(encoding="utf-8")
+    head, rest = document.split(BEGIN)
+    DOCUMENT.write_text(head + BEGIN + text + END + rest.split(END)[1], encoding="utf-8")
+
+
+def main():
+    arguments = sys.argv[1:]
+    rows = collections.defaultdict(Row)
+    names = commands()
+    if not names:
+        sys.exit("README.md has no command table that this reads")
+    if arguments == ["--check"]:
+        sweeps_in_scripts(rows)
+    else:
+        for name in arguments:
+            if name != "--write":
+                read_log(pathlib.Path(name), rows)
+        found = table(names, rows)
+        print(found, end="")
+        if "--write" in arguments:
+            write(found)
+    wrong = list(dict.fromkeys(complaints(names, rows)))
+    if wrong:
+        sys.exit("\n".join(wrong))
+
+
+main()
