@@ -69,7 +69,9 @@ class DamagedInstallation : public PluginHost {
       const CommandRun run = RunCommand(command);
       EXPECT_EQ(run.left_out, Lines()) << which << ": " << command;
       const Lines breaches = TakeBreaches();
-      if (is_host_sound) EXPECT_EQ(breaches, Lines()) << which << ": " << command;
+      if (is_host_sound) {
+        EXPECT_EQ(breaches, Lines()) << which << ": " << command;
+      }
     }
     plugin.Stop();
     host_.messages.Forget();

@@ -360,6 +360,24 @@ TEST(FaultSweeps, TellWhatIsWrittenOtherwiseWithoutAWord) {
   EXPECT_EQ(failures.find("does not put back"), std::string::npos) << failures;
 }
 
+TEST(FaultSweeps, TellAStatusThatNobodyLooksAtAndWorkThatIsDoneTwice) {
+  const struct {
+    const char* plugin;
+    const char* fault;
+    const char* told;
+  } cases[] = {
+      {"swallowed_status", " at ProParameterCreate (", "work left undone without a word: "},
+      {"written_twice", " at ProWindowCurrentGet (", "\"9\", without a fault \"8\""},
+  };
+  for (const auto& item : cases) {
+    const std::string failures =
+        FailuresOf("part bolt\nparameter bolt P integer 7\nopen bolt\nsweep Wrong\n",
+                   {"--plugin", WrongPlugin(item.plugin)});
+    EXPECT_NE(failures.find(item.fault), std::string::npos) << failures;
+    EXPECT_NE(failures.find(item.told), std::string::npos) << failures;
+  }
+}
+
 TEST(FaultSweeps, TellFaultsAsTheStatementsThatRepeatThem) {
   const std::vector<std::string> plugin = {"--plugin", WrongPlugin("blank_setting")};
   const auto with = [&](const std::string& statements) {
@@ -385,7 +403,8 @@ TEST(FaultSweeps, AreLargeOrSampledAsOrdered) {
         "choose TypeRadio Part\npress Add\nclose\nend\nend\n",
         options);
     long count = 0;
-    std::sscanf(told.c_str(), "%*[^ ] sweep of QmParams: %*d calls, %ld faults, 0 bad runs", &count);
+    std::sscanf(told.c_str(), "%*[^ ] sweep of QmParams: %*d calls, %ld faults, 0 bad runs",
+                &count);
     return count;
   };
   const long sampled = faults({"--sampled-faults"});
