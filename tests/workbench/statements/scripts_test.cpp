@@ -367,7 +367,7 @@ TEST(FaultSweeps, TellAStatusThatNobodyLooksAtAndWorkThatIsDoneTwice) {
     const char* told;
   } cases[] = {
       {"swallowed_status", " at ProParameterCreate (", "work left undone without a word: "},
-      {"written_twice", " at ProWindowCurrentGet (", "\"9\", without a fault \"8\""},
+      {"written_twice", " at ProWindowCurrentGet (", ", without a fault "},
   };
   for (const auto& item : cases) {
     const std::string failures =
