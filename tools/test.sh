@@ -1,15 +1,32 @@
 #!/usr/bin/env bash
 # Builds everything and runs all tests: the pure parts natively under the sanitizers, and the
 # plug-in in the workbench under Wine, with both code pages and both sets of the host's habits; then
-# the checks of sources, documents and package. With --long sweeps fail every call, and every
-# allocation of the commands in memory.qms and drawing_memory.qms, instead of a sample. Ends with
-# "N passed, N failed".
+# the checks of sources, documents and package. Ends with "N passed, N failed".
+#
+#   tools/test.sh
+#   tools/test.sh --long [SEED]
+#
+# With --long sweeps fail every call and every allocation instead of a sample, thousands of commands
+# run in random order, thousands of damaged files are read, every script is run twice and compared,
+# and the tests themselves run in random order. The seed of all that is chance is printed; with it a
+# run is repeated. The faults by command are printed, and written into docs/reliability.md when
+# everything has passed.
 set -uo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 . "$here/environment.sh"
 
 passed=0
 failed=0
+
+long=no
+seed=${2:-$RANDOM}
+order=()
+if [ "${1:-}" = --long ]; then
+  long=yes
+  export QM_LONG=1 QM_SEED=$seed
+  order=(--gtest_shuffle "--gtest_random_seed=$((seed % 99999 + 1))")
+  echo "seed $seed"
+fi
 
 # Counts a runner's own closing line; a runner without one has failed, whatever its exit code.
 count() {
@@ -84,14 +101,14 @@ faults='*Script.Passes/*faults'
 other_faults='*OtherHabits/*faults'
 # Long tests that the code page has nothing to do with.
 once='*Growth*:LifeCycle.*:RenameBatch.ThreeHundred*:*WhatNobodyAnswers*:*Script.Passes/*memory'
-[ "${1:-}" = --long ] && once='' && export QM_EVERY_FAULT=1
+once+=':RandomCommands.*:RepeatedRuns.*:DamagedInstallation.*'
 
 # Tests under Wine in an environment, with a locale, and with a filter: in_wine PREFIX LOCALE FILTER
 in_wine() {
-  WINEPREFIX=$1 LC_ALL=$2 run_windows "$cross/quillmax_tests.exe" "--gtest_filter=$3"
+  WINEPREFIX=$1 LC_ALL=$2 run_windows "$cross/quillmax_tests.exe" "--gtest_filter=$3" "${order[@]}"
 }
 
-"$native/native_tests" >"$build/native.log" 2>&1 &
+"$native/native_tests" "${order[@]}" >"$build/native.log" 2>&1 &
 native_run=$!
 in_wine "$WINEPREFIX" zh_CN.UTF-8 "-$habits:$faults" >"$build/windows-936.log" 2>&1 &
 (
@@ -118,13 +135,12 @@ count "sweeps, other habits, code page 1252" "$build/habits-sweeps.log"
 # wait, so that the checks go on meanwhile.
 cd "$root"
 memory=(tests/scripts/memory.qms tests/scripts/drawing/drawing_memory.qms)
-every=()
-if [ "${1:-}" = --long ]; then
-  every=(--all)
+if [ "$long" = yes ]; then
+  mapfile -t memory < <(grep -rlE '^ *sweep allocations of ' tests/scripts --include=*.qms | sort)
   run_windows "$cross/workbench.exe" run "${memory[@]}" --all-allocations >"$build/memory-warm.log" 2>&1
   count "every allocation, warm" "$build/memory-warm.log"
 fi
-WINEPREFIX=$second run_windows "$cross/workbench.exe" memory "${memory[@]}" "${every[@]}" \
+WINEPREFIX=$second run_windows "$cross/workbench.exe" memory "${memory[@]}" \
   >"$build/memory.log" 2>&1 &
 
 check "rooms" python3 "$here/check_rooms.py"
@@ -133,9 +149,25 @@ check "tidy" "$here/check_tidy.sh"
 check "colour tables" python3 "$here/colour_tables.py" --check
 check "documents are up to date" python3 "$here/generate_docs.py" --check
 check "both READMEs say the same" python3 "$here/check_readmes.py"
+check "every command's allocations are swept" python3 "$here/reliability_table.py" --check
 check "the library's file" "$here/check_dll.sh" "$cross/quillmax5.1C3.dll"
 check "import" "$here/check_import.sh"
 check "package" "$here/check_package.sh"
 wait
 count "allocations at first runs" "$build/memory.log"
+
+# The table of faults by command; it stays as it was where anything has failed.
+if [ "$long" = yes ]; then
+  write=()
+  [ "$failed" -eq 0 ] && write=(--write)
+  logs=()
+  for name in windows-936 windows-1252 sweeps habits habits-sweeps memory-warm memory; do
+    logs+=("$build/$name.log")
+  done
+  if python3 "$here/reliability_table.py" "${write[@]}" "${logs[@]}"; then
+    passed=$((passed + 1))
+  else
+    failed=$((failed + 1))
+  fi
+fi
 finish

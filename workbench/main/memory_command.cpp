@@ -16,7 +16,7 @@
 namespace wb {
 namespace {
 
-// The first sweep of a script takes a dense beginning, since what all commands do at first is the
+// The first sweep of all takes a dense beginning, since what all commands do at first is the
 // same; of the others a few are spread over the whole.
 constexpr long kDense = 64;
 constexpr long kSparse = 6;
@@ -33,6 +33,7 @@ class FirstRuns {
       : script_(std::move(script)), line_(line), tally_(tally) {}
 
   void Sweep(const Statement& statement, bool is_first) {
+    const int failed_before = tally_.failed;
     const std::string census = Output(statement.line, "");
     const long allocations = Allocations(census);
     Count(census, "without any fault");
@@ -44,8 +45,8 @@ class FirstRuns {
         Count(Output(statement.line, fault), "allocation " + fault);
       }
     }
-    std::printf("%s: %ld allocations, %zu first runs\n", statement.text.c_str(), allocations,
-                1 + 2 * places.size());
+    std::printf("%s: %ld allocations, %zu first runs, %d bad runs\n", statement.text.c_str(),
+                allocations, 1 + 2 * places.size(), tally_.failed - failed_before);
     std::fflush(stdout);
   }
 
@@ -103,8 +104,9 @@ int MemoryCommand(const CommandArguments& arguments) {
   Tally tally;
   for (const std::string& script : line.words()) {
     FirstRuns runs(script, line, tally);
+    const bool is_first = &script == &line.words().front();
     const std::vector<Statement> sweeps = SweepsOf(script);
-    for (const Statement& sweep : sweeps) runs.Sweep(sweep, &sweep == &sweeps.front());
+    for (const Statement& sweep : sweeps) runs.Sweep(sweep, is_first && &sweep == &sweeps.front());
   }
   std::printf("%d passed, %d failed\n", tally.passed, tally.failed);
   return tally.failed == 0 ? 0 : 1;

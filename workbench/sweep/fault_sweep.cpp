@@ -69,8 +69,8 @@ void Sweep::Run() {
     for (const Kind& kind : kKinds) RunKind(kind);
   }
   RunPairs();
-  std::printf("%s: sweep of %s: %ld faults, %d bad runs\n", statement_.Place().c_str(),
-              statement_.Text("COMMAND").c_str(), faults_, bad_runs_);
+  std::printf("%s: sweep of %s: %zu calls, %ld faults, %d bad runs\n", statement_.Place().c_str(),
+              statement_.Text("COMMAND").c_str(), census_.size(), faults_, bad_runs_);
   if (bad_runs_ == 0) run_.Pass();
 }
 

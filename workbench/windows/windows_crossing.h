@@ -16,10 +16,14 @@ inline std::string Utf8(const wchar_t* text) {
   return text == nullptr ? "" : FromWide(text);
 }
 
+// Of an address only that there is one, since it is another one in every run; numbers that some
+// functions give as pointers stay.
 template <typename Result>
 int ResultForTrace(Result result) {
   if constexpr (std::is_pointer_v<Result>) {
-    return static_cast<int>(reinterpret_cast<intptr_t>(result));
+    constexpr intptr_t kLargestNumber = 0xFFFF;
+    const auto value = reinterpret_cast<intptr_t>(result);
+    return value > kLargestNumber ? 1 : static_cast<int>(value);
   } else {
     return static_cast<int>(result);
   }

@@ -52,7 +52,11 @@ TEST_P(WrongPlugins, AreCaughtAndNamed) {
 const WrongPlugin kWrongPlugins[] = {
     {"stale_handle",
      "plug-in misused ProSelectionModelitemGet: stale selection handle (its object is gone)"},
+    {"erased_model", "plug-in misused ProMdlNameGet: stale model handle (its object is gone)"},
+    {"destroyed_dialog", "plug-in misused ProUIDialogDestroy: there is no dialog \"Small\""},
     {"leaked_array", "", "array from ProArrayAlloc (call 1)"},
+    {"leaked_selection", "", "selection from ProSelbufferSelectionsGet (call 1)"},
+    {"leaked_dialog", "", "dialog from ProUIDialogCreate (call 1)"},
     {"unanswered_dialog", "", "",
      "workbench: not modelled: ProUIDialogActivate: a dialog that nobody works"},
     {"escaping_exception", "plug-in misused Wrong: exception across the boundary: no such thing"},

@@ -1,0 +1,93 @@
+// Two runs of the same scripts make the same calls and leave the same files, but for times of day:
+// only so can a failure be looked at again.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <map>
+
+#include "tests/long_run.h"
+#include "tests/source_folder.h"
+#include "tests/workbench/temporary_folder.h"
+#include "tests/workbench/test_paths.h"
+#include "workbench/base/text.h"
+#include "workbench/base/utf8_text.h"
+#include "workbench/script/script_windows.h"
+
+namespace wb {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Sweeps say themselves when a repeated run differs.
+bool IsSweeping(const std::string& stem) {
+  return stem.ends_with("faults") || stem.ends_with("memory");
+}
+
+std::vector<std::string> Scripts() {
+  const fs::path all = SourceFolder() / "tests" / "scripts";
+  if (!IsLongRun()) return {PathToUtf8(all / "export" / "bom_export.qms")};
+  std::vector<std::string> scripts;
+  for (const auto& item : fs::recursive_directory_iterator(all)) {
+    const bool is_script = item.path().extension() == ".qms";
+    if (is_script && !IsSweeping(PathToUtf8(item.path().stem())))
+      scripts.push_back(PathToUtf8(item));
+  }
+  std::ranges::sort(scripts);
+  return scripts;
+}
+
+// The run log and the journal of renamings have times of day, and how long things took.
+std::string WithoutNumbers(std::string text) {
+  std::string kept;
+  for (const char c : text) {
+    const bool is_digit = std::isdigit(static_cast<unsigned char>(c)) != 0;
+    if (!is_digit || kept.empty() || kept.back() != '0') kept += is_digit ? '0' : c;
+  }
+  return kept;
+}
+
+using Files = std::map<std::string, std::string>;
+
+Files FilesBelow(const fs::path& folder) {
+  Files files;
+  for (const auto& item : fs::recursive_directory_iterator(folder)) {
+    if (!item.is_regular_file()) continue;
+    const std::string name = PathToUtf8(fs::relative(item.path(), folder));
+    const std::string content = ReadFileBytes(item.path()).value_or("cannot be read");
+    const bool has_times = name.find("appdata") != std::string::npos;
+    files[name] = has_times ? WithoutNumbers(content) : content;
+  }
+  return files;
+}
+
+// All that `scripts` leave, the trace of their calls among it.
+Files LeftBy(const std::vector<std::string>& scripts, const fs::path& folder) {
+  fs::remove_all(folder);
+  fs::create_directories(folder);
+  std::vector<std::string> arguments = {"run"};
+  arguments.insert(arguments.end(), scripts.begin(), scripts.end());
+  arguments.insert(arguments.end(), {"--out", PathToUtf8(folder / "kept"), "--trace",
+                                     PathToUtf8(folder / "calls.txt")});
+  const std::string text =
+      OutputOf(TestBinaryFolder() / "workbench.exe", arguments).value_or("it cannot be started");
+  EXPECT_NE(text.find(" passed, 0 failed"), std::string::npos) << text;
+  return FilesBelow(folder);
+}
+
+TEST(RepeatedRuns, MakeTheSameCallsAndLeaveTheSameFiles) {
+  const TemporaryFolder temporary("workbench repeated runs");
+  const std::vector<std::string> scripts = Scripts();
+  const Files first = LeftBy(scripts, temporary.path / "run");
+  const Files second = LeftBy(scripts, temporary.path / "run");
+  EXPECT_FALSE(first.at("calls.txt").empty());
+  for (const auto& [name, content] : first) {
+    ASSERT_TRUE(second.contains(name)) << name << " is missing the second time";
+    EXPECT_TRUE(content == second.at(name)) << name << " is another one the second time";
+  }
+  EXPECT_EQ(first.size(), second.size());
+}
+
+}  // namespace
+}  // namespace wb
