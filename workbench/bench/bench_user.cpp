@@ -22,9 +22,11 @@ constexpr char kRenameTable[] = "mdl_list";
 // The spreadsheet program is kept away, so that an export ends when its table has been read.
 constexpr char kNoSpreadsheet[] = "创建Excel失败";
 // What the commands say when they are done.
-constexpr std::string_view kDone[] = {"\tSTEP导出已完成\t",       "\t批量关系创建操作已完成\t",
+constexpr std::string_view kDone[] = {"\tSTEP导出已完成\t", "\t批量关系创建操作已完成\t",
                                       "\t模型批量单位设置完成\t", "\t材料设置完成\t",
-                                      "\t元件数量统计已完成\t",   "\t所选元件没有几何体\t"};
+                                      "\t元件数量统计已完成\t"};
+// How the answer of QmBox begins.
+constexpr std::string_view kMeasured = "\t尺寸：";
 
 void Require(const UserOutcome& outcome) {
   if (!outcome.Done()) throw std::runtime_error(outcome.refusal);
@@ -153,8 +155,8 @@ std::optional<std::string> BenchUser::AnswerPrompt(const std::string& prompt, in
 }
 
 int BenchUser::AnswerMessageBox(const MessageBox& box) {
-  const bool is_known =
-      box.text == kNoSpreadsheet || std::ranges::find(kDone, box.text) != std::end(kDone);
+  const bool is_known = box.text == kNoSpreadsheet || box.text.starts_with(kMeasured) ||
+                        std::ranges::find(kDone, box.text) != std::end(kDone);
   if (!is_known) Unexpected("box \"" + box.text + "\"");
   return 1;  // OK
 }

@@ -141,7 +141,7 @@ TEST_F(DrawingContract, WhatAnEarlierCommandHasShownIsNoPrompt) {
   host_.command_began = host_.events.Mark();
   ProLine text = L"untouched";
   EXPECT_EQ(ProMessageStringRead(31, text), PRO_TK_BAD_INPUTS);
-  EXPECT_EQ(Breaches(), Lines{"ProMessageStringRead: a reply without a prompt"});
+  EXPECT_EQ(Breaches(), Lines{"plug-in misused ProMessageStringRead: a reply without a prompt"});
 }
 
 TEST_F(DrawingContract, AModelIsSavedElsewhereWhereTheOptionSaysSo) {
