@@ -159,6 +159,7 @@ constexpr std::string_view kLasting[] = {
     "bend_table_text",
 };
 constexpr std::string_view kPlacement = "/placement";
+constexpr std::string_view kSurfaces = "surfaces";
 
 // "bolt.prt surfaces/1/max" in its parts.
 struct ModelFact {
@@ -181,9 +182,13 @@ bool IsAnyModels(const ModelFact& fact, const std::string& value, const SessionS
 }
 
 // Colours are handed out one after the other, so that one model less moves those of the others. A
-// set of relations that was made and then could not be written is an empty one.
+// set of relations that was made and then could not be written is an empty one. Surfaces of merged
+// parts come one part after the other, and what is placed without the user's dialog lies where the
+// host has put it.
 bool IsExcused(const ModelFact& fact, const std::string& value, const std::string& was,
                const SessionState& clean) {
+  const bool is_geometry = fact.path.starts_with(kSurfaces) || fact.path.ends_with(kPlacement);
+  if (is_geometry) return was.empty() || (fact.path == kSurfaces && value.starts_with(was));
   if (fact.path == "colour") return IsAnyModels(fact, value, clean);
   return fact.path == "relations" && was == "none" && value.empty();
 }

@@ -136,8 +136,14 @@ ProError QmBackup() {
   if (!folder) return PRO_TK_USER_ABORT;
   // The record says where a model goes; where the folder cannot be entered its backups will tell.
   directory.Enter(*folder);
-  const auto targets = CollectTargets({*root, PRO_MDL_ASSEMBLY}, "AsmAndPart");
+  std::optional<TargetList> targets;
   std::optional<int> count;
+  // The user may have erased it while the folder was asked for.
+  if (CurrentAssembly() == root) {
+    targets = CollectTargets({*root, PRO_MDL_ASSEMBLY}, "AsmAndPart");
+  } else {
+    LogFailure("the assembly is not current any more");
+  }
   if (targets) count = targets->component_count;
   // Before the user reads that nothing is done.
   if (count.value_or(0) == 0) directory.Return();

@@ -157,13 +157,21 @@ Making Make(const RepPlan& plan, const std::wstring& text, ProSimprep* rep) {
   return Making::kNameRefused;
 }
 
+// The user may have erased it while the name was asked for.
+bool IsStillCurrent(ProMdl root) {
+  if (CurrentAssembly() == root) return true;
+  LogFailure("the assembly is not current any more");
+  return false;
+}
+
 // Asks until the host has taken a name. A failure is the command's answer: nothing is made then.
 ProError MakeByName(const RepPlan& plan, ProSimprep* rep) {
   const auto is_taken = [&](const std::wstring& name) { return IsTaken(plan.root, name); };
   const std::wstring offered = FreeRepName(is_taken).value_or(std::wstring());
   int empty = 0;  // replies in a row
   while (const auto name = AskName(offered)) {
-    const Making made = name->empty() ? Making::kNameRefused : Make(plan, *name, rep);
+    const bool can_be_made = !name->empty() && IsStillCurrent(plan.root);
+    const Making made = can_be_made ? Make(plan, *name, rep) : Making::kNameRefused;
     if (made == Making::kMade) return PRO_TK_NO_ERROR;
     if (made == Making::kFailed) return PRO_TK_GENERAL_ERROR;
     ShowMessage(kRefusedName);
