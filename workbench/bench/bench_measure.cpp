@@ -238,6 +238,10 @@ class Bench {
     }
   }
 
+  static void Show(ItemList<Feature>& features) {
+    for (Feature& feature : features) feature.hidden = false;
+  }
+
   void DropWork(BenchPart part) {
     for (const auto& model : host_.session.models()) {
       SolidContent* const solid = model->As<SolidContent>();
@@ -246,6 +250,8 @@ class Bench {
       if (part == BenchPart::kColours) solid->appearance.reset();
       if (part == BenchPart::kAddRelations) solid->relations.reset();
       if (part == BenchPart::kSetMaterial) solid->material.clear();
+      // The bare walk hides components in turn, and what is hidden is in no box.
+      if (part == BenchPart::kBox) Show(solid->features);
     }
   }
 
