@@ -47,8 +47,8 @@ uintmax_t LogSize(const ScriptRun& run) {
   return error ? 0 : size;
 }
 
-std::string LogFrom(const ScriptRun& run, uintmax_t start) {
-  std::ifstream file(LogFile(run), std::ios::binary);
+std::string TextFrom(const std::filesystem::path& path, uintmax_t start) {
+  std::ifstream file(path, std::ios::binary);
   file.seekg(static_cast<std::streamoff>(start));
   return {std::istreambuf_iterator<char>(file), {}};
 }
@@ -63,9 +63,16 @@ std::string WithoutTimes(const std::string& line) {
   return unit == std::string::npos ? text : text.erase(after, unit + 2 - after);
 }
 
-// A log that has grown to its bound begins anew.
+// A log that has grown to its bound begins anew; what a command wrote before that is in the old
+// one.
+std::string LogFrom(const ScriptRun& run, uintmax_t mark) {
+  const std::filesystem::path file = LogFile(run);
+  if (mark <= LogSize(run)) return TextFrom(file, mark);
+  return TextFrom(file.parent_path() / "quillmax.old.log", mark) + TextFrom(file, 0);
+}
+
 std::vector<std::string> Logged(const ScriptRun& run, uintmax_t mark) {
-  const std::string log = LogFrom(run, mark <= LogSize(run) ? mark : 0);
+  const std::string log = LogFrom(run, mark);
   std::vector<std::string> lines;
   for (size_t at = 0; at < log.size();) {
     const size_t end = std::min(log.find('\n', at), log.size());

@@ -399,8 +399,8 @@ TEST(FaultSweeps, AreLargeOrSampledAsOrdered) {
   // `faults` that a sweep says it tried.
   const auto faults = [](const std::vector<std::string>& options) {
     const std::string told = FailuresOf(
-        "part bolt\nopen bolt\nsweep QmParams with\ndialog QmParams\n"
-        "choose TypeRadio Part\npress Add\nclose\nend\nend\n",
+        std::string(kPump) +
+            "sweep QmParams with\ndialog QmParams\nset ParaName X\npress Add\nclose\nend\nend\n",
         options);
     long count = 0;
     std::sscanf(told.c_str(), "%*[^ ] sweep of QmParams: %*d calls, %ld faults, 0 bad runs",
