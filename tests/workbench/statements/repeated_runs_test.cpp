@@ -6,6 +6,7 @@
 #include <cctype>
 #include <filesystem>
 #include <map>
+#include <regex>
 
 #include "tests/long_run.h"
 #include "tests/source_folder.h"
@@ -48,6 +49,12 @@ std::string WithoutNumbers(std::string text) {
   return kept;
 }
 
+// The copy of the install tree has the number of the process in its name.
+std::string WithoutProcess(const std::string& text) {
+  static const std::regex place("workbench script [0-9]+");
+  return std::regex_replace(text, place, "workbench script");
+}
+
 using Files = std::map<std::string, std::string>;
 
 Files FilesBelow(const fs::path& folder) {
@@ -57,7 +64,7 @@ Files FilesBelow(const fs::path& folder) {
     const std::string name = PathToUtf8(item.path().lexically_relative(folder));
     const std::string content = ReadFileBytes(item.path()).value_or("cannot be read");
     const bool has_times = name.find("appdata") != std::string::npos;
-    files[name] = has_times ? WithoutNumbers(content) : content;
+    files[name] = has_times ? WithoutNumbers(content) : WithoutProcess(content);
   }
   return files;
 }
