@@ -32,7 +32,7 @@ namespace fs = std::filesystem;
 // Far longer than any of these files takes.
 constexpr unsigned kHangSeconds = 30;
 constexpr int kFewSeeds = 60;
-constexpr int kManySeeds = 20000;
+constexpr int kManySeeds = 10000;
 
 struct SoundFile {
   std::string name;

@@ -58,14 +58,24 @@ class DamagedInstallation : public PluginHost {
     host_.session.ActivateWindow(host_.session.ShowInWindow(added).id);
   }
 
+  // The command that a file bears the name of, and some others.
+  Lines CommandsFor(const fs::path& damaged) {
+    Lines names;
+    const auto& known = host_.commands.commands;
+    const std::string own = damaged.stem().string();
+    if (host_.commands.Find(own) != nullptr) names = {own, own};
+    for (int i = 0; i < kCommandsOfSeed && !known.empty(); ++i) {
+      names.push_back(known[user_.Below(known.size())].name);
+    }
+    return names;
+  }
+
   // Whatever else: no crash, and nothing is left out. Where a dialog or a text is damaged the host
   // tells of that, and of what its plug-in then asks for in vain.
   void RunSome(Plugin& plugin, const fs::path& damaged, const std::string& which) {
     const bool is_host_sound = damaged.parent_path() == Settings();
     EXPECT_EQ(plugin.Start(), 0) << which;
-    const auto& known = host_.commands.commands;
-    for (int i = 0; i < kCommandsOfSeed && !known.empty(); ++i) {
-      const std::string command = known[user_.Below(known.size())].name;
+    for (const std::string& command : CommandsFor(damaged)) {
       const CommandRun run = RunCommand(command);
       EXPECT_EQ(run.left_out, Lines()) << which << ": " << command;
       const Lines breaches = TakeBreaches();

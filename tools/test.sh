@@ -137,7 +137,8 @@ cd "$root"
 memory=(tests/scripts/memory.qms tests/scripts/drawing/drawing_memory.qms)
 if [ "$long" = yes ]; then
   mapfile -t memory < <(grep -rlE '^ *sweep allocations of ' tests/scripts --include=*.qms | sort)
-  run_windows "$cross/workbench.exe" run "${memory[@]}" --all-allocations >"$build/memory-warm.log" 2>&1
+  run_windows "$cross/workbench.exe" run "${memory[@]}" --all-allocations --sampled-faults \
+    >"$build/memory-warm.log" 2>&1
   count "every allocation, warm" "$build/memory-warm.log"
 fi
 WINEPREFIX=$second run_windows "$cross/workbench.exe" memory "${memory[@]}" \

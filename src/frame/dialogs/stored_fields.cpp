@@ -1,6 +1,8 @@
 // Filling, reading and saving of fields by their kind.
 #include "frame/dialogs/stored_fields.h"
 
+#include <utility>
+
 #include "frame/messages/message_area.h"
 #include "frame/messages/run_log.h"
 #include "frame/settings/config.h"
@@ -9,6 +11,8 @@
 
 namespace qm {
 namespace {
+
+constexpr size_t kLongestButtonName = 255;
 
 // Nothing when the host does not tell. A radio group may be without a selection, a menu is not.
 std::optional<std::wstring> Shown(const DialogView& dialog, const StoredField& field) {
@@ -35,8 +39,12 @@ ProError Show(const DialogView& dialog, const StoredField& field, const std::wst
   switch (field.kind) {
     case FieldKind::kInput:
       return dialog.SetInputValue(field.component, value);
-    case FieldKind::kRadio:
-      return dialog.SetRadioValue(field.component, ToAnsi(value));
+    case FieldKind::kRadio: {
+      std::string button = ToAnsi(value);
+      // No button has such a name, and the host takes no longer one.
+      if (button.size() > kLongestButtonName) return PRO_TK_E_NOT_FOUND;
+      return dialog.SetRadioValue(field.component, std::move(button));
+    }
     case FieldKind::kOption:
       return dialog.SetOptionValue(field.component, value);
     case FieldKind::kCheck:
