@@ -99,9 +99,10 @@ prepare_second_wine "$third"
 habits='*OtherHabits*'
 faults='*Script.Passes/*faults'
 other_faults='*OtherHabits/*faults'
-# Long tests that the code page has nothing to do with.
-once='*Growth*:LifeCycle.*:RenameBatch.ThreeHundred*:*WhatNobodyAnswers*:*Script.Passes/*memory'
-once+=':RandomCommands.*:RepeatedRuns.*:DamagedInstallation.*'
+# Long tests that the code page has nothing to do with; those that chance makes long stay so.
+chance='RandomCommands.*:RepeatedRuns.*:DamagedInstallation.*'
+once="*Growth*:LifeCycle.*:RenameBatch.ThreeHundred*:*WhatNobodyAnswers*:*Script.Passes/*memory:$chance"
+[ "$long" = yes ] && once=$chance
 
 # Tests under Wine in an environment, with a locale, and with a filter: in_wine PREFIX LOCALE FILTER
 in_wine() {
