@@ -143,6 +143,7 @@ ProError QmBackup() {
     targets = CollectTargets({*root, PRO_MDL_ASSEMBLY}, "AsmAndPart");
   } else {
     LogFailure("the assembly is not current any more");
+    count = 0;
   }
   if (targets) count = targets->component_count;
   // Before the user reads that nothing is done.
