@@ -26,7 +26,6 @@ constexpr long kSparseSample = 10;
 // After a failure of these a command works all the same, with other values than without it.
 constexpr const char* kChangeWhatIsMeant[] = {
     "ProSelbufferSelectionsGet",  // a host may say so that nothing is selected: all is meant
-    "ProAsmcompConstrRedefUI",    // what the user has not placed stays where it was put
     // A colour table that cannot be read is as black as one that is missing.
     "GetModuleHandleW",
     "GetModuleFileNameW",
