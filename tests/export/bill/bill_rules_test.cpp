@@ -9,13 +9,13 @@ namespace qm {
 namespace {
 
 // A row as a user reads it.
-struct Line {
+struct BillLine {
   std::string position;
   std::string name;
   int level;
   int64_t quantity;
-  bool operator==(const Line&) const = default;
-  friend std::ostream& operator<<(std::ostream& out, const Line& line) {
+  bool operator==(const BillLine&) const = default;
+  friend std::ostream& operator<<(std::ostream& out, const BillLine& line) {
     return out << line.position << ' ' << line.name << " level " << line.level << " x "
                << line.quantity;
   }
@@ -44,8 +44,9 @@ BillStructure Pump() {
   return pump;
 }
 
-std::vector<Line> Lines(const BillStructure& structure, const std::vector<BillRow>& rows) {
-  std::vector<Line> lines;
+std::vector<BillLine> LinesOfRows(const BillStructure& structure,
+                                  const std::vector<BillRow>& rows) {
+  std::vector<BillLine> lines;
   PositionNumber position;
   for (const BillRow& row : rows) {
     lines.push_back({Narrow(position.Of(row)), Narrow(structure.models[row.model].name), row.level,
@@ -54,8 +55,8 @@ std::vector<Line> Lines(const BillStructure& structure, const std::vector<BillRo
   return lines;
 }
 
-std::vector<Line> LevelLines(const BillStructure& structure, int depth) {
-  return Lines(structure, LevelBill(structure, depth));
+std::vector<BillLine> LevelLines(const BillStructure& structure, int depth) {
+  return LinesOfRows(structure, LevelBill(structure, depth));
 }
 
 std::vector<std::pair<std::string, int64_t>> Totals(const BillStructure& structure) {
@@ -92,13 +93,14 @@ TEST(SummaryBill, AModelWithoutNameIsLeftOutButNotItsComponents) {
 
 TEST(LevelBill, ListsTheLevelsDownToTheDepth) {
   const BillStructure pump = Pump();
-  const std::vector<Line> top = {{"1", "BOLT", 1, 3}, {"2", "HOUSING", 1, 2}, {"3", "LID", 1, 1}};
-  const std::vector<Line> all = {{"1", "BOLT", 1, 3},
-                                 {"2", "HOUSING", 1, 2},
-                                 {"2.1", "BOLT", 2, 2},
-                                 {"2.2", "LID", 2, 1},
-                                 {"3", "LID", 1, 1}};
-  EXPECT_EQ(LevelLines(pump, 0), std::vector<Line>{});
+  const std::vector<BillLine> top = {
+      {"1", "BOLT", 1, 3}, {"2", "HOUSING", 1, 2}, {"3", "LID", 1, 1}};
+  const std::vector<BillLine> all = {{"1", "BOLT", 1, 3},
+                                     {"2", "HOUSING", 1, 2},
+                                     {"2.1", "BOLT", 2, 2},
+                                     {"2.2", "LID", 2, 1},
+                                     {"3", "LID", 1, 1}};
+  EXPECT_EQ(LevelLines(pump, 0), std::vector<BillLine>{});
   EXPECT_EQ(LevelLines(pump, 1), top);
   EXPECT_EQ(LevelLines(pump, 2), all);
   EXPECT_EQ(LevelLines(pump, kAllLevels), all);
@@ -111,13 +113,13 @@ TEST(LevelBill, AnAssemblyStandsWithItsComponentsUnderEachParent) {
                       {L"RIGHT", PRO_MDL_ASSEMBLY, {4, 3, 3}},
                       {L"HINGE", PRO_MDL_ASSEMBLY, {4}},
                       {L"PIN", PRO_MDL_PART, {}}};
-  EXPECT_EQ(LevelLines(structure, 9), (std::vector<Line>{{"1", "LEFT", 1, 1},
-                                                         {"1.1", "HINGE", 2, 1},
-                                                         {"1.1.1", "PIN", 3, 1},
-                                                         {"2", "RIGHT", 1, 1},
-                                                         {"2.1", "PIN", 2, 1},
-                                                         {"2.2", "HINGE", 2, 2},
-                                                         {"2.2.1", "PIN", 3, 1}}));
+  EXPECT_EQ(LevelLines(structure, 9), (std::vector<BillLine>{{"1", "LEFT", 1, 1},
+                                                             {"1.1", "HINGE", 2, 1},
+                                                             {"1.1.1", "PIN", 3, 1},
+                                                             {"2", "RIGHT", 1, 1},
+                                                             {"2.1", "PIN", 2, 1},
+                                                             {"2.2", "HINGE", 2, 2},
+                                                             {"2.2.1", "PIN", 3, 1}}));
 }
 
 // The host knows models by name and type, the level bill its siblings by name: they stay apart in
@@ -129,11 +131,11 @@ TEST(LevelBill, SiblingsOfOneNameAreOneRowWhateverTheirTypes) {
                       {L"FRAME", PRO_MDL_ASSEMBLY, {4}},
                       {L"BOX", PRO_MDL_ASSEMBLY, {2}},
                       {L"BAR", PRO_MDL_PART, {}}};
-  EXPECT_EQ(LevelLines(structure, kAllLevels), (std::vector<Line>{{"1", "FRAME", 1, 3},
-                                                                  {"1.1", "BAR", 2, 1},
-                                                                  {"2", "BOX", 1, 1},
-                                                                  {"2.1", "FRAME", 2, 1},
-                                                                  {"2.1.1", "BAR", 3, 1}}));
+  EXPECT_EQ(LevelLines(structure, kAllLevels), (std::vector<BillLine>{{"1", "FRAME", 1, 3},
+                                                                      {"1.1", "BAR", 2, 1},
+                                                                      {"2", "BOX", 1, 1},
+                                                                      {"2.1", "FRAME", 2, 1},
+                                                                      {"2.1.1", "BAR", 3, 1}}));
   const std::vector<BillRow> rows = LevelBill(structure, 2);
   EXPECT_EQ(structure.models[rows[0].model].type, PRO_MDL_PART) << "shown as the first";
   EXPECT_EQ(structure.models[rows[3].model].type, PRO_MDL_ASSEMBLY);
@@ -143,18 +145,19 @@ TEST(LevelBill, ModelsWithoutNameKeepTheirPlacesAndWhatTheyHold) {
   BillStructure structure = Pump();
   structure.models[2].name.clear();
   structure.models[3].name.clear();
-  EXPECT_EQ(LevelLines(structure, 2), (std::vector<Line>{{"1", "BOLT", 1, 3},
-                                                         {"2", "", 1, 2},
-                                                         {"2.1", "BOLT", 2, 2},
-                                                         {"2.2", "", 2, 1},
-                                                         {"3", "", 1, 1}}));
+  EXPECT_EQ(LevelLines(structure, 2), (std::vector<BillLine>{{"1", "BOLT", 1, 3},
+                                                             {"2", "", 1, 2},
+                                                             {"2.1", "BOLT", 2, 2},
+                                                             {"2.2", "", 2, 1},
+                                                             {"3", "", 1, 1}}));
 }
 
 TEST(LevelBill, AnAssemblyInsideItselfIsListedButNotEntered) {
   BillStructure structure;
   structure.models = {{L"TOP", PRO_MDL_ASSEMBLY, {1}}, {L"RING", PRO_MDL_ASSEMBLY, {1, 0}}};
-  EXPECT_EQ(LevelLines(structure, kAllLevels),
-            (std::vector<Line>{{"1", "RING", 1, 1}, {"1.1", "RING", 2, 1}, {"1.2", "TOP", 2, 1}}));
+  EXPECT_EQ(
+      LevelLines(structure, kAllLevels),
+      (std::vector<BillLine>{{"1", "RING", 1, 1}, {"1.1", "RING", 2, 1}, {"1.2", "TOP", 2, 1}}));
 }
 
 TEST(LevelBill, AllLevelsMeansAllOfTenThousand) {

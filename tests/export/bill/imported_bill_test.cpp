@@ -126,7 +126,7 @@ class Recount {
 };
 
 // Exports the summary, the first two levels and all levels.
-class Exporter : public AbsentUser {
+class BillExporter : public AbsentUser {
  public:
   void WorkDialog(LiveDialog& dialog) override {
     Export(dialog);
@@ -229,7 +229,7 @@ class ImportedBill : public PluginHost {
   const std::string settings_before_ = ReadFileBytes(settings_).value_or("");
   const TemporaryFolder temporary_{"workbench imported bill"};
   const fs::path& folder_ = temporary_.path;
-  Exporter exporter_;
+  BillExporter exporter_;
   SpreadsheetServer spreadsheet_{host_};
   Plugin plugin_{Installed().dll()};
 };

@@ -13,9 +13,9 @@
 namespace qm {
 namespace {
 
-using Rotation = std::array<std::array<double, 3>, 3>;
+using Turn = std::array<std::array<double, 3>, 3>;
 
-Rotation FromQuaternion(double w, double x, double y, double z) {
+Turn FromQuaternion(double w, double x, double y, double z) {
   const double n = std::sqrt(w * w + x * x + y * y + z * z);
   w /= n, x /= n, y /= n, z /= n;
   return {{{1 - 2 * (y * y + z * z), 2 * (x * y - z * w), 2 * (x * z + y * w)},
@@ -23,7 +23,7 @@ Rotation FromQuaternion(double w, double x, double y, double z) {
            {2 * (x * z - y * w), 2 * (y * z + x * w), 1 - 2 * (x * x + y * y)}}};
 }
 
-Matrix Scaled(const Rotation& rotation, double scale, std::array<double, 3> shift) {
+Matrix Scaled(const Turn& rotation, double scale, std::array<double, 3> shift) {
   Matrix matrix = Identity();
   for (int row = 0; row < 3; ++row) {
     for (int axis = 0; axis < 3; ++axis) matrix.rows[row][axis] = rotation[row][axis] * scale;
@@ -42,7 +42,7 @@ double Determinant(const Matrix& m) {
 // The same, by another way: of all ways to give the three rows different axes, the one in which
 // every row keeps its largest component, or else the one that differs in the row that has less.
 // Nothing where two ways keep as much as each other, which the rule decides by the rows' order.
-std::optional<Rotation> SnappedAnotherWay(const Rotation& rotation) {
+std::optional<Turn> SnappedAnotherWay(const Turn& rotation) {
   constexpr double kAsMuch = 1e-5;
   std::array<int, 3> largest;
   for (int row = 0; row < 3; ++row) {
@@ -67,7 +67,7 @@ std::optional<Rotation> SnappedAnotherWay(const Rotation& rotation) {
     }
   } while (std::ranges::next_permutation(axes).found);
   if (best_kept - second_kept <= kAsMuch) return std::nullopt;
-  Rotation snapped = {};
+  Turn snapped = {};
   for (int row = 0; row < 3; ++row) {
     snapped[row][best[row]] = rotation[row][best[row]] < 0 ? -1 : 1;
   }
@@ -80,12 +80,12 @@ TEST(NormalView, AgreesWithAnotherWayOverAllOrientationsAndIsStable) {
   std::uniform_real_distribution<double> scale(0.001, 1000);
   int compared = 0;
   for (int i = 0; i < 100'000; ++i) {
-    const Rotation rotation =
+    const Turn rotation =
         FromQuaternion(normal(random), normal(random), normal(random), normal(random));
     const auto snapped = NormalView(Scaled(rotation, scale(random), {0, 0, 0}));
     ASSERT_TRUE(snapped);
     const auto wanted = SnappedAnotherWay(rotation);
-    const Matrix as_matrix = Scaled(wanted.value_or(Rotation{}), 1, {});
+    const Matrix as_matrix = Scaled(wanted.value_or(Turn{}), 1, {});
     compared += wanted ? 1 : 0;
     if (wanted) {
       ASSERT_TRUE(SameRotation(*snapped, as_matrix)) << i;

@@ -8,7 +8,7 @@
 namespace wb {
 namespace {
 
-constexpr const char* kResource = R"((Dialog D
+constexpr const char* kHtmlResource = R"((Dialog D
     (Components (InputPanel Field) (RadioGroup Radio) (PushButton Ok) (Table Bill) (Tab Pages)
         (SubLayout One) (SubLayout Two) (Label L1) (Label L2))
     (Resources
@@ -32,7 +32,7 @@ class DialogHtmlTest : public testing::Test {
     return *table;
   }
 
-  Dialog dialog_{ParseDialogResource(kResource, "D.res")};
+  Dialog dialog_{ParseDialogResource(kHtmlResource, "D.res")};
 };
 
 TEST_F(DialogHtmlTest, EveryTextIsEscaped) {

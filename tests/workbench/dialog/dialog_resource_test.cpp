@@ -49,7 +49,7 @@ TEST(DialogResource, ReadsComponentsAttributesAndLayout) {
 }
 
 // A resource of one line a row, so that every mistake below has a line of its own.
-std::string Resource(const std::string& components, const std::string& resources) {
+std::string ResourceWith(const std::string& components, const std::string& resources) {
   return "(Dialog D\n(Components\n" + components + "\n)(Resources\n" + resources + "\n))";
 }
 
@@ -86,78 +86,83 @@ const BadResource kBadSyntax[] = {
     {"Empty", "! nothing\n", 2, "no (Dialog"},
     {"OpenParen", "(Dialog D\n(Components", 2, "never closed"},
     {"OpenString", "(Dialog D\n(Components)\n(Resources (.Label \"x\n)))", 3, "not closed on its"},
-    {"TextBehind", Resource("", "(.Layout (Grid (Rows 1) (Cols 1)))") + "\n)", 7, "unexpected"},
-    {"UnknownEscape", Resource("", "(.Label \"a\\t\")"), 5, "unknown escape \\t"},
-    {"NotUtf8", Resource("", "(.Label \"\xC3(\")"), 5, "not UTF-8"},
-    {"UnquotedChinese", Resource("", "(.Label 参数)"), 5, "outside quotes"},
+    {"TextBehind", ResourceWith("", "(.Layout (Grid (Rows 1) (Cols 1)))") + "\n)", 7, "unexpected"},
+    {"UnknownEscape", ResourceWith("", "(.Label \"a\\t\")"), 5, "unknown escape \\t"},
+    {"NotUtf8", ResourceWith("", "(.Label \"\xC3(\")"), 5, "not UTF-8"},
+    {"UnquotedChinese", ResourceWith("", "(.Label 参数)"), 5, "outside quotes"},
     {"NoResources", "(Dialog D (Components))", 1, "expected (Dialog NAME"},
     {"BottomlessNesting", std::string(100000, '('), 1, "nested too deeply"},
 };
 
 const BadResource kBadAttributes[] = {
-    {"UnknownKind", Resource("(Pushbutton B)", ""), 3, "unknown component kind Pushbutton"},
-    {"DeclaredTwice", Resource("(PushButton B)\n(Label B)", ""), 4, "declared twice"},
-    {"UndeclaredComponent", Resource(kOneButton, "(C.Label \"x\")"), 5, "C is not declared"},
-    {"UnknownAttribute", Resource(kOneButton, "(B.Lable \"x\")"), 5, "no attribute Lable"},
-    {"AttributeOfOtherKind", Resource(kOneButton, "(B.MaxLen 3)"), 5, "PushButton has no"},
-    {"AttributeTwice", Resource(kOneButton, "(B.Label \"x\")\n(B.Label \"y\")"), 6, "given twice"},
-    {"NotAFlag", Resource(kOneButton, "(B.Visible Yes)"), 5, "True or False"},
-    {"NotANumber", Resource("(InputPanel I)", "(I.Columns 12x)"), 5, "number from 1 to 500"},
-    {"NumberTooSmall", Resource("(InputPanel I)", "(I.MaxLen 0)"), 5, "number from 1"},
-    {"BareText", Resource(kOneButton, "(B.Label x)"), 5, "in quotes"},
-    {"TwoValues", Resource(kOneButton, "(B.Label \"x\" \"y\")"), 5, "takes one value"},
+    {"UnknownKind", ResourceWith("(Pushbutton B)", ""), 3, "unknown component kind Pushbutton"},
+    {"DeclaredTwice", ResourceWith("(PushButton B)\n(Label B)", ""), 4, "declared twice"},
+    {"UndeclaredComponent", ResourceWith(kOneButton, "(C.Label \"x\")"), 5, "C is not declared"},
+    {"UnknownAttribute", ResourceWith(kOneButton, "(B.Lable \"x\")"), 5, "no attribute Lable"},
+    {"AttributeOfOtherKind", ResourceWith(kOneButton, "(B.MaxLen 3)"), 5, "PushButton has no"},
+    {"AttributeTwice", ResourceWith(kOneButton, "(B.Label \"x\")\n(B.Label \"y\")"), 6,
+     "given twice"},
+    {"NotAFlag", ResourceWith(kOneButton, "(B.Visible Yes)"), 5, "True or False"},
+    {"NotANumber", ResourceWith("(InputPanel I)", "(I.Columns 12x)"), 5, "number from 1 to 500"},
+    {"NumberTooSmall", ResourceWith("(InputPanel I)", "(I.MaxLen 0)"), 5, "number from 1"},
+    {"BareText", ResourceWith(kOneButton, "(B.Label x)"), 5, "in quotes"},
+    {"TwoValues", ResourceWith(kOneButton, "(B.Label \"x\" \"y\")"), 5, "takes one value"},
 };
 
 const BadResource kBadLayouts[] = {
-    {"NoLayout", Resource(kOneButton, "(B.Label \"x\")"), 1, "no .Layout"},
-    {"NeverPlaced", Resource("(Label L)\n(PushButton B)", kPlaceB), 3, "L is placed in no layout"},
-    {"PlacedTwice", Resource(kOneButton, "(.Layout (Grid (Rows 1) (Cols 1 1)\nB\nB))"), 7,
+    {"NoLayout", ResourceWith(kOneButton, "(B.Label \"x\")"), 1, "no .Layout"},
+    {"NeverPlaced", ResourceWith("(Label L)\n(PushButton B)", kPlaceB), 3,
+     "L is placed in no layout"},
+    {"PlacedTwice", ResourceWith(kOneButton, "(.Layout (Grid (Rows 1) (Cols 1 1)\nB\nB))"), 7,
      "placed twice"},
-    {"UnknownName", Resource("", kPlaceB), 5, "unknown component B"},
+    {"UnknownName", ResourceWith("", kPlaceB), 5, "unknown component B"},
     {"TooManyCells",
-     Resource("(Label L)\n(PushButton B)", "(.Layout (Grid (Rows 1) (Cols 1) B\nL))"), 7,
+     ResourceWith("(Label L)\n(PushButton B)", "(.Layout (Grid (Rows 1) (Cols 1) B\nL))"), 7,
      "too many cells for a grid of 1 rows and 1 columns"},
     {"CellTaken",
-     Resource("(Label L)\n(PushButton B)", "(.Layout (Grid (Rows 1) (Cols 1 1) B (Pos 1 1)\nL))"),
+     ResourceWith("(Label L)\n(PushButton B)",
+                  "(.Layout (Grid (Rows 1) (Cols 1 1) B (Pos 1 1)\nL))"),
      7, "already taken"},
-    {"PosOutside", Resource(kOneButton, "(.Layout (Grid (Rows 1) (Cols 1) (Pos 2 1) B))"), 5,
+    {"PosOutside", ResourceWith(kOneButton, "(.Layout (Grid (Rows 1) (Cols 1) (Pos 2 1) B))"), 5,
      "from 1 to 1"},
-    {"NoColumns", Resource(kOneButton, "(.Layout (Grid (Rows 1) B))"), 5, "opens with (Rows"},
+    {"NoColumns", ResourceWith(kOneButton, "(.Layout (Grid (Rows 1) B))"), 5, "opens with (Rows"},
     {"InOneAnother",
-     Resource("(SubLayout S)\n(SubLayout T)",
-              "(.Layout (Grid (Rows 1) (Cols 1)))\n"
-              "(S.Layout (Grid (Rows 1) (Cols 1) T))\n"
-              "(T.Layout (Grid (Rows 1) (Cols 1) S))"),
+     ResourceWith("(SubLayout S)\n(SubLayout T)",
+                  "(.Layout (Grid (Rows 1) (Cols 1)))\n"
+                  "(S.Layout (Grid (Rows 1) (Cols 1) T))\n"
+                  "(T.Layout (Grid (Rows 1) (Cols 1) S))"),
      3, "S is placed in no layout of the dialog"},
-    {"GroupWithoutLayout", Resource("(SubLayout B)", kPlaceB), 3, "no layout"},
+    {"GroupWithoutLayout", ResourceWith("(SubLayout B)", kPlaceB), 3, "no layout"},
     {"TabPageNoGroup",
-     Resource("(Tab T)\n(PushButton B)",
-              "(.Layout (Grid (Rows 1) (Cols 1) T))\n"
-              "(T.Layout (Grid (Rows 1) (Cols 1) B))"),
+     ResourceWith("(Tab T)\n(PushButton B)",
+                  "(.Layout (Grid (Rows 1) (Cols 1) T))\n"
+                  "(T.Layout (Grid (Rows 1) (Cols 1) B))"),
      7, "must be SubLayouts"},
 };
 
 const BadResource kBadContents[] = {
-    {"NoButtons", Resource(kOneRadio, kPlaceR), 3, "has no buttons"},
-    {"NameTwice", Resource(kOneRadio, std::string(kPlaceR) + "(R.Names \"a\" \"a\")"), 6, "twice"},
+    {"NoButtons", ResourceWith(kOneRadio, kPlaceR), 3, "has no buttons"},
+    {"NameTwice", ResourceWith(kOneRadio, std::string(kPlaceR) + "(R.Names \"a\" \"a\")"), 6,
+     "twice"},
     {"LabelsMissing",
-     Resource(kOneRadio, std::string(kPlaceR) + "(R.Names \"a\" \"b\")\n(R.Labels \"x\")"), 7,
+     ResourceWith(kOneRadio, std::string(kPlaceR) + "(R.Names \"a\" \"b\")\n(R.Labels \"x\")"), 7,
      "2 Names but 1 Labels"},
     {"SelectedUnknown",
-     Resource(kOneRadio, std::string(kPlaceR) + "(R.Names \"a\")\n(R.SelectedNames \"A\")"), 7,
+     ResourceWith(kOneRadio, std::string(kPlaceR) + "(R.Names \"a\")\n(R.SelectedNames \"A\")"), 7,
      "no item named A"},
     {"TwoSelected",
-     Resource(kOneRadio, std::string(kPlaceR) + "(R.Names \"a\" \"b\")\n"
-                                                "(R.SelectedNames \"a\" \"b\")"),
+     ResourceWith(kOneRadio, std::string(kPlaceR) + "(R.Names \"a\" \"b\")\n"
+                                                    "(R.SelectedNames \"a\" \"b\")"),
      7, "one selected item"},
     {"WidthsMissing",
-     Resource("(Table R)", std::string(kPlaceR) + "(R.ColumnNames \"a\" \"b\")\n"
-                                                  "(R.ColumnWidths 5)"),
+     ResourceWith("(Table R)", std::string(kPlaceR) + "(R.ColumnNames \"a\" \"b\")\n"
+                                                      "(R.ColumnWidths 5)"),
      7, "2 ColumnNames but 1 ColumnWidths"},
     {"ValueTooLong",
-     Resource("(InputPanel B)", std::string(kPlaceB) + "(B.MaxLen 2)\n(B.Value \"千米数\")"), 7,
+     ResourceWith("(InputPanel B)", std::string(kPlaceB) + "(B.MaxLen 2)\n(B.Value \"千米数\")"), 7,
      "longer than its MaxLen"},
-    {"DefaultIsNoButton", Resource("(Label B)", std::string(kPlaceB) + "(.DefaultButton \"B\")"), 6,
+    {"DefaultIsNoButton",
+     ResourceWith("(Label B)", std::string(kPlaceB) + "(.DefaultButton \"B\")"), 6,
      "no push button"},
 };
 

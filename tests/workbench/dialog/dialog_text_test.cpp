@@ -8,7 +8,7 @@
 namespace wb {
 namespace {
 
-constexpr const char* kResource = R"((Dialog D
+constexpr const char* kTextResource = R"((Dialog D
     (Components (SubLayout Target) (Label KindLabel) (RadioGroup Kind) (Label WordsLabel)
         (InputPanel Words) (SubLayout Tools) (Label Kind2Label) (RadioGroup Kind2) (Label NumLabel)
         (OptionMenu Num) (CheckButton Order) (Label AreaLabel) (TextArea Area) (PushButton Add)
@@ -39,7 +39,7 @@ class DialogTextTest : public testing::Test {
     return Join(" ", names);
   }
 
-  Dialog dialog_{ParseDialogResource(kResource, "D.res")};
+  Dialog dialog_{ParseDialogResource(kTextResource, "D.res")};
 };
 
 TEST_F(DialogTextTest, FieldsAndButtonsAreCalledByNameByLabelOrByGroupAndLabel) {

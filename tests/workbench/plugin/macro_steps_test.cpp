@@ -6,7 +6,7 @@
 namespace wb {
 namespace {
 
-constexpr char kOpen[] = "~ Select `main_dlg_cur` `ProCmdViewGallery.view`;";
+constexpr char kOpenGallery[] = "~ Select `main_dlg_cur` `ProCmdViewGallery.view`;";
 constexpr char kMenu[] =
     "~ Select `main_dlg_cur` `ProCmdViewGallery_layoutph.palette_holder.clearAppearance`;";
 constexpr char kClear[] = "~ Activate `main_dlg_cur` `clearAllAppearance`;";
@@ -34,7 +34,7 @@ class PlayedMacro : public testing::Test {
 };
 
 TEST_F(PlayedMacro, ClearsOnceTheQuestionIsAnsweredWithYes) {
-  const std::string asked = std::string(kOpen) + kMenu + kClear;
+  const std::string asked = std::string(kOpenGallery) + kMenu + kClear;
   EXPECT_EQ(PlayMacro(asked + "~ Activate `UI Message Dialog` `no`;", session_), "");
   EXPECT_TRUE(IsColoured());
   EXPECT_EQ(PlayMacro(asked + "~ Activate `UI Message Dialog` `yes`;", session_), "");
@@ -44,13 +44,13 @@ TEST_F(PlayedMacro, ClearsOnceTheQuestionIsAnsweredWithYes) {
 TEST_F(PlayedMacro, TellsWhatItDoesNotKnow) {
   EXPECT_NE(PlayMacro("~ Command `ProCmdDwgDimNewRef` ;", session_), "");
   EXPECT_NE(PlayMacro("ProCmdX;", session_), "");
-  EXPECT_NE(PlayMacro(std::string(kOpen) + kClear, session_), "");
+  EXPECT_NE(PlayMacro(std::string(kOpenGallery) + kClear, session_), "");
   EXPECT_NE(PlayMacro("~ Activate `UI Message Dialog` `yes`;", session_), "");
   // Another window's gallery, and a menu that nobody has opened.
   EXPECT_NE(PlayMacro("~ Select `other` `ProCmdViewGallery.view`;", session_), "");
   EXPECT_NE(PlayMacro("~ Close `main_dlg_cur` `ProCmdViewGallery.view`;", session_), "");
   // A question that nobody answers.
-  EXPECT_NE(PlayMacro(std::string(kOpen) + kMenu + kClear, session_), "");
+  EXPECT_NE(PlayMacro(std::string(kOpenGallery) + kMenu + kClear, session_), "");
   EXPECT_TRUE(IsColoured());
 }
 

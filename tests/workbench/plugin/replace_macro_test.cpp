@@ -9,7 +9,7 @@ namespace wb {
 namespace {
 
 constexpr char kPopup[] = "~`rmb_popup` `PopupMenu`;";
-constexpr char kOpen[] =
+constexpr char kOpenReplace[] =
     "~`rmb_popup` `PopupMenu`;~ Command `ProCmdReplComp@PopupMenuGraphicWinStack` ;";
 constexpr char kOlderOpen[] = "~ Command `ProCmdReplace` ;";
 constexpr char kUnrelated[] =
@@ -32,7 +32,7 @@ class ReplaceMacro : public HostFixture {
   static std::string Choose(const std::string& file) {
     return "~ Activate `file_open` `Ph_list.Filelist` 1 `" + file + "`;";
   }
-  static std::string MacroFor(const std::string& file, const std::string& open = kOpen) {
+  static std::string MacroFor(const std::string& file, const std::string& open = kOpenReplace) {
     return open + kUnrelated + kNew + kFolder + Choose(file) + kDone;
   }
   std::string Refusal(const std::string& file) {
@@ -62,11 +62,12 @@ TEST_F(ReplaceMacro, NoAssemblyTakesItsOwnPlace) {
 }
 
 TEST_F(ReplaceMacro, AStepThatComesTooEarlyIsUnknown) {
-  const std::string begun = std::string(kOpen) + kUnrelated;
+  const std::string begun = std::string(kOpenReplace) + kUnrelated;
   for (const std::string& wrong :
        {begun + kFolder, begun + kDone, std::string(kNew), begun + "~ Activate `other` `x`;",
-        std::string(kOpen) + "~ Select `gen_repl_dlg` `ByCompPH.rpl_method_radio` 1 `Family`;",
-        std::string(kOpen) +
+        std::string(kOpenReplace) +
+            "~ Select `gen_repl_dlg` `ByCompPH.rpl_method_radio` 1 `Family`;",
+        std::string(kOpenReplace) +
             "~ Select `gen_repl_dlg` `ByCompPH.rpl_method_radio` `Unrelated Component`;",
         begun + kNew}) {
     EXPECT_NE(PlayReplaceMacro(wrong, host_.session).unknown, "") << wrong;
@@ -76,7 +77,7 @@ TEST_F(ReplaceMacro, AStepThatComesTooEarlyIsUnknown) {
 TEST_F(ReplaceMacro, EachReleaseOpensTheDialogInItsOwnWay) {
   const std::string older = MacroFor("pin.prt", kOlderOpen);
   const std::string without_popup =
-      MacroFor("pin.prt", std::string(kOpen).substr(sizeof(kPopup) - 1));
+      MacroFor("pin.prt", std::string(kOpenReplace).substr(sizeof(kPopup) - 1));
   const std::string newer = MacroFor("pin.prt");
   EXPECT_NE(PlayReplaceMacro(older, host_.session).unknown, "");
   EXPECT_NE(PlayReplaceMacro(without_popup, host_.session).unknown, "");

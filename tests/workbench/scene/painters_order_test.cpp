@@ -14,14 +14,14 @@ namespace wb {
 namespace {
 
 // The viewer looks along z, from its upper end.
-struct PlacedBox {
+struct TurnedBox {
   Box box;
   Placement placement;  // turned, never stretched
 };
 
-using PlacedBoxes = std::vector<PlacedBox>;
+using PlacedBoxes = std::vector<TurnedBox>;
 
-Placement Turned(const std::array<double, 4>& quaternion, const Point& to) {
+Placement TurnedBy(const std::array<double, 4>& quaternion, const Point& to) {
   const double length = std::hypot(std::hypot(quaternion[0], quaternion[1]),
                                    std::hypot(quaternion[2], quaternion[3]));
   const auto [w, x, y, z] = std::array{quaternion[0] / length, quaternion[1] / length,
@@ -41,7 +41,7 @@ class Tangle {
   }
   Placement AnyPlacement(double room) {
     const std::array<double, 4> turn = {Number(-1, 1), Number(-1, 1), Number(-1, 1), Number(-1, 1)};
-    return Turned(turn, {Number(0, room), Number(0, room), Number(0, room)});
+    return TurnedBy(turn, {Number(0, room), Number(0, room), Number(0, room)});
   }
   // Of whole sizes at whole places, so that many lie in one plane.
   Box AnyBox(int room, int largest) {
@@ -70,7 +70,7 @@ std::vector<SeenFace> FacesOfAll(const PlacedBoxes& boxes, bool are_opaque) {
 }
 
 // Where a ray from the viewer enters a box; nothing where it passes beside it.
-std::optional<double> MetAt(const PlacedBox& placed, double x, double y) {
+std::optional<double> MetAt(const TurnedBox& placed, double x, double y) {
   double furthest = -HUGE_VAL, nearest = HUGE_VAL;
   for (size_t k = 0; k < 3; ++k) {
     const auto& row = placed.placement[k];
@@ -110,7 +110,7 @@ void ExpectTrue(const PlacedBoxes& boxes, bool are_opaque, const std::string& wh
     const double x = points.Number(-20, 60), y = points.Number(-20, 60);
     size_t met = 0, shown = 0;
     double nearest = -HUGE_VAL, last = -HUGE_VAL;
-    for (const PlacedBox& box : boxes) {
+    for (const TurnedBox& box : boxes) {
       const std::optional<double> at = MetAt(box, x, y);
       met += at ? 1 : 0;
       nearest = std::max(nearest, at.value_or(-HUGE_VAL));
@@ -151,10 +151,10 @@ TEST(PaintersOrder, PaintsLastWhatARayMeetsFirst) {
 }
 
 // Bars around a middle, each of which lies on the next one and below the one before.
-PlacedBox BarOfRing(double part_of_turn) {
+TurnedBox BarOfRing(double part_of_turn) {
   const double half_turn = part_of_turn * std::acos(-1.0);
-  const Placement around = Turned({std::cos(half_turn), 0, 0, std::sin(half_turn)}, {20, 20, 20});
-  const Placement tilt = Turned({std::cos(0.15), 0, std::sin(0.15), 0}, {});
+  const Placement around = TurnedBy({std::cos(half_turn), 0, 0, std::sin(half_turn)}, {20, 20, 20});
+  const Placement tilt = TurnedBy({std::cos(0.15), 0, std::sin(0.15), 0}, {});
   return {{{-30, 2, -1}, {30, 14, 1}}, PlacedWithin(tilt, around)};
 }
 
@@ -192,8 +192,8 @@ TEST(PaintersOrder, CutsNothingThatLiesApart) {
 }
 
 TEST(PaintersOrder, KeepsTheEdgesOfWhatItCuts) {
-  const PlacedBoxes cross = {{{{-10, -1, -1}, {10, 1, 1}}, Turned({0.9, 0.3, 0.3, 0}, {})},
-                             {{{-1, -10, -1}, {1, 10, 1}}, Turned({0.9, 0.3, 0.3, 0}, {})}};
+  const PlacedBoxes cross = {{{{-10, -1, -1}, {10, 1, 1}}, TurnedBy({0.9, 0.3, 0.3, 0}, {})},
+                             {{{-1, -10, -1}, {1, 10, 1}}, TurnedBy({0.9, 0.3, 0.3, 0}, {})}};
   const auto edges_of = [](const std::vector<SeenFace>& faces) {
     double length = 0;
     for (const SeenFace& face : faces) {

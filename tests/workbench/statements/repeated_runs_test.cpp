@@ -26,7 +26,7 @@ bool IsLeftOut(const std::string& stem) {
   return stem.ends_with("faults") || stem.ends_with("memory") || stem == "ex_igs";
 }
 
-std::vector<std::string> Scripts() {
+std::vector<std::string> ScriptsToRepeat() {
   const fs::path all = SourceFolder() / "tests" / "scripts";
   if (!IsLongRun()) return {PathToUtf8(all / "export" / "bom_export.qms")};
   std::vector<std::string> scripts;
@@ -94,7 +94,7 @@ Files LeftBy(const std::vector<std::string>& scripts) {
 }
 
 TEST(RepeatedRuns, MakeTheSameCallsAndLeaveTheSameFiles) {
-  const std::vector<std::string> scripts = Scripts();
+  const std::vector<std::string> scripts = ScriptsToRepeat();
   const Files first = LeftBy(scripts);
   const Files second = LeftBy(scripts);
   EXPECT_FALSE(first.at("calls.txt").empty());

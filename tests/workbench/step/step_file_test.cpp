@@ -11,13 +11,13 @@ namespace wb {
 namespace {
 
 // Puts instances from line 5 on into an otherwise complete file.
-std::string InFile(const std::string& instances) {
+std::string WholeFile(const std::string& instances) {
   return "ISO-10303-21;\nHEADER;\nFILE_SCHEMA(('CONFIG_CONTROL_DESIGN'));ENDSEC;\nDATA;\n" +
          instances + "\nENDSEC;\nEND-ISO-10303-21;\n";
 }
 
 StepFile Parsed(const std::string& instances) {
-  return StepFile::Parse(InFile(instances), "bolt.stp");
+  return StepFile::Parse(WholeFile(instances), "bolt.stp");
 }
 
 TEST(StepFile, GivesEveryKindOfValueAndLooksThroughCommentsAndLineBreaks) {
@@ -72,7 +72,7 @@ struct BadFile {
 };
 
 TEST(StepFile, NamesLineAndReasonOfWhatItRefuses) {
-  const std::string whole = InFile("#1=A();\n#2=B(1,'x');");
+  const std::string whole = WholeFile("#1=A();\n#2=B(1,'x');");
   const BadFile cases[] = {
       {"empty", "", 1, "empty"},
       {"other kind", "solid cube\nfacet\n", 1, "no STEP file"},
@@ -85,18 +85,18 @@ TEST(StepFile, NamesLineAndReasonOfWhatItRefuses) {
       {"cut before the end", whole.substr(0, whole.find("END-ISO")), 8, "cut short"},
       {"no data", "ISO-10303-21;\nHEADER;\nENDSEC;\nEND-ISO-10303-21;", 1, "no DATA"},
       {"unknown section", "ISO-10303-21;\nDATTA;\nENDSEC;", 2, "no section"},
-      {"number twice", InFile("#1=A();\n#2=A();\n#1=B();"), 7, "given twice, first in line 5"},
-      {"missing comma", InFile("#1=A();\n#2=B(1 2);"), 6, "',' or ')' is expected"},
-      {"missing value", InFile("#1=B(1,,2);"), 5, "a value is expected"},
-      {"missing bracket", InFile("#1=B(1;\n#2=A();"), 5, "here stands ';'"},
-      {"missing semicolon", InFile("#1=A()\n#2=A();"), 6, "';' behind an instance"},
-      {"missing equals", InFile("#1 A();"), 5, "'=' is expected"},
-      {"no name", InFile("#1=5;"), 5, "an entity name"},
-      {"stray byte", InFile("#1=A(\x80);"), 5, "unexpected '\\x80'"},
-      {"stray hash", InFile("#1=A(#);"), 5, "must follow '#'"},
-      {"huge number", InFile("#99999999999999999999=A();"), 5, "too large"},
-      {"open comment", InFile("#1=A();\n/* never"), 6, "comment is never closed"},
-      {"deep nest", InFile("#1=A(" + std::string(5000, '(') + ");"), 5, "nested too deeply"},
+      {"number twice", WholeFile("#1=A();\n#2=A();\n#1=B();"), 7, "given twice, first in line 5"},
+      {"missing comma", WholeFile("#1=A();\n#2=B(1 2);"), 6, "',' or ')' is expected"},
+      {"missing value", WholeFile("#1=B(1,,2);"), 5, "a value is expected"},
+      {"missing bracket", WholeFile("#1=B(1;\n#2=A();"), 5, "here stands ';'"},
+      {"missing semicolon", WholeFile("#1=A()\n#2=A();"), 6, "';' behind an instance"},
+      {"missing equals", WholeFile("#1 A();"), 5, "'=' is expected"},
+      {"no name", WholeFile("#1=5;"), 5, "an entity name"},
+      {"stray byte", WholeFile("#1=A(\x80);"), 5, "unexpected '\\x80'"},
+      {"stray hash", WholeFile("#1=A(#);"), 5, "must follow '#'"},
+      {"huge number", WholeFile("#99999999999999999999=A();"), 5, "too large"},
+      {"open comment", WholeFile("#1=A();\n/* never"), 6, "comment is never closed"},
+      {"deep nest", WholeFile("#1=A(" + std::string(5000, '(') + ");"), 5, "nested too deeply"},
   };
   for (const BadFile& bad : cases) {
     try {

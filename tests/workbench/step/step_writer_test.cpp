@@ -50,14 +50,14 @@ class LinkedModels {
   const Model* top_ = nullptr;
 };
 
-ImportedModels Import(const std::string& text) {
+ImportedModels Imported(const std::string& text) {
   const TemporaryFolder folder("quillmax step writer test");
   std::ofstream(folder.path / "written.stp", std::ios::binary) << text;
   return ReadStepModels(folder.path / "written.stp");
 }
 
 LinkedModels WrittenAndRead(const Model& top) {
-  return LinkedModels(Import(StepTextOf(top, "written.stp")));
+  return LinkedModels(Imported(StepTextOf(top, "written.stp")));
 }
 
 double Random(std::mt19937& numbers, double low, double high) {
@@ -177,7 +177,7 @@ TEST(StepWriter, LeavesOutWhatTheAssemblyDoesNotShow) {
   Feature cut;
   cut.id = 10;
   pump.solid().features.Add(cut);
-  const ImportedModels read = Import(StepTextOf(pump, "pump.stp"));
+  const ImportedModels read = Imported(StepTextOf(pump, "pump.stp"));
   ASSERT_EQ(read.models.size(), 3u);
   EXPECT_EQ(read.models[1].id.Text() + " " + read.models[2].id.Text(), "bolt.prt hidden.prt");
   EXPECT_TRUE(read.notes.size() == 1 && read.notes[0] == "2 parts have no geometry in the file")
@@ -208,7 +208,7 @@ TEST(StepWriter, APartAndAnAssemblyOfOneNameStayTwo) {
   Model& part = models.Add("泵");
   for (int i = 0; i < 3; ++i) models.Place(pump, part);
   const std::string text = StepTextOf(pump, "x.stp");
-  const ImportedModels read = Import(text);
+  const ImportedModels read = Imported(text);
   ASSERT_EQ(read.models.size(), 2u);
   EXPECT_EQ(read.models[0].id.Text() + " " + read.models[1].id.Text(), "泵.asm 泵.prt");
   for (const char* identifier :
