@@ -59,7 +59,8 @@ Colour ParseColour(std::wstring_view text) {
 
 Colour ChooseColour(ColourMode mode, const NextRandom& random, const TableColour& table) {
   if (mode == ColourMode::kNone) return {};
-  if (mode != ColourMode::kRandom) return table(random() % ColoursInTable(mode));
+  const int colours = ColoursInTable(mode);
+  if (colours > 0) return table(random() % colours);
   Colour colour;
   colour.red = RandomChannel(random);
   colour.green = RandomChannel(random);

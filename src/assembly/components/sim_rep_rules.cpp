@@ -10,25 +10,43 @@ class Branches {
  public:
   explicit Branches(const Levels& levels) : levels_(levels) {}
 
-  // As deep as paths of the host are long.
-  void Walk(const ComponentTree& kept, int level) {
-    if (kept.is_whole || level == kNoLevel) return;
-    for (const LevelComponent& component : levels_[static_cast<size_t>(level)]) {
-      const auto branch = kept.below.find(component.id);
-      if (branch == kept.below.end()) {
-        left_out_.push_back({path_, component.id});
+  void Walk(const ComponentTree& top) {
+    Enter(top, 0);
+    while (!levels_open_.empty()) {
+      Level& level = levels_open_.back();
+      if (level.next == level.components->size()) {
+        levels_open_.pop_back();
+        if (!path_.empty()) path_.pop_back();
         continue;
       }
-      path_.push_back(component.id);
-      Walk(branch->second, component.level);
-      path_.pop_back();
+      const LevelComponent& component = (*level.components)[level.next++];
+      const auto branch = level.kept->below.find(component.id);
+      if (branch == level.kept->below.end()) {
+        left_out_.push_back({path_, component.id});
+      } else if (Enter(branch->second, component.level)) {
+        path_.push_back(component.id);
+      }
     }
   }
 
   std::vector<LeftOutComponent> Take() { return std::move(left_out_); }
 
  private:
+  struct Level {
+    const ComponentTree* kept;
+    const std::vector<LevelComponent>* components;
+    size_t next;
+  };
+
+  // False where nothing below is left out.
+  bool Enter(const ComponentTree& kept, int level) {
+    if (kept.is_whole || level == kNoLevel) return false;
+    levels_open_.push_back({&kept, &levels_[static_cast<size_t>(level)], 0});
+    return true;
+  }
+
   const Levels& levels_;
+  std::vector<Level> levels_open_;
   std::vector<int> path_;
   std::vector<LeftOutComponent> left_out_;
 };
@@ -44,7 +62,7 @@ std::string IdPathText(const LeftOutComponent& component) {
 std::vector<LeftOutComponent> ComponentsToLeaveOut(const ComponentTree& kept,
                                                    const Levels& levels) {
   Branches branches(levels);
-  branches.Walk(kept, 0);
+  branches.Walk(kept);
   return branches.Take();
 }
 
