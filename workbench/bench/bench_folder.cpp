@@ -10,6 +10,7 @@
 
 #include "workbench/base/text.h"
 #include "workbench/base/windows_headers.h"
+#include "workbench/bench/bench_folder_user.h"
 #include "workbench/host/host.h"
 #include "workbench/plugin/plugin.h"
 #include "workbench/session/model_file.h"
@@ -47,85 +48,6 @@ class LentSetting {
  private:
   std::filesystem::path file_;
   std::string before_;
-};
-
-// Works the dialogs, chooses the format and the folder, and reads all boxes away.
-class FolderUser : public User {
- public:
-  FolderUser(std::string format, std::string folder)
-      : format_(std::move(format)), folder_(std::move(folder)) {}
-
-  // From now on lists are those of the current assembly.
-  void WorkOnComponents() { has_components_ = true; }
-  // Of the list, drawings whose sheets and parameters could be loaded.
-  int loaded() const { return loaded_; }
-  const std::string& last_box() const { return last_box_; }
-
-  void WorkDialog(LiveDialog& dialog) override {
-    if (dialog.name == "QmExport" && has_components_) {
-      ListComponents(dialog);
-    } else if (dialog.name == "QmExport") {
-      ExportAll(dialog);
-    } else {
-      Press(dialog, dialog.name == "QmExIgs" ? "ApplyBt" : "QmFrmReplaceAct");
-    }
-    Require(dialog.Fire("", kCloseEvent), "a dialog cannot be closed");
-  }
-  std::optional<std::string> ChooseFile(const FileRequest& request) override {
-    return request.asked_by == "ProDirectoryChoose" ? folder_ : format_;
-  }
-  int AnswerMessageBox(const MessageBox& box) override {
-    last_box_ = box.text;
-    return 1;
-  }
-  std::optional<std::vector<PickedItem>> Pick(const PickRequest&) override { return std::nullopt; }
-  std::optional<std::string> AnswerPrompt(const std::string&, int) override { return std::nullopt; }
-
- private:
-  static void Require(bool works, const char* what) {
-    if (!works) throw std::runtime_error(what);
-  }
-  static void Press(LiveDialog& dialog, const char* button) {
-    Require(dialog.state.UserPress(button).Done() && dialog.Fire(button, kActivateEvent), button);
-  }
-
-  static void ExportAll(LiveDialog& dialog) {
-    for (const char* check : {"DXFCheck", "PDFCheck", "STPCheck", "IGSCheck", "MultiSheetCheck"}) {
-      Require(dialog.state.UserToggle(check).Done(), "no check of an export");
-    }
-    Press(dialog, "selAll");
-    Press(dialog, "ApplyBt");
-  }
-
-  void ListComponents(LiveDialog& dialog) {
-    constexpr char kSource[] = "SelDirRadio";
-    Require(
-        dialog.state.UserSelect(kSource, {"curMdl"}).Done() && dialog.Fire(kSource, kSelectEvent),
-        kSource);
-    Press(dialog, "QmLoadDrwInfo");
-    Press(dialog, "QmLoadParams");
-    loaded_ = LoadedRows(dialog);
-  }
-
-  static int LoadedRows(LiveDialog& dialog) {
-    TableModel* table = nullptr;
-    Require(dialog.state.Find(FieldKind::kTable, "drw_list", &table) == UiStatus::kOk, "no list");
-    int loaded = 0;
-    for (const std::string& row : table->RowNames()) {
-      std::string sheets;
-      std::string name;
-      table->GetLabel(row, "sheets", &sheets);
-      table->GetLabel(row, "param1", &name);
-      if (sheets == "2" && !name.empty()) ++loaded;
-    }
-    return loaded;
-  }
-
-  std::string format_;
-  std::string folder_;
-  std::string last_box_;
-  int loaded_ = 0;
-  bool has_components_ = false;
 };
 
 // A folder of its own, gone at the end.
