@@ -19,7 +19,8 @@ namespace wb {
 namespace {
 
 constexpr const char* kFolderCommands[] = {"QmDrwScaleCheck", "QmFrmReplace", "QmExport"};
-constexpr const char* kComponentCommands[] = {"QmExport", "QmBackup", "QmExIgs", "QmExSat"};
+constexpr const char* kComponentCommands[] = {"QmExport", "QmBackup", "QmExIgs", "QmExSat",
+                                              "QmRename"};
 
 // Each component has a part and drawing of its own and costs files, so that there are fewer.
 constexpr int kDrawingsPerComponent = 4;
@@ -169,6 +170,7 @@ class FolderBench {
     if (command == "QmBackup") require(user_.last_box() == BackupTold() && BackedUp());
     if (command == "QmExIgs") require(FilesWith(folder_.path() / "IGS", ".igs") == components_);
     if (command == "QmExSat") require(FilesWith(folder_.written(), ".sat") == components_);
+    if (command == "QmRename") require(IsRenamed());
     return row;
   }
 
@@ -182,6 +184,16 @@ class FolderBench {
     return FilesWith(folder_.written(), ".prt.") == components_ &&
            FilesWith(folder_.written(), ".drw.") == components_ &&
            FilesWith(folder_.written(), ".asm.") == 1;
+  }
+
+  bool IsRenamed() {
+    for (int i = 1; i <= components_; ++i) {
+      const std::string name = kRenamed + std::to_string(i);
+      const bool is_found = host_.session.Find({name, ModelKind::kPart}) != nullptr &&
+                            host_.session.Find({name, ModelKind::kDrawing}) != nullptr;
+      if (!is_found) return false;
+    }
+    return true;
   }
 
   FolderRow Measure(const char* command, const std::string& name, int count) {

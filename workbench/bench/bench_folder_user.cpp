@@ -22,19 +22,31 @@ void ExportAll(LiveDialog& dialog) {
   PressButton(dialog, "ApplyBt");
 }
 
-int LoadedRows(LiveDialog& dialog) {
+const TableModel& TableOf(LiveDialog& dialog, const char* name) {
   TableModel* table = nullptr;
-  const UiStatus status = dialog.state.Find(FieldKind::kTable, "drw_list", &table);
-  RequireDone(status == UiStatus::kOk, "no list of drawings");
+  RequireDone(dialog.state.Find(FieldKind::kTable, name, &table) == UiStatus::kOk, name);
+  return *table;
+}
+
+int LoadedRows(LiveDialog& dialog) {
+  const TableModel& table = TableOf(dialog, "drw_list");
   int loaded = 0;
-  for (const std::string& row : table->RowNames()) {
+  for (const std::string& row : table.RowNames()) {
     std::string sheets;
     std::string parameter;
-    table->GetLabel(row, "sheets", &sheets);
-    table->GetLabel(row, "param1", &parameter);
+    table.GetLabel(row, "sheets", &sheets);
+    table.GetLabel(row, "param1", &parameter);
     if (sheets == "2" && !parameter.empty()) ++loaded;
   }
   return loaded;
+}
+
+void RenameAll(LiveDialog& dialog) {
+  for (const std::string& row : TableOf(dialog, "mdl_list").RowNames()) {
+    const UserOutcome typed = dialog.state.UserSetField("input" + row, kRenamed + row);
+    RequireDone(typed.Done(), "no field for a new name");
+  }
+  PressButton(dialog, "StartRename");
 }
 
 }  // namespace
@@ -53,6 +65,8 @@ void FolderUser::WorkDialog(LiveDialog& dialog) {
     ListComponents(dialog);
   } else if (dialog.name == "QmExport") {
     ExportAll(dialog);
+  } else if (dialog.name == "QmRename") {
+    RenameAll(dialog);
   } else {
     PressButton(dialog, dialog.name == "QmExIgs" ? "ApplyBt" : "QmFrmReplaceAct");
   }

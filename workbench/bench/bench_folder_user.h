@@ -8,6 +8,9 @@
 
 namespace wb {
 
+// How new names begin, before the number of the row.
+inline constexpr char kRenamed[] = "renamed_";
+
 // Whatever cannot be done throws std::runtime_error.
 class FolderUser : public User {
  public:
