@@ -6,8 +6,11 @@
 #include <set>
 
 #include "tests/plugin_host.h"
+#include "tests/skid_host.h"
 #include "tests/source_folder.h"
 #include "workbench/bench/bench_heap.h"
+#include "workbench/script/script_snapshot.h"
+#include "workbench/spreadsheet/spreadsheet_server.h"
 
 #include <psapi.h>
 
@@ -50,6 +53,97 @@ TEST_F(LifeCycle, AThousandStartsAndStopsLeaveNothingBehind) {
   EXPECT_TRUE(host_.windows.timers.empty());
   EXPECT_TRUE(host_.commands.commands.empty());
   EXPECT_TRUE(host_.events.All<MessageBox>().empty());
+}
+
+// Closes each dialog, chooses and picks nothing, and reads boxes away.
+class ClosingUser : public AbsentUser {
+ public:
+  void WorkDialog(LiveDialog& dialog) override {
+    dialog.Fire("", kCloseEvent);
+    if (!dialog.ended) dialog.Fire("Close", kActivateEvent);
+    if (dialog.ended) return;
+    TheHost().ReportBreach("ProUIDialogActivate", "the dialog " + dialog.name + " stays open");
+    dialog.ended = true;
+  }
+};
+
+class LifeOfAllCommands : public SkidHost {
+ protected:
+  LifeOfAllCommands() : SkidHost("life") {
+    host_.user = &user_;
+    host_.writers.Order(std::nullopt, WriterConduct::kWritesNothing, "");
+  }
+
+  // What the plug-in has registered and started in the host.
+  struct Registered {
+    size_t commands;
+    size_t menus;
+    size_t notifications;
+    size_t timers;
+    bool operator==(const Registered&) const = default;
+  };
+
+  // From the start of the plug-in to its end, with every command clicked once; gives what was
+  // registered when the last one had ended.
+  Registered Live(Plugin& plugin) {
+    start_.Restore(host_);
+    EXPECT_EQ(plugin.Start(), 0);
+    for (const std::string& command : Names()) Click(command);
+    const Commands& held = host_.commands;
+    const Registered registered = {held.commands.size(), held.menus.size(),
+                                   held.notifications.size(), host_.windows.timers.size()};
+    plugin.Stop();
+    EXPECT_EQ(TakeBreaches(), Lines());
+    EXPECT_TRUE(host_.accounts.open().empty());
+    Forget();
+    return registered;
+  }
+
+ private:
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const Command& command : host_.commands.commands) names.push_back(command.name);
+    return names;
+  }
+
+  void Click(const std::string& command) {
+    for (const ModelName& name : kShown) {
+      // A command may have erased what was not shown.
+      Model* const model = host_.session.Retrieve(name);
+      if (model != nullptr) Show(*model);
+      if (AskAccess(command) == ACCESS_AVAILABLE) break;
+    }
+    const CommandRun run = RunCommand(command);
+    EXPECT_TRUE(run.available) << command;
+    EXPECT_EQ(run.left_out, Lines()) << command;
+  }
+
+  // What the workbench keeps of a life.
+  void Forget() {
+    host_.trace.Restart();
+    host_.dialogs.pictures.clear();
+    host_.events.Forget<MessageBox>();
+    host_.events.Forget<Gap>();
+  }
+
+  ClosingUser user_;
+  SpreadsheetServer spreadsheet_{host_};
+  const SessionSnapshot start_{host_, Folders()};
+};
+
+TEST_F(LifeOfAllCommands, ADozenLivesLeaveWhatTheFirstOneLeft) {
+  constexpr int kLives = 12;
+  Plugin plugin(Installed().dll());
+  const Registered first = Live(plugin);
+  EXPECT_EQ(first.commands, 55u);
+  const DWORD handles = HandleCount();
+  const HeapWatch heap(::GetModuleHandleW(Installed().dll().c_str()));
+  for (int life = 1; life <= kLives && !HasFailure(); ++life) {
+    EXPECT_EQ(Live(plugin), first) << "life " << life;
+    EXPECT_EQ(heap.live(), 0) << "life " << life;
+    EXPECT_EQ(HandleCount(), handles) << "life " << life;
+  }
+  EXPECT_GT(heap.peak(), 0);
 }
 
 // A library that was never started goes with its unloading, and takes everything along.

@@ -3,17 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "tests/long_run.h"
-#include "tests/plugin_host.h"
 #include "tests/random_user.h"
-#include "tests/source_folder.h"
+#include "tests/skid_host.h"
 #include "workbench/bench/bench_heap.h"
 #include "workbench/script/script_snapshot.h"
 #include "workbench/spreadsheet/spreadsheet_server.h"
 
 namespace wb {
 namespace {
-
-namespace fs = std::filesystem;
 
 // Each round is run twice, the first time to fill what is kept for good.
 constexpr unsigned kCommandsOfRound = 100;
@@ -26,22 +23,9 @@ DWORD Handles() {
   return count;
 }
 
-class RandomCommands : public PluginHost {
+class RandomCommands : public SkidHost {
  protected:
-  RandomCommands() {
-    host_.user = &user_;
-    fs::create_directories(folder_);
-    for (const auto& file : fs::directory_iterator(SourceFolder() / "demo" / "pump_skid")) {
-      fs::copy_file(file, folder_ / file.path().filename(), fs::copy_options::overwrite_existing);
-    }
-    host_.session.ChangeDirectory(folder_);
-    for (const ModelName& name : kShown) host_.session.Retrieve(name);
-  }
-  ~RandomCommands() override {
-    host_.session.ChangeDirectory(Installed().work());
-    std::error_code held;
-    fs::remove_all(folder_, held);
-  }
+  RandomCommands() : SkidHost("random") { host_.user = &user_; }
 
   // What a round does follows from its seed alone.
   void RunRound(unsigned seed, const SessionSnapshot& start) {
@@ -54,14 +38,12 @@ class RandomCommands : public PluginHost {
   }
 
   unsigned carried_out_ = 0;  // of those that the user clicked
-  const fs::path folder_ = Installed().work() / "random";
-  std::vector<fs::path> Folders() const { return {folder_, Installed().tree() / "QMconfig"}; }
 
  private:
   void RunAny(const std::string& which) {
     const Commands& known = host_.commands;
     const std::string command = known.commands[user_.Below(known.commands.size())].name;
-    Show(command);
+    ShowFor(command);
     if (!user_.OneIn(3)) host_.session.selection_buffer = user_.SomeComponents();
     const CommandRun run = RunCommand(command);
     if (run.available) ++carried_out_;
@@ -72,19 +54,15 @@ class RandomCommands : public PluginHost {
   }
 
   // A model for which the command is available, if chance finds one.
-  void Show(const std::string& command) {
+  void ShowFor(const std::string& command) {
     for (size_t tries = 2 * std::size(kShown); tries > 0; --tries) {
       Model* const model = host_.session.Find(kShown[user_.Below(std::size(kShown))]);
       if (model == nullptr) continue;
-      host_.session.ActivateWindow(host_.session.ShowInWindow(*model).id);
+      Show(*model);
       if (AskAccess(command) == ACCESS_AVAILABLE) return;
     }
   }
 
-  static inline const ModelName kShown[] = {{"pump", ModelKind::kAssembly},
-                                            {"drive_unit", ModelKind::kAssembly},
-                                            {"impeller", ModelKind::kPart},
-                                            {"pump", ModelKind::kDrawing}};
   RandomUser user_{host_};
   SpreadsheetServer spreadsheet_{host_};
 };

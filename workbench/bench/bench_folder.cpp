@@ -1,11 +1,16 @@
-// Makes the folder and works the commands on it.
+// Makes the folder and works the commands on it: those that go through its drawings, and on an
+// assembly those that write or look for a file of each component.
 #include "workbench/bench/bench_folder.h"
 
 #include <chrono>
+#include <fstream>
+#include <iterator>
 #include <memory>
 #include <stdexcept>
 
 #include "workbench/base/text.h"
+#include "workbench/base/windows_headers.h"
+#include "workbench/bench/bench_folder_user.h"
 #include "workbench/host/host.h"
 #include "workbench/plugin/plugin.h"
 #include "workbench/session/model_file.h"
@@ -14,39 +19,36 @@ namespace wb {
 namespace {
 
 constexpr const char* kFolderCommands[] = {"QmDrwScaleCheck", "QmFrmReplace", "QmExport"};
+constexpr const char* kComponentCommands[] = {"QmExport", "QmBackup", "QmExIgs", "QmExSat",
+                                              "QmRename"};
 
-// Works the dialogs, chooses the format and reads all boxes away.
-class FolderUser : public User {
+// Each component has a part and drawing of its own and costs files, so that there are fewer.
+constexpr int kDrawingsPerComponent = 4;
+
+constexpr int kSatType = 40;
+constexpr wchar_t kSatSetting[] = L"QmExSatType";
+
+// A setting of the plug-in for a while; its file is as before afterwards.
+class LentSetting {
  public:
-  explicit FolderUser(std::string format) : format_(std::move(format)) {}
-
-  void WorkDialog(LiveDialog& dialog) override {
-    if (dialog.name == "QmExport") {
-      for (const char* check :
-           {"DXFCheck", "PDFCheck", "STPCheck", "IGSCheck", "MultiSheetCheck"}) {
-        Require(dialog.state.UserToggle(check).Done(), "no check of an export");
-      }
-      Press(dialog, "selAll");
-      Press(dialog, "ApplyBt");
-    } else {
-      Press(dialog, "QmFrmReplaceAct");
-    }
-    Require(dialog.Fire("", kCloseEvent), "a dialog cannot be closed");
+  LentSetting(std::filesystem::path file, const wchar_t* section, const std::wstring& value)
+      : file_(std::move(file)) {
+    std::ifstream in(file_, std::ios::binary);
+    before_.assign(std::istreambuf_iterator<char>(in), {});
+    in.close();
+    ::WritePrivateProfileStringW(section, L"value", value.c_str(), file_.c_str());
   }
-  std::optional<std::string> ChooseFile(const FileRequest&) override { return format_; }
-  int AnswerMessageBox(const MessageBox&) override { return 1; }
-  std::optional<std::vector<PickedItem>> Pick(const PickRequest&) override { return std::nullopt; }
-  std::optional<std::string> AnswerPrompt(const std::string&, int) override { return std::nullopt; }
+  LentSetting(const LentSetting&) = delete;
+  LentSetting& operator=(const LentSetting&) = delete;
+  ~LentSetting() {
+    std::ofstream(file_, std::ios::binary | std::ios::trunc) << before_;
+    // What Windows has kept of it.
+    ::WritePrivateProfileStringW(nullptr, nullptr, nullptr, file_.c_str());
+  }
 
  private:
-  static void Require(bool works, const char* what) {
-    if (!works) throw std::runtime_error(what);
-  }
-  static void Press(LiveDialog& dialog, const char* button) {
-    Require(dialog.state.UserPress(button).Done() && dialog.Fire(button, kActivateEvent), button);
-  }
-
-  std::string format_;
+  std::filesystem::path file_;
+  std::string before_;
 };
 
 // A folder of its own, gone at the end.
@@ -55,6 +57,7 @@ class DrawingFolder {
   DrawingFolder(const std::filesystem::path& below, int drawings) : path_(below / "drawings") {
     std::filesystem::remove_all(path_);
     std::filesystem::create_directories(path_ / "formats");
+    std::filesystem::create_directories(written());
     Model plate(ModelName{"plate", ModelKind::kPart});
     plate.As<SolidContent>()->surfaces.Add({1, {{0, 0, 0}, {300, 200, 40}}});
     WriteModelFile(plate, path_ / "plate.prt.1");
@@ -72,6 +75,8 @@ class DrawingFolder {
 
   const std::filesystem::path& path() const { return path_; }
   std::filesystem::path format() const { return path_ / "formats" / "frame.frm.1"; }
+  // Where commands write that ask for a folder.
+  std::filesystem::path written() const { return path_ / "written"; }
 
  private:
   void Write(const std::string& name, const ModelName& part) const {
@@ -102,10 +107,24 @@ class DrawingFolder {
   std::filesystem::path path_;
 };
 
+// The files of a folder with this in their names.
+int FilesWith(const std::filesystem::path& folder, const std::string& part_of_name) {
+  int count = 0;
+  for (const auto& file : std::filesystem::directory_iterator(folder)) {
+    const bool is_one = PathToUtf8(file.path().filename()).find(part_of_name) != std::string::npos;
+    count += is_one ? 1 : 0;
+  }
+  return count;
+}
+
 class FolderBench {
  public:
   FolderBench(int drawings, const std::filesystem::path& dll, const std::filesystem::path& folder)
-      : drawings_(drawings), folder_(folder, drawings), user_(PathToUtf8(folder_.format())) {
+      : drawings_(drawings),
+        components_(drawings / kDrawingsPerComponent),
+        settings_(dll.parent_path() / "QMconfig" / "QmConfig.ini"),
+        folder_(folder, drawings),
+        user_(PathToUtf8(folder_.format()), PathToUtf8(folder_.written())) {
     host_.user = &user_;
     host_.install_folder = dll.parent_path();
     host_.windows.local_app_folder = folder;
@@ -116,17 +135,77 @@ class FolderBench {
     if (plugin_->Start() != 0) throw std::runtime_error("the plug-in does not start");
   }
 
-  FolderRow Measure(const char* command) {
+  FolderRow MeasureDrawings(const char* command) { return Measure(command, command, drawings_); }
+
+  // An assembly of parts named as some of the drawings is current from now on.
+  void Assemble() {
+    Model stack(ModelName{"stack", ModelKind::kAssembly});
+    for (int i = 0; i < components_; ++i) {
+      Model part(ModelName{"plate_" + std::to_string(i), ModelKind::kPart});
+      part.parameters.Add({"名称", std::string("plate")});
+      part.solid().surfaces.Add({1, {{0, 0, 0}, {300, 200, 40}}});
+      stack.solid().features.Add(NewComponent(i + 1, part.id));
+      host_.session.Save(host_.session.Add(std::move(part)));
+    }
+    Model& top = host_.session.Add(std::move(stack));
+    host_.session.Save(top);
+    host_.session.ActivateWindow(host_.session.ShowInWindow(top).id);
+    user_.WorkOnComponents();
+    // Each model is asked for once: the assembly's backup would write all of them another time.
+    host_.habits.backup_leaves_what_is_used = true;
+    // An export as SAT ends at the first file that does not come to be.
+    host_.writers.Order(FileFormat::kIges, WriterConduct::kWorks, "");
+    host_.writers.Order(FileFormat::kSat, WriterConduct::kWorks, "");
+    host_.writers.sat_type = kSatType;
+  }
+
+  FolderRow MeasureComponents(const std::string& command) {
+    const LentSetting sat_type(settings_, kSatSetting, std::to_wstring(kSatType));
+    const std::string name = command == "QmExport" ? "QmExport list" : command;
+    const FolderRow row = Measure(command.c_str(), name, components_);
+    const auto require = [&](bool is_done) {
+      if (!is_done) throw std::runtime_error(name + " has not done its work");
+    };
+    if (command == "QmExport") require(user_.loaded() == components_);
+    if (command == "QmBackup") require(user_.last_box() == BackupTold() && BackedUp());
+    if (command == "QmExIgs") require(FilesWith(folder_.path() / "IGS", ".igs") == components_);
+    if (command == "QmExSat") require(FilesWith(folder_.written(), ".sat") == components_);
+    if (command == "QmRename") require(IsRenamed());
+    return row;
+  }
+
+ private:
+  // The assembly has no drawing.
+  std::string BackupTold() const {
+    return "\t图纸备份操作已完成：模型" + std::to_string(components_ + 1) + "个，工程图" +
+           std::to_string(components_) + "个，失败0个\t";
+  }
+  bool BackedUp() const {
+    return FilesWith(folder_.written(), ".prt.") == components_ &&
+           FilesWith(folder_.written(), ".drw.") == components_ &&
+           FilesWith(folder_.written(), ".asm.") == 1;
+  }
+
+  bool IsRenamed() {
+    for (int i = 1; i <= components_; ++i) {
+      const std::string name = kRenamed + std::to_string(i);
+      const bool is_found = host_.session.Find({name, ModelKind::kPart}) != nullptr &&
+                            host_.session.Find({name, ModelKind::kDrawing}) != nullptr;
+      if (!is_found) return false;
+    }
+    return true;
+  }
+
+  FolderRow Measure(const char* command, const std::string& name, int count) {
     const long notes_before = Notes();
     const auto start = std::chrono::steady_clock::now();
     const CommandRun run = RunCommand(command);
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
     RequireCleanRun(command, run);
     const long calls = host_.trace.HostCalls();
-    return {command, drawings_, calls, Notes() - notes_before, seconds.count()};
+    return {name, count, calls, Notes() - notes_before, seconds.count()};
   }
 
- private:
   void RequireCleanRun(const std::string& command, const CommandRun& run) const {
     const auto fail = [&](const std::string& why) {
       throw std::runtime_error(command + " on a folder of drawings: " + why);
@@ -141,6 +220,8 @@ class FolderBench {
   long Notes() const { return static_cast<long>(host_.events.AllTexts<Note>().size()); }
 
   int drawings_;
+  int components_;
+  std::filesystem::path settings_;
   DrawingFolder folder_;
   FolderUser user_;
   Host host_;
@@ -154,7 +235,11 @@ std::vector<FolderRow> MeasureFolder(int drawings, const std::filesystem::path& 
   // Big: on the heap.
   const auto bench = std::make_unique<FolderBench>(drawings, plugin, work_folder);
   std::vector<FolderRow> rows;
-  for (const char* const command : kFolderCommands) rows.push_back(bench->Measure(command));
+  for (const char* const command : kFolderCommands) rows.push_back(bench->MeasureDrawings(command));
+  bench->Assemble();
+  for (const char* const command : kComponentCommands) {
+    rows.push_back(bench->MeasureComponents(command));
+  }
   return rows;
 }
 

@@ -13,15 +13,13 @@
 #include "workbench/bench/bench_heap.h"
 #include "workbench/bench/bench_user.h"
 #include "workbench/bench/bench_walk.h"
+#include "workbench/bench/bench_work.h"
 #include "workbench/host/host.h"
 #include "workbench/plugin/plugin.h"
 #include "workbench/spreadsheet/spreadsheet_server.h"
 
 namespace wb {
 namespace {
-
-// Lines that the press of AddRels adds.
-constexpr size_t kBenchRelations = 2;
 
 // Columns of the level bill. The position number is none of them: in a chain its text grows with
 // the depth, so that writing it is quadratic by itself.
@@ -58,12 +56,9 @@ class Bench {
     const std::filesystem::path settings = dll.parent_path() / "QMconfig" / "QmBom.ini";
     ::WritePrivateProfileStringW(L"tableCols_level", L"content", kLevelColumns, settings.c_str());
     std::ofstream(folder / kBenchMaterial) << "bench\n";
+    std::ofstream(folder / kBenchBendTable) << "K 0.5\n";
     top_ = &job.shape->build(host_.session, job.occurrences);
-    // So that a change of units has something to measure.
-    for (const auto& model : host_.session.models()) {
-      if (model->id.kind != ModelKind::kPart) continue;
-      model->solid().surfaces.Add({1, {{0, 0, 0}, {10, 20, 30}}});
-    }
+    FillParts();
     host_.session.ActivateWindow(host_.session.ShowInWindow(*top_).id);
     host_.session.ActivateComponent(SomePart());
     plugin_.emplace(dll);
@@ -96,6 +91,17 @@ class Bench {
     long walk_calls = 0;
     long parameters = 0;
   };
+
+  // So that a change of units has something to measure, and a bend table someone to go to.
+  void FillParts() {
+    constexpr int kPartsPerSheetMetal = 10;
+    int number = 0;
+    for (const auto& model : host_.session.models()) {
+      if (model->id.kind != ModelKind::kPart) continue;
+      model->solid().surfaces.Add({1, {{0, 0, 0}, {10, 20, 30}}});
+      model->solid().sheet_metal = number++ % kPartsPerSheetMetal == 0;
+    }
+  }
 
   // One that the assembly holds; null: it has none.
   Model* SomePart() {
@@ -159,7 +165,7 @@ class Bench {
   std::vector<Taken> Command(std::span<const BenchPartRow> parts) {
     const BenchPartRow& first = parts.front();
     DropParameter(first.part == BenchPart::kAddParameter);
-    DropWork(first.part);
+    PrepareWork(host_, *top_, first.part);
     host_.dialogs.pictures.clear();
     const auto start = std::chrono::steady_clock::now();
     const CommandRun run = RunCommand(first.command);
@@ -196,7 +202,7 @@ class Bench {
     return {seconds.count(), after.call - first.call};
   }
 
-  void RequireCleanRun(const BenchPartRow& part, const CommandRun& run) const {
+  void RequireCleanRun(const BenchPartRow& part, const CommandRun& run) {
     const auto fail = [&](const std::string& why) {
       throw std::runtime_error(std::string(part.command) + " on " + job_.shape->name + ": " + why);
     };
@@ -207,52 +213,12 @@ class Bench {
     if (!run.left_out.empty()) fail("left out " + run.left_out.front());
     const int expected = part.part == BenchPart::kExport ? PRO_TK_CANT_WRITE : PRO_TK_NO_ERROR;
     if (run.status != expected) fail("ended with status " + std::to_string(run.status));
-    if (part.part == BenchPart::kAddParameter && top_->FindParameter(kBenchParameter) == nullptr) {
-      fail("the parameter was not created");
-    }
-    const bool has_worked = std::ranges::any_of(host_.session.models(), [&](const auto& model) {
-      const SolidContent* const solid = model->template As<SolidContent>();
-      return solid != nullptr && HasWork(part.part, *solid);
-    });
-    if (!has_worked) fail("no model has got anything");
+    if (!HasWorked(host_, *top_, part.part, user_.units())) fail("it has not done its work");
   }
 
   void DropParameter(bool from_all) {
     if (!from_all) return;
     for (const auto& model : host_.session.models()) model->DeleteParameter(kBenchParameter);
-  }
-
-  // What a command has given to a model, where it is a command that gives something to models.
-  bool HasWork(BenchPart part, const SolidContent& solid) const {
-    switch (part) {
-      case BenchPart::kColours:
-        return solid.appearance.has_value();
-      case BenchPart::kAddRelations:
-        return solid.relations && solid.relations->size() == kBenchRelations;
-      case BenchPart::kSetUnits:
-        return solid.units == user_.units();
-      case BenchPart::kSetMaterial:
-        return !solid.material.empty();
-      default:
-        return true;
-    }
-  }
-
-  static void Show(ItemList<Feature>& features) {
-    for (Feature& feature : features) feature.hidden = false;
-  }
-
-  void DropWork(BenchPart part) {
-    for (const auto& model : host_.session.models()) {
-      SolidContent* const solid = model->As<SolidContent>();
-      if (solid == nullptr) continue;
-      if (part == BenchPart::kModelCount) model->DeleteParameter("数量");
-      if (part == BenchPart::kColours) solid->appearance.reset();
-      if (part == BenchPart::kAddRelations) solid->relations.reset();
-      if (part == BenchPart::kSetMaterial) solid->material.clear();
-      // The bare walk hides components in turn, and what is hidden is in no box.
-      if (part == BenchPart::kBox) Show(solid->features);
-    }
   }
 
   // In a run that is not timed. 0 where a part is not told apart.

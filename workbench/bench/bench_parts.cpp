@@ -21,6 +21,10 @@ constexpr BenchPartRow kParts[] = {
     {BenchPart::kModelCount, "QmMdlCount", "QmMdlCount", BenchWork::kCollect, false},
     {BenchPart::kBox, "QmBox", "QmBox", BenchWork::kCollect, false},
     {BenchPart::kFindActive, "QmMergeTo", "QmMergeTo", BenchWork::kCollect, false},
+    {BenchPart::kIsolate, "QmIsolate", "QmIsolate", BenchWork::kCollect, false},
+    {BenchPart::kRemoveConstraints, "QmRemoveCons", "QmRemoveCons", BenchWork::kCollect, false},
+    {BenchPart::kSimplify, "QmSimRep", "QmSimRep", BenchWork::kCollect, false},
+    {BenchPart::kBendTable, "SetBendTable", "SetBendTable", BenchWork::kCollect, false},
 };
 
 }  // namespace

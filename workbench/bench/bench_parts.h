@@ -12,19 +12,23 @@ enum class BenchPart {
   kCollection,  // from the array's allocation to the first component shown, in QmShowAllComp
   kShowAll,
   kHideReverse,
-  kAddParameter,  // the press of Add in the dialog of QmParams, class AsmAndPart
-  kSummaryBill,   // the press of QmLoadBom in the dialog of QmBom
-  kReadTable,     // the press of QmExportBom up to the start of the spreadsheet program
-  kLevelBill,     // the press of QmLoadBom for all levels
-  kRenameList,    // the press of UpdateRenameIni in the dialog of QmRename
-  kExport,        // of every component as STEP, by a writer that writes nothing
-  kColours,       // BatchColor with random colours
-  kAddRelations,  // the press of AddRels in the dialog of QmRelations, class AsmAndPart
-  kSetUnits,      // the press of ApplyBt in the dialog of SetUnit
-  kSetMaterial,   // SetMat with nothing selected
-  kModelCount,    // QmMdlCount
-  kBox,           // QmBox with nothing selected
-  kFindActive,    // QmMergeTo up to its pick, which is cancelled
+  kAddParameter,       // the press of Add in the dialog of QmParams, class AsmAndPart
+  kSummaryBill,        // the press of QmLoadBom in the dialog of QmBom
+  kReadTable,          // the press of QmExportBom up to the start of the spreadsheet program
+  kLevelBill,          // the press of QmLoadBom for all levels
+  kRenameList,         // the press of UpdateRenameIni in the dialog of QmRename
+  kExport,             // of every component as STEP, by a writer that writes nothing
+  kColours,            // BatchColor with random colours
+  kAddRelations,       // the press of AddRels in the dialog of QmRelations, class AsmAndPart
+  kSetUnits,           // the press of ApplyBt in the dialog of SetUnit
+  kSetMaterial,        // SetMat with nothing selected
+  kModelCount,         // QmMdlCount
+  kBox,                // QmBox with nothing selected
+  kFindActive,         // QmMergeTo up to its pick, which is cancelled
+  kIsolate,            // QmIsolate with the whole top level preselected
+  kRemoveConstraints,  // QmRemoveCons with its OK
+  kSimplify,           // QmSimRep with the first component preselected
+  kBendTable,          // SetBendTable with nothing selected
 };
 
 struct BenchPartRow {

@@ -294,8 +294,13 @@ std::string BenchHead() {
   QmExStp       every component's model as a STEP file, by a writer that writes nothing
   QmRelations, SetUnit   one press of AddRels or ApplyBt for all models; BatchColor and SetMat are
                 whole commands
+  QmIsolate     with all components of the top level preselected, QmSimRep with the first one;
+                QmRemoveCons with one constraint a component, SetBendTable with every tenth part
+                of sheet metal: whole commands, their dialogs included
   over a folder one run over so many drawings of two sheets and three views; each time the user is
-                told how far it is counts as a note
+                told how far it is counts as a note. QmExport list, QmBackup, QmExIgs, QmExSat and
+                QmRename: on an assembly of so many parts that have such drawings; the list with the sheets
+                and parameters of each
   x walk        against a bare walk in the workbench: a plain visitor that makes the same host calls
                 for each occurrence (flags, type, status, visibility, append, model, model type),
                 level by level, and keeps nothing else

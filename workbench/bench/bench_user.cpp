@@ -22,9 +22,11 @@ constexpr char kRenameTable[] = "mdl_list";
 // The spreadsheet program is kept away, so that an export ends when its table has been read.
 constexpr char kNoSpreadsheet[] = "创建Excel失败";
 // What the commands say when they are done.
-constexpr std::string_view kDone[] = {"\tSTEP导出已完成\t", "\t批量关系创建操作已完成\t",
-                                      "\t模型批量单位设置完成\t", "\t材料设置完成\t",
-                                      "\t元件数量统计已完成\t"};
+constexpr std::string_view kDone[] = {
+    "\tSTEP导出已完成\t",          "\t批量关系创建操作已完成\t",
+    "\t模型批量单位设置完成\t",    "\t材料设置完成\t",
+    "\t元件数量统计已完成\t",      "\t\t所有带约束元件均已更改为固定约束！\t\t",
+    "\t钣金件批量折弯表设置完成\t"};
 // How the answer of QmBox begins.
 constexpr std::string_view kMeasured = "\t尺寸：";
 
@@ -130,6 +132,8 @@ void BenchUser::WorkDialog(LiveDialog& dialog) {
     AddRelations(dialog);
   } else if (dialog.name == "SetUnit") {
     SetUnits(dialog);
+  } else if (dialog.name == "QmRemoveCons") {
+    Press(dialog, "OK");
   } else {
     AddParameter(dialog);
   }
@@ -145,12 +149,17 @@ std::optional<std::vector<PickedItem>> BenchUser::Pick(const PickRequest& reques
 std::optional<std::string> BenchUser::ChooseFile(const FileRequest& request) {
   const auto& folder = TheHost().session.working_directory();
   if (request.asked_by == "ProDirectoryChoose") return PathToUtf8(folder);
-  if (request.asked_by == "ProFileOpen") return PathToUtf8(folder / kBenchMaterial);
+  const bool is_table = request.filter.find("bnd") != std::string::npos;
+  if (request.asked_by == "ProFileOpen") {
+    return PathToUtf8(folder / (is_table ? kBenchBendTable : kBenchMaterial));
+  }
   if (request.asked_by != "GetSaveFileNameW") Unexpected("file for " + request.asked_by);
   return PathToUtf8(folder / "bench.xlsx");
 }
 
 std::optional<std::string> BenchUser::AnswerPrompt(const std::string& prompt, int) {
+  // The name of a simplified representation is the one that is offered.
+  if (prompt.find("简化表示") != std::string::npos) return std::string();
   Unexpected("prompt \"" + prompt + "\"");
 }
 

@@ -1,5 +1,5 @@
 // The user of the benchmark: adds one parameter in the dialog of QmParams, loads and exports bills
-// in the dialog of QmBom, and answers nothing else.
+// in the dialog of QmBom, answers what the other commands ask, and nothing else.
 #pragma once
 
 #include <functional>
@@ -19,8 +19,9 @@ struct BenchPress {
   long long heap_bytes = 0;  // the plug-in's peak; 0 unless it was to be watched
 };
 
-// The material that is picked, in the working directory.
+// The material and the bend table that are picked, in the working directory.
 inline constexpr char kBenchMaterial[] = "bench.mtl";
+inline constexpr char kBenchBendTable[] = "bench.bnd";
 
 // Every question that a benchmark does not expect throws std::runtime_error.
 class BenchUser : public User {
