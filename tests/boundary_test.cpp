@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <deque>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -262,31 +263,44 @@ TEST_F(Boundary, EveryCommandHasItsPartsUnderOneStem) {
   }
 }
 
-// Commands that a script sweeps, in a line "sweep COMMAND".
+// Commands that the script names behind one of these words: "sweep COMMAND", "run COMMAND with".
+std::set<std::string> CommandsIn(const fs::path& script, const std::set<std::string>& verbs) {
+  std::set<std::string> commands;
+  std::istringstream lines(ReadText(script));
+  for (std::string line; std::getline(lines, line);) {
+    std::istringstream words(line);
+    std::string word;
+    std::string command;
+    if (words >> word >> command && verbs.contains(word)) commands.insert(command);
+  }
+  return commands;
+}
+
 std::set<std::string> SweptCommands() {
   std::set<std::string> swept;
   for (const auto& file : fs::recursive_directory_iterator(kProject / "tests" / "scripts")) {
-    if (file.path().extension() != ".qms") continue;
-    std::istringstream lines(ReadText(file.path()));
-    for (std::string line; std::getline(lines, line);) {
-      std::istringstream words(line);
-      std::string word;
-      std::string command;
-      if (words >> word >> command && word == "sweep") swept.insert(command);
-    }
+    if (file.path().extension() == ".qms") swept.merge(CommandsIn(file.path(), {"sweep"}));
   }
   return swept;
 }
 
-TEST_F(Boundary, EveryCommandIsSwept) {
+// The plug-in's commands that are not among `named`.
+Lines OthersThan(const std::set<std::string>& named, const std::deque<Command>& registered) {
+  Lines missing;
+  for (const Command& command : registered) {
+    if (!named.contains(command.name)) missing.push_back(command.name);
+  }
+  return missing;
+}
+
+TEST_F(Boundary, EveryCommandIsSweptAndOnTheTour) {
   Plugin plugin(Installed().dll());
   ASSERT_EQ(plugin.Start(), 0);
-  const std::set<std::string> swept = SweptCommands();
-  Lines missing;
-  for (const Command& command : host_.commands.commands) {
-    if (!swept.contains(command.name)) missing.push_back(command.name);
-  }
-  EXPECT_EQ(missing, Lines());
+  ASSERT_FALSE(host_.commands.commands.empty());
+  EXPECT_EQ(OthersThan(SweptCommands(), host_.commands.commands), Lines()) << "not swept";
+  const fs::path tour = kProject / "demo" / "tour.qms";
+  EXPECT_EQ(OthersThan(CommandsIn(tour, {"run", "sweep"}), host_.commands.commands), Lines())
+      << "not on the tour";
 }
 
 // The walk above tells what is missing of a command by its stem.

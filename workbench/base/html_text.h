@@ -6,7 +6,8 @@
 
 namespace wb {
 
-// `text` with the characters that mean something in HTML content and quoted attributes replaced.
+// `text` with the characters replaced that mean something in HTML content and quoted attributes,
+// and control characters by their pictures.
 std::string EscapeHtml(std::string_view text);
 
 }  // namespace wb

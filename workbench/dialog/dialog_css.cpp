@@ -54,7 +54,8 @@ const char* const kDialogCss = R"css(
 .dlg-tabs .dlg-on { background: var(--paper); color: var(--ink); }
 .dlg-page { padding: 10px; border: 1px solid var(--line); background: var(--card-paper);
   margin-bottom: 8px; }
-.dlg-drawing { border: 1px dashed var(--strong-line); background: var(--paper); max-width: 100%; }
+.dlg-drawing { outline: 1px dashed var(--strong-line); outline-offset: -1px;
+  background: var(--paper); max-width: 100%; }
 .dlg-rule { border: 0; border-top: 1px solid var(--line); width: 100%; margin: 2px 0; }
 .dlg-off { color: var(--soft-ink); background-color: var(--grey-paper); }
 .dlg-radios.dlg-off, .dlg-check.dlg-off, .dlg-label.dlg-off { background: none; }

@@ -249,12 +249,19 @@ std::string OutcomeOf(const CommandRecord& command) {
   return html;
 }
 
+// Drawings that were not in session before the command.
+std::size_t NewDrawings(const CommandRecord& command) {
+  return static_cast<std::size_t>(std::ranges::count_if(
+      command.drawings, [](const DrawingPicture& drawing) { return drawing.before.empty(); }));
+}
+
 std::string CommandInShort(const CommandRecord& command) {
   const std::pair<std::size_t, const char*> counts[] = {
       {command.dialogs.size(), "dialog"},       {command.boxes.size(), "message"},
       {command.notes.size(), "note"},           {command.states.size(), "feature state"},
       {command.parameters.size(), "parameter"}, {command.facts.size(), "other fact"},
-      {command.files.size(), "file"},           {command.programs.size(), "program"},
+      {NewDrawings(command), "drawing"},        {command.files.size(), "file"},
+      {command.programs.size(), "program"},
   };
   std::vector<std::string> words;
   for (const auto& [count, noun] : counts) {

@@ -186,10 +186,15 @@ void NoteStates(const std::string& name, const Model& before, const Model& after
   }
 }
 
-// What has a table of its own in the report.
-bool IsToldElsewhere(const std::string& path) {
-  constexpr std::string_view kTold[] = {"parameters/", "features/"};
-  return std::ranges::any_of(kTold, [&](std::string_view list) { return path.starts_with(list); });
+// What has a table of its own in the report: parameters, and of features whether they are there and
+// how they are shown.
+bool IsToldElsewhere(std::string_view path) {
+  constexpr std::string_view kFeatures = "features/";
+  constexpr std::string_view kStates[] = {"status", "visible", "hidden"};
+  if (!path.starts_with(kFeatures)) return path.starts_with("parameters/");
+  const std::size_t slash = path.find('/', kFeatures.size());
+  if (slash == std::string_view::npos) return true;
+  return std::ranges::find(kStates, path.substr(slash + 1)) != std::end(kStates);
 }
 
 void NoteFacts(const std::string& name, const Model& before, const Model& after,

@@ -35,12 +35,17 @@ bool IsKind(const MessageBox& box, const std::string& kind) {
   return box.style == style && box.caption != kCaption;
 }
 
+bool BoxBegins(const MessageBox& box, const std::string& kind, const std::string& text) {
+  return IsKind(box, kind) && box.text.starts_with(text);
+}
+
 void AwaitCall(ScriptRun& run, const Statement& statement) {
   CheckFunctions(statement);
   run.user.Await(statement);
 }
 
-#define WB_MESSAGE "message KIND:caption|plain|warning TEXT [answer BUTTON:ok|cancel|yes|no]"
+#define WB_MESSAGE \
+  "message KIND:caption|plain|warning [begins] TEXT [answer BUTTON:ok|cancel|yes|no]"
 #define WB_REQUEST "{[title TITLE] [filter FILTER] [folder FOLDER] [offers OFFERS]}"
 
 // clang-format off
@@ -170,17 +175,21 @@ std::optional<PlacementAnswer> ScriptUser::AnswerPlacement(const PlacementReques
   return PlacementAnswer{Point{answer->Decimal("X"), answer->Decimal("Y"), answer->Decimal("Z")}};
 }
 
+void ScriptUser::CheckBox(const Statement& answer, const MessageBox& box) {
+  const std::string& kind = answer.Text("KIND");
+  const std::string& text = answer.Text("TEXT");
+  const bool begins = answer.Has("begins");
+  run_.Check(answer, begins ? BoxBegins(box, kind, text) : BoxIs(box, kind, text), "message box",
+             kind + (begins ? " that begins " : " ") + Quoted(text), DescribeBox(box));
+}
+
 int ScriptUser::PressedButton(const MessageBox& box) {
   const Statement* const answer = Take("message");
   if (answer == nullptr) {
     Unanswered("message box that the script does not name: " + DescribeBox(box));
     return kOkButton;
   }
-  const std::string& kind = answer->Text("KIND");
-  if (!run_.lenient) {
-    run_.Check(*answer, BoxIs(box, kind, answer->Text("TEXT")), "message box",
-               kind + " " + Quoted(answer->Text("TEXT")), DescribeBox(box));
-  }
+  if (!run_.lenient) CheckBox(*answer, box);
   if (answer->Has("while")) {
     Perform(*answer, answer->block, dialogs_.empty() ? nullptr : dialogs_.back());
   }

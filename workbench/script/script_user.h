@@ -62,6 +62,7 @@ class ScriptUser : public User {
   std::optional<std::string> AnswerFile(const FileRequest& request);
   std::optional<std::string> AnswerText(const std::string& prompt, int max_length);
   std::optional<PlacementAnswer> AnswerPlacement(const PlacementRequest& request);
+  void CheckBox(const Statement& answer, const MessageBox& box);
   int PressedButton(const MessageBox& box);
 
   const Statement& Place() const;

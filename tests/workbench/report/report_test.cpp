@@ -92,7 +92,7 @@ TEST(ReportTest, EachPartAppearsOnlyWhenItHasContent) {
 }
 
 TEST(ReportTest, EveryTextIsEscaped) {
-  const std::string evil = "<x>\"&";
+  const std::string evil = "<x>\"&\x01";
   RunRecord record;
   record.script = evil;
   record.facts = {{evil, evil}};
@@ -115,7 +115,8 @@ TEST(ReportTest, EveryTextIsEscaped) {
   record.commands = {command};
   const std::string html = RenderReport(record);
   EXPECT_FALSE(Shows(html, "<x>"));
-  EXPECT_TRUE(Shows(html, "&lt;x&gt;&quot;&amp;"));
+  EXPECT_TRUE(Shows(html, "&lt;x&gt;&quot;&amp;\u2401"));
+  EXPECT_FALSE(Shows(html, "\x01"));
 }
 
 TEST(ReportTest, APictureOfADialogSaysWhatFollows) {

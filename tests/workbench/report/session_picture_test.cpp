@@ -60,6 +60,7 @@ TEST(SessionPictureTest, NotesWhatACommandChanged) {
   bolt.DeleteParameter("OLD");
   bolt.SetParameter("SET", 4);
   bolt.SetParameter("NEW", std::string("x"));
+  top.solid().features[0].status_flags = 130;
   top.solid().features[1].hidden = true;
   session.Add(Named("late", ModelKind::kPart)).SetParameter("P", 1);
 
@@ -76,6 +77,10 @@ TEST(SessionPictureTest, NotesWhatACommandChanged) {
   EXPECT_EQ(command.states[0].item, "bolt.prt (2)");
   EXPECT_EQ(command.states[0].before, "shown");
   EXPECT_EQ(command.states[0].after, "hidden");
+  ASSERT_EQ(command.facts.size(), 1u);
+  EXPECT_EQ(command.facts[0].model, "top.asm");
+  EXPECT_EQ(command.facts[0].name, "features/1/flags");
+  EXPECT_EQ(command.facts[0].after, "130");
 }
 
 }  // namespace

@@ -125,6 +125,8 @@ TEST(ScriptRunner, WhatNobodyAnswersFailsWithWhatWasAsked) {
        "7: nothing asked for this answer"},
       {"run QmIsolate with\nmessage plain other\nend",
        "6: message box, expected plain \"other\", got caption \"\\t请先选择"},
+      {"run QmIsolate with\nmessage caption begins 请先\nend",
+       "6: message box, expected caption that begins \"请先\", got caption \"\\t请先选择"},
       {"run QmParams with\ndialog QmParams\nset Add x\nclose\nend\nend",
        "7: PushButton Add is not a field to type into\n"},
       {"run QmParams with\ndialog QmParams\npress Nothing\nclose\nend\nend",
