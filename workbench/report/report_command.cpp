@@ -228,6 +228,12 @@ std::string FailureItem(const FailureLine& line) {
          ShownText(text.substr(0, first)) + rest + "</li>";
 }
 
+// Drawings that were not in session before the command.
+std::size_t NewDrawings(const CommandRecord& command) {
+  return static_cast<std::size_t>(std::ranges::count_if(
+      command.drawings, [](const DrawingPicture& drawing) { return drawing.before.empty(); }));
+}
+
 }  // namespace
 
 std::string DrawFailures(const std::string& heading, const std::vector<FailureLine>& failures) {
@@ -247,12 +253,6 @@ std::string OutcomeOf(const CommandRecord& command) {
   if (command.outcome != Outcome::kDone) html = "<span class=\"bad\">" + html + "</span>";
   if (!command.status.empty()) html += " <small>" + EscapeHtml(command.status) + "</small>";
   return html;
-}
-
-// Drawings that were not in session before the command.
-std::size_t NewDrawings(const CommandRecord& command) {
-  return static_cast<std::size_t>(std::ranges::count_if(
-      command.drawings, [](const DrawingPicture& drawing) { return drawing.before.empty(); }));
 }
 
 std::string CommandInShort(const CommandRecord& command) {
