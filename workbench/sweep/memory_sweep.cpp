@@ -15,6 +15,9 @@ namespace {
 // A sample of a kind takes so many from the beginning, and so many spread over the rest.
 constexpr long kDense = 64;
 constexpr long kSparse = 24;
+// And so many where all sweeps are sampled.
+constexpr long kFewDense = 16;
+constexpr long kFewSparse = 12;
 // Nothing is struck, but everything counted.
 constexpr long kNever = std::numeric_limits<long>::max();
 
@@ -45,7 +48,9 @@ void MemorySweep::Run(const MemorySweepOptions& options) {
 
 void MemorySweep::RunWarm(bool all) {
   const long allocations = RunClean().allocations;
-  const std::vector<long> places = SampledPlaces(allocations, all ? allocations : kDense, kSparse);
+  const bool few = run_.options.sampled_faults;
+  const long dense = all ? allocations : few ? kFewDense : kDense;
+  const std::vector<long> places = SampledPlaces(allocations, dense, few ? kFewSparse : kSparse);
   for (const bool from_then_on : {false, true}) RunKind(places, from_then_on);
   std::printf("%s: sweep of %s: %ld allocations, %ld faults, %d bad runs\n",
               statement_.Place().c_str(), statement_.Text("COMMAND").c_str(), allocations, faults_,
