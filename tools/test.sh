@@ -102,6 +102,8 @@ second=$build/wine-second
 third=$build/wine-third
 prepare_second_wine "$second"
 prepare_second_wine "$third"
+fourth=$build/wine-fourth
+prepare_second_wine "$fourth"
 habits='*OtherHabits*'
 faults='*Script.Passes/*faults'
 other_faults='*OtherHabits/*faults'
@@ -114,6 +116,15 @@ once="*Growth*:LifeCycle.*:RenameBatch.ThreeHundred*:*WhatNobodyAnswers*:*Script
 in_wine() {
   WINEPREFIX=$1 LC_ALL=$2 run_windows "$cross/quillmax_tests.exe" "--gtest_filter=$3" "${order[@]}"
 }
+
+# Commands run for the first time, each in a fresh process with one allocation failed. Mostly they
+# wait.
+cd "$root"
+memory=(tests/scripts/memory.qms tests/scripts/drawing/drawing_memory.qms)
+if [ "$long" = yes ]; then
+  mapfile -t memory < <(grep -rlE '^ *sweep allocations of ' tests/scripts --include=*.qms | sort)
+fi
+WINEPREFIX=$fourth run_windows "$cross/workbench.exe" memory "${memory[@]}" >"$build/memory.log" 2>&1 &
 
 "$native/native_tests" "${order[@]}" >"$build/native.log" 2>&1 &
 native_run=$!
@@ -141,18 +152,11 @@ count "sweeps" "$build/sweeps.log"
 count "scripts, other habits" "$build/habits.log"
 count "sweeps, other habits, code page 1252" "$build/habits-sweeps.log"
 
-# Commands run for the first time, each in a fresh process with one allocation failed. Mostly they
-# wait, so that the checks go on meanwhile.
-cd "$root"
-memory=(tests/scripts/memory.qms tests/scripts/drawing/drawing_memory.qms)
 if [ "$long" = yes ]; then
-  mapfile -t memory < <(grep -rlE '^ *sweep allocations of ' tests/scripts --include=*.qms | sort)
   run_windows "$cross/workbench.exe" run "${memory[@]}" --all-allocations --sampled-faults \
     >"$build/memory-warm.log" 2>&1
   count "every allocation, warm" "$build/memory-warm.log"
 fi
-WINEPREFIX=$second run_windows "$cross/workbench.exe" memory "${memory[@]}" \
-  >"$build/memory.log" 2>&1 &
 
 check "rooms" python3 "$here/check_rooms.py"
 check "format" "$here/check_format.sh"
@@ -164,7 +168,6 @@ check "every command's allocations are swept" python3 "$here/reliability_table.p
 check "the library's file" "$here/check_dll.sh" "$cross/quillmax5.1C3.dll"
 check "import" "$here/check_import.sh"
 check "package" "$here/check_package.sh"
-wait
 count "allocations at first runs" "$build/memory.log"
 
 # The table of faults by command; it stays as it was where anything has failed.
