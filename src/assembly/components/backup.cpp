@@ -138,14 +138,12 @@ ProError QmBackup() {
   directory.Enter(*folder);
   std::optional<TargetList> targets;
   std::optional<int> count;
-  // The user may have erased it while the folder was asked for.
-  if (CurrentAssembly() == root) {
+  if (IsStillCurrent(*root)) {
     targets = CollectTargets({*root, PRO_MDL_ASSEMBLY}, "AsmAndPart");
+    if (targets) count = targets->component_count;
   } else {
-    LogFailure("the assembly is not current any more");
     count = 0;
   }
-  if (targets) count = targets->component_count;
   // Before the user reads that nothing is done.
   if (count.value_or(0) == 0) directory.Return();
   if (!HasComponents(count, kNoComponents)) {

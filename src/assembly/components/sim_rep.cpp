@@ -157,13 +157,6 @@ Making Make(const RepPlan& plan, const std::wstring& text, ProSimprep* rep) {
   return Making::kNameRefused;
 }
 
-// The user may have erased it while the name was asked for.
-bool IsStillCurrent(ProMdl root) {
-  if (CurrentAssembly() == root) return true;
-  LogFailure("the assembly is not current any more");
-  return false;
-}
-
 // Asks until the host has taken a name. A failure is the command's answer: nothing is made then.
 ProError MakeByName(const RepPlan& plan, ProSimprep* rep) {
   const auto is_taken = [&](const std::wstring& name) { return IsTaken(plan.root, name); };

@@ -1,6 +1,7 @@
 // Looks up the model that a command works on.
 #include "frame/models/current_assembly.h"
 
+#include "frame/messages/run_log.h"
 #include "toolkit/status.h"
 
 namespace qm {
@@ -45,6 +46,12 @@ std::optional<ProMdl> AssemblyOf(const std::optional<CurrentModel>& current) {
 
 std::optional<ProMdl> CurrentAssembly() {
   return AssemblyOf(CurrentModelItself());
+}
+
+bool IsStillCurrent(ProMdl assembly) {
+  if (CurrentAssembly() == assembly) return true;
+  LogFailure("the assembly is not current any more");
+  return false;
 }
 
 }  // namespace qm

@@ -31,4 +31,8 @@ std::optional<CurrentModel> ActiveModel();
 std::optional<ProMdl> AssemblyOf(const std::optional<CurrentModel>& current);
 std::optional<ProMdl> CurrentAssembly();
 
+// Whether `assembly`, which was current before a question, still is: the user may have erased it
+// meanwhile, and then the run log says so.
+bool IsStillCurrent(ProMdl assembly);
+
 }  // namespace qm
