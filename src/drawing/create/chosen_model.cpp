@@ -1,6 +1,7 @@
 // Chooses the model of a drawing.
 #include "drawing/create/chosen_model.h"
 
+#include "frame/messages/message_box.h"
 #include "frame/models/preselection.h"
 #include "toolkit/assembly.h"
 #include "toolkit/status.h"
@@ -39,6 +40,12 @@ ProMdl WithoutManufacturing(ProMdl model) {
   if (type != PRO_MDL_MFG) return model;
   ProAssembly assembly = nullptr;
   return Ok(ProMfgAssemGet(model, &assembly)) ? assembly : nullptr;
+}
+
+ProMdl ChooseModelToDraw() {
+  const ChosenModel chosen = ChooseModel(Selectable::kAll);
+  if (chosen.refusal != nullptr) ShowMessage(chosen.refusal);
+  return chosen.model != nullptr ? WithoutManufacturing(chosen.model) : nullptr;
 }
 
 }  // namespace qm

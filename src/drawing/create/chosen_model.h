@@ -27,4 +27,7 @@ ChosenModel ChooseModel(Selectable selectable);
 // For a manufacturing model its assembly, for any other itself; null when the host does not tell.
 ProMdl WithoutManufacturing(ProMdl model);
 
+// Whatever is chosen, without manufacturing; null when there is none, and a refusal has been shown.
+ProMdl ChooseModelToDraw();
+
 }  // namespace qm

@@ -49,9 +49,7 @@ ProError MakeWithFormat(WorkingDirectory& directory, ProMdl model, const std::ws
 
 ProError NewDraw() {
   WorkingDirectory directory;
-  const ChosenModel chosen = ChooseModel(Selectable::kAll);
-  if (chosen.refusal != nullptr) ShowMessage(chosen.refusal);
-  ProMdl model = chosen.model != nullptr ? WithoutManufacturing(chosen.model) : nullptr;
+  ProMdl model = ChooseModelToDraw();
   if (model == nullptr) return PRO_TK_E_NOT_FOUND;
   const auto name = ModelName(model);
   if (!name) return PRO_TK_GENERAL_ERROR;

@@ -91,9 +91,7 @@ std::optional<std::string> KindButton(ProMdl model) {
 ProError QmNewDrw() {
   ProMdl current = nullptr;
   if (!Ok(ProMdlCurrentGet(&current)) || current == nullptr) return PRO_TK_E_NOT_FOUND;
-  const ChosenModel chosen = ChooseModel(Selectable::kAll);
-  if (chosen.refusal != nullptr) ShowMessage(chosen.refusal);
-  ProMdl model = chosen.model != nullptr ? WithoutManufacturing(chosen.model) : nullptr;
+  ProMdl model = ChooseModelToDraw();
   if (model == nullptr) return PRO_TK_E_NOT_FOUND;
   const auto name = ModelName(model);
   if (!name) return PRO_TK_GENERAL_ERROR;
