@@ -59,6 +59,8 @@ std::optional<ProSurfaceAppearanceProps> ReadAppearance(ProModelitem item) {
     LogFailure(item.owner, "ProSurfaceAppearancepropsGet", status);
     return std::nullopt;
   }
+  // Nor may what a failing call has left in the record's texts be written.
+  if (has_none) record = {};
   if (has_none || IsUntouched(NumbersOf(record))) SetNumbers(kDefaultAppearance, &record);
   if (AreAppearance(NumbersOf(record))) return record;
   LogFailure(item.owner, "appearance record", PRO_TK_INVALID_ITEM);

@@ -23,16 +23,6 @@ void SetHidden(const FeaturePlace& at, bool hidden) {
   at.feature.hidden = hidden;
 }
 
-struct AsmcompIn : FeatureIn {
-  FeaturePlace Look(const Call& call) const {
-    const FeaturePlace place = FeatureIn::Look(call);
-    if (!place.feature.IsComponent()) {
-      call.Fail("feature " + std::to_string(place.feature.id) + " is no component");
-    }
-    return place;
-  }
-};
-
 // The model of the component that a path's next step names; null: not in session.
 Model* Below(const Call& call, Model& parent, int id) {
   const Feature* const feature = parent.FindFeature(id);
@@ -76,14 +66,14 @@ ProError ProAsmcomppathMdlGet(ProAsmcomppath* path, ProMdl* model) {
 }
 
 ProError ProAsmcompPositionGet(ProAsmcomp* component, ProMatrix position) {
-  return Crossing(__func__, AsmcompIn{{component}}, OutMatrix{position})
+  return Crossing(__func__, ComponentIn{{component}}, OutMatrix{position})
       .Run([](const FeaturePlace& at, MatrixPlace place) {
         place = ComponentPlacement(at.owner, at.feature);
       });
 }
 
 ProError ProAsmcompConstrRemove(ProAsmcomp* component, int index) {
-  return Crossing(__func__, AsmcompIn{{component}}, index)
+  return Crossing(__func__, ComponentIn{{component}}, index)
       .Run([](const FeaturePlace& at, int removed) {
         std::vector<ComponentConstraint>& held = at.feature.constraints;
         const bool is_all = removed == PRO_VALUE_UNUSED;
@@ -100,7 +90,7 @@ ProError ProAsmcompConstrRemove(ProAsmcomp* component, int index) {
 
 // The place of a component does not follow from its constraints here.
 ProError ProAsmcompRegenerate(ProAsmcomp* component, ProBoolean update_soft) {
-  return Crossing(__func__, AsmcompIn{{component}}, update_soft)
+  return Crossing(__func__, ComponentIn{{component}}, update_soft)
       .Run([](const FeaturePlace&, ProBoolean soft) {
         if (soft != PRO_B_TRUE) throw NotModelled{"a regeneration that leaves soft things alone"};
       });

@@ -10,7 +10,7 @@ namespace {
 // Feature types that stand among the components of a top assembly without placing a model.
 constexpr int kComponentLikeTypes[] = {1104, 1232};
 
-struct ComponentIn : FeatureIn {
+struct ComponentLikeIn : FeatureIn {
   FeaturePlace Look(const Call& call) const {
     const FeaturePlace at = FeatureIn::Look(call);
     const bool like =
@@ -65,7 +65,7 @@ ProError ProFeatureVisibilityGet(ProFeature* feature, ProBoolean* is_visible) {
 }
 
 ProError ProAsmcompMdlGet(ProAsmcomp* component, ProMdl* model) {
-  return Crossing(__func__, ComponentIn{{component}}, Out(model, "model place"))
+  return Crossing(__func__, ComponentLikeIn{{component}}, Out(model, "model place"))
       .Run([](const Feature& from, ProMdl& place) {
         const Model* const below = from.ComponentModel();
         if (below == nullptr) return PRO_TK_E_NOT_FOUND;

@@ -112,7 +112,12 @@ ProError Copy(const Call& call, const Model& source, const std::string& name, Pr
   }
   if (session.IsReadOnly(session.working_directory())) return PRO_TK_NO_PERMISSION;
   Model& copy = session.Copy(source, name);
-  if (!call.host.habits.copy_stays_in_session) session.Save(copy);
+  try {
+    if (!call.host.habits.copy_stays_in_session) session.Save(copy);
+  } catch (const ModelFileError&) {
+    session.Erase(copy);
+    throw;
+  }
   place = copy.handle;
   return PRO_TK_NO_ERROR;
 }

@@ -16,16 +16,6 @@ struct Found {
   Placement placement;
 };
 
-// The box around a box that is turned.
-Box PlacedBox(const Box& box, const Placement& placement) {
-  Model one({"box", ModelKind::kPart});
-  one.solid().surfaces.Add({1, box});
-  Model holder({"holder", ModelKind::kAssembly});
-  Feature& feature = holder.solid().features.Add(NewComponent(1, one.id, placement));
-  feature.component->link.model = &one;
-  return ExtentsOf(holder).value_or(box);
-}
-
 }  // namespace
 
 std::optional<Placement> PlacementAt(const Model& root, const std::vector<int>& path) {
@@ -34,7 +24,7 @@ std::optional<Placement> PlacementAt(const Model& root, const std::vector<int>& 
     const Feature* const feature = at.model->FindFeature(id);
     const Model* const below = feature != nullptr ? feature->ComponentModel() : nullptr;
     if (below == nullptr) return std::nullopt;
-    at = {below, PlacedWithin(feature->component->placement, at.placement)};
+    at = {below, PlacedWithin(ComponentPlacement(*at.model, *feature), at.placement)};
   }
   return at.placement;
 }
@@ -51,7 +41,8 @@ std::optional<Placement> FirstPlacementOf(const Model& root, const Model& model)
     for (const Feature& feature : FeaturesOf(*at.model) | std::views::reverse) {
       const Model* const below = feature.ComponentModel();
       if (below == nullptr) continue;
-      pending.push_back({below, PlacedWithin(feature.component->placement, at.placement)});
+      pending.push_back(
+          {below, PlacedWithin(ComponentPlacement(*at.model, feature), at.placement)});
     }
   }
   return std::nullopt;

@@ -99,6 +99,19 @@ bool IsSimplified(const SolidContent& top) {
          static_cast<std::ptrdiff_t>(top.reps[0].items.size()) == placed - 1;
 }
 
+// Models that the part is to change.
+bool IsMeant(BenchPart part, const Model& model, const SolidContent& solid) {
+  switch (part) {
+    case BenchPart::kColours:
+    case BenchPart::kSetMaterial:
+      return model.id.kind == ModelKind::kPart;
+    case BenchPart::kBendTable:
+      return solid.sheet_metal;
+    default:
+      return true;
+  }
+}
+
 bool HasWork(BenchPart part, const SolidContent& solid, const std::string& units) {
   switch (part) {
     case BenchPart::kColours:
@@ -110,7 +123,7 @@ bool HasWork(BenchPart part, const SolidContent& solid, const std::string& units
     case BenchPart::kSetMaterial:
       return !solid.material.empty();
     case BenchPart::kBendTable:
-      return solid.sheet_metal && !solid.bend_table.empty();
+      return !solid.bend_table.empty();
     default:
       return true;
   }
@@ -138,9 +151,9 @@ bool HasWorked(Host& host, Model& top, BenchPart part, const std::string& units)
     case BenchPart::kSimplify:
       return IsSimplified(top.solid());
     default:
-      return std::ranges::any_of(host.session.models(), [&](const auto& model) {
+      return std::ranges::all_of(host.session.models(), [&](const auto& model) {
         const SolidContent* const solid = std::as_const(*model).template As<SolidContent>();
-        return solid != nullptr && HasWork(part, *solid, units);
+        return solid == nullptr || !IsMeant(part, *model, *solid) || HasWork(part, *solid, units);
       });
   }
 }

@@ -118,6 +118,17 @@ struct FeatureIn {
   }
 };
 
+// A component's feature; other features are a misuse.
+struct ComponentIn : FeatureIn {
+  FeaturePlace Look(const Call& call) const {
+    const FeaturePlace place = FeatureIn::Look(call);
+    if (!place.feature.IsComponent()) {
+      call.Fail("feature " + std::to_string(place.feature.id) + " is no component");
+    }
+    return place;
+  }
+};
+
 struct SelectionIn {
   ProSelection handle;
   std::string Describe() const { return DescribeArgument(static_cast<const void*>(handle)); }

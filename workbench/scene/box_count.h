@@ -7,8 +7,8 @@
 
 namespace wb {
 
-// Shown solids with surfaces at all levels, `top` among them. Each model is counted once however
-// often it is placed, since the number of occurrences may be astronomic.
+// Shown solids with surfaces at all levels, `top` among them, as often as they are placed. Each
+// model is walked once however often that is, since the number may be astronomic.
 std::size_t CountBoxes(const Model& top);
 
 }  // namespace wb

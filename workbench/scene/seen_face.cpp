@@ -140,11 +140,7 @@ bool LiesWithin(const SeenFace& inner, const SeenFace& outer, double touching) {
 SeenBox SeenFrom(const Box& box, const Placement& placement) {
   SeenBox seen;
   for (std::size_t i = 0; i < seen.size(); ++i) {
-    Point corner;
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-      corner[axis] = (i >> axis & 1) != 0 ? box.max[axis] : box.min[axis];
-    }
-    seen[i] = PlacedAt(corner, placement);
+    seen[i] = PlacedAt(CornerOf(box, static_cast<unsigned>(i)), placement);
   }
   return seen;
 }

@@ -6,20 +6,17 @@
 namespace wb {
 namespace {
 
-// The corner of a box by a number from 0 to 7.
-Point CornerOf(const Box& box, unsigned number) {
-  Point corner;
-  for (size_t axis = 0; axis < 3; ++axis) {
-    corner[axis] = (number >> axis & 1) != 0 ? box.max[axis] : box.min[axis];
-  }
-  return corner;
-}
-
 void Enclose(std::optional<Box>& extents, const Point& point) {
   if (!extents) extents = Box{point, point};
   for (size_t axis = 0; axis < 3; ++axis) {
     extents->min[axis] = std::min(extents->min[axis], point[axis]);
     extents->max[axis] = std::max(extents->max[axis], point[axis]);
+  }
+}
+
+void EnclosePlaced(std::optional<Box>& extents, const Box& box, const Placement& placement) {
+  for (unsigned corner = 0; corner < 8; ++corner) {
+    Enclose(extents, PlacedAt(CornerOf(box, corner), placement));
   }
 }
 
@@ -53,6 +50,20 @@ Point PlacedAt(const Point& point, const Placement& placement) {
   return placed;
 }
 
+Point CornerOf(const Box& box, unsigned number) {
+  Point corner;
+  for (size_t axis = 0; axis < 3; ++axis) {
+    corner[axis] = (number >> axis & 1) != 0 ? box.max[axis] : box.min[axis];
+  }
+  return corner;
+}
+
+Box PlacedBox(const Box& box, const Placement& placement) {
+  std::optional<Box> around;
+  EnclosePlaced(around, box, placement);
+  return *around;
+}
+
 Placement PlacedWithin(const Placement& inner, const Placement& outer) {
   Placement placement{};
   for (size_t row = 0; row < 4; ++row) {
@@ -83,9 +94,7 @@ std::optional<Box> ExtentsOf(const Model& solid) {
     const SolidContent* const content = at.model->As<SolidContent>();
     if (content == nullptr) continue;
     for (const Surface& surface : content->surfaces) {
-      for (unsigned corner = 0; corner < 8; ++corner) {
-        Enclose(extents, PlacedAt(CornerOf(surface.box, corner), at.placement));
-      }
+      EnclosePlaced(extents, surface.box, at.placement);
     }
     for (const Feature& feature : content->features) {
       if (!IsShown(feature)) continue;

@@ -16,6 +16,12 @@ std::optional<Box> OwnExtents(const SolidContent& solid);
 // Where `placement` puts a point.
 Point PlacedAt(const Point& point, const Placement& placement);
 
+// The corner of a box by a number from 0 to 7, whose bits choose the further end of each axis.
+Point CornerOf(const Box& box, unsigned number);
+
+// The box around a box that is turned.
+Box PlacedBox(const Box& box, const Placement& placement);
+
 // A component's placement seen from the assembly above its own one: `inner` within `outer`.
 Placement PlacedWithin(const Placement& inner, const Placement& outer);
 

@@ -40,15 +40,19 @@ void Scale(Point& point, double factor) {
   for (double& at : point) at *= factor;
 }
 
+void ScaleOrigin(Placement& placement, double factor) {
+  for (std::size_t axis = 0; axis < 3; ++axis) placement[3][axis] *= factor;
+}
+
 void ScaleNumbers(SolidContent& solid, double factor) {
   for (Surface& surface : solid.surfaces) {
     Scale(surface.box.min, factor);
     Scale(surface.box.max, factor);
   }
   for (SolidDimension& dimension : solid.dimensions) dimension.value *= factor;
+  for (CoordinateSystem& system : solid.coordinate_systems) ScaleOrigin(system.placement, factor);
   for (Feature& feature : solid.features) {
-    if (!feature.component) continue;
-    for (std::size_t axis = 0; axis < 3; ++axis) feature.component->placement[3][axis] *= factor;
+    if (feature.component) ScaleOrigin(feature.component->placement, factor);
   }
 }
 
@@ -87,7 +91,7 @@ const UnitSystem* FindUnitSystem(const SolidContent& solid, std::string_view nam
 double LengthRatio(const Model& inner, const Model& outer) {
   const SolidContent* const in = inner.As<SolidContent>();
   const SolidContent* const out = outer.As<SolidContent>();
-  if (in == nullptr || out == nullptr || in->units == out->units) return 1;
+  if (in == nullptr || out == nullptr) return 1;
   return Millimetres(*in) / Millimetres(*out);
 }
 

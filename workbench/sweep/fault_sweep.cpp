@@ -25,7 +25,6 @@ constexpr long kSparseSample = 10;
 
 // After a failure of these a command works all the same, with other values than without it.
 constexpr const char* kChangeWhatIsMeant[] = {
-    "ProSelbufferSelectionsGet",  // a host may say so that nothing is selected: all is meant
     // A colour table that cannot be read is as black as one that is missing.
     "GetModuleHandleW",
     "GetModuleFileNameW",

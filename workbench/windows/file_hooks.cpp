@@ -20,7 +20,7 @@ bool IsRefused(LPCWSTR path, DWORD access) {
 // The plug-in's run log, or its folder.
 bool IsOfRunLog(LPCWSTR path) {
   const std::filesystem::path& local = TheHost().windows.local_app_folder;
-  if (local.empty()) return false;
+  if (path == nullptr || local.empty()) return false;
   const std::filesystem::path folder = (local / "Quillmax").lexically_normal();
   const std::filesystem::path asked = std::filesystem::path(path).lexically_normal();
   return asked == folder || asked.parent_path() == folder;

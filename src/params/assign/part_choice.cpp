@@ -35,8 +35,8 @@ class PartChooser {
     const PreselectionAnswer selected = AskPreselection();
     if (selected.items) {
       AddSelected(*selected.items);
-    } else if (selected.is_unreadable) {
-      ++choice_.left_out;  // who has selected something does not mean everything
+    } else if (selected.is_unreadable || selected.has_failed) {
+      ++choice_.left_out;  // who has perhaps selected something does not mean everything
     } else {
       const wchar_t* const none =
           kind_.none_at_all != nullptr ? kind_.none_at_all : kind_.none_below;
@@ -56,7 +56,7 @@ class PartChooser {
     auto item = ItemOf(selection);
     const ProMdl model = item ? ModelOf(*item) : nullptr;
     ProMdlType type = PRO_MDL_UNUSED;
-    if (model == nullptr || !Ok(ProMdlTypeGet(model, &type))) {
+    if (model == nullptr || !Ok(ProMdlTypeGet(model, &type)) || type == PRO_MDL_UNUSED) {
       ++choice_.left_out;
       LogFailure("a preselected item left out: it cannot be read");
     } else if (type == PRO_MDL_PART) {
@@ -84,7 +84,7 @@ class PartChooser {
     if (kind_.components != ComponentKind::kSheetMetal) return Add(part);
     ProMdlsubtype subtype = PROMDLSTYPE_UNUSED;
     const ProError status = ProMdlSubtypeGet(part, &subtype);
-    if (!Ok(status)) {
+    if (!Ok(status) || subtype == PROMDLSTYPE_UNUSED) {
       LogFailure(part, "ProMdlSubtypeGet", status);
       ++choice_.left_out;
     } else if (subtype == PROMDLSTYPE_PART_SHEETMETAL) {

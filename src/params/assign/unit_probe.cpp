@@ -42,11 +42,13 @@ ProError Include(ProSurface surface, std::optional<Extents>* extents) {
   return PRO_TK_NO_ERROR;
 }
 
-// Where units cannot be set, each part would be measured in vain.
+// Where units cannot be set, each part would be measured in vain: behind so many that keep theirs
+// none is measured until one changes.
 constexpr int kMostPartsThatKeep = 10;
 
 constexpr char kUnknownUnit[] = "a length unit of it is not known";
 constexpr char kNotMeasured[] = "it cannot be measured";
+constexpr char kNotExpected[] = "the parts before it kept theirs";
 
 struct Measurement {
   std::optional<Extents> extents;  // nothing for a part without surfaces
@@ -79,26 +81,28 @@ const char* TextOf(UnitChange change) {
 
 }  // namespace
 
-bool UnitProbe::IsOver() const {
-  return is_done_ || !to_ || parts_that_kept_ >= kMostPartsThatKeep;
-}
-
 void UnitProbe::Before(ProMdl part) {
   before_.reset();
   doubt_ = nullptr;
-  if (IsOver()) return;
+  if (is_done_ || !to_) return;
   const auto from = LengthUnitOf(part);
   if (from == to_) return;
-  const Measurement measured = from ? Measure(part) : Measurement{};
-  if (measured.extents) before_ = {*from, *measured.extents};
-  if (!from) doubt_ = kUnknownUnit;
-  if (measured.failed) doubt_ = kNotMeasured;
+  if (!from) {
+    doubt_ = kUnknownUnit;
+  } else if (parts_that_kept_ >= kMostPartsThatKeep) {
+    doubt_ = kNotExpected;
+  } else {
+    const Measurement measured = Measure(part);
+    if (measured.extents) before_ = {*from, *measured.extents};
+    if (measured.failed) doubt_ = kNotMeasured;
+  }
 }
 
 void UnitProbe::After(ProMdl part) {
   if (!before_ && doubt_ == nullptr) return;
   const auto now = LengthUnitOf(part);
   if (now == to_) {
+    parts_that_kept_ = 0;
     Judge(part);
   } else if (before_ && !now) {
     Doubt(part, kUnknownUnit);

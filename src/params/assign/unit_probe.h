@@ -29,7 +29,6 @@ class UnitProbe {
     double from;
     Extents extents;
   };
-  bool IsOver() const;
   void Judge(ProMdl part);
   void Doubt(ProMdl part, const char* why);
   void Tell(ProMdl part, const Extents& after) const;
@@ -39,7 +38,7 @@ class UnitProbe {
   std::optional<Measured> before_;  // of the part at hand
   const char* doubt_ = nullptr;     // why it cannot be judged if its unit changes
   std::string unjudged_;            // the first such part that has changed
-  int parts_that_kept_ = 0;
+  int parts_that_kept_ = 0;         // in a row
   bool is_done_ = false;
 };
 

@@ -17,17 +17,6 @@ struct AssemblyIn : SolidIn {
   }
 };
 
-// A component's feature; other features are a misuse.
-struct PlacedComponentIn : FeatureIn {
-  FeaturePlace Look(const Call& call) const {
-    const FeaturePlace place = FeatureIn::Look(call);
-    if (!place.feature.IsComponent()) {
-      call.Fail("feature " + std::to_string(place.feature.id) + " is no component");
-    }
-    return place;
-  }
-};
-
 // One end of a constraint in the making: what the plug-in's selection points at, which must be
 // there still when the constraint is set.
 struct Reference {
@@ -132,7 +121,7 @@ ProError Assemble(Model& assembly, Model& model, const Placement& placement, Pro
 
 // A component whose dialog is opened. Where a fault keeps it from opening, no click is left over
 // that the plug-in should not have made.
-struct DialogComponentIn : PlacedComponentIn {
+struct DialogComponentIn : ComponentIn {
   void Forgive(Host& host) const { host.TakeMiddleClick(); }
 };
 
@@ -179,7 +168,7 @@ ProError ProAsmcompConstrRedefUI(ProAsmcomp* component) {
 }
 
 ProError ProAsmcompConstraintsGet(ProAsmcomp* component, ProAsmcompconstraint** constraints) {
-  return Crossing(__func__, PlacedComponentIn{{component}}, Out(constraints, "constraints place"))
+  return Crossing(__func__, ComponentIn{{component}}, Out(constraints, "constraints place"))
       .Run([](const Call& call, const FeaturePlace& at, ProAsmcompconstraint*& place) {
         const auto& held = at.feature.constraints;
         if (held.empty()) return PRO_TK_E_NOT_FOUND;
@@ -196,7 +185,7 @@ ProError ProAsmcompConstraintsGet(ProAsmcomp* component, ProAsmcompconstraint** 
 
 ProError ProAsmcompConstraintsSet(ProAsmcomppath* path, ProAsmcomp* component,
                                   ProAsmcompconstraint* constraints) {
-  return Crossing(__func__, DataIn{path}, PlacedComponentIn{{component}},
+  return Crossing(__func__, DataIn{path}, ComponentIn{{component}},
                   ArrayIn(constraints, "constraints"))
       .Run([](const Call& call, void* way, const FeaturePlace& at,
               std::span<ProAsmcompconstraint> given) {

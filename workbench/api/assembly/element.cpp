@@ -80,6 +80,9 @@ ProError Merge(const Call& call, const PickedItem& into, const TreeElement& tree
   const auto from = PlacementAt(*source.root, source.path);
   const auto to = FirstPlacementOf(*source.root, *into.owner);
   if (!from || !to) return PRO_TK_BAD_CONTEXT;
+  if (!IsRigid(*from) || !IsRigid(*to)) {
+    throw NotModelled{"merging under assemblies of other length units"};
+  }
   const std::string& name = ValueAt(tree, {PRO_E_FEATURE_NAME})->text;
   const int id =
       AddMergeFeature(*into.owner, *source.owner, PlacedWithin(*from, Inverse(*to)), name);
