@@ -70,7 +70,8 @@ class BackupRun {
       ++tally_.failed;
       return;
     }
-    if (const ProMdl drawing = DrawingOf(*name)) {
+    const ProMdl drawing = DrawingOf(*name);
+    if (drawing != nullptr && LiesHere(drawing, *name)) {
       Write(drawing, *name, L"drawing " + *name, &tally_.drawings);
     }
   }
@@ -111,6 +112,14 @@ class BackupRun {
       LogFailure(name, "ProMdlRetrieve of the drawing", status);
     }
     return nullptr;
+  }
+
+  // The host finds drawings in session first, wherever they came from.
+  bool LiesHere(ProMdl drawing, const std::wstring& name) const {
+    const auto folder = FolderOf(drawing);
+    if (!folder || directory_.MayBe(*folder)) return true;
+    LogEvent("drawing " + ToUtf8(name) + " not backed up: it lies in " + ToUtf8(*folder));
+    return false;
   }
 
   const std::wstring folder_;

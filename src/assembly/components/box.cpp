@@ -102,10 +102,12 @@ class BoxWalk {
   }
 
   void AddPart(ProMdl part, const Matrix& placement) {
-    const Reach* const reach = reaches_.Of(part, placement);
-    if (reach == nullptr || (reach->is_complete() && !reach->AddTo(placement, &measured_.box))) {
-      ++measured_.left_out;
+    const PartReach* const part_reach = reaches_.Of(part, placement);
+    bool is_in_box = part_reach != nullptr && part_reach->is_whole;
+    if (part_reach != nullptr && part_reach->reach.is_complete()) {
+      is_in_box &= part_reach->reach.AddTo(placement, &measured_.box);
     }
+    if (!is_in_box) ++measured_.left_out;
   }
 
   const AssemblyLevels& levels_;

@@ -43,18 +43,19 @@ SurfaceAnswer IncludeSurface(ProSurface surface, const Matrix& placement, Reach*
   return {missing == 0 ? PRO_TK_NO_ERROR : PRO_TK_E_NOT_FOUND, false};
 }
 
-std::optional<Reach> Measure(ProMdl part, const Matrix& placement) {
-  Reach reach;
-  bool has_nowhere = false;
+std::optional<PartReach> Measure(ProMdl part, const Matrix& placement) {
+  PartReach measured;
   ProError unread = PRO_TK_NO_ERROR;
   const ProError visited = VisitSurfaces(part, [&](ProSurface surface) {
-    const SurfaceAnswer answer = IncludeSurface(surface, placement, &reach);
-    has_nowhere = has_nowhere || answer.is_nowhere;
+    const SurfaceAnswer answer = IncludeSurface(surface, placement, &measured.reach);
+    if (answer.is_nowhere) measured.is_whole = false;
     return unread = answer.status;
   });
   // Without it the part may still be measured by its other surfaces.
-  if (has_nowhere) LogFailure(part, "ProSurfaceExtremesEval on all sides", PRO_TK_E_NOT_FOUND);
-  if (has_nowhere && !reach.is_complete()) return std::nullopt;
+  if (!measured.is_whole) {
+    LogFailure(part, "ProSurfaceExtremesEval on all sides", PRO_TK_E_NOT_FOUND);
+    if (!measured.reach.is_complete()) return std::nullopt;
+  }
   if (!Ok(unread)) {
     LogFailure(part, "ProSurfaceExtremesEval", unread);
     return std::nullopt;
@@ -63,12 +64,12 @@ std::optional<Reach> Measure(ProMdl part, const Matrix& placement) {
     LogFailure(part, "ProSolidSurfaceVisit", visited);
     return std::nullopt;
   }
-  return reach;
+  return measured;
 }
 
 }  // namespace
 
-const Reach* PartReaches::Of(ProMdl part, const Matrix& placement) {
+const PartReach* PartReaches::Of(ProMdl part, const Matrix& placement) {
   Turn turn{};
   for (int i = 0; i < kAxisCount * kAxisCount; ++i) {
     turn[static_cast<size_t>(i)] = placement.rows[i / kAxisCount][i % kAxisCount];

@@ -163,8 +163,11 @@ ProError MakeByName(const RepPlan& plan, ProSimprep* rep) {
   const std::wstring offered = FreeRepName(is_taken).value_or(std::wstring());
   int empty = 0;  // replies in a row
   while (const auto name = AskName(offered)) {
-    const bool can_be_made = !name->empty() && IsStillCurrent(plan.root);
-    const Making made = can_be_made ? Make(plan, *name, rep) : Making::kNameRefused;
+    if (!IsStillCurrent(plan.root)) {
+      LogOutcome("nothing done, the assembly is not current any more");
+      return PRO_TK_GENERAL_ERROR;
+    }
+    const Making made = !name->empty() ? Make(plan, *name, rep) : Making::kNameRefused;
     if (made == Making::kMade) return PRO_TK_NO_ERROR;
     if (made == Making::kFailed) return PRO_TK_GENERAL_ERROR;
     ShowMessage(kRefusedName);

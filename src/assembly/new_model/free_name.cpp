@@ -14,7 +14,7 @@ std::optional<std::wstring> FindFreeName(const NewNaming& naming, std::size_t lo
       ShowMessage(L"新建模型名称长度不能超过32位");
       return std::nullopt;
     }
-    if (RetrieveModel(name, naming.probed_as) == nullptr) return name;
+    if (RetrieveIfThere(name, naming.probed_as) == nullptr) return name;
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include "frame/messages/message_area.h"
 #include "frame/messages/run_log.h"
+#include "frame/text/directory_rules.h"
 #include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
 #include "toolkit/status.h"
@@ -30,6 +31,10 @@ ProError WorkingDirectory::Enter(const std::wstring& folder) {
 bool WorkingDirectory::IsBack() const {
   ProPath current = {};
   return !Ok(ProDirectoryCurrentGet(current)) || FixedText(current) == FixedText(remembered_);
+}
+
+bool WorkingDirectory::MayBe(std::wstring_view folder) const {
+  return !is_known_ || IsSameFolder(folder, FixedText(remembered_));
 }
 
 bool WorkingDirectory::Return() {

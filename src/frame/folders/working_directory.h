@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "toolkit/window.h"
 
@@ -21,6 +22,9 @@ class WorkingDirectory {
   // Back to the remembered directory, if another one was entered. False when the host has not gone
   // back, which the user is told.
   bool Return();
+
+  // Whether a folder is the remembered directory; true also when that is not known.
+  bool MayBe(std::wstring_view folder) const;
 
  private:
   bool IsBack() const;
