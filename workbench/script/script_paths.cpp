@@ -76,14 +76,26 @@ PickedItem PickOf(Model& root, const std::string& path) {
   return {static_cast<int>(model->id.kind), 0, model, &root, spot.ids};
 }
 
-// Drawings tell their items apart; of solids only some are modelled.
+bool IsThere(const DrawingContent& drawing, int type, int id) {
+  return (type == PRO_VIEW && drawing.views.Find(id) != nullptr) ||
+         (type == PRO_DIMENSION && drawing.dimensions.Find(id) != nullptr) ||
+         (type == PRO_DRAW_TABLE && drawing.tables.Find(id) != nullptr) ||
+         (type == PRO_NOTE && drawing.notes.Find(id) != nullptr);
+}
+
+// Edges and the like are not modelled: any may be picked.
+bool IsThere(const SolidContent& solid, int type, int id) {
+  if (type == PRO_SURFACE) return solid.surfaces.Find(id) != nullptr;
+  if (type == PRO_CSYS) return solid.coordinate_systems.Find(id) != nullptr;
+  if (type == PRO_FEATURE) return solid.features.Find(id) != nullptr;
+  return true;
+}
+
 void CheckItem(const PickedItem& pick) {
   const DrawingContent* const drawing = pick.owner->As<DrawingContent>();
-  if (drawing == nullptr) return;
-  const bool is_there = (pick.type == PRO_VIEW && drawing->views.Find(pick.id) != nullptr) ||
-                        (pick.type == PRO_DIMENSION && drawing->dimensions.Find(pick.id)) ||
-                        (pick.type == PRO_DRAW_TABLE && drawing->tables.Find(pick.id)) ||
-                        (pick.type == PRO_NOTE && drawing->notes.Find(pick.id) != nullptr);
+  const SolidContent* const solid = pick.owner->As<SolidContent>();
+  const bool is_there = (drawing == nullptr || IsThere(*drawing, pick.type, pick.id)) &&
+                        (solid == nullptr || IsThere(*solid, pick.type, pick.id));
   if (!is_there) {
     throw ScriptError(pick.owner->id.Text() + " has no " + WordOf(ItemWords(), pick.type) + " " +
                       std::to_string(pick.id));
