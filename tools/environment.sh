@@ -11,6 +11,8 @@ export WINEPREFIX=$build/wine WINEDEBUG=-all WINEARCH=win64
 # Makes and reads DXF and PDF files for the workbench: a native program, started from Wine. Its
 # packages are those of the system's own Python.
 export WORKBENCH_COMPANION="Z:/usr/bin/python3 \"$root/workbench/companion/companion.py\""
+# Without it Python orders sets anew in each process, and with them parts of DXF files.
+export PYTHONHASHSEED=0
 # No Mono, no Gecko, no menu entries: only our programs run in this environment.
 export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
 unset DISPLAY || true
