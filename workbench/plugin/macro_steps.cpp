@@ -20,15 +20,16 @@ size_t EndOfStep(std::string_view macro) {
 }
 
 MacroStep ParseStep(const std::string& text) {
-  MacroStep step{text, "", {}};
-  if (!text.starts_with('~')) return step;
+  MacroStep step{text, "", {}, ""};
   const size_t quote = std::min(text.find('`'), text.size());
-  step.action = Trimmed(std::string_view(text).substr(1, quote - 1));
+  step.action = Trimmed(std::string_view(text).substr(0, quote));
   for (size_t at = quote; at < text.size();) {
     const size_t end = text.find('`', at + 1);
     if (end == text.npos) break;
     step.names.push_back(text.substr(at + 1, end - at - 1));
     at = std::min(text.find('`', end + 1), text.size());
+    const bool is_third_next = step.names.size() == 2 && at < text.size();
+    if (is_third_next) step.count = Trimmed(std::string_view(text).substr(end + 1, at - end - 1));
   }
   return step;
 }
@@ -75,15 +76,15 @@ constexpr char kGallery[] = "ProCmdViewGallery.view";
 // Menus that are closed behind the question leave it open: what is open stays so.
 // clang-format off
 constexpr StepRow kSteps[] = {
-    {"Select",   kMain,   kGallery,             Opened::kNothing,   Opened::kGallery,   false},
-    {"Select",   kMain,   kClearMenu,           Opened::kGallery,   Opened::kClearMenu, false},
-    {"Activate", kMain,   "clearAllAppearance", Opened::kClearMenu, Opened::kQuestion,  false},
-    {"Close",    kMain,   kClearMenu,           Opened::kClearMenu, Opened::kAsBefore,  false},
-    {"Close",    kMain,   kGallery,             Opened::kGallery,   Opened::kAsBefore,  false},
-    {"FocusIn",  kAsking, "yes",                Opened::kQuestion,  Opened::kQuestion,  false},
-    {"FocusIn",  kAsking, "no",                 Opened::kQuestion,  Opened::kQuestion,  false},
-    {"Activate", kAsking, "yes",                Opened::kQuestion,  Opened::kNothing,   true},
-    {"Activate", kAsking, "no",                 Opened::kQuestion,  Opened::kNothing,   false},
+    {"~ Select",   kMain,   kGallery,             Opened::kNothing,   Opened::kGallery,   false},
+    {"~ Select",   kMain,   kClearMenu,           Opened::kGallery,   Opened::kClearMenu, false},
+    {"~ Activate", kMain,   "clearAllAppearance", Opened::kClearMenu, Opened::kQuestion,  false},
+    {"~ Close",    kMain,   kClearMenu,           Opened::kClearMenu, Opened::kAsBefore,  false},
+    {"~ Close",    kMain,   kGallery,             Opened::kGallery,   Opened::kAsBefore,  false},
+    {"~ FocusIn",  kAsking, "yes",                Opened::kQuestion,  Opened::kQuestion,  false},
+    {"~ FocusIn",  kAsking, "no",                 Opened::kQuestion,  Opened::kQuestion,  false},
+    {"~ Activate", kAsking, "yes",                Opened::kQuestion,  Opened::kNothing,   true},
+    {"~ Activate", kAsking, "no",                 Opened::kQuestion,  Opened::kNothing,   false},
 };
 // clang-format on
 

@@ -9,11 +9,12 @@
 
 namespace wb {
 
-// "~ Select `main_dlg_cur` `clear`;" is the action "Select" on two named things.
+// "~ Select `dialog` `button` 1 `choice`;" is an action on named things.
 struct MacroStep {
   std::string text;    // as it stands, for what is said of it
-  std::string action;  // empty: no step of this form
+  std::string action;  // before the first name: "~ Select"
   std::vector<std::string> names;
+  std::string count;  // before the third name: "1"
 };
 std::vector<MacroStep> ParseMacro(std::string_view macro);
 

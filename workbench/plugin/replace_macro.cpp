@@ -4,48 +4,13 @@
 #include <algorithm>
 #include <vector>
 
-#include "workbench/base/text.h"
 #include "workbench/host/call.h"
+#include "workbench/plugin/macro_steps.h"
 #include "workbench/session/model_cycle.h"
 #include "workbench/session/model_file.h"
 
 namespace wb {
 namespace {
-
-// "~ Select `dialog` `button` 1 `choice`": what stands before the first name, the names, and what
-// stands before the third one.
-struct ReplaceStep {
-  std::string text;
-  std::string action;
-  std::vector<std::string> names;
-  std::string count;
-};
-
-ReplaceStep StepOf(const std::string& text) {
-  ReplaceStep step{text, "", {}, ""};
-  const size_t quote = std::min(text.find('`'), text.size());
-  step.action = Trimmed(text.substr(0, quote));
-  for (size_t at = quote; at < text.size();) {
-    const size_t end = std::min(text.find('`', at + 1), text.size());
-    step.names.push_back(text.substr(at + 1, end - at - 1));
-    at = std::min(text.find('`', end + 1), text.size());
-    const bool is_third_next = step.names.size() == 2 && at < text.size();
-    if (is_third_next) step.count = Trimmed(text.substr(end + 1, at - end - 1));
-  }
-  return step;
-}
-
-// No name in such a macro holds a semicolon.
-std::vector<ReplaceStep> StepsOf(std::string_view macro) {
-  std::vector<ReplaceStep> steps;
-  for (size_t at = 0; at < macro.size();) {
-    const size_t end = std::min(macro.find(';', at), macro.size());
-    const std::string text = Trimmed(std::string(macro.substr(at, end - at)));
-    if (!text.empty()) steps.push_back(StepOf(text));
-    at = end + 1;
-  }
-  return steps;
-}
 
 // How far the dialog has come; each step wants the one before.
 enum class Stage {
@@ -92,18 +57,18 @@ bool IsOf(const StageRow& row, std::string_view release) {
   return (row.releases == Releases::kOlder) == IsOlder(release);
 }
 
-bool Fits(const ReplaceStep& step, const StageRow& row) {
+bool Fits(const MacroStep& step, const StageRow& row) {
   if (step.action != row.action || step.names.empty() || step.names[0] != row.first) return false;
   return row.second == nullptr || (step.names.size() > 1 && step.names[1] == row.second);
 }
 
 // What only records where the mouse was.
-bool IsWithoutEffect(const ReplaceStep& step) {
+bool IsWithoutEffect(const MacroStep& step) {
   return step.action == "~ Trail" || step.action.empty();
 }
 
 // A choice is one entry of a list; the method is a certain one.
-bool IsChoiceRight(const ReplaceStep& step, Stage reached) {
+bool IsChoiceRight(const MacroStep& step, Stage reached) {
   const bool is_choice = reached == Stage::kUnrelated || reached == Stage::kChosen;
   if (is_choice && (step.names.size() != 3 || step.count != "1")) return false;
   return reached != Stage::kUnrelated || step.names.back() == "Unrelated Component";
@@ -165,7 +130,7 @@ PlayedReplacement PlayReplaceMacro(std::string_view macro, Session& session) {
   const std::string& release = TheHost().release;
   Stage stage = Stage::kClosed;
   std::string file;
-  for (const ReplaceStep& step : StepsOf(macro)) {
+  for (const MacroStep& step : ParseMacro(macro)) {
     if (IsWithoutEffect(step)) continue;
     const auto* const row = std::ranges::find_if(
         kStages, [&](const StageRow& known) { return Fits(step, known) && IsOf(known, release); });

@@ -12,12 +12,12 @@ constexpr char kMenu[] =
 constexpr char kClear[] = "~ Activate `main_dlg_cur` `clearAllAppearance`;";
 
 TEST(ParseMacro, PartsAtSemicolonsOutsideOfNames) {
-  const auto steps = ParseMacro("~ Select `a b`  `c;d` ;~Activate `e`; ProCmdX;;  ");
+  const auto steps = ParseMacro("~ Select `a b`  `c;d` ;~ Activate `e`; ProCmdX;;  ");
   ASSERT_EQ(steps.size(), 3u);
-  EXPECT_EQ(steps[0].action, "Select");
+  EXPECT_EQ(steps[0].action, "~ Select");
   EXPECT_EQ(steps[0].names, (std::vector<std::string>{"a b", "c;d"}));
-  EXPECT_EQ(steps[1].action, "Activate");
-  EXPECT_EQ(steps[2].action, "");
+  EXPECT_EQ(steps[1].action, "~ Activate");
+  EXPECT_EQ(steps[2].action, "ProCmdX");
   EXPECT_EQ(steps[2].text, "ProCmdX");
 }
 
