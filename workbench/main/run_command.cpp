@@ -103,7 +103,7 @@ void RunApart(const std::string& script, const CommandLine& line, RunRecord& rec
   for (const char* option : {"--out", "--plugin", "--install", "--fault"}) {
     if (line.Has(option)) arguments.insert(arguments.end(), {option, line.Value(option)});
   }
-  for (const char* option : {"--other-habits", "--sampled-faults"}) {
+  for (const char* option : {"--all-allocations", "--other-habits", "--sampled-faults"}) {
     if (line.Has(option)) arguments.push_back(option);
   }
   TakeOver(script, OutputOf(ProgramFile(), arguments).value_or(""), record);

@@ -64,6 +64,8 @@ void Run(ScriptRun& run, const Statement& statement) {
 }
 
 void SweepFaults(ScriptRun& run, const Statement& statement) {
+  // What is to be a first run would be none behind it.
+  if (run.options.memory.first_run_line != 0) return;
   run.EnsureStarted();
   Sweep(run, statement).Run();
 }
