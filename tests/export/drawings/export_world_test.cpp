@@ -321,18 +321,6 @@ TEST_F(ExportWorld, TheFilesOfSixtyDrawingsAreTheWantedOnesInAllCombinations) {
   for (const unsigned combination : {31, 63}) ExpectFiles(combination, drawings, 2);
 }
 
-// Of one kind: four sheets, of as many parts. What is set up once for all is set up in a first run.
-// The session is cleared once in each.
-TEST_F(ExportWorld, EachDrawingCostsTheSameNumberOfCalls) {
-  std::vector<long> calls;
-  for (const int count : {1, 2, 16, 30}) {
-    WriteDrawings(count, [](int i) { return 420 * i + 7; });
-    Export({31, true, 0});
-    calls.push_back(exporter_.calls);
-  }
-  EXPECT_EQ(calls[3] - calls[2], calls[2] - calls[1]);
-}
-
 TEST_F(ExportWorld, EachSheetCostsTheSameNumberOfCalls) {
   for (const bool per_sheet : {false, true}) {
     std::vector<long> calls;
