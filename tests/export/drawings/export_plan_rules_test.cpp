@@ -55,16 +55,6 @@ TEST(ExportPlan, ASheetOfWhichTheModelIsNotToldIsNoneWithoutViews) {
                    "STP\\ 2 own cannot"}));
 }
 
-TEST(ExportPlan, NamesThatLeadElsewhereAreNotAskedFor) {
-  for (const wchar_t* name : {L"..\\x", L"a:b", L"a/b"}) {
-    const auto files = PlanFiles({name, 1, std::nullopt}, Options(1, false));
-    ASSERT_EQ(files.size(), 1u);
-    EXPECT_EQ(files[0].plan, FilePlan::kCannot);
-    EXPECT_EQ(files[0].name, name + std::wstring(L".dwg"));
-  }
-  EXPECT_EQ(PlanFiles({L"a?b", 1, std::nullopt}, Options(1, false))[0].plan, FilePlan::kWrite);
-}
-
 TEST(ExportPlan, WithoutViewsTheFormatThatNeedsThemAndAllLaterOnesAreLost) {
   DrawingFacts drawing{L"d", 2, std::nullopt};
   EXPECT_EQ(LinesOf(PlanFiles(drawing, Options(31, false))).size(), 2u + 2 + 1 + 1 + 1);
@@ -86,11 +76,6 @@ TEST(ExportPlan, WithoutACountOnlyWhatNeedsNoneIsWritten) {
                    "IGS\\ 0 cannot"}));
   EXPECT_EQ(LinesOf(PlanNothing(Options(6, true), "gone")),
             (Lines{"DXF\\ 0 cannot", "PDF\\ 0 cannot"}));
-}
-
-TEST(ExportPlan, DrawingsGoInAscendingOrderAndEachOnce) {
-  EXPECT_EQ(InOrder({L"b", L"a10", L"B", L"a2", L"b", L"图", L"a10"}),
-            (std::vector<std::wstring>{L"B", L"a10", L"a2", L"b", L"图"}));
 }
 
 }  // namespace
