@@ -61,6 +61,7 @@ class RenameBatch : public PluginHost {
     fs::create_directories(folder_);
     host_.session.ChangeDirectory(folder_);
     host_.user = &user_;
+    EXPECT_EQ(plugin_.Start(), 0);
   }
   ~RenameBatch() override { fs::remove_all(folder_); }
 
@@ -262,13 +263,12 @@ class RenameBatch : public PluginHost {
   const fs::path folder_;
   RenamingUser user_;
   std::vector<Row> rows_;
+  Plugin plugin_{Installed().dll()};
 };
 
 // Whatever fails: no file of the user's goes, none of a trial stays, and the option is what the
 // outcome says.
 TEST_F(RenameBatch, NoFaultCostsAFileOrLeavesOne) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
   const auto run = [&](const FaultPlan& fault) {
     Empty();
     Build(2);
@@ -300,8 +300,6 @@ TEST_F(RenameBatch, NoFaultCostsAFileOrLeavesOne) {
 }
 
 TEST_F(RenameBatch, AFullJournalMakesRoomForANewOne) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
   const fs::path folder = Installed().work() / "Quillmax";
   fs::create_directories(folder);
   const std::string full(1024 * 1024 + 1, 'x');
@@ -319,8 +317,6 @@ TEST_F(RenameBatch, AFullJournalMakesRoomForANewOne) {
 // A process that ends before any of the calls leaves what the journal says; between a step and its
 // line nothing else is called but Windows, for the journal and the run log themselves.
 TEST_F(RenameBatch, TheJournalIsTrueBetweenAnyTwoCalls) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
   Build(7);
   for (size_t i = 0; i < rows_.size(); ++i) Give(i, i == 3 ? Kind::kSame : Kind::kFresh);
   const fs::path file = Installed().work() / "Quillmax" / "QmRename.txt";
@@ -375,8 +371,6 @@ TEST_F(RenameBatch, TheJournalIsTrueBetweenAnyTwoCalls) {
 class RenameMixtures : public RenameBatch, public testing::WithParamInterface<int> {};
 
 TEST_P(RenameMixtures, EndAsTheFirstWrongRowSays) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
   std::mt19937 random(static_cast<unsigned>(GetParam()));
   Build(12);
   for (int batch = 0; batch < 12; ++batch) {
