@@ -109,7 +109,7 @@ faults='*Script.Passes/*faults'
 other_faults='*OtherHabits/*faults'
 # Long tests that the code page has nothing to do with; those that chance makes long stay so.
 chance='RandomCommands.*:RepeatedRuns.*:DamagedInstallation.*'
-once="*Growth*:LifeCycle.*:RenameBatch.ThreeHundred*:*WhatNobodyAnswers*:*Script.Passes/*memory:$chance"
+once="*Growth*:LifeCycle.*:*WhatNobodyAnswers*:*Script.Passes/*memory:$chance"
 [ "$long" = yes ] && once=$chance
 
 # Tests under Wine in an environment, with a locale, and with a filter: in_wine PREFIX LOCALE FILTER

@@ -1,28 +1,21 @@
-// Bills of materials from small structures, and from one that is as deep as any host allows.
+// Bills of materials where names are missing or stand twice, and of a structure that is as deep as
+// any host allows. Ordinary ones are those of imported_bill_test.
 #include "export/bill/bill_rules.h"
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
 namespace qm {
 namespace {
 
-// A row as a user reads it.
-struct BillLine {
-  std::string position;
-  std::string name;
-  int level;
-  int64_t quantity;
-  bool operator==(const BillLine&) const = default;
-  friend std::ostream& operator<<(std::ostream& out, const BillLine& line) {
-    return out << line.position << ' ' << line.name << " level " << line.level << " x "
-               << line.quantity;
-  }
-};
+// Rows as a user reads them: "2.1 BOLT x 2".
+using BillTexts = std::vector<std::string>;
 
 std::string Narrow(const std::wstring& text) {
   return std::string(text.begin(), text.end());
+}
+
+std::string TextOf(const BillStructure& structure, const BillRow& row) {
+  return Narrow(structure.models[row.model].name) + " x " + std::to_string(row.quantity);
 }
 
 // Occurrences as a walk through all levels meets them.
@@ -44,34 +37,19 @@ BillStructure Pump() {
   return pump;
 }
 
-std::vector<BillLine> LinesOfRows(const BillStructure& structure,
-                                  const std::vector<BillRow>& rows) {
-  std::vector<BillLine> lines;
+BillTexts LevelTexts(const BillStructure& structure, int depth) {
+  BillTexts texts;
   PositionNumber position;
-  for (const BillRow& row : rows) {
-    lines.push_back({Narrow(position.Of(row)), Narrow(structure.models[row.model].name), row.level,
-                     row.quantity});
+  for (const BillRow& row : LevelBill(structure, depth)) {
+    texts.push_back(Narrow(position.Of(row)) + " " + TextOf(structure, row));
   }
-  return lines;
+  return texts;
 }
 
-std::vector<BillLine> LevelLines(const BillStructure& structure, int depth) {
-  return LinesOfRows(structure, LevelBill(structure, depth));
-}
-
-std::vector<std::pair<std::string, int64_t>> Totals(const BillStructure& structure) {
-  std::vector<std::pair<std::string, int64_t>> totals;
-  for (const BillRow& row : SummaryBill(structure)) {
-    totals.emplace_back(Narrow(structure.models[row.model].name), row.quantity);
-  }
-  return totals;
-}
-
-using TotalList = std::vector<std::pair<std::string, int64_t>>;
-
-TEST(SummaryBill, CountsEachModelOnAllLevelsInTheOrderOfAppearance) {
-  EXPECT_EQ(Totals(Pump()), (TotalList{{"BOLT", 7}, {"HOUSING", 2}, {"LID", 3}}));
-  EXPECT_EQ(Totals({}), TotalList{});
+BillTexts Totals(const BillStructure& structure) {
+  BillTexts texts;
+  for (const BillRow& row : SummaryBill(structure)) texts.push_back(TextOf(structure, row));
+  return texts;
 }
 
 TEST(SummaryBill, APartAndAnAssemblyOfOneNameAreTwoRows) {
@@ -81,45 +59,8 @@ TEST(SummaryBill, APartAndAnAssemblyOfOneNameAreTwoRows) {
                       {L"FRAME", PRO_MDL_ASSEMBLY, {3}},
                       {L"FRAME", PRO_MDL_PART, {}}};
   Occur(structure, 0);
-  EXPECT_EQ(Totals(structure), (TotalList{{"FRAME", 3}, {"FRAME", 1}}));
+  EXPECT_EQ(Totals(structure), (BillTexts{"FRAME x 3", "FRAME x 1"}));
   EXPECT_EQ(SummaryBill(structure)[1].model, 2u);
-}
-
-TEST(SummaryBill, AModelWithoutNameIsLeftOutButNotItsComponents) {
-  BillStructure structure = Pump();
-  structure.models[2].name.clear();
-  EXPECT_EQ(Totals(structure), (TotalList{{"BOLT", 7}, {"LID", 3}}));
-}
-
-TEST(LevelBill, ListsTheLevelsDownToTheDepth) {
-  const BillStructure pump = Pump();
-  const std::vector<BillLine> top = {
-      {"1", "BOLT", 1, 3}, {"2", "HOUSING", 1, 2}, {"3", "LID", 1, 1}};
-  const std::vector<BillLine> all = {{"1", "BOLT", 1, 3},
-                                     {"2", "HOUSING", 1, 2},
-                                     {"2.1", "BOLT", 2, 2},
-                                     {"2.2", "LID", 2, 1},
-                                     {"3", "LID", 1, 1}};
-  EXPECT_EQ(LevelLines(pump, 0), std::vector<BillLine>{});
-  EXPECT_EQ(LevelLines(pump, 1), top);
-  EXPECT_EQ(LevelLines(pump, 2), all);
-  EXPECT_EQ(LevelLines(pump, kAllLevels), all);
-}
-
-TEST(LevelBill, AnAssemblyStandsWithItsComponentsUnderEachParent) {
-  BillStructure structure;
-  structure.models = {{L"TOP", PRO_MDL_ASSEMBLY, {1, 2}},
-                      {L"LEFT", PRO_MDL_ASSEMBLY, {3}},
-                      {L"RIGHT", PRO_MDL_ASSEMBLY, {4, 3, 3}},
-                      {L"HINGE", PRO_MDL_ASSEMBLY, {4}},
-                      {L"PIN", PRO_MDL_PART, {}}};
-  EXPECT_EQ(LevelLines(structure, 9), (std::vector<BillLine>{{"1", "LEFT", 1, 1},
-                                                             {"1.1", "HINGE", 2, 1},
-                                                             {"1.1.1", "PIN", 3, 1},
-                                                             {"2", "RIGHT", 1, 1},
-                                                             {"2.1", "PIN", 2, 1},
-                                                             {"2.2", "HINGE", 2, 2},
-                                                             {"2.2.1", "PIN", 3, 1}}));
 }
 
 // The host knows models by name and type, the level bill its siblings by name: they stay apart in
@@ -131,33 +72,26 @@ TEST(LevelBill, SiblingsOfOneNameAreOneRowWhateverTheirTypes) {
                       {L"FRAME", PRO_MDL_ASSEMBLY, {4}},
                       {L"BOX", PRO_MDL_ASSEMBLY, {2}},
                       {L"BAR", PRO_MDL_PART, {}}};
-  EXPECT_EQ(LevelLines(structure, kAllLevels), (std::vector<BillLine>{{"1", "FRAME", 1, 3},
-                                                                      {"1.1", "BAR", 2, 1},
-                                                                      {"2", "BOX", 1, 1},
-                                                                      {"2.1", "FRAME", 2, 1},
-                                                                      {"2.1.1", "BAR", 3, 1}}));
-  const std::vector<BillRow> rows = LevelBill(structure, 2);
-  EXPECT_EQ(structure.models[rows[0].model].type, PRO_MDL_PART) << "shown as the first";
-  EXPECT_EQ(structure.models[rows[3].model].type, PRO_MDL_ASSEMBLY);
+  EXPECT_EQ(LevelTexts(structure, kAllLevels), (BillTexts{"1 FRAME x 3", "1.1 BAR x 1", "2 BOX x 1",
+                                                          "2.1 FRAME x 1", "2.1.1 BAR x 1"}));
+  EXPECT_EQ(structure.models[LevelBill(structure, 1)[0].model].type, PRO_MDL_PART)
+      << "shown as the first";
 }
 
-TEST(LevelBill, ModelsWithoutNameKeepTheirPlacesAndWhatTheyHold) {
+TEST(BillOfNameless, ModelsKeepTheirPlacesAndWhatTheyHoldAndAreNotInTheSummary) {
   BillStructure structure = Pump();
   structure.models[2].name.clear();
+  EXPECT_EQ(Totals(structure), (BillTexts{"BOLT x 7", "LID x 3"}));
   structure.models[3].name.clear();
-  EXPECT_EQ(LevelLines(structure, 2), (std::vector<BillLine>{{"1", "BOLT", 1, 3},
-                                                             {"2", "", 1, 2},
-                                                             {"2.1", "BOLT", 2, 2},
-                                                             {"2.2", "", 2, 1},
-                                                             {"3", "", 1, 1}}));
+  EXPECT_EQ(LevelTexts(structure, 2),
+            (BillTexts{"1 BOLT x 3", "2  x 2", "2.1 BOLT x 2", "2.2  x 1", "3  x 1"}));
 }
 
 TEST(LevelBill, AnAssemblyInsideItselfIsListedButNotEntered) {
   BillStructure structure;
   structure.models = {{L"TOP", PRO_MDL_ASSEMBLY, {1}}, {L"RING", PRO_MDL_ASSEMBLY, {1, 0}}};
-  EXPECT_EQ(
-      LevelLines(structure, kAllLevels),
-      (std::vector<BillLine>{{"1", "RING", 1, 1}, {"1.1", "RING", 2, 1}, {"1.2", "TOP", 2, 1}}));
+  EXPECT_EQ(LevelTexts(structure, kAllLevels),
+            (BillTexts{"1 RING x 1", "1.1 RING x 1", "1.2 TOP x 1"}));
 }
 
 TEST(LevelBill, AllLevelsMeansAllOfTenThousand) {

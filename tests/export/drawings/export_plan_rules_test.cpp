@@ -1,5 +1,5 @@
-// The files that drawings of one to four sheets give, in all combinations of the checks, against
-// the lists as a user would write them down.
+// The files that a drawing gives where something about it is not known. What is known gives those
+// of export_world_test.
 #include "export/drawings/export_plan_rules.h"
 
 #include <gtest/gtest.h>
@@ -43,66 +43,16 @@ DrawingFacts Drawing(int sheets) {
   return facts;
 }
 
-Lines Written(unsigned format, bool per_sheet, int sheets) {
-  const std::string head = Lines{"DWG\\", "DXF\\", "PDF\\", "STP\\", "IGS\\"}[format];
-  const std::string tail = Lines{".dwg", ".dxf", ".pdf", ".stp", ".igs"}[format];
-  const bool of_model = format >= 3;
-  if (!per_sheet && format >= 2) return {head + "d" + tail + " 0"};
-  if (sheets == 1 && !of_model) return {head + "d" + tail + (format == 2 ? " 0" : " 1")};
-  Lines lines;
-  for (int sheet = 1; sheet <= sheets; ++sheet) {
-    const std::string number = std::to_string(sheet);
-    const std::string own = (of_model ? "m" : "s") + number + tail + " " + number + " own";
-    lines.push_back(head + (per_sheet ? own : "d-" + number + tail + " " + number));
-  }
-  return lines;
-}
-
-TEST(ExportPlan, FollowsFormatsSheetsAndThePerSheetCheckInAllCombinations) {
-  for (unsigned combination = 0; combination < 64; ++combination) {
-    const bool per_sheet = combination >= 32;
-    for (int sheets = 1; sheets <= 4; ++sheets) {
-      Lines wanted;
-      for (unsigned format = 0; format < 5; ++format) {
-        if ((combination >> format & 1) == 0) continue;
-        const Lines lines = Written(format, per_sheet, sheets);
-        wanted.insert(wanted.end(), lines.begin(), lines.end());
-      }
-      const auto planned = PlanFiles(Drawing(sheets), Options(combination & 31, per_sheet));
-      EXPECT_EQ(LinesOf(planned), wanted) << combination << ", " << sheets << " sheets";
-    }
-  }
-}
-
-TEST(ExportPlan, ASheetWithoutViewsTakesTheNumberedNameAndGivesNoModelFile) {
-  DrawingFacts drawing = Drawing(2);
-  (*drawing.sheets)[1] = {};
-  EXPECT_EQ(
-      LinesOf(PlanFiles(drawing, Options(31, true))),
-      (Lines{"DWG\\s1.dwg 1 own", "DWG\\d-2.dwg 2 own", "DXF\\s1.dxf 1 own", "DXF\\d-2.dxf 2 own",
-             "PDF\\s1.pdf 1 own", "PDF\\d-2.pdf 2 own", "STP\\m1.stp 1 own",
-             "STP\\ 2 own not meant", "IGS\\m1.igs 1 own", "IGS\\ 2 own not meant"}));
-  (*drawing.sheets)[1] = {true, L"s2", std::nullopt};
-  EXPECT_EQ(LinesOf(PlanFiles(drawing, Options(8, true))),
-            (Lines{"STP\\m1.stp 1 own", "STP\\ 2 own cannot"}));
-}
-
 TEST(ExportPlan, ASheetOfWhichTheModelIsNotToldIsNoneWithoutViews) {
   DrawingFacts drawing = Drawing(2);
+  (*drawing.sheets)[1] = {};
+  EXPECT_EQ(LinesOf(PlanFiles(drawing, Options(9, true))),
+            (Lines{"DWG\\s1.dwg 1 own", "DWG\\d-2.dwg 2 own", "STP\\m1.stp 1 own",
+                   "STP\\ 2 own not meant"}));
   (*drawing.sheets)[1] = {true, std::nullopt, std::nullopt};
   EXPECT_EQ(LinesOf(PlanFiles(drawing, Options(9, true))),
             (Lines{"DWG\\s1.dwg 1 own", "DWG\\d-2.dwg 2 own", "STP\\m1.stp 1 own",
                    "STP\\ 2 own cannot"}));
-}
-
-TEST(ExportPlan, NamesThatLeadElsewhereAreNotAskedFor) {
-  for (const wchar_t* name : {L"..\\x", L"a:b", L"a/b"}) {
-    const auto files = PlanFiles({name, 1, std::nullopt}, Options(1, false));
-    ASSERT_EQ(files.size(), 1u);
-    EXPECT_EQ(files[0].plan, FilePlan::kCannot);
-    EXPECT_EQ(files[0].name, name + std::wstring(L".dwg"));
-  }
-  EXPECT_EQ(PlanFiles({L"a?b", 1, std::nullopt}, Options(1, false))[0].plan, FilePlan::kWrite);
 }
 
 TEST(ExportPlan, WithoutViewsTheFormatThatNeedsThemAndAllLaterOnesAreLost) {
@@ -126,11 +76,6 @@ TEST(ExportPlan, WithoutACountOnlyWhatNeedsNoneIsWritten) {
                    "IGS\\ 0 cannot"}));
   EXPECT_EQ(LinesOf(PlanNothing(Options(6, true), "gone")),
             (Lines{"DXF\\ 0 cannot", "PDF\\ 0 cannot"}));
-}
-
-TEST(ExportPlan, DrawingsGoInAscendingOrderAndEachOnce) {
-  EXPECT_EQ(InOrder({L"b", L"a10", L"B", L"a2", L"b", L"图", L"a10"}),
-            (std::vector<std::wstring>{L"B", L"a10", L"a2", L"b", L"图"}));
 }
 
 }  // namespace

@@ -61,6 +61,7 @@ class RenameBatch : public PluginHost {
     fs::create_directories(folder_);
     host_.session.ChangeDirectory(folder_);
     host_.user = &user_;
+    EXPECT_EQ(plugin_.Start(), 0);
   }
   ~RenameBatch() override { fs::remove_all(folder_); }
 
@@ -176,8 +177,7 @@ class RenameBatch : public PluginHost {
     return texts;
   }
 
-  // Runs the command once; gives how many calls it made.
-  long Run() {
+  void Run() {
     user_.typed.clear();
     for (const Row& row : rows_) user_.typed.push_back(row.typed);
     host_.events.Forget<MessageBox>();
@@ -185,18 +185,11 @@ class RenameBatch : public PluginHost {
     EXPECT_TRUE(run.known && run.available);
     EXPECT_EQ(run.left_out, Lines());
     EXPECT_EQ(TakeBreaches(), Lines());
-    return host_.trace.HostCalls();
-  }
-
-  long Count(const std::string& function) const {
-    const auto counts = host_.trace.Counts();
-    const auto found = counts.find(function);
-    return found == counts.end() ? 0 : found->second;
   }
 
   void CheckRefused(const FolderSnapshot& before, const std::string& refusal) {
     EXPECT_EQ(Boxes(), Lines{refusal});
-    EXPECT_EQ(Count("ProMdlRename"), 0);
+    EXPECT_EQ(host_.trace.Count("ProMdlRename"), 0);
     EXPECT_TRUE(before.Differences().empty());
     for (const Row& row : rows_) EXPECT_NE(host_.session.Find(row.before), nullptr);
   }
@@ -223,8 +216,9 @@ class RenameBatch : public PluginHost {
       old_names.insert(row.before.Text());
       EXPECT_EQ(host_.session.Find(row.before), nullptr);
     }
-    EXPECT_EQ(Count("ProMdlRename"), renamed + drawings);
-    EXPECT_EQ(Count("ProMdlSave"), Count("ProSolidCreate") + renamed + drawings);
+    EXPECT_EQ(host_.trace.Count("ProMdlRename"), renamed + drawings);
+    EXPECT_EQ(host_.trace.Count("ProMdlSave"),
+              host_.trace.Count("ProSolidCreate") + renamed + drawings);
     CheckNoFileKnows(old_names);
   }
 
@@ -250,23 +244,6 @@ class RenameBatch : public PluginHost {
     }
   }
 
-  // What a batch must do, in this order: the trials, then the rows.
-  Lines Operations() const {
-    Lines all;
-    for (const Row& row : rows_) {
-      // No trial where a part of the name lies.
-      const bool is_tried = row.renamed && row.typed != "old_1";
-      if (is_tried) all.insert(all.end(), {"ProSolidCreate", "ProMdlSave", "ProMdlErase"});
-    }
-    for (const Row& row : rows_) {
-      if (!row.renamed) continue;
-      all.push_back("ProMdlRename");
-      if (row.drawing != nullptr) all.insert(all.end(), {"ProMdlRename", "ProMdlSave"});
-      all.push_back("ProMdlSave");
-    }
-    return all;
-  }
-
   // Every model that is there has its files under its name, and nobody else has any.
   void CheckFilesAreOfModels() {
     std::set<std::string> expected = {"top.asm", "lying.asm", "lying.prt"};
@@ -286,54 +263,12 @@ class RenameBatch : public PluginHost {
   const fs::path folder_;
   RenamingUser user_;
   std::vector<Row> rows_;
+  Plugin plugin_{Installed().dll()};
 };
-
-// Of 300: most are renamed, the others of every kind that lets a batch pass.
-Kind KindThatPasses(size_t i) {
-  if (i == 10) return Kind::kLongest;
-  if (i == 12 || i == 13) return Kind::kOfOtherType;
-  if (i % 11 == 5) return Kind::kEmpty;
-  return i % 7 == 6 ? Kind::kSame : Kind::kFresh;
-}
-
-TEST_F(RenameBatch, ThreeHundredModelsWithDrawingsAreRenamedOrNone) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
-  Build(300);
-  for (size_t i = 0; i < rows_.size(); ++i) Give(i, KindThatPasses(i));
-  const std::vector<Row> good = rows_;
-  // Of parts and of assemblies; most near the beginning, since those before them are all tried.
-  const std::pair<size_t, Kind> wrong[] = {
-      {299, Kind::kOfEarlierRow}, {297, Kind::kIllegal}, {4, Kind::kTooLong},
-      {3, Kind::kNoBuffer},       {4, Kind::kInSession}, {3, Kind::kInSession},
-      {4, Kind::kOnDisk},         {3, Kind::kOnDisk},    {4, Kind::kIllegal},
-      {3, Kind::kOfEarlierRow},
-  };
-  for (const auto& [row, kind] : wrong) {
-    rows_ = good;
-    Give(row, kind);
-    const FolderSnapshot before(folder_);
-    Run();
-    CheckRefused(before, rows_[row].refusal);
-  }
-  rows_ = good;
-  Lines operations;
-  user_.at_call = [&](const std::string& function) {
-    const bool is_one = function == "ProSolidCreate" || function == "ProMdlSave" ||
-                        function == "ProMdlErase" || function == "ProMdlRename";
-    if (is_one) operations.push_back(function);
-  };
-  Run();
-  user_.at_call = nullptr;
-  EXPECT_EQ(operations, Operations());
-  CheckDone();
-}
 
 // Whatever fails: no file of the user's goes, none of a trial stays, and the option is what the
 // outcome says.
 TEST_F(RenameBatch, NoFaultCostsAFileOrLeavesOne) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
   const auto run = [&](const FaultPlan& fault) {
     Empty();
     Build(2);
@@ -365,8 +300,6 @@ TEST_F(RenameBatch, NoFaultCostsAFileOrLeavesOne) {
 }
 
 TEST_F(RenameBatch, AFullJournalMakesRoomForANewOne) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
   const fs::path folder = Installed().work() / "Quillmax";
   fs::create_directories(folder);
   const std::string full(1024 * 1024 + 1, 'x');
@@ -381,25 +314,9 @@ TEST_F(RenameBatch, AFullJournalMakesRoomForANewOne) {
   EXPECT_EQ(journal.find("xx"), std::string::npos);
 }
 
-TEST_F(RenameBatch, EachRowCostsTheSameNumberOfCalls) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
-  std::vector<long> calls;
-  // The first batch gives the option its value.
-  for (const int count : {3, 30, 60, 90}) {
-    Empty();
-    Build(count);
-    for (size_t i = 0; i < rows_.size(); ++i) Give(i, Kind::kFresh);
-    calls.push_back(Run());
-  }
-  EXPECT_EQ(calls[3] - calls[2], calls[2] - calls[1]);
-}
-
 // A process that ends before any of the calls leaves what the journal says; between a step and its
 // line nothing else is called but Windows, for the journal and the run log themselves.
 TEST_F(RenameBatch, TheJournalIsTrueBetweenAnyTwoCalls) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
   Build(7);
   for (size_t i = 0; i < rows_.size(); ++i) Give(i, i == 3 ? Kind::kSame : Kind::kFresh);
   const fs::path file = Installed().work() / "Quillmax" / "QmRename.txt";
@@ -454,8 +371,6 @@ TEST_F(RenameBatch, TheJournalIsTrueBetweenAnyTwoCalls) {
 class RenameMixtures : public RenameBatch, public testing::WithParamInterface<int> {};
 
 TEST_P(RenameMixtures, EndAsTheFirstWrongRowSays) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
   std::mt19937 random(static_cast<unsigned>(GetParam()));
   Build(12);
   for (int batch = 0; batch < 12; ++batch) {

@@ -33,12 +33,6 @@ extern "C" __declspec(dllexport) bool ReadTable(const wchar_t* path, wchar_t* te
   return true;
 }
 
-extern "C" __declspec(dllexport) bool ChooseTable(wchar_t* path, int size) {
-  const auto choice = qm::ChooseWorkbookToRead();
-  if (choice) path[choice->copy(path, static_cast<size_t>(size) - 1)] = L'\0';
-  return choice.has_value();
-}
-
 extern "C" __declspec(dllexport) bool CheckFree(const wchar_t* path) {
   return qm::IsFreeToWrite(path);
 }

@@ -11,9 +11,6 @@ using WriteRowsProbe = bool (*)(const wchar_t* path, int rows);
 // False when the workbook cannot be read.
 using ReadProbe = bool (*)(const wchar_t* path, wchar_t* texts, int size);
 
-// The open dialog for a table; false when nothing was chosen.
-using ChooseProbe = bool (*)(wchar_t* path, int size);
-
 // Whether a file may be written.
 using CheckProbe = bool (*)(const wchar_t* path);
 

@@ -36,16 +36,10 @@ TEST(AsPlainText, LeavesOrdinaryTitlesAndLabelsAlone) {
 }
 
 TEST(WholePart, CutsAtTheDecimalSign) {
-  const struct {
-    double number;
-    const wchar_t* text;
-  } cases[] = {{1001, L"1001"},
-               {1.9, L"1"},
-               {0, L"0"},
-               {-7.5, L"-7"},
-               {123456789012345, L"123456789012345"},
-               {std::numeric_limits<double>::quiet_NaN(), L""}};
-  for (const auto& c : cases) EXPECT_EQ(WholePart(c.number), c.text) << (&c - cases);
+  EXPECT_EQ(WholePart(1.9), L"1");
+  EXPECT_EQ(WholePart(-7.5), L"-7");
+  EXPECT_EQ(WholePart(123456789012345), L"123456789012345");
+  EXPECT_EQ(WholePart(std::numeric_limits<double>::quiet_NaN()), L"");
 }
 
 }  // namespace
