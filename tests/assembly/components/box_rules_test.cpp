@@ -1,4 +1,4 @@
-// What is no box, and the text of one. Boxes of turned parts: imported_structure_test.cpp.
+// What is no box, and the text of one. Boxes of turned parts: random_structure_test.cpp.
 #include "assembly/components/box_rules.h"
 
 #include <gtest/gtest.h>
