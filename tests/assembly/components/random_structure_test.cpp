@@ -98,7 +98,7 @@ class RandomStructure : public PluginHost {
     std::vector<ModelName> names;
     for (size_t left = 4 + random_() % 12; left-- > 0;) {
       const size_t others = names.size();
-      const size_t uses = others == 0 || random_() % 2 == 0 ? 0 : random_() % 4;
+      const size_t uses = others == 0 || random_() % 3 == 0 ? 0 : 1 + random_() % 3;
       const size_t components = left == 0 ? 4 : uses;
       Model model(
           {"n" + std::to_string(left), components == 0 ? ModelKind::kPart : ModelKind::kAssembly});
@@ -202,7 +202,7 @@ class RandomStructure : public PluginHost {
   }
   void AddSurfaces(Model& part) {
     ItemList<Surface>& surfaces = part.solid().surfaces;
-    for (unsigned left = random_() % 3; left > 0; --left) {
+    for (unsigned left = random_() % 4; left > 0; --left) {
       Box box;
       for (size_t i = 0; i < 3; ++i) {
         const auto [low, high] = std::minmax({Number(50), Number(50)});
