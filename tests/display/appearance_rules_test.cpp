@@ -1,32 +1,24 @@
-// Thresholds of the transparency switches, the checks of the host's numbers, and the macro.
+// Thresholds of the transparency switches and the checks of the host's numbers.
 #include "display/appearance_rules.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <string_view>
-
-#include "display/clear_all_macro.h"
 
 namespace qm {
 namespace {
 
 TEST(ModelTransparency, SwitchesBelowOneFifth) {
-  EXPECT_EQ(SwitchedModelTransparency(0.0), 0.618);
-  EXPECT_EQ(SwitchedModelTransparency(0.1), 0.618);
-  EXPECT_EQ(SwitchedModelTransparency(std::nextafter(0.2, 0)), 0.618);
-  EXPECT_EQ(SwitchedModelTransparency(0.2), 0.0);
-  EXPECT_EQ(SwitchedModelTransparency(0.3), 0.0);
-  EXPECT_EQ(SwitchedModelTransparency(0.618), 0.0);
+  for (const double opaque : {0.0, 0.1, std::nextafter(0.2, 0)}) {
+    EXPECT_EQ(SwitchedModelTransparency(opaque), 0.618) << opaque;
+  }
+  for (const double clear : {0.2, 0.618}) EXPECT_EQ(SwitchedModelTransparency(clear), 0.0) << clear;
 }
 
 TEST(SurfaceTransparency, SwitchesBackWhenNearlyClear) {
-  EXPECT_EQ(SwitchedSurfaceTransparency(1.0), 0.0);
-  EXPECT_EQ(SwitchedSurfaceTransparency(0.96), 0.0);
-  EXPECT_EQ(SwitchedSurfaceTransparency(0.9), 1.0);
-  EXPECT_EQ(SwitchedSurfaceTransparency(0.0), 1.0);
+  for (const double clear : {1.0, 0.96}) EXPECT_EQ(SwitchedSurfaceTransparency(clear), 0.0);
   // 1 - 0.95 is a little more than 0.05 in doubles.
-  EXPECT_EQ(SwitchedSurfaceTransparency(0.95), 1.0);
+  for (const double opaque : {0.0, 0.9, 0.95}) EXPECT_EQ(SwitchedSurfaceTransparency(opaque), 1.0);
 }
 
 TEST(AppearanceNumbers, AreCheckedBeforeTheyAreUsed) {
@@ -48,18 +40,6 @@ TEST(AppearanceNumbers, AreCheckedBeforeTheyAreUsed) {
     numbers.transparency = wrong;
     EXPECT_FALSE(AreAppearance(numbers)) << wrong;
   }
-}
-
-// The host's users have recorded it so, blanks included.
-TEST(ClearAllMacro, KeepsItsIrregularBlanks) {
-  const std::wstring_view macro = kClearAllMacro;
-  EXPECT_EQ(macro.size(), 474u);
-  EXPECT_TRUE(macro.starts_with(L"~ Select `main_dlg_cur` `ProCmdViewGallery.view`; ~ Select"));
-  EXPECT_TRUE(macro.ends_with(L"`yes`;~ Activate `UI Message Dialog` `yes`;"));
-  EXPECT_NE(macro.find(L"`clearAllAppearance`;~ Close `main_dlg_cur`  `"), macro.npos);
-  size_t steps = 0;
-  for (const wchar_t c : macro) steps += c == L';';
-  EXPECT_EQ(steps, 8u);
 }
 
 }  // namespace

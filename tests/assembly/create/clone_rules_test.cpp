@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
-
 namespace qm {
 namespace {
 
@@ -17,21 +15,15 @@ TEST(CloneRules, TheModeIsAWordWithoutCaseAndBlanks) {
   }
 }
 
-// "_01" ... "_09", "_10" ... as another program's format writes them.
-std::wstring Formatted(const wchar_t* base, const char* format, int number) {
-  char text[16] = {};
-  std::snprintf(text, sizeof(text), format, number);
-  return base + std::wstring(text, text + std::char_traits<char>::length(text));
-}
-
 TEST(CloneRules, NumbersStandBehindTheBase) {
   const NewNaming parts = NamingBelow(L"PUMP_00", PRO_MDL_PART);
   const NewNaming assemblies = NamingBelow(L"PUMP_00", PRO_MDL_ASSEMBLY);
   const NewNaming copies = NamingAfterComponent(L"Valve_00");
-  for (int number = 1; number <= 120; ++number) {
-    EXPECT_EQ(NumberedName(parts, number), Formatted(L"PUMP", "-%d", number));
-    EXPECT_EQ(NumberedName(assemblies, number), Formatted(L"PUMP", "_%02d", number));
-    EXPECT_EQ(NumberedName(copies, number), Formatted(L"Valve_00", "-%d", number));
+  for (const int number : {1, 9, 10, 99, 100}) {
+    const std::wstring digits = std::to_wstring(number);
+    EXPECT_EQ(NumberedName(parts, number), L"PUMP-" + digits);
+    EXPECT_EQ(NumberedName(assemblies, number), (number < 10 ? L"PUMP_0" : L"PUMP_") + digits);
+    EXPECT_EQ(NumberedName(copies, number), L"Valve_00-" + digits);
   }
   EXPECT_EQ(parts.probed_as, PRO_MDL_PART);
   EXPECT_EQ(assemblies.probed_as, PRO_MDL_ASSEMBLY);
