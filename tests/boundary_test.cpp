@@ -20,7 +20,27 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class Boundary : public PluginHost {};
+class Boundary : public PluginHost {
+ protected:
+  MessageBox VersionBox() {
+    host_.events.Forget<MessageBox>();
+    RunCommand("QmVersion");
+    const auto boxes = host_.events.All<MessageBox>();
+    EXPECT_EQ(boxes.size(), 1u);
+    return boxes.empty() ? MessageBox() : boxes[0];
+  }
+};
+
+// With the plug-in started.
+class StartedPlugin : public Boundary {
+ protected:
+  StartedPlugin() { EXPECT_EQ(plugin_.Start(), 0); }
+
+  const std::deque<Command>& Registered() const { return host_.commands.commands; }
+
+ private:
+  Plugin plugin_{Installed().dll()};
+};
 
 // The library with the probes, its Windows calls intercepted.
 class ProbeLibrary {
@@ -162,19 +182,17 @@ std::string ValueOr(const std::map<std::string, std::string>& odd, const std::st
   return found == odd.end() ? regular : found->second;
 }
 
-TEST_F(Boundary, EveryCommandHasItsLabelHelpAndIcon) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
-  const Menu* const menu = host_.commands.FindMenu("Menu");
-  ASSERT_NE(menu, nullptr);
+TEST_F(StartedPlugin, EveryCommandHasItsLabelHelpAndIcon) {
   const Lines names = NamesInOrder(kMenuOrder);
   ASSERT_EQ(names.size(), 55u);
+  const Menu* const menu = host_.commands.FindMenu("Menu");
+  ASSERT_NE(menu, nullptr);
   ASSERT_EQ(menu->buttons.size(), names.size());
-  ASSERT_EQ(host_.commands.commands.size(), names.size());
+  ASSERT_EQ(Registered().size(), names.size());
   for (size_t i = 0; i < names.size(); ++i) {
     const std::string& name = names[i];
     const MenuButton& button = menu->buttons[i];
-    const Command& command = host_.commands.commands[i];
+    const Command& command = Registered()[i];
     EXPECT_EQ(command.name, name);
     EXPECT_EQ(button.command, &command) << name;
     EXPECT_EQ(button.name, name);
@@ -217,49 +235,33 @@ fs::path HeaderOf(const std::string& command) {
   return {};
 }
 
-bool HasMenuTexts(const char* language, const MenuButton& button) {
-  const MessageFile file =
-      MessageFile::Load(kProject / "install" / "text" / language / "qmMenu.txt");
-  return file.Find(button.label_key) != nullptr && file.Find(button.help_key) != nullptr;
-}
-
 // What a command lacks, in words; `icon` is the file that it is registered with.
-Lines MissingParts(const MenuButton& button, const std::string& icon) {
-  const std::string stem = StemOf(button.name);
-  const fs::path header = HeaderOf(button.name);
-  if (header.empty()) return {stem + ": no " + stem + ".h in src declares " + button.name};
-  const fs::path source = kProject / "src" / fs::path(header).replace_extension(".cpp");
-  const fs::path script = fs::path("tests") / "scripts" / *header.begin() / (stem + ".qms");
-  const fs::path drawn = fs::path("install") / "icons" / fs::path(icon).replace_extension(".svg");
-  const fs::path dialogs = fs::path("install") / "text" / "resource";
+Lines MissingParts(const std::string& command, const std::string& icon) {
+  const std::string stem = StemOf(command);
+  const fs::path header = HeaderOf(command);
+  if (header.empty()) return {stem + ": no " + stem + ".h in src declares " + command};
+  const fs::path source = "src" / fs::path(header).replace_extension(".cpp");
+  const fs::path dialogs = "install/text/resource";
   // A few dialogs bear the command's name without its beginning.
-  const bool is_short = button.name.starts_with("Qm") &&
-                        fs::is_regular_file(kProject / dialogs / (button.name.substr(2) + ".res"));
-  const fs::path dialog = dialogs / (button.name.substr(is_short ? 2 : 0) + ".res");
+  const bool is_short = command.starts_with("Qm") &&
+                        fs::is_regular_file(kProject / dialogs / (command.substr(2) + ".res"));
+  std::vector<fs::path> parts = {source,
+                                 fs::path("tests/scripts") / *header.begin() / (stem + ".qms"),
+                                 "install/icons" / fs::path(icon).replace_extension(".svg")};
+  if (!Matches(ReadText(kProject / source), R"(\w*Dialog\()").empty()) {
+    parts.push_back(dialogs / (command.substr(is_short ? 2 : 0) + ".res"));
+  }
   Lines missing;
-  const auto want = [&](const fs::path& file) {
-    if (!fs::is_regular_file(kProject / file)) {
-      missing.push_back(stem + ": no " + file.generic_string());
-    }
-  };
-  want(fs::relative(source, kProject));
-  want(script);
-  want(drawn);
-  if (!Matches(ReadText(source), R"(\w*Dialog\()").empty()) want(dialog);
-  for (const char* const language : {"chinese_cn", "usascii"}) {
-    if (!HasMenuTexts(language, button)) missing.push_back(stem + ": no texts in " + language);
+  for (const fs::path& part : parts) {
+    if (fs::is_regular_file(kProject / part)) continue;
+    missing.push_back(stem + ": no " + part.generic_string());
   }
   return missing;
 }
 
-TEST_F(Boundary, EveryCommandHasItsPartsUnderOneStem) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
-  const Menu* const menu = host_.commands.FindMenu("Menu");
-  ASSERT_NE(menu, nullptr);
-  for (size_t i = 0; i < menu->buttons.size(); ++i) {
-    const MenuButton& button = menu->buttons[i];
-    EXPECT_EQ(MissingParts(button, host_.commands.commands[i].icon), Lines()) << button.name;
+TEST_F(StartedPlugin, EveryCommandHasItsPartsUnderOneStem) {
+  for (const Command& command : Registered()) {
+    EXPECT_EQ(MissingParts(command.name, command.icon), Lines()) << command.name;
   }
 }
 
@@ -293,44 +295,31 @@ Lines OthersThan(const std::set<std::string>& named, const std::deque<Command>& 
   return missing;
 }
 
-TEST_F(Boundary, EveryCommandIsSweptAndOnTheTour) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
-  ASSERT_FALSE(host_.commands.commands.empty());
-  EXPECT_EQ(OthersThan(SweptCommands(), host_.commands.commands), Lines()) << "not swept";
+TEST_F(StartedPlugin, EveryCommandIsSweptAndOnTheTour) {
+  ASSERT_FALSE(Registered().empty());
+  EXPECT_EQ(OthersThan(SweptCommands(), Registered()), Lines()) << "not swept";
   const fs::path tour = kProject / "demo" / "tour.qms";
-  EXPECT_EQ(OthersThan(CommandsIn(tour, {"run", "sweep"}), host_.commands.commands), Lines())
+  EXPECT_EQ(OthersThan(CommandsIn(tour, {"run", "sweep"}), Registered()), Lines())
       << "not on the tour";
 }
 
 // The walk above tells what is missing of a command by its stem.
-TEST_F(Boundary, AMissingPartOfACommandIsNamedByItsStem) {
-  MenuButton button;
-  button.name = "QmQQGroup";
-  button.label_key = button.help_key = "no such key";
-  EXPECT_EQ(MissingParts(button, "none.png"),
-            (Lines{"qq_group: no install/icons/none.svg", "qq_group: no texts in chinese_cn",
-                   "qq_group: no texts in usascii"}));
-  button.name = "QmMergeToNowhere";
-  EXPECT_EQ(MissingParts(button, "none.png"),
-            (Lines{"merge_to_nowhere: no merge_to_nowhere.h in src declares QmMergeToNowhere"}));
+TEST(CommandParts, AMissingOneIsNamedByTheStem) {
+  EXPECT_EQ(MissingParts("QmQQGroup", "none.png"), Lines{"qq_group: no install/icons/none.svg"});
+  EXPECT_EQ(MissingParts("QmMergeToNowhere", "none.png"),
+            Lines{"merge_to_nowhere: no merge_to_nowhere.h in src declares QmMergeToNowhere"});
 }
 
 // The build's name differs from one to the next, so no script can compare the whole text.
-TEST_F(Boundary, TheVersionBoxTellsProductBuildAndBinding) {
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
-  host_.events.Forget<MessageBox>();
-  RunCommand("QmVersion");
-  const auto boxes = host_.events.All<MessageBox>();
-  ASSERT_EQ(boxes.size(), 1u);
-  EXPECT_EQ(boxes[0].caption, "羽石工具箱");
-  EXPECT_EQ(boxes[0].style, 0x40000u);
-  const auto parts = Matches(boxes[0].text,
+TEST_F(StartedPlugin, TheVersionBoxTellsProductBuildAndBinding) {
+  const MessageBox box = VersionBox();
+  EXPECT_EQ(box.caption, "羽石工具箱");
+  EXPECT_EQ(box.style, 0x40000u);
+  const auto parts = Matches(box.text,
                              "^\t羽石工具箱 Quillmax 5\\.1 C3\t\n\t构建：\\w+\t\n"
                              "\t宿主接口：共 (\\d+) 个函数，已绑定 (\\d+) 个，缺失 0 个，"
                              "尚未使用 (\\d+) 个\t$");
-  ASSERT_EQ(parts.size(), 1u) << boxes[0].text;
+  ASSERT_EQ(parts.size(), 1u) << box.text;
   size_t declared = 0;
   for (const auto& file : fs::directory_iterator(kProject / "src" / "toolkit")) {
     declared += Matches(ReadText(file.path()), R"(\nPRO_FUNCTION\()").size();
@@ -349,16 +338,13 @@ TEST_F(Boundary, TheVersionBoxNamesFunctionsThatTheHostLacks) {
   Plugin plugin(dll);
   ASSERT_EQ(plugin.Start(), 0);
   RunCommand("ForTest");
-  host_.events.Forget<MessageBox>();
-  RunCommand("QmVersion");
-  const auto boxes = host_.events.All<MessageBox>();
-  ASSERT_EQ(boxes.size(), 1u);
-  EXPECT_NE(boxes[0].text.find("缺失 1 个，"), std::string::npos) << boxes[0].text;
-  EXPECT_TRUE(boxes[0].text.ends_with("个\t\n\t　ProMdlCurrentGet\t")) << boxes[0].text;
+  const MessageBox box = VersionBox();
+  EXPECT_NE(box.text.find("缺失 1 个，"), std::string::npos) << box.text;
+  EXPECT_TRUE(box.text.ends_with("个\t\n\t　ProMdlCurrentGet\t")) << box.text;
 }
 
-// The modes in which each command can be used, out of all that the host may report.
-TEST_F(Boundary, EveryCommandIsAvailableInTheModesOfItsRuleAndGreyElsewhere) {
+// The modes in which a command can be used, out of all that the host may report.
+std::set<int> ModesOf(const std::string& command) {
   const struct {
     std::set<int> modes;
     const char* commands;
@@ -374,26 +360,23 @@ TEST_F(Boundary, EveryCommandIsAvailableInTheModesOfItsRuleAndGreyElsewhere) {
       {{6},
        "SameScale QmDimModify QmExportDwg QmExportPdf QmUpdateSheetScale QmUpdateMainViewScale "
        "QmSingleDim"},
-      {{0, 1, 2, 3, 4, 5, 6, 7, 8, 9},
-       "QmOpenDir QmNormalView QmExport QmFrmReplace QmDrwScaleCheck QmSetDirectory QmConfig "
-       "ForTest QmQQGroup QmVersion AboutQm"},
   };
-  constexpr int kUnavailable = 1;
-  constexpr int kAvailable = 3;
-  Plugin plugin(Installed().dll());
-  ASSERT_EQ(plugin.Start(), 0);
-  size_t covered = 0;
   for (const auto& rule : rules) {
-    for (const std::string& name : NamesInOrder(rule.commands)) {
-      ++covered;
-      for (host_.forced_mode = 0; host_.forced_mode < 10; ++host_.forced_mode) {
-        EXPECT_EQ(AskAccess(name),
-                  rule.modes.contains(host_.forced_mode) ? kAvailable : kUnavailable)
-            << name << " in mode " << host_.forced_mode;
-      }
-    }
+    if (std::ranges::count(NamesInOrder(rule.commands), command) > 0) return rule.modes;
   }
-  EXPECT_EQ(covered, host_.commands.commands.size());
+  return {0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
+}
+
+TEST_F(StartedPlugin, EveryCommandIsAvailableInTheModesOfItsRuleAndGreyElsewhere) {
+  for (const Command& command : Registered()) {
+    std::set<int> available;
+    for (host_.forced_mode = 0; host_.forced_mode < 10; ++host_.forced_mode) {
+      const bool is_available = AskAccess(command.name) == ACCESS_AVAILABLE;
+      if (is_available) available.insert(host_.forced_mode);
+      EXPECT_TRUE(is_available || AskAccess(command.name) == ACCESS_UNAVAILABLE) << command.name;
+    }
+    EXPECT_EQ(available, ModesOf(command.name)) << command.name;
+  }
 }
 
 }  // namespace

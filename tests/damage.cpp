@@ -13,36 +13,12 @@ constexpr std::string_view kExtremes[] = {
     "0",      "-1",    "2147483647", "2147483648", "-2147483649", "18446744073709551616",
     "1e308",  "1e999", "-0.0",       "nan",        "0x7fffffff",  "00000000000000000001",
     "3.14.15"};
-constexpr std::string_view kBytes[] = {"\"",
-                                       "'",
-                                       "(",
-                                       ")",
-                                       "[",
-                                       "]",
-                                       "{",
-                                       "}",
-                                       "<",
-                                       ">",
-                                       "&",
-                                       ";",
-                                       ",",
-                                       "=",
-                                       "#",
-                                       "%",
-                                       "\\",
-                                       "\n",
-                                       "\r\n",
-                                       "\t",
-                                       "\xFF",
-                                       "\xEF\xBB\xBF",
-                                       "\xC3",
-                                       "\xED\xA0\x80",
-                                       "\xF0\x9F\x98\x80",
-                                       "%0w",
-                                       "%9d",
-                                       "$",
-                                       "*",
-                                       std::string_view("\0", 1)};
+// clang-format off
+constexpr std::string_view kBytes[] = {
+    "\"", "'", "(", ")", "[", "]", "{", "}", "<", ">", "&", ";", ",", "=", "#", "%", "\\", "\n",
+    "\r\n", "\t", "\xFF", "\xEF\xBB\xBF", "\xC3", "\xED\xA0\x80", "\xF0\x9F\x98\x80", "%0w", "%9d",
+    "$", "*", std::string_view("\0", 1)};
+// clang-format on
 constexpr std::string_view kOpening = "([{<\"";
 
 class Damage {

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <functional>
 #include <set>
 
 #include "tests/plugin_host.h"
@@ -17,6 +16,14 @@
 namespace wb {
 namespace {
 
+// The plug-in under a name of its own: what was looked up once is never looked up again.
+std::filesystem::path CopiedLibrary(const std::string& name) {
+  const std::filesystem::path dll = Installed().tree() / name;
+  std::filesystem::copy_file(Installed().dll(), dll,
+                             std::filesystem::copy_options::overwrite_existing);
+  return dll;
+}
+
 class LifeCycle : public PluginHost {
  protected:
   void StartAndStop(Plugin& plugin) {
@@ -27,12 +34,6 @@ class LifeCycle : public PluginHost {
     host_.trace.Restart();
   }
 };
-
-DWORD HandleCount() {
-  DWORD count = 0;
-  ::GetProcessHandleCount(::GetCurrentProcess(), &count);
-  return count;
-}
 
 long long MemoryInUse() {
   PROCESS_MEMORY_COUNTERS counters = {};
@@ -148,9 +149,7 @@ TEST_F(LifeOfAllCommands, ADozenLivesLeaveWhatTheFirstOneLeft) {
 
 // A library that was never started goes with its unloading, and takes everything along.
 TEST_F(LifeCycle, TwoThousandLoadsAndUnloadsWithoutAStart) {
-  const std::filesystem::path dll = Installed().tree() / "unstarted.dll";
-  std::filesystem::copy_file(Installed().dll(), dll,
-                             std::filesystem::copy_options::overwrite_existing);
+  const std::filesystem::path dll = CopiedLibrary("unstarted.dll");
   constexpr long long kNoise = 2 * 1024 * 1024;
   long long memory_before = 0;
   for (int i = 0; i < 2000; ++i) {
@@ -174,12 +173,8 @@ std::set<std::string> HostFunctions() {
   return names;
 }
 
-// Under a name of its own: what was looked up once is never looked up again.
 TEST_F(LifeCycle, AProcessThatOffersNothingAtAllIsRefusedWithASentence) {
-  const std::filesystem::path dll = Installed().tree() / "foreign.dll";
-  std::filesystem::copy_file(Installed().dll(), dll,
-                             std::filesystem::copy_options::overwrite_existing);
-  Plugin plugin(dll);
+  Plugin plugin(CopiedLibrary("foreign.dll"));
   host_.windows.withheld = HostFunctions();
   ASSERT_GT(host_.windows.withheld.size(), 100u);
   for (int i = 0; i < 2; ++i) {
@@ -250,10 +245,8 @@ TEST_F(ShortMemory, AFirstStartLivesWhicheverAllocationFails) {
   for (const bool from_then_on : {false, true}) {
     long nth = 0;
     for (bool struck = true; struck;) {
-      const std::filesystem::path dll =
-          Installed().tree() / (std::to_string(++nth) + (from_then_on ? " on.dll" : " once.dll"));
-      std::filesystem::copy_file(Installed().dll(), dll);
-      Plugin plugin(dll);
+      Plugin plugin(
+          CopiedLibrary(std::to_string(++nth) + (from_then_on ? " on.dll" : " once.dll")));
       struck = StartShort(plugin, nth, from_then_on);
       EXPECT_EQ(plugin.Start(), 0) << "after a failure at allocation " << nth;
     }
@@ -269,18 +262,39 @@ struct FaultRow {
   bool from_then_on;
 };
 constexpr FaultRow kFaults[] = {
-    {"general error, once", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, false},
-    {"general error, from then on", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, true},
-    {"bad context, once", FaultKind::kStatus, PRO_TK_BAD_CONTEXT, false},
-    {"bad context, from then on", FaultKind::kStatus, PRO_TK_BAD_CONTEXT, true},
-    {"empty success, once", FaultKind::kEmptySuccess, PRO_TK_NO_ERROR, false},
-    {"empty success, from then on", FaultKind::kEmptySuccess, PRO_TK_NO_ERROR, true},
+    {"GeneralErrorOnce", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, false},
+    {"GeneralErrorFromThenOn", FaultKind::kStatus, PRO_TK_GENERAL_ERROR, true},
+    {"BadContextOnce", FaultKind::kStatus, PRO_TK_BAD_CONTEXT, false},
+    {"BadContextFromThenOn", FaultKind::kStatus, PRO_TK_BAD_CONTEXT, true},
+    {"EmptySuccessOnce", FaultKind::kEmptySuccess, PRO_TK_NO_ERROR, false},
+    {"EmptySuccessFromThenOn", FaultKind::kEmptySuccess, PRO_TK_NO_ERROR, true},
 };
 
 class DisturbedLifeCycle : public PluginHost, public testing::WithParamInterface<FaultRow> {
  protected:
-  // Runs `part` with its n-th call of the host or of Windows failed; true when there was one.
-  bool Disturb(int nth, const std::function<void()>& part) {
+  // Runs `part` with its n-th call of the host or of Windows failed, for each n, and what belongs
+  // before and behind it undisturbed; gives the first n that there is no call for.
+  template <class Before, class Part, class Behind>
+  int DisturbEach(const Before& before, const Part& part, const Behind& behind) {
+    for (int nth = 1;; ++nth) {
+      SCOPED_TRACE("call " + std::to_string(nth));
+      before();
+      OrderFault(nth);
+      part();
+      const bool struck = host_.faults.struck() > 0;
+      host_.faults.Clear();
+      behind();
+      EXPECT_EQ(TakeBreaches(), Lines());
+      EXPECT_TRUE(host_.accounts.open().empty());
+      host_.trace.Restart();
+      if (!struck || HasFailure()) return nth;
+    }
+  }
+  void Start() { EXPECT_EQ(plugin_.Start(), 0); }
+  void Stop() { plugin_.Stop(); }
+
+ private:
+  void OrderFault(int nth) {
     const FaultRow& row = GetParam();
     FaultPlan plan;
     plan.windows_too = true;
@@ -289,49 +303,21 @@ class DisturbedLifeCycle : public PluginHost, public testing::WithParamInterface
     plan.kind = row.kind;
     plan.status = row.status;
     host_.faults.Order(plan);
-    part();
-    const bool struck = host_.faults.struck() > 0;
-    host_.faults.Clear();
-    return struck;
   }
+
+  Plugin plugin_{Installed().dll()};
 };
 
 TEST_P(DisturbedLifeCycle, StartAnswersSuccessWhicheverOfItsCallsFails) {
-  Plugin plugin(Installed().dll());
-  int nth = 1;
-  for (;; ++nth) {
-    const bool struck = Disturb(
-        nth, [&] { ASSERT_EQ(plugin.Start(), 0) << GetParam().name << " at call " << nth; });
-    plugin.Stop();
-    ASSERT_EQ(TakeBreaches(), Lines()) << GetParam().name << " at call " << nth;
-    ASSERT_TRUE(host_.accounts.open().empty()) << GetParam().name << " at call " << nth;
-    host_.trace.Restart();
-    if (!struck) break;
-  }
-  EXPECT_GT(nth, 200);
+  EXPECT_GT(DisturbEach([] {}, [&] { Start(); }, [&] { Stop(); }), 200);
 }
 
 TEST_P(DisturbedLifeCycle, StopLeavesNothingOutWhicheverOfItsCallsFails) {
-  Plugin plugin(Installed().dll());
-  int nth = 1;
-  for (;; ++nth) {
-    ASSERT_EQ(plugin.Start(), 0);
-    const bool struck = Disturb(nth, [&] { plugin.Stop(); });
-    ASSERT_EQ(TakeBreaches(), Lines()) << GetParam().name << " at call " << nth;
-    ASSERT_TRUE(host_.accounts.open().empty()) << GetParam().name << " at call " << nth;
-    host_.trace.Restart();
-    if (!struck) break;
-  }
-  EXPECT_GT(nth, 2);
+  EXPECT_GT(DisturbEach([&] { Start(); }, [&] { Stop(); }, [] {}), 2);
 }
 
-std::string FaultName(const testing::TestParamInfo<FaultRow>& row) {
-  std::string name = row.param.name;
-  std::erase_if(name, [](char c) { return c == ' ' || c == ','; });
-  return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(EveryCall, DisturbedLifeCycle, testing::ValuesIn(kFaults), FaultName);
+INSTANTIATE_TEST_SUITE_P(EveryCall, DisturbedLifeCycle, testing::ValuesIn(kFaults),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace
 }  // namespace wb

@@ -17,12 +17,6 @@ constexpr unsigned kCommandsOfRound = 100;
 constexpr unsigned kFewRounds = 1;
 constexpr unsigned kManyRounds = 50;
 
-DWORD Handles() {
-  DWORD count = 0;
-  ::GetProcessHandleCount(::GetCurrentProcess(), &count);
-  return count;
-}
-
 class RandomCommands : public SkidHost {
  protected:
   RandomCommands() : SkidHost("random") { host_.user = &user_; }
@@ -77,12 +71,12 @@ TEST_F(RandomCommands, LeaveNothingBehindAndNothingGrows) {
   for (unsigned seed = first; seed != first + rounds && !HasFailure(); ++seed) {
     RunRound(seed, start);
     const long long live = heap.live();
-    const DWORD handles = Handles();
+    const DWORD handles = HandleCount();
     RunRound(seed, start);
     EXPECT_GT(carried_out_, kCommandsOfRound) << "hardly anything was available";
     carried_out_ = 0;
     EXPECT_EQ(heap.live(), live) << "the heap after the second round of QM_SEED=" << seed;
-    EXPECT_EQ(Handles(), handles) << "after the second round of QM_SEED=" << seed;
+    EXPECT_EQ(HandleCount(), handles) << "after the second round of QM_SEED=" << seed;
   }
   EXPECT_GT(heap.peak(), 0);
 }

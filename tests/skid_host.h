@@ -9,6 +9,13 @@
 
 namespace wb {
 
+// Of this process.
+inline DWORD HandleCount() {
+  DWORD count = 0;
+  ::GetProcessHandleCount(::GetCurrentProcess(), &count);
+  return count;
+}
+
 class SkidHost : public PluginHost {
  protected:
   // `name` is that of the folder, which no other test may have.

@@ -96,28 +96,17 @@ TEST_F(DimModifyWorld, TextsToTheCharacter) {
 }
 
 TEST_F(DimModifyWorld, TolerancesToTheNumber) {
+  const std::vector<double> upper = {0.01, 0.02, 0.03, 0.05, 0.1, 0.2, 0.5, 1, 2, 3, 5, 6, 10};
+  const std::vector<double> lower = {0.01, 0.02, 0.03, 0.05, 0.1, 0.2, 0.5, 1, 2, 3, 6, 10, 20};
+  const std::vector<double> both = {0.01, 0.02, 0.03, 0.05, 0.1, 0.2, 0.3, 0.5, 1, 2};
   const struct {
     const char* buttons;
     ToleranceType type;
     bool above, below;
-    std::vector<double> values;
-  } lists[] = {
-      {"upTolBt",
-       ToleranceType::kPlusMinus,
-       true,
-       false,
-       {0.01, 0.02, 0.03, 0.05, 0.1, 0.2, 0.5, 1, 2, 3, 5, 6, 10}},
-      {"downTolBt",
-       ToleranceType::kPlusMinus,
-       false,
-       true,
-       {0.01, 0.02, 0.03, 0.05, 0.1, 0.2, 0.5, 1, 2, 3, 6, 10, 20}},
-      {"MirTolBt",
-       ToleranceType::kSymmetricSuperscript,
-       true,
-       true,
-       {0.01, 0.02, 0.03, 0.05, 0.1, 0.2, 0.3, 0.5, 1, 2}},
-  };
+    const std::vector<double>& values;
+  } lists[] = {{"upTolBt", ToleranceType::kPlusMinus, true, false, upper},
+               {"downTolBt", ToleranceType::kPlusMinus, false, true, lower},
+               {"MirTolBt", ToleranceType::kSymmetricSuperscript, true, true, both}};
   for (const auto& list : lists) {
     for (size_t i = 0; i < list.values.size(); ++i) {
       const std::string button = list.buttons + std::to_string(i + 1);

@@ -125,10 +125,25 @@ class TweViewsWorld : public PluginHost {
     return part;
   }
 
-  // Off the origin.
-  const DrawingContent& DrawBox(int dx, int dy, int dz) {
+  void Wish(bool upright, bool twelve) {
+    designer_.direction = upright ? "main-v" : "main-h";
+    designer_.views = twelve ? "twelve" : "six-hidden";
+  }
+
+  // Of a box off the origin.
+  void ExpectViews(int dx, int dy, int dz) {
+    SCOPED_TRACE(std::to_string(dx) + " " + std::to_string(dy) + " " + std::to_string(dz) + " " +
+                 designer_.direction + " " + designer_.views);
+    const bool twelve = designer_.views == "twelve";
     Clear();
-    return Draw(BoxPart("box", {{100, -50, 7.5}, {100.0 + dx, -50.0 + dy, 7.5 + dz}}));
+    const DrawingContent& drawing =
+        Draw(BoxPart("box", {{100, -50, 7.5}, {100.0 + dx, -50.0 + dy, 7.5 + dz}}));
+    ExpectOutlines(drawing, Wanted(Laid(dx, dy, dz), designer_.direction == "main-v", twelve));
+    size_t at = 0;
+    for (const DrawingView& view : drawing.views) {
+      const bool hidden = !twelve || at++ >= 7;
+      EXPECT_EQ(view.display.style, hidden ? DisplayStyle::kHiddenLine : DisplayStyle::kNoHidden);
+    }
   }
 
   static void ExpectOutlines(const DrawingContent& drawing, const std::vector<Outline>& wanted) {
@@ -151,20 +166,9 @@ TEST_F(TweViewsWorld, StandWhereTheyShouldForEveryOrderAndEveryTie) {
   constexpr int kExtents[] = {10, 20, 30};
   for (const bool upright : {false, true}) {
     for (const bool twelve : {false, true}) {
-      designer_.direction = upright ? "main-v" : "main-h";
-      designer_.views = twelve ? "twelve" : "six-hidden";
+      Wish(upright, twelve);
       for (int i = 0; i < 27; ++i) {
-        const int dx = kExtents[i % 3], dy = kExtents[i / 3 % 3], dz = kExtents[i / 9];
-        SCOPED_TRACE(std::to_string(dx) + " " + std::to_string(dy) + " " + std::to_string(dz) +
-                     " " + designer_.direction + " " + designer_.views);
-        const DrawingContent& drawing = DrawBox(dx, dy, dz);
-        ExpectOutlines(drawing, Wanted(Laid(dx, dy, dz), upright, twelve));
-        size_t at = 0;
-        for (const DrawingView& view : drawing.views) {
-          const bool hidden = !twelve || at++ >= 7;
-          EXPECT_EQ(view.display.style,
-                    hidden ? DisplayStyle::kHiddenLine : DisplayStyle::kNoHidden);
-        }
+        ExpectViews(kExtents[i % 3], kExtents[i / 3 % 3], kExtents[i / 9]);
       }
     }
   }
@@ -180,15 +184,11 @@ TEST_F(TweViewsWorld, StandWhereTheyShouldInHostsThatTurnOtherwise) {
                                    &Habits::view_turns_about_the_other_axis};
   constexpr int kOrders[][3] = {{30, 20, 10}, {30, 10, 20}, {20, 30, 10},
                                 {10, 30, 20}, {20, 10, 30}, {10, 20, 30}};
-  designer_.direction = "main-v";
-  designer_.views = "twelve";
+  Wish(true, true);
   for (size_t i = 0; i < std::size(kHabits); ++i) {
+    SCOPED_TRACE("habit " + std::to_string(i));
     host_.habits.*kHabits[i] = true;
-    for (const auto& [dx, dy, dz] : kOrders) {
-      SCOPED_TRACE("habit " + std::to_string(i) + ", " + std::to_string(dx) + " " +
-                   std::to_string(dy) + " " + std::to_string(dz));
-      ExpectOutlines(DrawBox(dx, dy, dz), Wanted(Laid(dx, dy, dz), true, true));
-    }
+    for (const auto& [dx, dy, dz] : kOrders) ExpectViews(dx, dy, dz);
     host_.habits.*kHabits[i] = false;
   }
   EXPECT_EQ(TakeBreaches(), Lines());
@@ -204,8 +204,7 @@ TEST_F(TweViewsWorld, OfAnAssemblyShowTheExtentsOfAllItsComponents) {
   away[3] = {5000, 0, 0, 1};
   for (const bool upright : {false, true}) {
     SCOPED_TRACE(upright);
-    designer_.direction = upright ? "main-v" : "main-h";
-    designer_.views = "twelve";
+    Wish(upright, true);
     Clear();
     const ModelName block = host_.session.Add(BoxPart("block", {{0, 0, 0}, {40, 10, 20}})).id;
     Model pump(ModelName{"pump", ModelKind::kAssembly});
