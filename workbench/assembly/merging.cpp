@@ -105,7 +105,7 @@ int AddMergeFeature(Model& target, const Model& source, const Placement& placeme
   for (const Surface& surface : source.solid().surfaces) {
     Surface brought = surface;
     brought.id = NextId(solid.surfaces);
-    brought.box = PlacedBox(surface.box, placement);
+    brought.box = BoxPlacedAt(surface.box, placement);
     solid.surfaces.Add(brought);
   }
   target.modified = true;

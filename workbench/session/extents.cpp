@@ -58,7 +58,7 @@ Point CornerOf(const Box& box, unsigned number) {
   return corner;
 }
 
-Box PlacedBox(const Box& box, const Placement& placement) {
+Box BoxPlacedAt(const Box& box, const Placement& placement) {
   std::optional<Box> around;
   EnclosePlaced(around, box, placement);
   return *around;

@@ -20,7 +20,7 @@ Point PlacedAt(const Point& point, const Placement& placement);
 Point CornerOf(const Box& box, unsigned number);
 
 // The box around a box that is turned.
-Box PlacedBox(const Box& box, const Placement& placement);
+Box BoxPlacedAt(const Box& box, const Placement& placement);
 
 // A component's placement seen from the assembly above its own one: `inner` within `outer`.
 Placement PlacedWithin(const Placement& inner, const Placement& outer);
