@@ -60,7 +60,7 @@ class Bench {
     top_ = &job.shape->build(host_.session, job.occurrences);
     FillParts();
     host_.session.ActivateWindow(host_.session.ShowInWindow(*top_).id);
-    host_.session.ActivateComponent(SomePart());
+    host_.session.ActivateComponent(LastPart(*top_));
     plugin_.emplace(dll);
     if (plugin_->Start() != 0) throw std::runtime_error("the plug-in does not start");
   }
@@ -101,14 +101,6 @@ class Bench {
       model->solid().surfaces.Add({1, {{0, 0, 0}, {10, 20, 30}}});
       model->solid().sheet_metal = number++ % kPartsPerSheetMetal == 0;
     }
-  }
-
-  // One that the assembly holds; null: it has none.
-  Model* SomePart() {
-    for (const auto& model : host_.session.models()) {
-      if (model->id.kind == ModelKind::kPart) return model.get();
-    }
-    return nullptr;
   }
 
   int Rounds() const {

@@ -24,7 +24,7 @@ enum class BenchPart {
   kSetMaterial,        // SetMat with nothing selected
   kModelCount,         // QmMdlCount
   kBox,                // QmBox with nothing selected
-  kFindActive,         // QmMergeTo up to its pick, which is cancelled
+  kFindActive,         // QmMergeTo up to its pick, which is cancelled; the active part is the last
   kIsolate,            // QmIsolate with the whole top level preselected
   kRemoveConstraints,  // QmRemoveCons with its OK
   kSimplify,           // QmSimRep with the first component preselected

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <chrono>
 #include <stdexcept>
+#include <unordered_set>
 
 #include "workbench/base/text.h"
 #include "workbench/host/host_types.h"
@@ -115,6 +116,15 @@ void Do(BenchWork work, ProMdl top, Walk& walk) {
   }
 }
 
+std::vector<Model*> PlacedIn(const Model& assembly) {
+  std::vector<Model*> placed;
+  for (const Feature& feature : assembly.solid().features) {
+    if (!feature.IsComponent() || feature.status != FeatureStatus::kActive) continue;
+    if (Model* const model = feature.ComponentModel()) placed.push_back(model);
+  }
+  return placed;
+}
+
 }  // namespace
 
 WalkTaken BareWalk(const Model& top, BenchWork work) {
@@ -128,6 +138,25 @@ WalkTaken BareWalk(const Model& top, BenchWork work) {
   }
   const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
   return {seconds.count(), TheHost().trace.calls() - calls_before};
+}
+
+Model* LastPart(Model& top) {
+  std::unordered_set<const Model*> met;
+  std::vector<Model*> ahead = {&top};
+  Model* last = nullptr;
+  while (!ahead.empty()) {
+    Model* const model = ahead.back();
+    ahead.pop_back();
+    if (!met.insert(model).second) continue;
+    if (model->id.kind == ModelKind::kPart) {
+      last = model;
+    } else {
+      // What comes first lies on top.
+      const std::vector<Model*> below = PlacedIn(*model);
+      ahead.insert(ahead.end(), below.rbegin(), below.rend());
+    }
+  }
+  return last;
 }
 
 }  // namespace wb

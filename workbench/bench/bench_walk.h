@@ -25,4 +25,8 @@ struct WalkTaken {
 // Throws std::runtime_error when a host call fails.
 WalkTaken BareWalk(const Model& top, BenchWork work);
 
+// The part that a walk through the assembly meets after all others: whoever looks for it asks each
+// of them. Null: there is none.
+Model* LastPart(Model& top);
+
 }  // namespace wb

@@ -3,6 +3,9 @@
 // component as it was.
 #include "assembly/components/remove_cons.h"
 
+#include <set>
+#include <utility>
+
 #include "assembly/components/remove_cons_click.h"
 #include "frame/dialogs/dialog.h"
 #include "frame/messages/message_area.h"
@@ -46,27 +49,66 @@ StepResult MakeFix(FixConstraint* fix) {
   return {"ProArrayObjectAdd", status};
 }
 
+// What is left of an assembly after the user had the host's dialog to himself and may have erased
+// models in it. Until then everything is.
+class Remaining {
+ public:
+  explicit Remaining(ProMdl root) : root_(root) {}
+
+  void LookAgain() {
+    is_whole_ = false;
+    components_.clear();
+    has_root_ = IsStillCurrent(root_);
+    if (!has_root_) return;
+    ComponentList now;
+    const ProError status = CollectComponents(root_, ComponentKind::kAll, &now);
+    if (!Ok(status)) LogFailure(root_, "the components after a placement by the user", status);
+    for (int i = 0; i < now.size(); ++i) {
+      components_.insert({now.feature(i)->owner, now.feature(i)->id});
+    }
+  }
+
+  bool Has(const ProAsmcomp& component) const {
+    return is_whole_ || components_.contains({component.owner, component.id});
+  }
+  bool has_root() const { return has_root_; }
+
+ private:
+  const ProMdl root_;
+  bool is_whole_ = true;
+  bool has_root_ = true;
+  std::set<std::pair<ProMdl, int>> components_;  // of which assembly, and the feature in it
+};
+
+constexpr StepResult kGone = {"the look for it after a placement by the user", PRO_TK_BAD_INPUTS};
+
 // Deliberately a success without constraints counts as none: hosts answer either way.
-// Any failure means that there are none, but one that is not the usual answer is logged.
-int CountConstraints(ProAsmcomp& component) {
+// Any failure means that there are none, but one that is not the usual answer is logged; except
+// that the component itself is refused, which is not there then.
+StepResult CountConstraints(ProAsmcomp& component, int* count) {
+  const char* const function = "ProAsmcompConstraintsGet";
   ConstraintArray constraints;
   const ProError status = ProAsmcompConstraintsGet(&component, constraints.put());
+  *count = 0;
+  if (status == PRO_TK_BAD_INPUTS) return {function, status};
   if (!Ok(status)) {
-    if (status != PRO_TK_E_NOT_FOUND) {
-      LogFailure(component.owner, "ProAsmcompConstraintsGet", status);
-    }
-    return 0;
+    if (status != PRO_TK_E_NOT_FOUND) LogFailure(component.owner, function, status);
+    return {};
   }
-  const auto count = ToldArraySize(constraints.get());
-  if (!count) LogFailure(component.owner, "ProArraySizeGet", PRO_TK_GENERAL_ERROR);
-  return count.value_or(0);
+  const auto told = ToldArraySize(constraints.get());
+  if (!told) LogFailure(component.owner, "ProArraySizeGet", PRO_TK_GENERAL_ERROR);
+  *count = told.value_or(0);
+  return {};
 }
 
 // A packaged component gets a placement by the host's own dialog.
-void PlaceByDialog(ProAsmcomp& component) {
-  QueueMiddleClick();
+StepResult PlaceByDialog(ProAsmcomp& component, Remaining* remaining) {
+  const bool is_confirmed = QueueMiddleClick();
   const ProError status = ProAsmcompConstrRedefUI(&component);
+  if (!is_confirmed) remaining->LookAgain();
+  if (!remaining->Has(component)) return kGone;
   if (!Ok(status)) LogFailure(component.owner, "ProAsmcompConstrRedefUI", status);
+  return {};
 }
 
 // The indices grow while the list shrinks, which has always been so: soon they lie beyond the rest,
@@ -75,39 +117,51 @@ void RemoveConstraints(ProAsmcomp& component, int count) {
   for (int index = 0; index < count; ++index) ProAsmcompConstrRemove(&component, index);
 }
 
+// After this the fix constraint can take the place of all others.
+StepResult ClearTheWay(ProAsmcomp& component, Remaining* remaining) {
+  int count = 0;
+  const StepResult counted = CountConstraints(component, &count);
+  if (!Ok(counted.status)) return counted;
+  if (count == 0) return PlaceByDialog(component, remaining);
+  RemoveConstraints(component, count);
+  return {};
+}
+
+StepResult PutFix(ProAsmcomp& component, const FixConstraint& fix) {
+  const ProError status = ProAsmcompRegenerate(&component, PRO_B_TRUE);
+  if (!Ok(status)) LogFailure(component.owner, "ProAsmcompRegenerate", status);
+  return {"ProAsmcompConstraintsSet",
+          ProAsmcompConstraintsSet(nullptr, &component, fix.array.get())};
+}
+
 // False, after a line in the log, when the component is not fixed.
-bool FixComponent(ProAsmcomp& component) {
+bool FixComponent(ProAsmcomp& component, Remaining* remaining) {
   FixConstraint fix;
-  StepResult step = MakeFix(&fix);
-  if (Ok(step.status)) {
-    const int count = CountConstraints(component);
-    if (count == 0) {
-      PlaceByDialog(component);
-    } else {
-      RemoveConstraints(component, count);
-    }
-    step = {"ProAsmcompRegenerate", ProAsmcompRegenerate(&component, PRO_B_TRUE)};
-    if (!Ok(step.status)) LogFailure(component.owner, step.function, step.status);
-    step = {"ProAsmcompConstraintsSet",
-            ProAsmcompConstraintsSet(nullptr, &component, fix.array.get())};
-  }
+  StepResult step = remaining->Has(component) ? MakeFix(&fix) : kGone;
+  if (Ok(step.status)) step = ClearTheWay(component, remaining);
+  if (Ok(step.status)) step = PutFix(component, fix);
   if (!Ok(step.status)) LogLeftOut(component, step.function, step.status);
   return Ok(step.status);
 }
 
-void FixAll(ProMdl root, const ComponentList& components) {
+// False when the user has erased the assembly meanwhile.
+bool FixAll(ProMdl root, const ComponentList& components) {
   long long fixed = 0;
   long long left_out = static_cast<long long>(components.left_out().size());
+  Remaining remaining(root);
   for (int i = 0; i < components.size(); ++i) {
     // One that was fixed in its assembly before is fixed in all placements of that assembly.
     if (components.repeated(i)) continue;
-    ++(FixComponent(*components.feature(i)) ? fixed : left_out);
+    ++(FixComponent(*components.feature(i), &remaining) ? fixed : left_out);
   }
-  const ProError status = ProSolidRegenerate(root, kPlainRegeneration);
-  if (!Ok(status)) LogFailure(root, "ProSolidRegenerate", status);
+  if (remaining.has_root()) {
+    const ProError status = ProSolidRegenerate(root, kPlainRegeneration);
+    if (!Ok(status)) LogFailure(root, "ProSolidRegenerate", status);
+  }
   LogCount("components", components.size());
   LogCount("fixed", fixed);
   NoteLeftOut(left_out);
+  return remaining.has_root();
 }
 
 void Confirm(const DialogView&) {
@@ -116,8 +170,9 @@ void Confirm(const DialogView&) {
   if (!root) return ShowShortMessage(kAssembliesOnly);
   ComponentList components;
   if (!Ok(CollectComponents(*root, ComponentKind::kAll, &components))) return ShowNotCollected();
-  FixAll(*root, components);
-  ShowMessage(kDone);
+  if (FixAll(*root, components)) return ShowMessage(kDone);
+  LogOutcome("not all is fixed, the assembly is gone");
+  log.set_status(PRO_TK_GENERAL_ERROR);
 }
 
 // The text stays without a number when there is no assembly to count in; the refusal follows OK.

@@ -16,14 +16,15 @@ DWORD WINAPI Click(void*) noexcept {
 
 }  // namespace
 
-void QueueMiddleClick() {
+bool QueueMiddleClick() {
   const HANDLE thread = ::CreateThread(nullptr, 0, &Click, nullptr, 0, nullptr);
   if (thread == nullptr) {
     LogFailure("no thread for the click that confirms a placement: the user has to confirm it");
-    return;
+    return false;
   }
   ::WaitForSingleObject(thread, INFINITE);
   ::CloseHandle(thread);
+  return true;
 }
 
 }  // namespace qm

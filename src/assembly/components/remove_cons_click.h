@@ -5,7 +5,8 @@ namespace qm {
 
 // Queues one click of the middle button, so that the modal dialog which opens next is confirmed at
 // once. The click comes from a thread of its own, which has ended when this returns and calls
-// nothing of the host. A failure is logged: the user then confirms the dialog himself.
-void QueueMiddleClick();
+// nothing of the host. False, after a failure in the run log: the user then has the dialog to
+// himself.
+bool QueueMiddleClick();
 
 }  // namespace qm

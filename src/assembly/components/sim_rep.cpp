@@ -9,12 +9,12 @@
 #include "frame/messages/message_area.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
+#include "frame/messages/typed_name.h"
 #include "frame/models/current_assembly.h"
 #include "frame/models/host_name.h"
 #include "frame/models/opening.h"
 #include "frame/structure/assembly_levels.h"
 #include "frame/structure/preselected_components.h"
-#include "frame/text/fixed_text.h"
 #include "frame/text/text.h"
 #include "toolkit/owners.h"
 #include "toolkit/window.h"
@@ -23,11 +23,8 @@ namespace qm {
 namespace {
 
 constexpr wchar_t kNothingSelected[] = L"\t请先选择要在简化表示中保留的元件\t";
-constexpr wchar_t kRefusedName[] = L"\t名称已存在或输入非法，请重新输入\t";
 constexpr char kPrompt[] = "Enter the name of the simplified representation:|||%0w";
 constexpr int kLongestName = PRO_NAME_SIZE - 1;
-// A host that can show a prompt and never read it would ask for ever.
-constexpr int kMostEmptyReplies = 20;
 
 // What the user wants, and what it means for the structure.
 struct RepPlan {
@@ -72,26 +69,12 @@ bool IsTaken(ProMdl root, const std::wstring& name) {
   return host_name && Ok(FindRep(root, *host_name, &rep));
 }
 
-// Nothing, after a line in the log, when the user quits, or when the prompt cannot be shown or
-// read: asking again would never end then. An empty name for a reply without any text, which the
-// host refuses to take.
+// Nothing when the user quits, or, after a line in the log, when the prompt cannot be shown or
+// read: asking again would never end then.
 std::optional<std::wstring> AskName(const std::wstring& offered) {
-  std::wstring file = kNoteFile;
-  ProError status = ProMessageDisplay(file.data(), kPrompt, offered.c_str());
-  if (!Ok(status)) {
-    LogFailure(std::string("the prompt cannot be shown: ProMessageDisplay answered ") +
-               StatusName(status));
-    return std::nullopt;
-  }
-  ProLine reply = {};
-  status = ProMessageStringRead(kLongestName, reply);
-  if (status == PRO_TK_GENERAL_ERROR) return std::wstring();
-  if (Ok(status) && !FixedText(reply).empty()) return std::wstring(FixedText(reply));
-  if (status != PRO_TK_MSG_USER_QUIT) {
-    LogFailure(std::string("the prompt cannot be read: ProMessageStringRead answered ") +
-               StatusName(status));
-  }
-  return std::nullopt;
+  if (!ShowNamePrompt(kPrompt, offered.c_str())) return std::nullopt;
+  const NameReply reply = ReadName(kLongestName);
+  return Ok(reply.status) ? std::optional(reply.text) : std::nullopt;
 }
 
 // How a step ended: the host's function that decided it, and its status.
@@ -161,7 +144,7 @@ Making Make(const RepPlan& plan, const std::wstring& text, ProSimprep* rep) {
 ProError MakeByName(const RepPlan& plan, ProSimprep* rep) {
   const auto is_taken = [&](const std::wstring& name) { return IsTaken(plan.root, name); };
   const std::wstring offered = FreeRepName(is_taken).value_or(std::wstring());
-  int empty = 0;  // replies in a row
+  RefusedNames refused;
   while (const auto name = AskName(offered)) {
     if (!IsStillCurrent(plan.root)) {
       LogOutcome("nothing done, the assembly is not current any more");
@@ -170,9 +153,7 @@ ProError MakeByName(const RepPlan& plan, ProSimprep* rep) {
     const Making made = !name->empty() ? Make(plan, *name, rep) : Making::kNameRefused;
     if (made == Making::kMade) return PRO_TK_NO_ERROR;
     if (made == Making::kFailed) return PRO_TK_GENERAL_ERROR;
-    ShowMessage(kRefusedName);
-    empty = name->empty() ? empty + 1 : 0;
-    if (empty == kMostEmptyReplies) break;
+    if (!refused.AskAgain(*name)) break;
   }
   LogOutcome("nothing done, no name");
   return PRO_TK_USER_ABORT;

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "assembly/new_model/free_name.h"
-#include "assembly/new_model/model_copy.h"
 #include "assembly/new_model/typed_copy.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
@@ -69,13 +68,27 @@ ProMdl CopyUnderFreeName(const CloneJob& job) {
   return copy;
 }
 
-ProMdl CopyByUser(const CloneJob& job, int replies) {
+// False, after a line in the run log, when the user has erased at the prompt what the copy is for,
+// or what it is made of.
+bool IsStillThere(const CloneJob& job) {
+  if (!IsStillActive(job.assembly)) {
+    LogOutcome("nothing made, the assembly is gone");
+    return false;
+  }
+  const auto item = ItemOf(job.selected[0]);
+  if (item && ModelOf(*item) == job.source) return true;
+  LogOutcome("nothing made, the selected model is gone");
+  return false;
+}
+
+NewCopy CopyByUser(const CloneJob& job, int replies) {
   const auto name = ModelName(job.source);
   if (!name) {
     LogOutcome("nothing made, a name is not known");
-    return nullptr;
+    return {};
   }
-  return CopyUnderTypedName(job.source, {"USER Enter a new name:|||%0w", name->c_str(), replies});
+  return CopyUnderTypedName(job.source, {"USER Enter a new name:|||%0w", name->c_str(), replies},
+                            [&] { return IsStillThere(job); });
 }
 
 }  // namespace
@@ -100,10 +113,10 @@ std::optional<CloneJob> PrepareClone() {
   return CloneJob{std::move(*selected), source, type, *assembly, *mode};
 }
 
-ProMdl MakeClone(const CloneJob& job, int replies) {
-  const ProMdl copy =
-      job.mode == CloneMode::kByUser ? CopyByUser(job, replies) : CopyUnderFreeName(job);
-  if (copy != nullptr) SaveNewModel(copy);
+NewCopy MakeClone(const CloneJob& job, int replies) {
+  const NewCopy copy =
+      job.mode == CloneMode::kByUser ? CopyByUser(job, replies) : NewCopy{CopyUnderFreeName(job)};
+  if (copy.model != nullptr) SaveNewModel(copy.model);
   return copy;
 }
 

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "assembly/create/clone_rules.h"
+#include "assembly/new_model/model_copy.h"
 #include "frame/models/preselection.h"
 #include "toolkit/model.h"
 
@@ -20,8 +21,8 @@ struct CloneJob {
 // Nothing, after a message or a line in the run log, where nothing can be cloned.
 std::optional<CloneJob> PrepareClone();
 
-// The saved copy. `replies` is how many the user gives to one prompt. Null, after a message or a
-// line in the run log, when there is no copy.
-ProMdl MakeClone(const CloneJob& job, int replies);
+// The saved copy. `replies` is how many the user gives to one prompt. None, after a message or a
+// line in the run log; as a failure when the user has erased meanwhile what it needs.
+NewCopy MakeClone(const CloneJob& job, int replies);
 
 }  // namespace qm

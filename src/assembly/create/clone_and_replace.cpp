@@ -60,10 +60,10 @@ void QueueReplacing(const std::wstring& file) {
 
 ProError CloneAndReplace() {
   const auto job = PrepareClone();
-  const ProMdl copy = job ? MakeClone(*job, kRepliesToAPrompt) : nullptr;
-  if (copy == nullptr) return PRO_TK_NO_ERROR;
+  const NewCopy copy = job ? MakeClone(*job, kRepliesToAPrompt) : NewCopy();
+  if (copy.model == nullptr) return copy.status;
   ReadConstraints(job->selected[0]);
-  if (const auto file = FileOf(copy)) QueueReplacing(*file);
+  if (const auto file = FileOf(copy.model)) QueueReplacing(*file);
   return PRO_TK_NO_ERROR;
 }
 

@@ -2,16 +2,18 @@
 #include "assembly/create/merge.h"
 
 #include <optional>
+#include <string>
 
 #include "assembly/create/merge_feature.h"
-#include "assembly/new_model/model_copy.h"
 #include "assembly/new_model/new_component.h"
 #include "assembly/new_model/start_template.h"
 #include "assembly/new_model/typed_copy.h"
 #include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
 #include "frame/models/current_assembly.h"
+#include "frame/models/model_name.h"
 #include "frame/models/preselection.h"
+#include "frame/models/retrieve.h"
 
 namespace qm {
 namespace {
@@ -34,6 +36,27 @@ std::optional<ProMdl> AssemblyForMerge() {
   return assembly;
 }
 
+// False, after a line in the run log, when the user has erased one of the two at the prompt. The
+// host would load a template again that is gone from session, as another model.
+bool AreStillThere(ProMdl assembly, ProMdl start, const std::wstring& start_name) {
+  if (!IsStillActive(assembly)) {
+    LogOutcome("nothing made, the assembly is gone");
+    return false;
+  }
+  if (RetrieveIfThere(start_name, kPartTemplate.type) == start) return true;
+  LogOutcome("nothing made, the template is gone");
+  return false;
+}
+
+NewCopy CopyTemplate(ProMdl start, ProMdl assembly) {
+  const auto name = ModelName(start);
+  if (!name) {
+    LogOutcome("nothing made, a name is not known");
+    return {};
+  }
+  return CopyUnderTypedName(start, kNewName, [&] { return AreStillThere(assembly, start, *name); });
+}
+
 void Merge(ProSolid target, const Preselected& selected) {
   int merged = 0;
   for (int i = 0; i < selected.size(); ++i) {
@@ -53,13 +76,13 @@ ProError QmMerge() {
   if (start == nullptr) return PRO_TK_NO_ERROR;
   const auto selected = ReadParts();
   const auto assembly = selected ? AssemblyForMerge() : std::nullopt;
-  const ProMdl made = assembly ? CopyUnderTypedName(start, kNewName) : nullptr;
-  if (made == nullptr) return PRO_TK_NO_ERROR;
-  SaveNewModel(made);
-  if (const auto component = AssembleAtOrigin(*assembly, made)) {
-    ConstrainByCsys(*assembly, *component, made, kNoCsysInPartTemplate);
+  const NewCopy made = assembly ? CopyTemplate(start, *assembly) : NewCopy();
+  if (made.model == nullptr) return made.status;
+  SaveNewModel(made.model);
+  if (const auto component = AssembleAtOrigin(*assembly, made.model)) {
+    ConstrainByCsys(*assembly, *component, made.model, kNoCsysInPartTemplate);
   }
-  Merge(made, *selected);
+  Merge(made.model, *selected);
   return PRO_TK_NO_ERROR;
 }
 

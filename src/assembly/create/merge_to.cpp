@@ -50,7 +50,10 @@ std::optional<std::wstring> FileOf(ProMdl part) {
   if (!name) return std::nullopt;
   ProMdldata data = {};
   const ProError status = ProMdlDataGet(part, &data);
-  if (!Done("ProMdlDataGet", status)) return *name + kPartEnd;
+  if (!Ok(status)) {
+    LogFailure(part, "ProMdlDataGet", status);
+    return *name + kPartEnd;
+  }
   const std::wstring_view record(data.texts, std::size(data.texts));
   return FileInModelRecord(record, *name).value_or(*name + kPartEnd);
 }
@@ -60,17 +63,15 @@ bool IsFile(ProMdl part, const std::wstring& file) {
   return own && EqualIgnoringCase(*own, file);
 }
 
-// Index of the first part with this file. Each model is asked once, those behind it as well: a
-// search costs the same wherever the part lies.
+// Index of the first part with this file. Each model is asked once, however often it is placed.
 std::optional<int> FirstWith(const std::wstring& file, const ComponentList& components) {
   HandleIndex asked;
-  std::optional<int> first;
   for (int i = 0; i < components.size(); ++i) {
     const ProMdl model = components.model(i);
     const bool is_new = components.type(i) == PRO_MDL_PART && asked.Insert(model).second;
-    if (is_new && IsFile(model, file) && !first) first = i;
+    if (is_new && IsFile(model, file)) return i;
   }
-  return first;
+  return std::nullopt;
 }
 
 // Feature ids from the top model down to a component. The assembly that holds it is the last one
@@ -143,6 +144,11 @@ ProError QmMergeTo() {
   if (!Ok(status) || picked == nullptr || count < 1) {
     LogOutcome("nothing merged, nothing picked");
     return PRO_TK_NO_ERROR;
+  }
+  // The user may have erased it while he was picking.
+  if (!IsStillActive(part)) {
+    LogOutcome("nothing merged, the active part is gone");
+    return PRO_TK_GENERAL_ERROR;
   }
   for (int i = 0; i < count; ++i) MergePart(target, picked[i], kFeatureName);
   LogCount("parts to merge", count);

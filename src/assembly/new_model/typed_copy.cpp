@@ -4,85 +4,58 @@
 #include <optional>
 #include <string>
 
-#include "assembly/new_model/model_copy.h"
 #include "assembly/new_model/new_name_rules.h"
-#include "frame/messages/message_area.h"
-#include "frame/messages/message_box.h"
 #include "frame/messages/run_log.h"
-#include "frame/text/fixed_text.h"
-#include "toolkit/message.h"
+#include "frame/messages/typed_name.h"
 #include "toolkit/status.h"
 
 namespace qm {
 namespace {
 
-// A host that can show a prompt and never read it would ask for ever.
-constexpr int kMostEmptyReplies = 20;
-
-ProError ShowPrompt(const NamePrompt& prompt) {
-  std::wstring file = kNoteFile;
-  return prompt.offered != nullptr ? ProMessageDisplay(file.data(), prompt.key, prompt.offered)
-                                   : ProMessageDisplay(file.data(), prompt.key);
-}
-
-struct Reply {
-  ProError status;
-  std::wstring text;
-};
-
-Reply ReadReply() {
-  ProLine text = {};
-  const ProError status = ProMessageStringRead(static_cast<int>(kLongestNewName), text);
-  return {status, Ok(status) ? std::wstring(FixedText(text)) : std::wstring()};
+NameReply ReadReply() {
+  return ReadName(static_cast<int>(kLongestNewName));
 }
 
 // A default is offered where a reply counts for nothing, so that the host has a text for it.
 // Without one it has read nothing, and the reply meant for it is the next one's.
 void ReadUnused() {
-  const Reply reply = ReadReply();
-  if (reply.status == PRO_TK_MSG_USER_QUIT || !reply.text.empty()) return;
-  LogFailure(std::wstring_view(), "ProMessageStringRead", reply.status);
+  const NameReply reply = ReadReply();
+  if (Ok(reply.status) && reply.text.empty()) {
+    LogFailure("ProMessageStringRead has read nothing of a reply that counts for nothing");
+  }
 }
 
 // Every reply is tried as a name, also an empty one, which the host refuses to take.
-std::optional<std::wstring> ReadName() {
-  const Reply reply = ReadReply();
-  if (Ok(reply.status) || reply.status == PRO_TK_GENERAL_ERROR) return reply.text;
-  if (reply.status == PRO_TK_MSG_USER_QUIT) {
-    LogOutcome("nothing made, the user quit the prompt");
-    return std::nullopt;
-  }
-  LogFailure(std::wstring_view(), "ProMessageStringRead", reply.status);
-  LogOutcome("nothing made, the prompt cannot be read");
+std::optional<std::wstring> ReadUsed() {
+  const NameReply reply = ReadReply();
+  if (Ok(reply.status)) return reply.text;
+  LogOutcome(reply.status == PRO_TK_MSG_USER_QUIT ? "nothing made, the user quit the prompt"
+                                                  : "nothing made, the prompt cannot be read");
   return std::nullopt;
 }
 
 std::optional<std::wstring> AskForName(const NamePrompt& prompt) {
-  const ProError status = ShowPrompt(prompt);
-  if (!Ok(status)) {
-    LogFailure(std::wstring_view(), "ProMessageDisplay", status);
+  if (!ShowNamePrompt(prompt.key, prompt.offered)) {
     LogOutcome("nothing made, the prompt cannot be shown");
     return std::nullopt;
   }
   // Deliberately those before the last one count for nothing, not even when the user quits.
   for (int reply = 1; reply < prompt.replies; ++reply) ReadUnused();
-  return ReadName();
+  return ReadUsed();
 }
 
 }  // namespace
 
-ProMdl CopyUnderTypedName(ProMdl source, const NamePrompt& prompt) {
-  int empty = 0;  // replies in a row
+NewCopy CopyUnderTypedName(ProMdl source, const NamePrompt& prompt, const StillThere& still_there) {
+  RefusedNames refused;
   while (const auto name = AskForName(prompt)) {
-    if (const ProMdl copy = CopyModel(source, *name)) return copy;
-    ShowMessage(L"\t名称已存在或输入非法，请重新输入\t");
-    empty = name->empty() ? empty + 1 : 0;
-    if (empty == kMostEmptyReplies) {
-      LogOutcome("nothing made, no name was typed");
-      break;
-    }
+    if (!still_there()) return {nullptr, PRO_TK_GENERAL_ERROR};
+    if (const ProMdl copy = CopyModel(source, *name)) return {copy};
+    if (refused.AskAgain(*name)) continue;
+    LogOutcome("nothing made, no name was typed");
+    break;
   }
-  return nullptr;
+  return {};
 }
 
 }  // namespace qm

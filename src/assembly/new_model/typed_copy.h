@@ -1,7 +1,9 @@
 // A copy of a model under a name that the user types.
 #pragma once
 
-#include "toolkit/model.h"
+#include <functional>
+
+#include "assembly/new_model/model_copy.h"
 
 namespace qm {
 
@@ -11,8 +13,12 @@ struct NamePrompt {
   int replies;             // how many the user gives; the last one counts
 };
 
-// Asks again, after a message, until there is a copy. Null when the user quits, or the host can no
-// longer ask.
-ProMdl CopyUnderTypedName(ProMdl source, const NamePrompt& prompt);
+// Whether `source`, and what its copy is for, are still there: the user may erase models while he
+// is asked. Tells the run log otherwise.
+using StillThere = std::function<bool()>;
+
+// Asks again, after a message, until there is a copy. None when the user quits, or the host can no
+// longer ask; and, as a failure, when something is not there after a reply.
+NewCopy CopyUnderTypedName(ProMdl source, const NamePrompt& prompt, const StillThere& still_there);
 
 }  // namespace qm

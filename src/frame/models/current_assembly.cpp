@@ -54,4 +54,11 @@ bool IsStillCurrent(ProMdl assembly) {
   return false;
 }
 
+bool IsStillActive(ProMdl model) {
+  const auto active = ActiveModel();
+  if (active && (active->model == model || AssemblyOf(active) == model)) return true;
+  LogFailure("the model is not active any more");
+  return false;
+}
+
 }  // namespace qm

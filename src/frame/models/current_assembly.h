@@ -34,5 +34,7 @@ std::optional<ProMdl> CurrentAssembly();
 // Whether `assembly`, which was current before a question, still is: the user may have erased it
 // meanwhile, and then the run log says so.
 bool IsStillCurrent(ProMdl assembly);
+// The same for what was active, a part or an assembly.
+bool IsStillActive(ProMdl model);
 
 }  // namespace qm
