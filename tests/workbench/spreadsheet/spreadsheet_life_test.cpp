@@ -30,15 +30,6 @@ TEST_F(SpreadsheetLife, OrdersMakeCallsFail) {
   EXPECT_EQ(Breaches(), Lines{});
 }
 
-TEST_F(SpreadsheetLife, AFaultStrikesASingleMemberAsItStrikesAHostFunction) {
-  const Opened excel = OpenNew();
-  const TestObject cell = excel.Cell("A1");
-  host_.faults.Order({.function = "Excel.Range.Value2=", .nth = 2});
-  EXPECT_EQ(cell.Put(kValue2, "a"), S_OK);
-  EXPECT_EQ(cell.Put(kValue2, "b"), E_FAIL);
-  EXPECT_EQ(cell.Value(kValue2).Text(), "a");
-}
-
 TEST_F(SpreadsheetLife, WhatIsLeftBehindIsToldOnce) {
   host_.trace.Enter("command");
   Opened excel = OpenNew();
