@@ -39,27 +39,9 @@ class Merging : public testing::Test {
   Model* pump_;
 };
 
-TEST_F(Merging, APathLeadsThroughTheLevels) {
-  const auto at = PlacementAt(*pump_, {7, 3});
-  ASSERT_TRUE(at);
-  EXPECT_EQ(PlacedAt({0, 0, 0}, *at), (Point{8, 21, 33}));
-  EXPECT_EQ(PlacedAt({1, 0, 0}, *at), (Point{8, 22, 33}));
-  EXPECT_FALSE(PlacementAt(*pump_, {7, 99}));
-  EXPECT_FALSE(PlacementAt(*pump_, {7, 3, 1}));
-}
-
 TEST_F(Merging, WhatAComponentHoldsComesBeforeTheNextOne) {
   EXPECT_EQ(FirstPlacementOf(*pump_, *body_), kTurned);
   EXPECT_EQ(FirstPlacementOf(*rotor_, *pump_), std::nullopt);
-}
-
-TEST_F(Merging, TheWayBackUndoesAPlacement) {
-  const Placement undone = PlacedWithin(kTurned, Inverse(kTurned));
-  for (size_t row = 0; row < 4; ++row) {
-    for (size_t column = 0; column < 4; ++column) {
-      EXPECT_NEAR(undone[row][column], kIdentityPlacement[row][column], 1e-12);
-    }
-  }
 }
 
 TEST_F(Merging, OnlyTurnsAndShiftsAreRigid) {

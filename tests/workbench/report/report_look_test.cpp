@@ -1,4 +1,4 @@
-// Whether the page can be read: contrast of every text by day and by night, narrow screens.
+// Whether the page can be read: contrast of every text by day and by night.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -90,13 +90,6 @@ TEST(ReportLookTest, TextsAreDrawnInInkOnPaperOnly) {
     if (property == "opacity" || property == "filter") ADD_FAILURE() << property;
   }
   EXPECT_GT(texts, 10);
-}
-
-TEST(ReportLookTest, APhoneIsToldThatThePageFitsIt) {
-  const std::string html = RenderReport({});
-  EXPECT_NE(html.find("<meta name=\"viewport\" content=\"width=device-width"), std::string::npos);
-  EXPECT_NE(html.find("<meta name=\"color-scheme\" content=\"light dark\">"), std::string::npos);
-  EXPECT_NE(html.find("@media (max-width:"), std::string::npos);
 }
 
 }  // namespace

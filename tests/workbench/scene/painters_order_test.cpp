@@ -176,21 +176,6 @@ TEST(PaintersOrder, KnowsBoxesInsideOthersAndRings) {
   EXPECT_LT(PaintersOrder(FacesOfAll(shells, true)).size(), FacesOfAll(shells, true).size());
 }
 
-TEST(PaintersOrder, CutsNothingThatLiesApart) {
-  Tangle tangle(11);
-  const Placement corner = tangle.AnyPlacement(5);
-  PlacedBoxes boxes;
-  for (int i = 0; i < 512; ++i) {
-    const Point low = {4.0 * (i % 8), 4.0 * (i / 8 % 8), 4.0 * (i / 64)};
-    boxes.push_back({{low, {low[0] + 1 + i % 4, low[1] + 1 + i % 3, low[2] + 4}}, corner});
-  }
-  const std::vector<SeenFace> painted = PaintersOrder(FacesOfAll(boxes, false));
-  EXPECT_EQ(painted.size(), 3 * boxes.size());
-  for (const SeenFace& face : painted) {
-    EXPECT_TRUE(std::ranges::all_of(face.corners, &SeenCorner::is_edge));
-  }
-}
-
 TEST(PaintersOrder, KeepsTheEdgesOfWhatItCuts) {
   const PlacedBoxes cross = {{{{-10, -1, -1}, {10, 1, 1}}, TurnedBy({0.9, 0.3, 0.3, 0}, {})},
                              {{{-1, -10, -1}, {1, 10, 1}}, TurnedBy({0.9, 0.3, 0.3, 0}, {})}};

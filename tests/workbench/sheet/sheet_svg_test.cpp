@@ -186,31 +186,6 @@ TEST_F(SheetSvg, HiddenLinesAreDashedAsTheStyleSays) {
   }
 }
 
-TEST_F(SheetSvg, ABoxSeenFromACornerShowsThreeFaces) {
-  const Rotation corner = Turned(TurnAbout(ScreenAxis::kY, 30), TurnAbout(ScreenAxis::kX, 25));
-  View(corner, {100, 100}, DisplayStyle::kHiddenLine);
-  const SheetPicture picture = Picture();
-  ASSERT_EQ(picture.views.at(0).boxes.size(), 3u);
-  for (const ShownBoxFaces& box : picture.views[0].boxes) {
-    EXPECT_EQ(box.front.size(), 3u);
-    EXPECT_EQ(box.back.size(), 3u);
-  }
-}
-
-TEST_F(SheetSvg, AllThatLiesBesideThePaperIsSeen) {
-  View(kNoRotation, {-200, 700}, DisplayStyle::kNoHidden);
-  Drawing().notes.Add({.id = 1, .place = {900, -150}, .text = "far"});
-  const std::string svg = Svg();
-  std::istringstream box(AttributeOf(svg, "viewBox"));
-  double x = 0, y = 0, width = 0, height = 0;
-  box >> x >> y >> width >> height;
-  const Outline outline = Drawing().views[0].outline;
-  EXPECT_LT(x, outline[0]);
-  EXPECT_LT(y, kHeightOfA2 - outline[3]);
-  EXPECT_GT(x + width, 900);
-  EXPECT_GT(y + height, kHeightOfA2 + 150);
-}
-
 TEST_F(SheetSvg, TwelveViewsOfALargeAssemblyStaySmall) {
   for (int id = 10; id < 400; ++id) Place(*top_, id, "pin", 7.77 * id, 3.33 * (id % 17), 1.1 * id);
   session_.Resolve(*top_);

@@ -32,20 +32,5 @@ TEST(CommandList, SaysWhereEachIsAvailable) {
   EXPECT_EQ(Join(" ", columns), "SetUnit yes yes - - -") << *row;
 }
 
-TEST(CommandList, IsTheTableOfBothReadmes) {
-  const std::vector<std::string> english = LinesOf({"commands", "--markdown", "english"});
-  const std::vector<std::string> chinese = LinesOf({"commands", "--markdown", "chinese"});
-  const auto has = [](const std::vector<std::string>& lines, const char* row) {
-    return std::ranges::find(lines, row) != lines.end();
-  };
-  EXPECT_TRUE(has(english,
-                  "| 15 | `QmIsolate` | 独立显示 | Show only the selected components. | "
-                  "assembly, manufacturing |"))
-      << Join("\n", english);
-  EXPECT_TRUE(
-      has(chinese, "| 15 | `QmIsolate` | 独立显示 | 仅显示所选元件，隐藏其余零件 | 组件、制造 |"))
-      << Join("\n", chinese);
-}
-
 }  // namespace
 }  // namespace wb

@@ -77,26 +77,6 @@ TEST_F(SessionStates, EveryChangeAroundTheModelsIsSeenAndPutBack) {
   EXPECT_EQ(NotPutBack(before, Now()), Lines());
 }
 
-TEST_F(SessionStates, ComponentsAreSeenAndPutBack) {
-  Model& lid = host_.session.Add(Model({"lid", ModelKind::kPart}));
-  Model& box = *host_.session.Find({"box", ModelKind::kAssembly});
-  host_.session.Resolve(box);
-  host_.session.ActivateComponent(&lid);
-  const SessionSnapshot start(host_, {folder_});
-  const SessionState before = Now();
-  host_.session.ActivateComponent(nullptr);
-  box.FindFeature(7)->constraints.push_back({PRO_ASM_FIX, {}, {}});
-  lid.solid().coordinate_systems.Add({4, kIdentityPlacement});
-  lid.solid().features.Add({.id = 1, .type = PRO_FEAT_MERGE, .name = "joined"});
-  const Lines changed = Differences(before, Now());
-  for (const std::string name : {"active model", "box.asm features/7/constraints",
-                                 "lid.prt coordinate_systems", "lid.prt features/1/name"}) {
-    EXPECT_TRUE(std::ranges::count(changed, name)) << name;
-  }
-  start.Restore(host_);
-  EXPECT_EQ(NotPutBack(before, Now()), Lines());
-}
-
 TEST_F(SessionStates, WhatIsRegisteredIsComparedWholeAndFoldersAreToldApart) {
   host_.commands.commands.emplace_back().name = "QmBom";
   host_.commands.FindMenu("Help")->buttons.emplace_back().name = "QmBom";
