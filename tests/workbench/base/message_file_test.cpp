@@ -32,9 +32,7 @@ TEST(MessageFile, ClassCodeBeforeTheKeyIsNoPartOfIt) {
   const struct {
     const char* code;
     MessageClass message_class;
-  } cases[] = {{"", MessageClass::kNone},     {"%CP", MessageClass::kPrompt},
-               {"%CI", MessageClass::kInfo},  {"%CW", MessageClass::kWarning},
-               {"%CE", MessageClass::kError}, {"%CC", MessageClass::kCritical}};
+  } cases[] = {{"", MessageClass::kNone}, {"%CW", MessageClass::kWarning}};
   for (const auto& item : cases) {
     const auto file = MessageFile::Parse(std::string(item.code) + "Key\ntext\n\n\n", "m.txt");
     ASSERT_NE(file.Find("Key"), nullptr) << item.code;

@@ -176,26 +176,6 @@ TEST(PaintersOrder, KnowsBoxesInsideOthersAndRings) {
   EXPECT_LT(PaintersOrder(FacesOfAll(shells, true)).size(), FacesOfAll(shells, true).size());
 }
 
-TEST(PaintersOrder, KeepsTheEdgesOfWhatItCuts) {
-  const PlacedBoxes cross = {{{{-10, -1, -1}, {10, 1, 1}}, TurnedBy({0.9, 0.3, 0.3, 0}, {})},
-                             {{{-1, -10, -1}, {1, 10, 1}}, TurnedBy({0.9, 0.3, 0.3, 0}, {})}};
-  const auto edges_of = [](const std::vector<SeenFace>& faces) {
-    double length = 0;
-    for (const SeenFace& face : faces) {
-      for (size_t i = 0; i < face.corners.size(); ++i) {
-        const Point& a = face.corners[i].at;
-        const Point& b = face.corners[(i + 1) % face.corners.size()].at;
-        if (face.corners[i].is_edge) length += std::hypot(b[0] - a[0], b[1] - a[1], b[2] - a[2]);
-      }
-    }
-    return length;
-  };
-  const std::vector<SeenFace> faces = FacesOfAll(cross, false);
-  const std::vector<SeenFace> painted = PaintersOrder(faces);
-  EXPECT_GT(painted.size(), faces.size());
-  EXPECT_NEAR(edges_of(painted), edges_of(faces), 1e-6);
-}
-
 TEST(PaintersOrder, StopsCuttingAtItsBound) {
   Tangle tangle(5);
   PlacedBoxes boxes;

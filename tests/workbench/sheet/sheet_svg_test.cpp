@@ -6,8 +6,8 @@
 #include <cmath>
 #include <map>
 #include <regex>
-#include <sstream>
 
+#include "tests/workbench/report/page_text.h"
 #include "workbench/session/drawing_views.h"
 #include "workbench/session/session.h"
 #include "workbench/sheet/view_boxes.h"
@@ -208,17 +208,12 @@ TEST_F(SheetSvg, ChangesAreMarkedOnBothSides) {
   Drawing().notes.Remove(1);
   Drawing().dimensions.Add({.id = 7, .place = {50, 50}, .value = 12});
   const SheetPicture after = Picture();
-  const auto count = [](const std::string& svg, const char* mark) {
-    std::size_t found = 0;
-    for (std::size_t at = svg.find(mark); at != svg.npos; at = svg.find(mark, at + 1)) ++found;
-    return found;
-  };
   const std::string old = DrawSheet(before, &after, SheetMoment::kBefore);
   const std::string now = DrawSheet(after, &before, SheetMoment::kAfter);
-  for (const std::string& svg : {old, now}) EXPECT_EQ(count(svg, "class=\"changed\""), 1u);
-  EXPECT_EQ(count(old, "class=\"removed\""), 1u);
-  EXPECT_EQ(count(now, "class=\"added\""), 1u);
-  EXPECT_EQ(count(DrawSheet(after, &after) + DrawSheet(after), "class=\"changed\""), 0u);
+  for (const std::string& svg : {old, now}) EXPECT_EQ(Count(svg, "class=\"changed\""), 1u);
+  EXPECT_EQ(Count(old, "class=\"removed\""), 1u);
+  EXPECT_EQ(Count(now, "class=\"added\""), 1u);
+  EXPECT_EQ(Count(DrawSheet(after, &after) + DrawSheet(after), "class=\"changed\""), 0u);
 }
 
 TEST_F(SheetSvg, TablesHaveTheirCellsAndTextsAreEscaped) {
@@ -233,14 +228,10 @@ TEST_F(SheetSvg, TablesHaveTheirCellsAndTextsAreEscaped) {
   Drawing().dimensions.Add({.id = 1, .text = evil});
   Drawing().sheets[0].format = "frame.frm";
   const std::string svg = Svg();
-  EXPECT_NE(svg.find(">1:1.429</text>"), svg.npos);
-  EXPECT_EQ(svg.find("outside"), svg.npos);
-  EXPECT_EQ(svg.find("<x>"), svg.npos);
-  const std::string escaped = ">&lt;x&gt;&quot;&amp;</text>";
-  std::size_t count = 0;
-  for (std::size_t at = svg.find(escaped); at != svg.npos; at = svg.find(escaped, at + 1)) ++count;
-  EXPECT_EQ(count, 3u);
-  EXPECT_NE(svg.find("class=\"frame\""), svg.npos);
+  EXPECT_TRUE(Shows(svg, ">1:1.429</text>"));
+  EXPECT_FALSE(Shows(svg, "outside"));
+  EXPECT_EQ(Count(svg, ">&lt;x&gt;&quot;&amp;</text>"), 3u);
+  EXPECT_TRUE(Shows(svg, "class=\"frame\""));
   Drawing().sheets[0].format_shown = false;
   EXPECT_EQ(Svg().find("class=\"frame\""), svg.npos);
 }
