@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 #include "workbench/session/extents.h"
 #include "workbench/session/session.h"
 
@@ -52,17 +50,6 @@ TEST_F(Merging, OnlyTurnsAndShiftsAreRigid) {
   for (const Placement& other : {scaled, mirrored, open, Placement{}}) {
     EXPECT_FALSE(IsRigid(other));
   }
-}
-
-TEST_F(Merging, SurfacesLieWhereTheAssemblyShowsThem) {
-  const Placement from = *PlacementAt(*pump_, {7, 3});
-  const Placement to = *PlacementAt(*pump_, {8});
-  const int id = AddMergeFeature(*body_, *bolt_, PlacedWithin(from, Inverse(to)), "joined");
-  EXPECT_EQ(body_->FindFeature(id)->merged, "bolt.prt");
-  EXPECT_TRUE(body_->modified);
-  const Box box = body_->solid().surfaces[0].box;
-  EXPECT_EQ(box.min, (Point{5, 19, 30}));
-  EXPECT_EQ(box.max, (Point{7, 23, 31}));
 }
 
 TEST_F(Merging, GeometryIsFollowedThroughSeveralParts) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/workbench/error_from.h"
 #include "tests/workbench/step/step_pair.h"
 
 namespace wb {
@@ -10,20 +11,10 @@ namespace {
 
 using Builder = StepTextBuilder;
 
-std::string ErrorOf(const Builder& file) {
-  try {
-    file.Read();
-  } catch (const StepError& error) {
-    return error.what();
-  }
-  return "accepted";
-}
-
 // With the line of instance `id`.
 void ExpectRefused(const Builder& file, int id, const std::string& reason = {}) {
-  const std::string error = ErrorOf(file);
-  EXPECT_EQ(error.find("pump.stp:" + std::to_string(id + 4) + ": "), 0u) << error;
-  EXPECT_NE(error.find(reason), std::string::npos) << error;
+  const std::string error = ErrorFrom([&] { file.Read(); });
+  ExpectError(error, "pump.stp:" + std::to_string(id + 4) + ": ", reason);
 }
 
 bool HasNote(const StepAssembly& assembly, const std::string& part) {
@@ -198,7 +189,7 @@ TEST(StepProduct, BrokenStructureIsRefusedWithItsLine) {
     file.Relate(part.representation, next + 2);
     ExpectRefused(file, shown);
   }
-  EXPECT_NE(ErrorOf(Builder()).find("holds no product"), std::string::npos);
+  ExpectError(ErrorFrom([] { Builder().Read(); }), "", "holds no product");
 }
 
 TEST(StepProduct, DeepAndWideAssembliesNeedNoStackAndLittleTime) {

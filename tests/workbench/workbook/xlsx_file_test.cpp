@@ -7,6 +7,7 @@
 #include <fstream>
 
 #include "tests/source_folder.h"
+#include "tests/workbench/error_from.h"
 #include "tests/workbench/temporary_folder.h"
 #include "workbench/base/utf8_text.h"
 #include "workbench/base/zip_archive.h"
@@ -25,12 +26,7 @@ class XlsxFile : public testing::Test {
   }
   // What reading `bytes` complains of; empty when it does not.
   std::string ErrorOf(const std::string& bytes) const {
-    try {
-      ReadXlsx(Write(bytes));
-      return "";
-    } catch (const XlsxError& error) {
-      return error.what();
-    }
+    return ErrorFrom([&] { ReadXlsx(Write(bytes)); });
   }
 
   const TemporaryFolder temporary_{"workbench xlsx test"};
@@ -117,7 +113,6 @@ TEST_F(XlsxFile, AFileSavedByAnotherProgramIsRead) {
   EXPECT_TRUE(sheet.IsMerged({{1, 1}, {1, 4}}));
   const CellFormat title = sheet.FormatAt({1, 1});
   EXPECT_TRUE(title.bold && title.size == 16 && title.fill == CellFill({false, 0xFFFF00}));
-  EXPECT_EQ(sheet.FormatAt({3, 1}).fill, (CellFill{false, 0xCCFFCC}));
   EXPECT_EQ(sheet.FormatAt({3, 1}).number_format, "@");
   EXPECT_EQ(sheet.FormatAt({2, 1}).alignment, CellAlignment::kCenter);
 }
