@@ -8,7 +8,6 @@
 #include <optional>
 #include <random>
 
-#include "workbench/session/extents.h"
 
 namespace wb {
 namespace {
@@ -148,32 +147,6 @@ TEST(PaintersOrder, PaintsLastWhatARayMeetsFirst) {
       ExpectTrue(parallel, are_opaque, "parallel " + std::to_string(seed));
     }
   }
-}
-
-// Bars around a middle, each of which lies on the next one and below the one before.
-TurnedBox BarOfRing(double part_of_turn) {
-  const double half_turn = part_of_turn * std::acos(-1.0);
-  const Placement around = TurnedBy({std::cos(half_turn), 0, 0, std::sin(half_turn)}, {20, 20, 20});
-  const Placement tilt = TurnedBy({std::cos(0.15), 0, std::sin(0.15), 0}, {});
-  return {{{-30, 2, -1}, {30, 14, 1}}, PlacedWithin(tilt, around)};
-}
-
-TEST(PaintersOrder, KnowsBoxesInsideOthersAndRings) {
-  Tangle tangle(3);
-  const Placement corner = tangle.AnyPlacement(5);
-  PlacedBoxes shells, bars;
-  for (int i = 1; i < 20; ++i) {
-    const double size = i;
-    shells.push_back({{{-size, -size, -size}, {size, size, size}}, corner});
-  }
-  for (const double third : {0.0, 1.0, 2.0}) bars.push_back(BarOfRing(third / 3));
-  for (const bool are_opaque : {true, false}) {
-    ExpectTrue(shells, are_opaque, "shells");
-    ExpectTrue(bars, are_opaque, "bars");
-  }
-  const std::vector<SeenFace> ring = FacesOfAll(bars, false);
-  EXPECT_GT(PaintersOrder(ring).size(), ring.size());
-  EXPECT_LT(PaintersOrder(FacesOfAll(shells, true)).size(), FacesOfAll(shells, true).size());
 }
 
 TEST(PaintersOrder, StopsCuttingAtItsBound) {

@@ -295,14 +295,7 @@ TEST(ScriptRunner, WhatFailedBeforeACrashIsToldAsWell) {
   EXPECT_NE(told.find("scripts_test.qms:2: "), std::string::npos) << told;
 }
 
-TEST(FaultSweeps, TellWhatIsWrittenOtherwiseWithoutAWord) {
-  const std::string failures =
-      FailuresOf("part bolt\nopen bolt\nsweep Wrong\n", {"--plugin", WrongPlugin("blank_setting")});
-  EXPECT_NE(failures.find("notes.ini [last] model became \"\""), std::string::npos) << failures;
-  EXPECT_EQ(failures.find("does not put back"), std::string::npos) << failures;
-}
-
-TEST(FaultSweeps, TellAStatusThatNobodyLooksAtAndWorkThatIsDoneTwice) {
+TEST(FaultSweeps, TellWhatPluginsDoWrongWhereACallFails) {
   const struct {
     const char* plugin;
     const char* fault;
@@ -310,6 +303,8 @@ TEST(FaultSweeps, TellAStatusThatNobodyLooksAtAndWorkThatIsDoneTwice) {
   } cases[] = {
       {"swallowed_status", " at ProParameterCreate (", "work left undone without a word: "},
       {"written_twice", " at ProWindowCurrentGet (", ", without a fault "},
+      {"blank_setting", " at ProMdlCurrentGet (", "notes.ini [last] model became \"\""},
+      {"no_way_out", " at ProMdlCurrentGet (", "the dialog AboutQm gives the user no way out"},
   };
   for (const auto& item : cases) {
     const std::string failures =
@@ -317,6 +312,7 @@ TEST(FaultSweeps, TellAStatusThatNobodyLooksAtAndWorkThatIsDoneTwice) {
                    {"--plugin", WrongPlugin(item.plugin)});
     EXPECT_NE(failures.find(item.fault), std::string::npos) << failures;
     EXPECT_NE(failures.find(item.told), std::string::npos) << failures;
+    EXPECT_EQ(failures.find("does not put back"), std::string::npos) << failures;
   }
 }
 
@@ -352,14 +348,6 @@ TEST(FaultSweeps, AreLargeOrSampledAsOrdered) {
   const long sampled = faults({"--sampled-faults"});
   EXPECT_GT(sampled, 100);
   EXPECT_GT(faults({}), 2 * sampled);
-}
-
-TEST(FaultSweeps, TellADialogThatCannotBeClosed) {
-  const std::string failures =
-      FailuresOf("part bolt\nopen bolt\nsweep Wrong\n", {"--plugin", WrongPlugin("no_way_out")});
-  EXPECT_NE(failures.find(" at ProMdlCurrentGet ("), std::string::npos) << failures;
-  EXPECT_NE(failures.find("the dialog AboutQm gives the user no way out"), std::string::npos)
-      << failures;
 }
 
 TEST(FaultSweeps, CountAnExpectationInsideAsAnotherThingThatMustHold) {
