@@ -31,15 +31,9 @@ TEST(MessageFile, KeysAreExactAndTranslationsPreferred) {
 }
 
 TEST(MessageFile, ClassCodeBeforeTheKeyIsNoPartOfIt) {
-  const struct {
-    const char* code;
-    MessageClass message_class;
-  } cases[] = {{"", MessageClass::kNone}, {"%CW", MessageClass::kWarning}};
-  for (const auto& item : cases) {
-    const auto file = MessageFile::Parse(std::string(item.code) + "Key\ntext\n\n\n", "m.txt");
-    ASSERT_NE(file.Find("Key"), nullptr) << item.code;
-    EXPECT_EQ(file.Find("Key")->message_class, item.message_class) << item.code;
-  }
+  const auto file = MessageFile::Parse("%CWKey\ntext\n\n\n", "m.txt");
+  ASSERT_NE(file.Find("Key"), nullptr);
+  EXPECT_EQ(file.Find("Key")->message_class, MessageClass::kWarning);
 }
 
 TEST(MessageFile, MistakesNameTheirLine) {
@@ -64,13 +58,6 @@ TEST(MessageFile, MistakesNameTheirLine) {
     const std::string error = ErrorFrom([&] { MessageFile::Parse(item.text, "m.txt"); });
     ExpectError(error, "m.txt:" + std::to_string(item.line) + ": ", item.reason);
   }
-}
-
-TEST(MessageText, CodesAreListedInCallOrder) {
-  const auto codes = MessageArgCodes("%2f of %0w, again %0w: %1d (100%)");
-  const std::vector<MessageArgCode> expected = {
-      {0, MessageArgType::kWide}, {1, MessageArgType::kInteger}, {2, MessageArgType::kDouble}};
-  EXPECT_EQ(codes, expected);
 }
 
 TEST(MessageText, ArgumentsAreFilledInByTheirIndex) {

@@ -34,12 +34,10 @@ TEST(DialogResource, ReadsComponentsAttributesAndLayout) {
   EXPECT_EQ(resource.name, "Sample");
   EXPECT_EQ(resource.dialog.Text("Label"), "say \"hi\"\\now\nthere");
   ASSERT_EQ(resource.components.size(), 5u);
-  EXPECT_EQ(resource.components[3].name, "Ok");
   EXPECT_EQ(resource.Find("Kind")->Texts("Labels"), (std::vector<std::string>{"甲", "乙"}));
   EXPECT_EQ(resource.Find("Field")->Number("Columns", 0), 24);
   EXPECT_TRUE(resource.Find("Deep")->Flag("Set", false));
   EXPECT_EQ(resource.Find("Field")->parent, "Target");
-  EXPECT_EQ(resource.Find("Target")->parent, "");
   const LayoutCell& deep = resource.Find("Target")->layout.cells[2];
   EXPECT_EQ(deep.component, "Deep");
   EXPECT_EQ(deep.row, 1);

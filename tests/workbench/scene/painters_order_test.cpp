@@ -8,7 +8,6 @@
 #include <optional>
 #include <random>
 
-
 namespace wb {
 namespace {
 

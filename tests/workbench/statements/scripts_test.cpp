@@ -9,8 +9,8 @@
 
 #include "tests/long_run.h"
 #include "tests/source_folder.h"
+#include "tests/workbench/error_from.h"
 #include "tests/workbench/test_paths.h"
-#include "workbench/base/command_line.h"
 #include "workbench/base/text.h"
 #include "workbench/reasons/own_path.h"
 #include "workbench/script/script_windows.h"
@@ -200,16 +200,6 @@ TEST(ScriptRunner, TheStubOfADialogThatNobodyAnsweredAnswersItWhenPasted) {
   }
 }
 
-// The usage error of an option, or "" when it is taken.
-std::string RefusalOf(const std::string& fault) {
-  try {
-    FaultOption(fault);
-  } catch (const UsageError& error) {
-    return error.what();
-  }
-  return "";
-}
-
 TEST(FaultOptions, AreReadAndRefusedAsTheStatementIs) {
   const struct {
     const char* option;
@@ -226,8 +216,8 @@ TEST(FaultOptions, AreReadAndRefusedAsTheStatementIs) {
       {"any:1:and:2", "STATUS is missing at its end; it wants"},
   };
   for (const auto& item : cases) {
-    const std::string refusal = RefusalOf(item.option);
-    EXPECT_EQ(refusal.find("--fault " + std::string(item.option) + ": " + item.why), 0u) << refusal;
+    const std::string refusal = ErrorFrom([&] { FaultOption(item.option); });
+    ExpectError(refusal, "--fault " + std::string(item.option) + ": ", item.why);
   }
   const FaultPlan plan = FaultOption("Excel.Range.Value2=:3:out_of_memory:from_then_on");
   EXPECT_EQ(plan.function, "Excel.Range.Value2=");
