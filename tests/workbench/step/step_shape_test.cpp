@@ -91,6 +91,15 @@ TEST(StepShape, ArcsReachAsFarAsTheyBend) {
   }
 }
 
+// A whole circle about the z axis.
+int CircleEdge(Builder& file, const std::string& height, const std::string& radius,
+               bool forward = true) {
+  const int axis = file.Axis("0.,0.," + height);
+  const int circle = file.Add("CIRCLE(''," + Builder::Ref(axis) + "," + radius + ")");
+  const int start = file.Vertex(radius + ",0.," + height);
+  return file.Edge(start, start, circle, forward);
+}
+
 TEST(StepShape, CurvedFacesBulgeOnTheirOwnSideOnly) {
   struct Cap {
     const char* surface;
@@ -106,25 +115,15 @@ TEST(StepShape, CurvedFacesBulgeOnTheirOwnSideOnly) {
   };
   for (const Cap& cap : caps) {
     Builder file;
-    const int circle =
-        file.Add("CIRCLE(''," + Builder::Ref(file.Axis(std::string("0.,0.,") + cap.height)) + "," +
-                 cap.radius + ")");
-    const int start = file.Vertex(std::string(cap.radius) + ",0.," + cap.height);
-    const StepAssembly assembly =
-        OneFace(file, {file.Edge(start, start, circle)}, cap.surface, cap.same_sense);
+    const int edge = CircleEdge(file, cap.height, cap.radius);
+    const StepAssembly assembly = OneFace(file, {edge}, cap.surface, cap.same_sense);
     ExpectBox(assembly.models[0].extents, cap.min, cap.max, cap.surface);
     EXPECT_EQ(assembly.models[0].faces.size(), 1u);
   }
   for (const bool same_sense : {true, false}) {  // a ring's outer or inner half
     Builder file;
-    std::vector<int> edges;
-    for (const bool top : {true, false}) {
-      const char* height = top ? "1." : "-1.";
-      const int circle = file.Add(
-          "CIRCLE(''," + Builder::Ref(file.Axis(std::string("0.,0.,") + height)) + ",10.)");
-      const int start = file.Vertex(std::string("10.,0.,") + height);
-      edges.push_back(file.Edge(start, start, circle, !top));
-    }
+    const std::vector<int> edges = {CircleEdge(file, "1.", "10.", false),
+                                    CircleEdge(file, "-1.", "10.", true)};
     const double reach = same_sense ? 11 : 10;
     ExpectBox(OneFace(file, edges, "TOROIDAL_SURFACE('',%o,10.,1.)", same_sense).models[0].extents,
               {{-reach, -reach, -1}}, {{reach, reach, 1}}, "torus");
