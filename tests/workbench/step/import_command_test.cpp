@@ -182,13 +182,12 @@ TEST(ImportTable, CountsWhatAnyAssemblyHolds) {
   const struct {
     int levels;
     const char* count;
-  } cases[] = {
-    {3, "  8\n"}, {40, "  1099511627776\n"}, {64, "  over 18446744073709551614\n"},
-    for (const auto& item
-         : cases){const std::string table = ModelTable(Doubling(item.levels));
-  const std::string last = table.substr(table.rfind("bolt.prt"));
-  EXPECT_NE(last.find(item.count), std::string::npos) << item.levels << ": " << last;
-}
+  } cases[] = {{3, "  8\n"}, {40, "  1099511627776\n"}, {64, "  over 18446744073709551614\n"}};
+  for (const auto& item : cases) {
+    const std::string table = ModelTable(Doubling(item.levels));
+    const std::string last = table.substr(table.rfind("bolt.prt"));
+    EXPECT_NE(last.find(item.count), std::string::npos) << item.levels << ": " << last;
+  }
 }
 
 }  // namespace
