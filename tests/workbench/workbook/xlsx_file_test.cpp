@@ -195,6 +195,7 @@ TEST_F(XlsxFile, WhatIsMadeToHurtIsRefusedWithItsReason) {
       {Archive("<worksheet/>", "<sst><si>" + runs),
        "book.xlsx!xl/t.xml:1: a run of text stands inside another one"},
       {Archive("<worksheet>" + Repeated("<a>", 1000)), "elements are nested more than 256 deep"},
+      {Archive("<worksheet " + Repeated("a='' ", 1000)), "more than 256 attributes"},
       {SaidToBeHuge(Archive("<worksheet/>")),
        "book.xlsx: _rels/.rels: said to unpack to 1073741824 bytes, which "},
       {Archive("<worksheet>" + std::string(40'000'000, ' ')), " bytes unpacks to more than "},
