@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 #include "workbench/session/extents.h"
 #include "workbench/session/session.h"
 
@@ -39,27 +37,9 @@ class Merging : public testing::Test {
   Model* pump_;
 };
 
-TEST_F(Merging, APathLeadsThroughTheLevels) {
-  const auto at = PlacementAt(*pump_, {7, 3});
-  ASSERT_TRUE(at);
-  EXPECT_EQ(PlacedAt({0, 0, 0}, *at), (Point{8, 21, 33}));
-  EXPECT_EQ(PlacedAt({1, 0, 0}, *at), (Point{8, 22, 33}));
-  EXPECT_FALSE(PlacementAt(*pump_, {7, 99}));
-  EXPECT_FALSE(PlacementAt(*pump_, {7, 3, 1}));
-}
-
 TEST_F(Merging, WhatAComponentHoldsComesBeforeTheNextOne) {
   EXPECT_EQ(FirstPlacementOf(*pump_, *body_), kTurned);
   EXPECT_EQ(FirstPlacementOf(*rotor_, *pump_), std::nullopt);
-}
-
-TEST_F(Merging, TheWayBackUndoesAPlacement) {
-  const Placement undone = PlacedWithin(kTurned, Inverse(kTurned));
-  for (size_t row = 0; row < 4; ++row) {
-    for (size_t column = 0; column < 4; ++column) {
-      EXPECT_NEAR(undone[row][column], kIdentityPlacement[row][column], 1e-12);
-    }
-  }
 }
 
 TEST_F(Merging, OnlyTurnsAndShiftsAreRigid) {
@@ -70,17 +50,6 @@ TEST_F(Merging, OnlyTurnsAndShiftsAreRigid) {
   for (const Placement& other : {scaled, mirrored, open, Placement{}}) {
     EXPECT_FALSE(IsRigid(other));
   }
-}
-
-TEST_F(Merging, SurfacesLieWhereTheAssemblyShowsThem) {
-  const Placement from = *PlacementAt(*pump_, {7, 3});
-  const Placement to = *PlacementAt(*pump_, {8});
-  const int id = AddMergeFeature(*body_, *bolt_, PlacedWithin(from, Inverse(to)), "joined");
-  EXPECT_EQ(body_->FindFeature(id)->merged, "bolt.prt");
-  EXPECT_TRUE(body_->modified);
-  const Box box = body_->solid().surfaces[0].box;
-  EXPECT_EQ(box.min, (Point{5, 19, 30}));
-  EXPECT_EQ(box.max, (Point{7, 23, 31}));
 }
 
 TEST_F(Merging, GeometryIsFollowedThroughSeveralParts) {

@@ -9,16 +9,12 @@ namespace wb {
 namespace {
 
 constexpr const char* kHtmlResource = R"((Dialog D
-    (Components (InputPanel Field) (RadioGroup Radio) (PushButton Ok) (Table Bill) (Tab Pages)
-        (SubLayout One) (SubLayout Two) (Label L1) (Label L2))
+    (Components (InputPanel Field) (RadioGroup Radio) (PushButton Ok) (Table Bill))
     (Resources
         (.Label "<Title> & \"more\"") (.DefaultButton "Ok")
-        (.Layout (Grid (Rows 1 1 1 1 1) (Cols 1) Field Radio Ok Bill Pages))
+        (.Layout (Grid (Rows 1 1 1 1) (Cols 1) Field Radio Ok Bill))
         (Field.HelpText "\"><b>") (Radio.Names "a" "b") (Radio.Labels "Ay" "Bee")
         (Ok.Label "OK") (Bill.ColumnNames "num") (Bill.ColumnLabels "No")
-        (Pages.Layout (Grid (Rows 1) (Cols 1 1) One Two)) (One.Label "First") (Two.Label "Second")
-        (One.Layout (Grid (Rows 1) (Cols 1) L1)) (Two.Layout (Grid (Rows 1) (Cols 1) L2))
-        (L1.Label "on page one") (L2.Label "on page two")
     )))";
 
 class DialogHtmlTest : public testing::Test {
@@ -54,17 +50,6 @@ TEST_F(DialogHtmlTest, ShowsTheLiveState) {
   EXPECT_TRUE(Shows("<div class=\"dlg-on\"><i></i>Bee</div>"));
   EXPECT_TRUE(Shows("dlg-button dlg-default dlg-off\" data-name=\"Ok\""));
   EXPECT_FALSE(Shows("data-name=\"Field\""));
-}
-
-TEST_F(DialogHtmlTest, TabPagesFollowOneAnotherEachUnderItsTab) {
-  const std::string html = DrawDialog(dialog_);
-  const auto first = html.find("<span class=\"dlg-on\">First</span><span>Second</span>");
-  const auto second = html.find("<span>First</span><span class=\"dlg-on\">Second</span>");
-  ASSERT_NE(first, std::string::npos);
-  ASSERT_NE(second, std::string::npos);
-  EXPECT_LT(first, html.find("on page one"));
-  EXPECT_LT(html.find("on page one"), second);
-  EXPECT_LT(second, html.find("on page two"));
 }
 
 TEST_F(DialogHtmlTest, LongTablesAreCutAndColoursDrawn) {

@@ -64,13 +64,6 @@ TEST_F(DialogTextTest, LabelsAreThoseThatTheUserSeesNow) {
   EXPECT_EQ(Called("其他"), "Words");
 }
 
-TEST_F(DialogTextTest, ItemsAreChosenByTheirLabelsToo) {
-  EXPECT_TRUE(dialog_.UserSelect("Kind", {"零件"}).Done());
-  ChoiceState* kind = nullptr;
-  ASSERT_EQ(dialog_.Find(FieldKind::kRadioGroup, "Kind", &kind), UiStatus::kOk);
-  EXPECT_EQ(kind->Selected(), std::vector<std::string>{"b"});
-}
-
 TEST_F(DialogTextTest, ADialogIsToldWithNamesLabelsAndValues) {
   dialog_.SetEnabled(FieldKind::kSubLayout, "Target", false);
   TableModel* bill = nullptr;

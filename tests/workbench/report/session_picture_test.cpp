@@ -43,14 +43,6 @@ TEST(SessionPictureTest, CountsOccurrencesBeyondTheLimitWithoutVisitingThem) {
   EXPECT_EQ(tree.left_out, (std::uint64_t{1} << 41) - 1 - 100);
 }
 
-TEST(SessionPictureTest, AModelInsideItselfEnds) {
-  Session session;
-  Model& top = AddNested(session, 2, 1);
-  Model& below = *top.solid().features[0].ComponentModel();
-  below.solid().features[0].component->link.model = &top;
-  EXPECT_EQ(TakeTree(top).rows.size(), 3u);
-}
-
 TEST(SessionPictureTest, NotesWhatACommandChanged) {
   Session session;
   Model& bolt = session.Add(Named("bolt", ModelKind::kPart));

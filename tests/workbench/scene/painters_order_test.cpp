@@ -8,8 +8,6 @@
 #include <optional>
 #include <random>
 
-#include "workbench/session/extents.h"
-
 namespace wb {
 namespace {
 
@@ -148,67 +146,6 @@ TEST(PaintersOrder, PaintsLastWhatARayMeetsFirst) {
       ExpectTrue(parallel, are_opaque, "parallel " + std::to_string(seed));
     }
   }
-}
-
-// Bars around a middle, each of which lies on the next one and below the one before.
-TurnedBox BarOfRing(double part_of_turn) {
-  const double half_turn = part_of_turn * std::acos(-1.0);
-  const Placement around = TurnedBy({std::cos(half_turn), 0, 0, std::sin(half_turn)}, {20, 20, 20});
-  const Placement tilt = TurnedBy({std::cos(0.15), 0, std::sin(0.15), 0}, {});
-  return {{{-30, 2, -1}, {30, 14, 1}}, PlacedWithin(tilt, around)};
-}
-
-TEST(PaintersOrder, KnowsBoxesInsideOthersAndRings) {
-  Tangle tangle(3);
-  const Placement corner = tangle.AnyPlacement(5);
-  PlacedBoxes shells, bars;
-  for (int i = 1; i < 20; ++i) {
-    const double size = i;
-    shells.push_back({{{-size, -size, -size}, {size, size, size}}, corner});
-  }
-  for (const double third : {0.0, 1.0, 2.0}) bars.push_back(BarOfRing(third / 3));
-  for (const bool are_opaque : {true, false}) {
-    ExpectTrue(shells, are_opaque, "shells");
-    ExpectTrue(bars, are_opaque, "bars");
-  }
-  const std::vector<SeenFace> ring = FacesOfAll(bars, false);
-  EXPECT_GT(PaintersOrder(ring).size(), ring.size());
-  EXPECT_LT(PaintersOrder(FacesOfAll(shells, true)).size(), FacesOfAll(shells, true).size());
-}
-
-TEST(PaintersOrder, CutsNothingThatLiesApart) {
-  Tangle tangle(11);
-  const Placement corner = tangle.AnyPlacement(5);
-  PlacedBoxes boxes;
-  for (int i = 0; i < 512; ++i) {
-    const Point low = {4.0 * (i % 8), 4.0 * (i / 8 % 8), 4.0 * (i / 64)};
-    boxes.push_back({{low, {low[0] + 1 + i % 4, low[1] + 1 + i % 3, low[2] + 4}}, corner});
-  }
-  const std::vector<SeenFace> painted = PaintersOrder(FacesOfAll(boxes, false));
-  EXPECT_EQ(painted.size(), 3 * boxes.size());
-  for (const SeenFace& face : painted) {
-    EXPECT_TRUE(std::ranges::all_of(face.corners, &SeenCorner::is_edge));
-  }
-}
-
-TEST(PaintersOrder, KeepsTheEdgesOfWhatItCuts) {
-  const PlacedBoxes cross = {{{{-10, -1, -1}, {10, 1, 1}}, TurnedBy({0.9, 0.3, 0.3, 0}, {})},
-                             {{{-1, -10, -1}, {1, 10, 1}}, TurnedBy({0.9, 0.3, 0.3, 0}, {})}};
-  const auto edges_of = [](const std::vector<SeenFace>& faces) {
-    double length = 0;
-    for (const SeenFace& face : faces) {
-      for (size_t i = 0; i < face.corners.size(); ++i) {
-        const Point& a = face.corners[i].at;
-        const Point& b = face.corners[(i + 1) % face.corners.size()].at;
-        if (face.corners[i].is_edge) length += std::hypot(b[0] - a[0], b[1] - a[1], b[2] - a[2]);
-      }
-    }
-    return length;
-  };
-  const std::vector<SeenFace> faces = FacesOfAll(cross, false);
-  const std::vector<SeenFace> painted = PaintersOrder(faces);
-  EXPECT_GT(painted.size(), faces.size());
-  EXPECT_NEAR(edges_of(painted), edges_of(faces), 1e-6);
 }
 
 TEST(PaintersOrder, StopsCuttingAtItsBound) {

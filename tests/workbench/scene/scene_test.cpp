@@ -36,8 +36,6 @@ class PicturedAssembly : public testing::Test {
   Session session_;
 };
 
-using Names = std::vector<std::string>;
-
 // A wall on the viewer's side hides a cube, unless it is clear; one on the far side does not.
 TEST_F(PicturedAssembly, IsSeenFromInFrontAboveAndTheRight) {
   Model& cube = AddPart("cube", {{-1, -1, -1}, {1, 1, 1}});
@@ -105,17 +103,14 @@ TEST_F(PicturedAssembly, ColoursPartsByThemselvesOrWhatIsNearestAbove) {
 
 TEST_F(PicturedAssembly, KeepsTheLargestOfTooMany) {
   Model& top = AddAssembly("top");
-  for (int i = 1; i <= 20; ++i) {
+  for (int i = 11; i <= 30; ++i) {
     const double size = i;
     Place(top, AddPart("p" + std::to_string(i), {{0, 0, 0}, {size, size, size}}), At(30 * i, 0, 0));
   }
   const Scene scene = TakeScene(top, 5);
   EXPECT_EQ(scene.boxes.size(), 5u);
   EXPECT_EQ(scene.left_out, 15u);
-  std::vector<std::string> names;
-  for (const SceneBox& box : scene.boxes) names.push_back(box.model);
-  std::ranges::sort(names);
-  EXPECT_EQ(names, (Names{"p16.prt", "p17.prt", "p18.prt", "p19.prt", "p20.prt"}));
+  for (const SceneBox& box : scene.boxes) EXPECT_GE(box.model, "p26.prt");
 }
 
 TEST_F(PicturedAssembly, CountsWhatItDoesNotMeet) {

@@ -6,8 +6,8 @@
 #include <cmath>
 #include <map>
 #include <regex>
-#include <sstream>
 
+#include "tests/workbench/report/page_text.h"
 #include "workbench/session/drawing_views.h"
 #include "workbench/session/session.h"
 #include "workbench/sheet/view_boxes.h"
@@ -186,31 +186,6 @@ TEST_F(SheetSvg, HiddenLinesAreDashedAsTheStyleSays) {
   }
 }
 
-TEST_F(SheetSvg, ABoxSeenFromACornerShowsThreeFaces) {
-  const Rotation corner = Turned(TurnAbout(ScreenAxis::kY, 30), TurnAbout(ScreenAxis::kX, 25));
-  View(corner, {100, 100}, DisplayStyle::kHiddenLine);
-  const SheetPicture picture = Picture();
-  ASSERT_EQ(picture.views.at(0).boxes.size(), 3u);
-  for (const ShownBoxFaces& box : picture.views[0].boxes) {
-    EXPECT_EQ(box.front.size(), 3u);
-    EXPECT_EQ(box.back.size(), 3u);
-  }
-}
-
-TEST_F(SheetSvg, AllThatLiesBesideThePaperIsSeen) {
-  View(kNoRotation, {-200, 700}, DisplayStyle::kNoHidden);
-  Drawing().notes.Add({.id = 1, .place = {900, -150}, .text = "far"});
-  const std::string svg = Svg();
-  std::istringstream box(AttributeOf(svg, "viewBox"));
-  double x = 0, y = 0, width = 0, height = 0;
-  box >> x >> y >> width >> height;
-  const Outline outline = Drawing().views[0].outline;
-  EXPECT_LT(x, outline[0]);
-  EXPECT_LT(y, kHeightOfA2 - outline[3]);
-  EXPECT_GT(x + width, 900);
-  EXPECT_GT(y + height, kHeightOfA2 + 150);
-}
-
 TEST_F(SheetSvg, TwelveViewsOfALargeAssemblyStaySmall) {
   for (int id = 10; id < 400; ++id) Place(*top_, id, "pin", 7.77 * id, 3.33 * (id % 17), 1.1 * id);
   session_.Resolve(*top_);
@@ -233,17 +208,12 @@ TEST_F(SheetSvg, ChangesAreMarkedOnBothSides) {
   Drawing().notes.Remove(1);
   Drawing().dimensions.Add({.id = 7, .place = {50, 50}, .value = 12});
   const SheetPicture after = Picture();
-  const auto count = [](const std::string& svg, const char* mark) {
-    std::size_t found = 0;
-    for (std::size_t at = svg.find(mark); at != svg.npos; at = svg.find(mark, at + 1)) ++found;
-    return found;
-  };
   const std::string old = DrawSheet(before, &after, SheetMoment::kBefore);
   const std::string now = DrawSheet(after, &before, SheetMoment::kAfter);
-  for (const std::string& svg : {old, now}) EXPECT_EQ(count(svg, "class=\"changed\""), 1u);
-  EXPECT_EQ(count(old, "class=\"removed\""), 1u);
-  EXPECT_EQ(count(now, "class=\"added\""), 1u);
-  EXPECT_EQ(count(DrawSheet(after, &after) + DrawSheet(after), "class=\"changed\""), 0u);
+  for (const std::string& svg : {old, now}) EXPECT_EQ(Count(svg, "class=\"changed\""), 1u);
+  EXPECT_EQ(Count(old, "class=\"removed\""), 1u);
+  EXPECT_EQ(Count(now, "class=\"added\""), 1u);
+  EXPECT_EQ(Count(DrawSheet(after, &after) + DrawSheet(after), "class=\"changed\""), 0u);
 }
 
 TEST_F(SheetSvg, TablesHaveTheirCellsAndTextsAreEscaped) {
@@ -258,14 +228,10 @@ TEST_F(SheetSvg, TablesHaveTheirCellsAndTextsAreEscaped) {
   Drawing().dimensions.Add({.id = 1, .text = evil});
   Drawing().sheets[0].format = "frame.frm";
   const std::string svg = Svg();
-  EXPECT_NE(svg.find(">1:1.429</text>"), svg.npos);
-  EXPECT_EQ(svg.find("outside"), svg.npos);
-  EXPECT_EQ(svg.find("<x>"), svg.npos);
-  const std::string escaped = ">&lt;x&gt;&quot;&amp;</text>";
-  std::size_t count = 0;
-  for (std::size_t at = svg.find(escaped); at != svg.npos; at = svg.find(escaped, at + 1)) ++count;
-  EXPECT_EQ(count, 3u);
-  EXPECT_NE(svg.find("class=\"frame\""), svg.npos);
+  EXPECT_TRUE(Shows(svg, ">1:1.429</text>"));
+  EXPECT_FALSE(Shows(svg, "outside"));
+  EXPECT_EQ(Count(svg, ">&lt;x&gt;&quot;&amp;</text>"), 3u);
+  EXPECT_TRUE(Shows(svg, "class=\"frame\""));
   Drawing().sheets[0].format_shown = false;
   EXPECT_EQ(Svg().find("class=\"frame\""), svg.npos);
 }

@@ -17,12 +17,10 @@ TEST(SheetTextTest, TolerancesStandWithTheValue) {
       {ToleranceType::kNominal, "", 0.1, 0.1, {"12.5"}},
       {ToleranceType::kNominal, "R@D", 0, 0, {"R12.5"}},
       {ToleranceType::kPlusMinus, "4×@DEQS", 0.1, 0.05, {"4×12.5", "+0.1", "-0.05", "EQS"}},
-      {ToleranceType::kPlusMinus, "", 0, 0.05, {"12.5", "0", "-0.05"}},
       {ToleranceType::kPlusMinus, "", 0.3, -0.1, {"12.5", "+0.3", "+0.1"}},
       {ToleranceType::kSymmetric, "(@D)", 0.2, 0.2, {"(12.5±0.2)"}},
       {ToleranceType::kSymmetricSuperscript, "@DH7", 0.2, 0.2, {"12.5", "±0.2", "", "H7"}},
       {ToleranceType::kLimits, "t@D", 0.1, 0.05, {"t", "12.6", "12.45"}},
-      {ToleranceType::kSymmetric, "no value", 0.2, 0.2, {"no value"}},
   };
   for (const auto& item : cases) {
     const Dimension dimension{.value = 12.5,

@@ -93,7 +93,6 @@ class TestObject {
   }
 
   IDispatch* get() const { return object_; }
-  explicit operator bool() const { return object_ != nullptr; }
 
   inline static HRESULT result = S_OK;
   inline static std::string description;

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "tests/workbench/host/host_fixture.h"
 #include "tests/workbench/spreadsheet/automation_client.h"
@@ -13,39 +12,24 @@
 namespace wb {
 
 enum Member : DISPID {
-  kColor = 0x63,
   kColorIndex = 0x61,
-  kSize = 0x68,
-  kBold = 0x60,
-  kCount = 0x76,
   kInterior = 0x81,
-  kAlignment = 0x88,
-  kFont = 0x92,
   kItem = 0xAA,
   kSaveCopyAs = 0xAF,
   kAdd = 0xB5,
   kNumberFormat = 0xC1,
   kRange = 0xC5,
   kAutoFit = 0xED,
-  kCells = 0xEE,
-  kColumns = 0xF1,
-  kEntireColumn = 0xF6,
-  kRows = 0x102,
   kClose = 0x115,
   kSaved = 0x12A,
   kQuit = 0x12E,
-  kActiveSheet = 0x133,
-  kUsedRange = 0x19C,
   kSheets = 0x1E5,
-  kWorksheets = 0x1EE,
   kVisible = 0x22E,
   kMerge = 0x234,
   kWorkbooks = 0x23C,
-  kUserControl = 0x4BA,
   kValue2 = 0x56C,
   kOpen = 0x783,
 };
-constexpr int kCentre = -4108;
 
 class SpreadsheetFixture : public HostFixture {
  protected:
@@ -68,10 +52,6 @@ class SpreadsheetFixture : public HostFixture {
   struct Opened {
     TestObject program, book, sheet;
     TestObject Cell(const char* address) const { return sheet.Get(kRange, address, address); }
-    void End() const {
-      book.Put(kSaved, true);
-      program.Call(kQuit);
-    }
   };
   Opened OpenNew() {
     Opened opened;
@@ -82,12 +62,6 @@ class SpreadsheetFixture : public HostFixture {
   }
 
   std::string File(const char* name) const { return PathToUtf8(folder_ / name); }
-  std::vector<std::string> Calls() const {
-    std::vector<Crossed> lines = host_.trace.lines();
-    std::vector<std::string> names;
-    for (const Crossed& line : lines) names.push_back(line.function.substr(6));
-    return names;
-  }
 };
 
 }  // namespace wb

@@ -8,37 +8,6 @@ namespace {
 
 using SpreadsheetLife = SpreadsheetFixture;
 
-TEST_F(SpreadsheetLife, OrdersMakeCallsFail) {
-  const Opened excel = OpenNew();
-  const TestObject cell = excel.Cell("A1");
-  const auto results = [&](SpreadsheetOrders orders, int calls) {
-    spreadsheet_.Order(std::move(orders));
-    std::vector<HRESULT> got;
-    for (int i = 0; i < calls; ++i) got.push_back(cell.Put(kNumberFormat, "@"));
-    return got;
-  };
-  using Results = std::vector<HRESULT>;
-  EXPECT_EQ(results({.busy = 2}, 3),
-            (Results{RPC_E_SERVERCALL_RETRYLATER, RPC_E_CALL_REJECTED, S_OK}));
-  EXPECT_EQ(results({.fail_at = 2}, 3), (Results{S_OK, DISP_E_EXCEPTION, S_OK}));
-  EXPECT_EQ(results({.fail_at = 1, .fail_silently = true}, 2), (Results{E_OUTOFMEMORY, S_OK}));
-  EXPECT_EQ(results({.fail_at = 1, .fail_member = "Range.Merge"}, 1), Results{S_OK});
-  cell.Call(kMerge, 0);
-  EXPECT_EQ(TestObject::result, DISP_E_EXCEPTION);
-  EXPECT_EQ(results({.die_at = 2}, 3), (Results{S_OK, RPC_E_SERVERFAULT, RPC_E_SERVERFAULT}));
-  ReportLeftPrograms(host_.trace.calls());
-  EXPECT_EQ(Breaches(), Lines{});
-}
-
-TEST_F(SpreadsheetLife, AFaultStrikesASingleMemberAsItStrikesAHostFunction) {
-  const Opened excel = OpenNew();
-  const TestObject cell = excel.Cell("A1");
-  host_.faults.Order({.function = "Excel.Range.Value2=", .nth = 2});
-  EXPECT_EQ(cell.Put(kValue2, "a"), S_OK);
-  EXPECT_EQ(cell.Put(kValue2, "b"), E_FAIL);
-  EXPECT_EQ(cell.Value(kValue2).Text(), "a");
-}
-
 TEST_F(SpreadsheetLife, WhatIsLeftBehindIsToldOnce) {
   host_.trace.Enter("command");
   Opened excel = OpenNew();

@@ -60,23 +60,15 @@ TEST(StepShape, ArcsReachAsFarAsTheyBend) {
     bool forward;
     StepPoint min, max;
   };
+  const char* const kSpline = "B_SPLINE_CURVE_WITH_KNOTS('',2,%p,.U.,.F.,.F.,(3,3),(0.,1.),.U.)";
+  const char* const kBezier = "BEZIER_CURVE('',2,%p,.U.,.F.,.F.)";
   const Arc arcs[] = {
       {"2.,0.,0.", "0.,2.,0.", "CIRCLE('',%o,2.)", true, {{0, 0, 0}}, {{2, 2, 0}}},
       {"2.,0.,0.", "0.,2.,0.", "CIRCLE('',%o,2.)", false, {{-2, -2, 0}}, {{2, 2, 0}}},
       {"0.,2.,0.", "0.,-2.,0.", "CIRCLE('',%o,2.)", true, {{-2, -2, 0}}, {{0, 2, 0}}},
       {"3.,0.,0.", "-3.,0.,0.", "ELLIPSE('',%o,3.,1.)", true, {{-3, 0, 0}}, {{3, 1, 0}}},
-      {"0.,0.,0.",
-       "4.,0.,0.",
-       "%bB_SPLINE_CURVE_WITH_KNOTS('',2,%p,.U.,.F.,.F.,(3,3),(0.,1.),.U.)",
-       true,
-       {{0, 0, 0}},
-       {{4, 1, 0}}},
-      {"0.,0.,0.",
-       "4.,0.,0.",
-       "%bBEZIER_CURVE('',2,%p,.U.,.F.,.F.)",
-       true,
-       {{0, 0, 0}},
-       {{4, 1, 0}}},
+      {"0.,0.,0.", "4.,0.,0.", kSpline, true, {{0, 0, 0}}, {{4, 1, 0}}},
+      {"0.,0.,0.", "4.,0.,0.", kBezier, true, {{0, 0, 0}}, {{4, 1, 0}}},
       {"1.,2.,0.", "1.,-2.,0.", "PARABOLA('',%o,1.)", true, {{0, -2, 0}}, {{1, 2, 0}}},
       {"1.,2.,0.", "5.,6.,7.", "LINE('',$,$)", true, {{1, 2, 0}}, {{5, 6, 7}}},
   };
@@ -87,9 +79,7 @@ TEST(StepShape, ArcsReachAsFarAsTheyBend) {
         Builder::Refs({file.Point("0.,0.,0."), file.Point("2.,2.,0."), file.Point("4.,0.,0.")});
     std::string curve = arc.curve;
     for (const auto& [mark, text] :
-         {std::pair<std::string, std::string>("%o", Builder::Ref(origin)),
-          {"%p", poles},
-          {"%b", ""}}) {
+         {std::pair<std::string, std::string>("%o", Builder::Ref(origin)), {"%p", poles}}) {
       if (const std::size_t at = curve.find(mark); at != std::string::npos) {
         curve.replace(at, 2, text);
       }
@@ -99,6 +89,15 @@ TEST(StepShape, ArcsReachAsFarAsTheyBend) {
     ExpectBox(OneFace(file, {edge}, "PLANE('',%o)", true).models[0].extents, arc.min, arc.max,
               std::string(arc.curve) + " from " + arc.from);
   }
+}
+
+// A whole circle about the z axis.
+int CircleEdge(Builder& file, const std::string& height, const std::string& radius,
+               bool forward = true) {
+  const int axis = file.Axis("0.,0.," + height);
+  const int circle = file.Add("CIRCLE(''," + Builder::Ref(axis) + "," + radius + ")");
+  const int start = file.Vertex(radius + ",0.," + height);
+  return file.Edge(start, start, circle, forward);
 }
 
 TEST(StepShape, CurvedFacesBulgeOnTheirOwnSideOnly) {
@@ -112,30 +111,19 @@ TEST(StepShape, CurvedFacesBulgeOnTheirOwnSideOnly) {
   const Cap caps[] = {
       {"SPHERICAL_SURFACE('',%o,5.)", "3.", "4.", true, {{-4, -4, 3}}, {{4, 4, 5}}},
       {"SPHERICAL_SURFACE('',%o,5.)", "3.", "4.", false, {{-5, -5, -5}}, {{5, 5, 3}}},
-      {"PLANE('',%o)", "0.", "4.", true, {{-4, -4, 0}}, {{4, 4, 0}}},
       {"CYLINDRICAL_SURFACE('',%o,4.)", "1.", "4.", true, {{-4, -4, 1}}, {{4, 4, 1}}},
   };
   for (const Cap& cap : caps) {
     Builder file;
-    const int circle =
-        file.Add("CIRCLE(''," + Builder::Ref(file.Axis(std::string("0.,0.,") + cap.height)) + "," +
-                 cap.radius + ")");
-    const int start = file.Vertex(std::string(cap.radius) + ",0.," + cap.height);
-    const StepAssembly assembly =
-        OneFace(file, {file.Edge(start, start, circle)}, cap.surface, cap.same_sense);
+    const int edge = CircleEdge(file, cap.height, cap.radius);
+    const StepAssembly assembly = OneFace(file, {edge}, cap.surface, cap.same_sense);
     ExpectBox(assembly.models[0].extents, cap.min, cap.max, cap.surface);
     EXPECT_EQ(assembly.models[0].faces.size(), 1u);
   }
   for (const bool same_sense : {true, false}) {  // a ring's outer or inner half
     Builder file;
-    std::vector<int> edges;
-    for (const bool top : {true, false}) {
-      const char* height = top ? "1." : "-1.";
-      const int circle = file.Add(
-          "CIRCLE(''," + Builder::Ref(file.Axis(std::string("0.,0.,") + height)) + ",10.)");
-      const int start = file.Vertex(std::string("10.,0.,") + height);
-      edges.push_back(file.Edge(start, start, circle, !top));
-    }
+    const std::vector<int> edges = {CircleEdge(file, "1.", "10.", false),
+                                    CircleEdge(file, "-1.", "10.", true)};
     const double reach = same_sense ? 11 : 10;
     ExpectBox(OneFace(file, edges, "TOROIDAL_SURFACE('',%o,10.,1.)", same_sense).models[0].extents,
               {{-reach, -reach, -1}}, {{reach, reach, 1}}, "torus");

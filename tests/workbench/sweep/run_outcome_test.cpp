@@ -45,12 +45,6 @@ TEST(RunOutcomes, ABoxBesideAClosingLineOfSuccessIsNotEnough) {
   EXPECT_EQ(HarmOf(outcome), "");
 }
 
-TEST(RunOutcomes, ValuesThatNobodyHadAreNamed) {
-  RunOutcome outcome = Clean();
-  outcome.state["setting"] = "";
-  EXPECT_EQ(HarmOf(outcome), "without a word setting became \"\", without a fault \"kept\"");
-}
-
 // What a model holds for good is what it had or what it gets, told or not.
 TEST(RunOutcomes, ModelsGetNoValueThatIsNeitherTheirOldNorTheirNewOne) {
   const SessionState before = {

@@ -7,6 +7,7 @@
 #include <fstream>
 
 #include "tests/source_folder.h"
+#include "tests/workbench/error_from.h"
 #include "tests/workbench/temporary_folder.h"
 #include "workbench/base/utf8_text.h"
 #include "workbench/base/zip_archive.h"
@@ -25,12 +26,7 @@ class XlsxFile : public testing::Test {
   }
   // What reading `bytes` complains of; empty when it does not.
   std::string ErrorOf(const std::string& bytes) const {
-    try {
-      ReadXlsx(Write(bytes));
-      return "";
-    } catch (const XlsxError& error) {
-      return error.what();
-    }
+    return ErrorFrom([&] { ReadXlsx(Write(bytes)); });
   }
 
   const TemporaryFolder temporary_{"workbench xlsx test"};
@@ -104,10 +100,6 @@ TEST_F(XlsxFile, WhatIsWrittenIsReadBack) {
   EXPECT_EQ(read.sheets[0].WidthOf(2), 17.5);
 }
 
-TEST_F(XlsxFile, TheSameWorkbookGivesTheSameBytes) {
-  EXPECT_EQ(XlsxBytes(NewWorkbook()), XlsxBytes(NewWorkbook()));
-}
-
 TEST_F(XlsxFile, AFileSavedByAnotherProgramIsRead) {
   const Workbook book = ReadXlsx(SourceFolder() / "tests" / "workbench" / "workbook" / "data" /
                                  "saved_by_another_program.xlsx");
@@ -121,7 +113,6 @@ TEST_F(XlsxFile, AFileSavedByAnotherProgramIsRead) {
   EXPECT_TRUE(sheet.IsMerged({{1, 1}, {1, 4}}));
   const CellFormat title = sheet.FormatAt({1, 1});
   EXPECT_TRUE(title.bold && title.size == 16 && title.fill == CellFill({false, 0xFFFF00}));
-  EXPECT_EQ(sheet.FormatAt({3, 1}).fill, (CellFill{false, 0xCCFFCC}));
   EXPECT_EQ(sheet.FormatAt({3, 1}).number_format, "@");
   EXPECT_EQ(sheet.FormatAt({2, 1}).alignment, CellAlignment::kCenter);
 }
@@ -161,18 +152,13 @@ TEST_F(XlsxFile, WhatIsWrongIsToldWithItsPlace) {
       {"no archive", "book.xlsx: not a ZIP archive"},
       {sheet("<c r=\"B2\"/>"), "book.xlsx!xl/s.xml:2: \"B2\" is no cell"},
       {sheet("<c t=\"s\"><v>2</v></c>"), "book.xlsx!xl/s.xml:2: there is no shared text 2"},
-      {sheet("<c><v>x</v></c>"), "\"x\" is no number"},
       {sheet("<c s=\"3\"/>"), "there is no cell format 3"},
       {sheet("<c></d>"), "\"d\" ends where another element is open"},
       {sheet("<c><v>&no;</v></c>"), "unknown reference \"&no;\""},
-      {sheet("<c a=1/>"), "the value of \"a\" is not quoted"},
       {Archive("<worksheet><sheetData>"), "the document ends inside an element"},
-      {Archive(""), "the document ends inside an element"},
       {Archive("\xff\xfe<"), "not UTF-8"},
       {sheet("<c t=\"str\"><v>\x01</v></c>"), "s.xml:2: a character that no document may hold"},
-      {Archive("<worksheet>\xEF\xBF\xBE"), "a character that no document may hold"},
       {Archive("<!DOCTYPE a []><worksheet/>"), "document types are not taken"},
-      {Archive("<worksheet/>", "<sst><si><t>"), "book.xlsx!xl/t.xml:1"},
   };
   for (const auto& row : kCases) {
     const std::string error = ErrorOf(row.bytes);
@@ -208,7 +194,6 @@ TEST_F(XlsxFile, WhatIsMadeToHurtIsRefusedWithItsReason) {
   } kCases[] = {
       {Archive("<worksheet/>", "<sst><si>" + runs),
        "book.xlsx!xl/t.xml:1: a run of text stands inside another one"},
-      {sheet("<c t=\"inlineStr\"><is>" + runs), "s.xml:1: a run of text stands inside another one"},
       {Archive("<worksheet>" + Repeated("<a>", 1000)), "elements are nested more than 256 deep"},
       {Archive("<worksheet " + Repeated("a='' ", 1000)), "more than 256 attributes"},
       {SaidToBeHuge(Archive("<worksheet/>")),
@@ -237,22 +222,6 @@ TEST_F(XlsxFile, AFileOfTheUsersBesideTheTargetStays) {
   WriteXlsx(NewWorkbook(), folder_ / "book.xlsx");
   EXPECT_EQ(fs::file_size(folder_ / "book.xlsx.part"), 4u);
   EXPECT_EQ(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()), 2);
-}
-
-// Under the sanitizers this finds reads beyond the file.
-TEST_F(XlsxFile, ADamagedFileIsRefusedOrReadButNeverRunsWild) {
-  const std::string whole =
-      Archive("<worksheet><sheetData><row><c><v>1</v></c></row></sheetData></worksheet>");
-  for (size_t length = 0; length < whole.size(); length += 7) {
-    EXPECT_NE(ErrorOf(whole.substr(0, length)), "") << length;
-  }
-  int refused = 0;
-  for (size_t at = 0; at < whole.size(); at += 2) {
-    std::string damaged = whole;
-    damaged[at] = static_cast<char>(~damaged[at]);
-    refused += !ErrorOf(damaged).empty();
-  }
-  EXPECT_GT(refused, static_cast<int>(whole.size() / 4));
 }
 
 TEST_F(XlsxFile, AFileThatCannotBeWrittenLeavesNothing) {
