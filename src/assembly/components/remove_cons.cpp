@@ -83,22 +83,19 @@ class Remaining {
 constexpr StepResult kGone = {"the look for it after a placement by the user", PRO_TK_BAD_INPUTS};
 
 // Deliberately a success without constraints counts as none: hosts answer either way.
-// Any failure means that there are none, but one that is not the usual answer is logged; except
-// that the component itself is refused, which is not there then.
-StepResult CountConstraints(ProAsmcomp& component, int* count) {
-  const char* const function = "ProAsmcompConstraintsGet";
+// Any failure means that there are none, but one that is not the usual answer is logged.
+int CountConstraints(ProAsmcomp& component) {
   ConstraintArray constraints;
   const ProError status = ProAsmcompConstraintsGet(&component, constraints.put());
-  *count = 0;
-  if (status == PRO_TK_BAD_INPUTS) return {function, status};
   if (!Ok(status)) {
-    if (status != PRO_TK_E_NOT_FOUND) LogFailure(component.owner, function, status);
-    return {};
+    if (status != PRO_TK_E_NOT_FOUND) {
+      LogFailure(component.owner, "ProAsmcompConstraintsGet", status);
+    }
+    return 0;
   }
-  const auto told = ToldArraySize(constraints.get());
-  if (!told) LogFailure(component.owner, "ProArraySizeGet", PRO_TK_GENERAL_ERROR);
-  *count = told.value_or(0);
-  return {};
+  const auto count = ToldArraySize(constraints.get());
+  if (!count) LogFailure(component.owner, "ProArraySizeGet", PRO_TK_GENERAL_ERROR);
+  return count.value_or(0);
 }
 
 // A packaged component gets a placement by the host's own dialog.
@@ -119,9 +116,7 @@ void RemoveConstraints(ProAsmcomp& component, int count) {
 
 // After this the fix constraint can take the place of all others.
 StepResult ClearTheWay(ProAsmcomp& component, Remaining* remaining) {
-  int count = 0;
-  const StepResult counted = CountConstraints(component, &count);
-  if (!Ok(counted.status)) return counted;
+  const int count = CountConstraints(component);
   if (count == 0) return PlaceByDialog(component, remaining);
   RemoveConstraints(component, count);
   return {};
