@@ -64,37 +64,6 @@ void Note(char*, char* component, ProAppData data) {
   static_cast<Lines*>(data)->push_back(component);
 }
 
-TEST_F(UiTable, RowsStandAfterTheirNeighbourOrAtTheStart) {
-  EXPECT_EQ(RowNames(), Lines{});
-  EXPECT_EQ(InsertRows(nullptr, {"1", "2"}), PRO_TK_NO_ERROR);
-  EXPECT_EQ(InsertRows("1", {"1a"}), PRO_TK_NO_ERROR);
-  EXPECT_EQ(InsertRows("", {"0"}), PRO_TK_NO_ERROR);
-  EXPECT_EQ(InsertRows("9", {"x"}), PRO_TK_E_NOT_FOUND);
-  EXPECT_EQ(InsertRows("2", {"1"}), PRO_TK_BAD_INPUTS);
-  EXPECT_EQ(RowNames(), (Lines{"0", "1", "1a", "2"}));
-  char name[] = "1a";
-  char* names[] = {name};
-  EXPECT_EQ(ProUITableRowsDelete(kDialog, "list", 1, names), PRO_TK_NO_ERROR);
-  EXPECT_EQ(RowNames(), (Lines{"0", "1", "2"}));
-  EXPECT_EQ(Breaches(), Lines{});
-}
-
-TEST_F(UiTable, CellsKeepLabelAndColour) {
-  InsertRows("", {"1"});
-  wchar_t label[] = L"螺栓";
-  EXPECT_EQ(ProUITableCellLabelSet(kDialog, "list", "1", "num", label), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ProUITableCellBackgroundColorSet(kDialog, "list", "1", "num", 17), PRO_TK_NO_ERROR);
-  wchar_t* text = nullptr;
-  int color = 0;
-  EXPECT_EQ(ProUITableCellLabelGet(kDialog, "list", "1", "num", &text), PRO_TK_NO_ERROR);
-  EXPECT_EQ(std::wstring(text), L"螺栓");
-  ProWstringFree(text);
-  EXPECT_EQ(ProUITableCellBackgroundColorGet(kDialog, "list", "1", "num", &color), PRO_TK_NO_ERROR);
-  EXPECT_EQ(color, 17);
-  EXPECT_EQ(ProUITableCellLabelGet(kDialog, "list", "1", "none", &text), PRO_TK_E_NOT_FOUND);
-  EXPECT_EQ(Breaches(), Lines{});
-}
-
 TEST_F(UiTable, WideLabelsAreOnAccountUntilFreedWithTheirCount) {
   int count = 0;
   wchar_t** labels = nullptr;
@@ -188,17 +157,6 @@ TEST_F(UiTable, WrongPlacesAndKindsAreHeldAgainstThePlugin) {
     row.call();
     EXPECT_EQ(Breaches(), Lines{"plug-in misused " + std::string(row.breach)});
   }
-}
-
-TEST_F(UiTable, AGreyedMenuCannotBeUsedButRead) {
-  user_.deed = [](LiveDialog& dialog) {
-    ProUIOptionmenuDisable(kDialog, "depth");
-    EXPECT_FALSE(dialog.state.UserSelect("depth", {"2"}).Done());
-    ProUIOptionmenuEnable(kDialog, "depth");
-    EXPECT_TRUE(dialog.state.UserSelect("depth", {"2"}).Done());
-    ProUIDialogExit(kDialog, 0);
-  };
-  EXPECT_EQ(ProUIDialogActivate(kDialog, nullptr), PRO_TK_NO_ERROR);
 }
 
 TEST_F(UiTable, ActionsAreCalledOnTheirEvents) {
