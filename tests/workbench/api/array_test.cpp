@@ -17,8 +17,6 @@ TEST_F(HostContract, ArraysGrowAndAreCheckedAtEveryUse) {
        PRO_TK_NO_ERROR},
       {"beyond the end", [&] { return ProArrayObjectAdd(&numbers, 3, 1, &object); },
        PRO_TK_BAD_INPUTS, "ProArrayObjectAdd: index 3 outside the array"},
-      {"no object", [&] { return ProArrayObjectAdd(&numbers, 0, 1, nullptr); }, PRO_TK_BAD_INPUTS,
-       "ProArrayObjectAdd: no objects to add"},
       {"of no size", [&] { return ProArrayAlloc(0, 0, 1, &foreign); }, PRO_TK_BAD_INPUTS,
        "ProArrayAlloc: sizes must be positive"},
       {"counted", [&] { return ProArraySizeGet(numbers, &size); }, PRO_TK_NO_ERROR},

@@ -11,7 +11,6 @@ ProError NoteSurface(ProSurface surface, ProError, ProAppData data) {
 
 TEST_F(HostContract, SurfacesAndSheetsAreThoseOfTheirModels) {
   lid_->solid().surfaces.Add({1, {{0, 0, 0}, {10, 20, 0}}});
-  drawing_->As<DrawingContent>()->sheets = {{"A3", 0.5}};
   ProSurface surface = nullptr;
   ProGeomitemdata* data = nullptr;
   ProName size{};
@@ -21,21 +20,14 @@ TEST_F(HostContract, SurfacesAndSheetsAreThoseOfTheirModels) {
   };
   Check({
       {"found", find, PRO_TK_NO_ERROR},
-      {"none", [&] { return ProSolidSurfaceVisit(box_->handle, &NoteSurface, nullptr, &data); },
-       PRO_TK_E_NOT_FOUND},
       {"its data", [&] { return ProSurfaceDataGet(surface, &data); }, PRO_TK_NO_ERROR},
       {"freed", [&] { return ProGeomitemdataFree(&data); }, PRO_TK_NO_ERROR},
       {"of a model",
        [&] { return ProSurfaceDataGet(static_cast<ProSurface>(lid_->handle), &data); },
        PRO_TK_BAD_INPUTS, "ProSurfaceDataGet: a model handle given as a surface handle"},
-      {"a sheet", [&] { return ProDrawingSheetTrfGet(drawing_->handle, 1, size, matrix); },
-       PRO_TK_NO_ERROR},
       {"no sheet", [&] { return ProDrawingSheetTrfGet(drawing_->handle, 2, size, matrix); },
        PRO_TK_BAD_INPUTS, "ProDrawingSheetTrfGet: the drawing has no sheet 2"},
-      {"no drawing", [&] { return ProDrawingSheetTrfGet(lid_->handle, 1, size, matrix); },
-       PRO_TK_BAD_INPUTS, "ProDrawingSheetTrfGet: not a drawing"},
   });
-  EXPECT_EQ(FromWide(size), "A3");
 }
 
 }  // namespace

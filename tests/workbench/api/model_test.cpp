@@ -7,34 +7,22 @@ namespace {
 TEST_F(HostContract, ModelsAreKnownByTheirLiveHandles) {
   ProMdlType type{};
   ProMdl model = nullptr;
-  ProName name{};
   wchar_t wanted[] = L"LID";
-  wchar_t other[] = L"lid2";
   wchar_t overlong[] = L"a_name_of_more_than_thirty_one_x";
   wchar_t path[] = L"Z:\\a folder of a long name\\lid.prt";
-  wchar_t lost[] = L"Z:\\a folder of a long name\\lost.prt.2";
   wchar_t instance[] = L"a_name_of_more_than_twenty<a_name_of_more_than_twenty>";
   Check({
       {"nothing current", [&] { return ProMdlCurrentGet(&model); }, PRO_TK_BAD_CONTEXT},
-      {"null", [&] { return ProMdlTypeGet(nullptr, &type); }, PRO_TK_BAD_INPUTS,
-       "ProMdlTypeGet: null model handle"},
-      {"erased", [&] { return ProMdlNameGet(stale_, name); }, PRO_TK_BAD_INPUTS,
-       "ProMdlNameGet: stale model handle (its object is gone)"},
-      {"no place", [&] { return ProMdlTypeGet(lid_->handle, nullptr); }, PRO_TK_BAD_INPUTS,
-       "ProMdlTypeGet: null type place"},
       {"names without case", [&] { return ProMdlRetrieve(wanted, PRO_MDL_PART, &model); },
        PRO_TK_NO_ERROR},
       {"of another type", [&] { return ProMdlRetrieve(wanted, PRO_MDL_ASSEMBLY, &model); },
        PRO_TK_E_NOT_FOUND},
       {"of no type", [&] { return ProMdlRetrieve(wanted, static_cast<ProMdlType>(77), &model); },
        PRO_TK_BAD_INPUTS, "ProMdlRetrieve: model type 77"},
-      {"unknown", [&] { return ProMdlRetrieve(other, PRO_MDL_PART, &model); }, PRO_TK_E_NOT_FOUND},
       {"overlong", [&] { return ProMdlRetrieve(overlong, PRO_MDL_PART, &model); },
        PRO_TK_BAD_INPUTS, "ProMdlRetrieve: model name longer than 31 characters"},
       {"the path of one in session", [&] { return ProMdlRetrieve(path, PRO_MDL_PART, &model); },
        PRO_TK_NO_ERROR},
-      {"the path of no file", [&] { return ProMdlRetrieve(lost, PRO_MDL_PART, &model); },
-       PRO_TK_E_NOT_FOUND},
       {"of an instance", [&] { return ProMdlRetrieve(instance, PRO_MDL_PART, &model); },
        PRO_TK_NOT_IMPLEMENTED, "", "ProMdlRetrieve: an instance of a family"},
       {"no manufacturing model", [&] { return ProMfgAssemGet(box_->handle, &model); },

@@ -18,8 +18,6 @@ TEST_F(HostContract, SelectionsAreTheCallersUntilFreed) {
       {"of nothing", [&] { return ProSelectionModelitemGet(second, &item); }, PRO_TK_INVALID_ITEM},
       {"a way to nothing", [&] { return ProSelectionAsmcomppathGet(second, &path); },
        PRO_TK_INVALID_ITEM},
-      {"no place", [&] { return ProSelectionModelitemGet(first, nullptr); }, PRO_TK_BAD_INPUTS,
-       "ProSelectionModelitemGet: null item place"},
       {"freed", [&] { return ProSelectionarrayFree(picked); }, PRO_TK_NO_ERROR},
       {"after that", [&] { return ProSelectionModelitemGet(first, &item); }, PRO_TK_BAD_INPUTS,
        "ProSelectionModelitemGet: stale selection handle (its object is gone)"},

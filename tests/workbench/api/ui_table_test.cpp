@@ -2,7 +2,6 @@
 // when they call it back.
 #include <functional>
 
-#include "tests/absent_user.h"
 #include "tests/workbench/host/host_fixture.h"
 #include "workbench/host/call.h"
 #include "workbench/host/host_types.h"
@@ -24,20 +23,11 @@ constexpr const char* kResource = R"((Dialog Bill
 )
 )";
 
-// Does one thing with the dialog while it is active.
-class OneDeed : public AbsentUser {
- public:
-  void WorkDialog(LiveDialog& dialog) override { deed(dialog); }
-
-  std::function<void(LiveDialog&)> deed = [](LiveDialog&) {};
-};
-
 class UiTable : public HostFixture {
  protected:
   UiTable() {
     WriteFile("text/resource/Bill.res", std::string("\xEF\xBB\xBF") + kResource);
     EXPECT_EQ(ProUIDialogCreate(kDialog, kDialog), PRO_TK_NO_ERROR);
-    host_.user = &user_;
   }
   ~UiTable() override { ProUIDialogDestroy(kDialog); }
 
@@ -47,16 +37,6 @@ class UiTable : public HostFixture {
     return ProUITableRowsInsert(kDialog, "list", after, static_cast<int>(names.size()),
                                 pointers.data());
   }
-  static Lines RowNames() {
-    int count = 0;
-    char** names = nullptr;
-    EXPECT_EQ(ProUITableRownamesGet(kDialog, "list", &count, &names), PRO_TK_NO_ERROR);
-    const Lines rows(names, names + count);
-    if (names != nullptr) ProStringarrayFree(names, count);
-    return rows;
-  }
-
-  OneDeed user_;
 };
 
 // Notes which component called.
@@ -141,12 +121,8 @@ TEST_F(UiTable, WrongPlacesAndKindsAreHeldAgainstThePlugin) {
        "ProUITableRownamesGet: there is no dialog \"Other\""},
       {[] { ProUITableRownamesGet(kDialog, "kind", nullptr, nullptr); },
        "ProUITableRownamesGet: component \"kind\" is of another kind"},
-      {[] { ProUITableRownamesGet(kDialog, "list", nullptr, nullptr); },
-       "ProUITableRownamesGet: null count place"},
       {[] { ProUITableRowsInsert(kDialog, "list", nullptr, 1, nullptr); },
        "ProUITableRowsInsert: null array of texts"},
-      {[] { ProUITableCellLabelSet(kDialog, "list", "1", "num", nullptr); },
-       "ProUITableCellLabelSet: null label"},
       {[] { ProUITableActivateActionSet(kDialog, "list", nullptr, nullptr); },
        "ProUITableActivateActionSet: null action"},
       {[] { ProUIOptionmenuEnable(kDialog, "none"); },
@@ -157,31 +133,6 @@ TEST_F(UiTable, WrongPlacesAndKindsAreHeldAgainstThePlugin) {
     row.call();
     EXPECT_EQ(Breaches(), Lines{"plug-in misused " + std::string(row.breach)});
   }
-}
-
-TEST_F(UiTable, ActionsAreCalledOnTheirEvents) {
-  Lines called;
-  InsertRows("", {"1"});
-  ProUIDrawingareaPostmanagenotifyActionSet(kDialog, "picture", &Note, &called);
-  ProUIRadiogroupSelectActionSet(kDialog, "kind", &Note, &called);
-  ProUITableActivateActionSet(kDialog, "list", &Note, &called);
-  EXPECT_EQ(called, Lines{});
-  user_.deed = [&](LiveDialog& dialog) {
-    EXPECT_EQ(called, Lines{"picture"});
-    dialog.state.UserSelect("kind", {"level"});
-    dialog.Fire("kind", kSelectEvent);
-    dialog.state.UserDoubleClick("list", "1");
-    dialog.Fire("list", kActivateEvent);
-    int count = 0;
-    char** names = nullptr;
-    ProUITableSelectednamesGet(kDialog, "list", &count, &names);
-    EXPECT_EQ(Lines(names, names + count), Lines{"1"});
-    ProStringarrayFree(names, count);
-    ProUIDialogExit(kDialog, 0);
-  };
-  EXPECT_EQ(ProUIDialogActivate(kDialog, nullptr), PRO_TK_NO_ERROR);
-  EXPECT_EQ(called, (Lines{"picture", "kind", "list"}));
-  EXPECT_EQ(Breaches(), Lines{});
 }
 
 }  // namespace

@@ -12,17 +12,11 @@ TEST_F(HostContract, WindowsShowWhatIsDisplayed) {
       {"none yet", [&] { return ProWindowCurrentGet(&window); }, PRO_TK_E_NOT_FOUND},
       {"unknown", [&] { return ProWindowActivate(9); }, PRO_TK_BAD_INPUTS,
        "ProWindowActivate: there is no window 9"},
-      {"repainted", [&] { return ProWindowRepaint(9); }, PRO_TK_BAD_INPUTS,
-       "ProWindowRepaint: there is no window 9"},
       {"displayed", [&] { return ProMdlDisplay(box_->handle); }, PRO_TK_NO_ERROR},
       {"in the same window", [&] { return ProMdlDisplay(lid_->handle); }, PRO_TK_NO_ERROR},
       {"current", [&] { return ProMdlCurrentGet(&current); }, PRO_TK_NO_ERROR},
-      {"its window", [&] { return ProObjectwindowCreate(name, PRO_PART, &window); },
-       PRO_TK_NO_ERROR},
       {"of no assembly", [&] { return ProObjectwindowCreate(name, PRO_ASSEMBLY, &window); },
        PRO_TK_E_NOT_FOUND},
-      {"erased", [&] { return ProMdlDisplay(stale_); }, PRO_TK_BAD_INPUTS,
-       "ProMdlDisplay: stale model handle (its object is gone)"},
   });
   EXPECT_EQ(current, lid_->handle);
   EXPECT_EQ(host_.session.windows().size(), 1u);
@@ -58,16 +52,6 @@ TEST_F(HostContract, ErasingWhatIsNotDisplayedEndsTheOtherHandles) {
   EXPECT_EQ(ProMdlNameGet(other_handle, name), PRO_TK_BAD_INPUTS);
   EXPECT_EQ(Breaches(),
             Lines{"plug-in misused ProMdlNameGet: stale model handle (its object is gone)"});
-}
-
-TEST_F(HostContract, OptionsAreReadAndSetForTheSession) {
-  std::wstring name = L"DWG_export_format";
-  std::wstring text = L"2000";
-  ProPath value = {};
-  EXPECT_EQ(ProConfigoptGet(name.data(), value), PRO_TK_E_NOT_FOUND);
-  EXPECT_EQ(ProConfigoptSet(name.data(), text.data()), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ProConfigoptGet(name.data(), value), PRO_TK_NO_ERROR);
-  EXPECT_EQ(std::wstring(value), text);
 }
 
 }  // namespace

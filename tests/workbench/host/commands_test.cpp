@@ -85,8 +85,6 @@ TEST_F(CommandsTest, MisusesAreNamed) {
        [&] { return add("abcdefghijklmnopqrstuvwxyz012345", &Act, 2, &Available); }},
       {"ProCmdActionAdd: priority 1000 is outside 0 to 999",
        [&] { return add("Other", &Act, 1000, &Available); }},
-      {"ProCmdActionAdd: null action", [&] { return add("Other", nullptr, 2, &Available); }},
-      {"ProCmdActionAdd: null access function", [&] { return add("Other", &Act, 2, nullptr); }},
       {"ProCmdIconSet: null command handle", [&] { return ProCmdIconSet(nullptr, "icon.png"); }},
       {"ProMenubarmenuPushbuttonAdd: empty button name", [&] { return AddButton("Help", ""); }},
       {"ProPopupmenuButtonAdd: there is no popup menu with id 9",
@@ -122,9 +120,7 @@ TEST_F(CommandsTest, WhatTheHostRefusesWithAStatusChangesNothing) {
   const uiCmdCmdId id = Add("Command");
   EXPECT_EQ(AddButton("Help", "Button"), PRO_TK_E_FOUND);
   EXPECT_EQ(AddButton("Nowhere", "b"), PRO_TK_E_NOT_FOUND);
-  EXPECT_EQ(AddButton("Help", "b", "Nobody"), PRO_TK_E_NOT_FOUND);
   EXPECT_EQ(ProMenubarMenuAdd("Help", "Label", "File", PRO_B_TRUE, menu_file), PRO_TK_E_FOUND);
-  EXPECT_EQ(ProMenubarMenuAdd("M", "Label", "Nobody", PRO_B_TRUE, menu_file), PRO_TK_E_NOT_FOUND);
   EXPECT_EQ(ProMenubarMenuAdd("M", "Unknown", "Help", PRO_B_TRUE, menu_file), PRO_TK_MSG_NOT_FOUND);
   EXPECT_EQ(ProCmdDesignate(id, "Label", "Label_Help", "Label", missing_file),
             PRO_TK_MSG_NOT_FOUND);
@@ -134,15 +130,6 @@ TEST_F(CommandsTest, WhatTheHostRefusesWithAStatusChangesNothing) {
   EXPECT_FALSE(host_.commands.Find("Command")->designated);
   EXPECT_EQ(Breaches(), Lines{});
   EXPECT_EQ(host_.events.All<MissingText>().size(), 2u);
-}
-
-TEST_F(CommandsTest, LabelsComeFromTheMessageFileOfTheLanguage) {
-  EXPECT_EQ(MenuLabel("Label", "menu.txt"), "中文标签");
-  EXPECT_EQ(MenuLabel("Label_Help", "menu.txt"), "English help");
-  EXPECT_EQ(MenuLabel("Unknown", "menu.txt"), "Unknown");
-  ProLine line = {};
-  EXPECT_EQ(ProMessageToBuffer(line, menu_file, "Label"), PRO_TK_NO_ERROR);
-  EXPECT_EQ(FromWide(line), "中文标签");
 }
 
 // Offered when at least one item is preselected; counts what it is shown.
@@ -200,12 +187,6 @@ TEST_F(PopupsTest, APopupTakesButtonsOnlyWhileItIsBeingCreated) {
             PRO_TK_BAD_INPUTS);
   EXPECT_EQ(Breaches(), (Lines{"plug-in misused ProPopupmenuButtonAdd: popup \"Sel Obj Menu\" is "
                                "changed while it is not being created"}));
-}
-
-TEST_F(PopupsTest, ARemovedNotificationIsNotCalled) {
-  EXPECT_EQ(ProNotificationSet(kNotifyPopupCreate, nullptr), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ProNotificationSet(kNotifyPopupCreate, nullptr), PRO_TK_E_NOT_FOUND);
-  EXPECT_TRUE(FirePopup("Sel Obj Menu").empty());
 }
 
 }  // namespace

@@ -85,15 +85,6 @@ TEST_F(DisturbedCall, IsBlamedForWhatTheUserHasNothingToDoWith) {
   EXPECT_EQ(Breaches().size(), 1u);
 }
 
-TEST_F(DisturbedCall, MeetsWhatTheUserDid) {
-  ProFeature component{PRO_FEATURE, 7, static_cast<ProSolid>(box_->handle)};
-  ProMdl model = nullptr;
-  EXPECT_EQ(ProAsmcompMdlGet(&component, &model), PRO_TK_NO_ERROR);
-  EXPECT_EQ(model, lid_handle_);
-  EraseAt("ProAsmcompMdlGet", lid_);
-  EXPECT_EQ(ProAsmcompMdlGet(&component, &model), PRO_TK_E_NOT_FOUND);
-}
-
 ProError AskType(ProFeature* feature, ProError, ProAppData) {
   ProFeattype type = 0;
   ProFeatureTypeGet(feature, &type);

@@ -48,15 +48,6 @@ int Timer() {
   return ::SetTimer(nullptr, 1, 2000, &OnTimer) == 0;
 }
 
-// Answers by the message area, since a status is a number only.
-int ShowPath(bool found, wchar_t* path) {
-  wchar_t file[] = L"menu.txt";
-  int count = 1;
-  double size = 2.5;
-  if (found) ProMessageDisplay(file, "Moved %0w", path, "here", &count, &size);
-  return found;
-}
-
 int NumberByValue() {
   wchar_t file[] = L"menu.txt";
   wchar_t path[] = L"C:";
@@ -66,14 +57,13 @@ int NumberByValue() {
 
 int Desktop() {
   wchar_t path[MAX_PATH] = {};
-  return ShowPath(::SHGetSpecialFolderPathW(nullptr, path, CSIDL_DESKTOP, FALSE), path);
+  return ::SHGetSpecialFolderPathW(nullptr, path, CSIDL_DESKTOP, FALSE);
 }
 
 int LocalFolder() {
   wchar_t path[MAX_PATH] = {};
-  return ShowPath(SUCCEEDED(::SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA | CSIDL_FLAG_CREATE,
-                                               nullptr, 0, path)),
-                  path);
+  return SUCCEEDED(
+      ::SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA | CSIDL_FLAG_CREATE, nullptr, 0, path));
 }
 
 template <decltype(::GetSaveFileNameW)* Ask>
@@ -86,8 +76,7 @@ int AskForFile() {
   dialog.lpstrFilter = L"Bills\0*.xlsx\0All\0*.*\0";
   dialog.lpstrTitle = L"Save the bill";
   dialog.lpstrDefExt = L"xlsx";
-  const bool chosen = Ask(&dialog);
-  return ShowPath(chosen, path + dialog.nFileOffset);
+  return Ask(&dialog);
 }
 
 int Object() {
