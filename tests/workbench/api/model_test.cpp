@@ -5,7 +5,6 @@ namespace wb {
 namespace {
 
 TEST_F(HostContract, ModelsAreKnownByTheirLiveHandles) {
-  ProMdlType type{};
   ProMdl model = nullptr;
   wchar_t wanted[] = L"LID";
   wchar_t overlong[] = L"a_name_of_more_than_thirty_one_x";
