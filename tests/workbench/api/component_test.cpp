@@ -97,19 +97,5 @@ TEST_F(ComponentContract, ReferencesAreChecked) {
   ASSERT_EQ(box_->FindFeature(7)->constraints.size(), 1u);
 }
 
-TEST_F(ComponentContract, CollectedConstraintsAreOnAccountOneByOne) {
-  ProAsmcomp component = Item(PRO_FEATURE, 7, box_->handle);
-  ProAsmcompconstraint* collected = nullptr;
-  EXPECT_EQ(ProAsmcompConstraintsGet(&component, &collected), PRO_TK_E_NOT_FOUND);
-  box_->FindFeature(7)->constraints = {{PRO_ASM_FIX, {}, {}}, {PRO_ASM_FIX, {}, {}}};
-  ASSERT_EQ(ProAsmcompConstraintsGet(&component, &collected), PRO_TK_NO_ERROR);
-  EXPECT_EQ(host_.accounts.open().size(), 3u);
-  EXPECT_EQ(ProAsmcompconstraintFree(collected[0]), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ProAsmcompconstraintFree(collected[1]), PRO_TK_NO_ERROR);
-  ProArray array = collected;
-  EXPECT_EQ(ProArrayFree(&array), PRO_TK_NO_ERROR);
-  EXPECT_TRUE(host_.accounts.open().empty());
-}
-
 }  // namespace
 }  // namespace wb

@@ -161,16 +161,5 @@ TEST_F(ExportContract, WithoutACompanionAFileOnlyStandsForTheHostsAndItIsTold) {
   EXPECT_EQ(written[0].trouble, "the companion is missing");
 }
 
-TEST_F(ExportContract, APdfOpensItsViewerUnlessItIsToldNotTo) {
-  host_.companion_is_missing = true;
-  EXPECT_EQ(ExportPdf(L"a.pdf", {}), PRO_TK_NO_ERROR);
-  EXPECT_TRUE(host_.events.All<ShellCall>().empty());
-  ProPDFOptions options = nullptr;
-  ProPDFoptionsAlloc(&options);
-  EXPECT_EQ(ProPDFExport(drw_->handle, PathText(L"a.pdf").data(), options), PRO_TK_NO_ERROR);
-  EXPECT_EQ(host_.events.All<ShellCall>().size(), 1u);
-  ProPDFoptionsFree(options);
-}
-
 }  // namespace
 }  // namespace wb

@@ -5,38 +5,26 @@
 namespace wb {
 namespace {
 
-struct Paths {
-  Paths() {
-    ProArrayAlloc(0, sizeof(ProPath), 1, reinterpret_cast<ProArray*>(&files));
-    ProArrayAlloc(0, sizeof(ProPath), 1, reinterpret_cast<ProArray*>(&folders));
-  }
-  ~Paths() {
-    ProArrayFree(reinterpret_cast<ProArray*>(&files));
-    ProArrayFree(reinterpret_cast<ProArray*>(&folders));
-  }
-  std::string Names() const {
-    int count = 0;
-    ProArraySizeGet(files, &count);
-    std::vector<std::string> names;
-    for (int i = 0; i < count; ++i) {
-      names.push_back(PathToUtf8(std::filesystem::path(files[i]).filename()));
-    }
-    return Join(" ", names);
-  }
-  ProPath* files = nullptr;
-  ProPath* folders = nullptr;
-};
-
 TEST_F(DrawingContract, FilesAreListedByPatternWithTheirVersions) {
   for (const char* name :
        {"b.drw.1", "b.drw.2", "B.drw.10", "a.DRW.3", "a.prt.1", "c.drw", "d.frm"}) {
     WriteFile(name, "");
   }
   const auto list = [&](std::wstring filter, ProFileListOpt option) {
-    Paths paths;
-    EXPECT_EQ(ProFilesList(nullptr, filter.data(), option, &paths.files, &paths.folders),
-              PRO_TK_NO_ERROR);
-    return paths.Names();
+    ProPath* files = nullptr;
+    ProPath* folders = nullptr;
+    ProArrayAlloc(0, sizeof(ProPath), 1, reinterpret_cast<ProArray*>(&files));
+    ProArrayAlloc(0, sizeof(ProPath), 1, reinterpret_cast<ProArray*>(&folders));
+    EXPECT_EQ(ProFilesList(nullptr, filter.data(), option, &files, &folders), PRO_TK_NO_ERROR);
+    int count = 0;
+    ProArraySizeGet(files, &count);
+    Lines names;
+    for (int i = 0; i < count; ++i) {
+      names.push_back(PathToUtf8(std::filesystem::path(files[i]).filename()));
+    }
+    ProArrayFree(reinterpret_cast<ProArray*>(&files));
+    ProArrayFree(reinterpret_cast<ProArray*>(&folders));
+    return Join(" ", names);
   };
   EXPECT_EQ(list(L"*.drw", PRO_FILE_LIST_LATEST), "a.DRW.3 B.drw.10 c.drw");
   EXPECT_EQ(list(L"*.drw,*.frm", PRO_FILE_LIST_ALL),
@@ -73,24 +61,23 @@ TEST_F(DrawingContract, OnlyWhatHasChangedIsSavedAndOnlyWhereOneMayWrite) {
   EXPECT_TRUE(plate_->modified);
 }
 
+// Quits once the replies are used up.
 class Replying : public AbsentUser {
  public:
-  explicit Replying(std::vector<std::string> replies) : replies_(std::move(replies)) {}
   std::optional<std::string> AnswerPrompt(const std::string&, int) override {
-    if (next_ == replies_.size()) return std::nullopt;
-    return replies_[next_++];
+    if (next == replies.size()) return std::nullopt;
+    return replies[next++];
   }
-
- private:
-  std::vector<std::string> replies_;
-  size_t next_ = 0;
+  std::vector<std::string> replies;
+  size_t next = 0;
 };
 
 TEST_F(DrawingContract, ANumberIsAskedForUntilThereIsOneInTheRange) {
   host_.events.Add(Note{"Scale: |||2.5"});
   double range[] = {0, 10};
   const auto read = [&](const std::vector<std::string>& replies, double& value) {
-    Replying user(replies);
+    Replying user;
+    user.replies = replies;
     host_.user = &user;
     const ProError status = ProMessageDoubleRead(range, &value);
     host_.user = nullptr;

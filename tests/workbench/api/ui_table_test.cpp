@@ -36,7 +36,7 @@ class UiTable : public HostFixture {
 };
 
 // Notes which component called.
-void Note(char*, char* component, ProAppData data) {
+void NoteCaller(char*, char* component, ProAppData data) {
   static_cast<Lines*>(data)->push_back(component);
 }
 
@@ -80,7 +80,7 @@ TEST_F(UiTable, ACopyInACellIsAFieldAndItsNameIsUnknownWhenItHasGone) {
   EXPECT_EQ(ProUITableCellComponentCopy(kDialog, "list", "1", "num", "typed", "copy"),
             PRO_TK_E_FOUND);
   EXPECT_EQ(value(), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ProUIInputpanelFocusinActionSet(kDialog, "copy", &Note, &fired), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProUIInputpanelFocusinActionSet(kDialog, "copy", &NoteCaller, &fired), PRO_TK_NO_ERROR);
   LiveDialog& live = *host_.dialogs.Find(kDialog);
   EXPECT_TRUE(live.Fire("copy", kFocusInEvent));
   EXPECT_EQ(ProUITableCellComponentDelete(kDialog, "list", "1", "num"), PRO_TK_NO_ERROR);

@@ -48,18 +48,6 @@ class CommandsTest : public HostFixture {
   }
 };
 
-TEST_F(CommandsTest, RegisteringANameAgainKeepsItsIdAndTakesTheNewRule) {
-  const uiCmdCmdId first = Add("Command", &Greyed, 2);
-  EXPECT_EQ(AskAccess("Command"), ACCESS_UNAVAILABLE);
-  EXPECT_EQ(Add("Command", &Available, 5), first);
-  EXPECT_EQ(AskAccess("Command"), ACCESS_AVAILABLE);
-  EXPECT_EQ(host_.commands.Find("Command")->priority, 5);
-  uiCmdCmdId found = nullptr;
-  EXPECT_EQ(ProCmdCmdIdFind("Command", &found), PRO_TK_NO_ERROR);
-  EXPECT_EQ(found, first);
-  EXPECT_EQ(ProCmdCmdIdFind("Unknown", &found), PRO_TK_E_NOT_FOUND);
-}
-
 TEST_F(CommandsTest, OnlyAnAvailableCommandRuns) {
   Add("Command");
   EXPECT_EQ(RunCommand("Command").status, 5);
@@ -132,58 +120,23 @@ TEST_F(CommandsTest, WhatTheHostRefusesWithAStatusChangesNothing) {
   EXPECT_EQ(host_.events.All<MissingText>().size(), 2u);
 }
 
-// Offered when at least one item is preselected; counts what it is shown.
-uiCmdAccessState OfferedWhenPreselected(uiCmdCmdId, ProAppData count, ProSelection* selections) {
-  int& number = *static_cast<int*>(count);
-  if (selections == nullptr) return ACCESS_REMOVE;
-  ProArraySizeGet(selections, &number);
+uiCmdAccessState Offered(uiCmdCmdId, ProAppData, ProSelection*) {
   return ACCESS_AVAILABLE;
 }
 
-int preselected_count = 0;
 ProPopupMenuId built_popup = 0;
 
 ProError BuildPopup(char* name) {
-  if (std::string(name) != "Sel Obj Menu") return PRO_TK_NO_ERROR;
-  ProPopupmenuIdGet(name, &built_popup);
-  wchar_t label[] = L"label";
-  for (const char* button : {"first", "second", "first"}) {
-    ProPopupmenuButtonAdd(built_popup, PRO_VALUE_UNUSED, button, label, label, Add("Command"),
-                          &OfferedWhenPreselected, &preselected_count);
-  }
-  return PRO_TK_NO_ERROR;
+  return ProPopupmenuIdGet(name, &built_popup);
 }
 
-class PopupsTest : public CommandsTest {
- protected:
-  PopupsTest() {
-    ProNotificationSet(kNotifyPopupCreate,
-                       reinterpret_cast<ProFunction>(reinterpret_cast<void (*)()>(&BuildPopup)));
-  }
-};
-
-TEST_F(PopupsTest, APopupIsFilledAfreshAndItsButtonsSeeThePreselection) {
-  std::vector<OfferedButton> offered = FirePopup("Sel Obj Menu");
-  ASSERT_EQ(offered.size(), 2u);
-  EXPECT_EQ(offered[0].state, ACCESS_REMOVE);
-  Model& assembly = ShowAssembly();
-  host_.session.selection_buffer.assign(3, {1, 0, &assembly, &assembly, {}});
-  offered = FirePopup("Sel Obj Menu");
-  ASSERT_EQ(offered.size(), 2u);
-  EXPECT_TRUE(offered[1].available());
-  EXPECT_EQ(offered[1].name, "second");
-  EXPECT_EQ(offered[1].command, "Command");
-  EXPECT_EQ(preselected_count, 3);
-  EXPECT_EQ(FirePopup("Model Tree Menu").size(), 0u);
-  EXPECT_THROW(FirePopup("No Such Menu"), std::invalid_argument);
-  EXPECT_EQ(Breaches(), Lines{});
-}
-
-TEST_F(PopupsTest, APopupTakesButtonsOnlyWhileItIsBeingCreated) {
+TEST_F(CommandsTest, APopupTakesButtonsOnlyWhileItIsBeingCreated) {
+  ProNotificationSet(kNotifyPopupCreate,
+                     reinterpret_cast<ProFunction>(reinterpret_cast<void (*)()>(&BuildPopup)));
   FirePopup("Sel Obj Menu");
   wchar_t label[] = L"label";
-  EXPECT_EQ(ProPopupmenuButtonAdd(built_popup, -1, "late", label, label, Add("Command"),
-                                  &OfferedWhenPreselected, nullptr),
+  EXPECT_EQ(ProPopupmenuButtonAdd(built_popup, -1, "late", label, label, Add("Command"), &Offered,
+                                  nullptr),
             PRO_TK_BAD_INPUTS);
   EXPECT_EQ(Breaches(), (Lines{"plug-in misused ProPopupmenuButtonAdd: popup \"Sel Obj Menu\" is "
                                "changed while it is not being created"}));

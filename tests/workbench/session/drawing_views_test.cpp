@@ -195,21 +195,6 @@ TEST_F(DrawingViews, WhatAFileLeavesOutIsFilledIn) {
   EXPECT_GT(ScaleInForce(Drawing(), View(7)), 0);
 }
 
-TEST_F(DrawingViews, AFormatBringsItsSizeAndItsTables) {
-  FormatContent format;
-  format.sheets = {{"A3", {}}, {"A4H", {}}};
-  format.sheets[0].tables.Add({.id = 4, .segments = {1}, .cells = {{1, 1, "比例"}}});
-  Drawing().sheets.resize(2);
-  const ModelName name = {"frame", ModelKind::kFormat};
-  EXPECT_TRUE(PlaceFormat(Drawing(), 2, name, format, 0));
-  EXPECT_TRUE(PlaceFormat(Drawing(), 2, name, format, 1));
-  EXPECT_EQ(Drawing().tables.size(), 2u) << "those of the format before stay";
-  EXPECT_EQ(Drawing().tables[1].segments, std::vector<int>{2});
-  EXPECT_TRUE(PlaceFormat(Drawing(), 1, name, format, 2));
-  EXPECT_EQ(Drawing().sheets[0].size, "A4H");
-  EXPECT_FALSE(PlaceFormat(Drawing(), 1, name, format, 3));
-}
-
 TEST_F(DrawingViews, ModelsAreListedInTheOrderOfAdding) {
   Model& other = session_.Add(Model({"other", ModelKind::kPart}));
   ShowModel(Drawing(), {other.id, &other});

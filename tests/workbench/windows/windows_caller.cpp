@@ -15,6 +15,15 @@ int Box() {
   return ::MessageBoxW(nullptr, L"Delete all?", L"Caption", MB_YESNO);
 }
 
+// Runs it on a thread of its own and waits for its end.
+bool RunOnThread(LPTHREAD_START_ROUTINE run, void* data = nullptr) {
+  const HANDLE thread = ::CreateThread(nullptr, 0, run, data, 0, nullptr);
+  if (thread == nullptr) return false;
+  ::WaitForSingleObject(thread, INFINITE);
+  ::CloseHandle(thread);
+  return true;
+}
+
 DWORD WINAPI BoxOnThread(void* answer) {
   *static_cast<int*>(answer) = Box();
   return 0;
@@ -22,9 +31,7 @@ DWORD WINAPI BoxOnThread(void* answer) {
 
 int ThreadBox() {
   int answer = 0;
-  const HANDLE thread = ::CreateThread(nullptr, 0, &BoxOnThread, &answer, 0, nullptr);
-  ::WaitForSingleObject(thread, INFINITE);
-  ::CloseHandle(thread);
+  RunOnThread(&BoxOnThread, &answer);
   return answer;
 }
 
@@ -106,11 +113,7 @@ DWORD WINAPI MiddleClick(void*) {
 }
 
 int ThreadClick() {
-  const HANDLE thread = ::CreateThread(nullptr, 0, &MiddleClick, nullptr, 0, nullptr);
-  if (thread == nullptr) return 1;
-  ::WaitForSingleObject(thread, INFINITE);
-  ::CloseHandle(thread);
-  return 0;
+  return !RunOnThread(&MiddleClick);
 }
 
 DWORD WINAPI CallHost(void*) {
@@ -125,10 +128,7 @@ int LeftThread() {
 }
 
 int HostThread() {
-  const HANDLE thread = ::CreateThread(nullptr, 0, &CallHost, nullptr, 0, nullptr);
-  ::WaitForSingleObject(thread, INFINITE);
-  ::CloseHandle(thread);
-  return 0;
+  return !RunOnThread(&CallHost);
 }
 
 int LastErrorUnless(bool succeeded) {
