@@ -72,6 +72,7 @@ TEST_F(ExportContract, WhatIsLentForAnExportIsUsedByItsRules) {
   ProPDFOptions options = nullptr;
   ProOutputBrepRepresentation brep = nullptr;
   std::wstring file = PathText(L"a");
+  std::wstring profile = PathText(L"qmdop");
   Check({
       {"data", [&] { return Pro2dExportdataAlloc(&data); }, PRO_TK_NO_ERROR},
       {"options", [&] { return ProPDFoptionsAlloc(&options); }, PRO_TK_NO_ERROR},
@@ -85,6 +86,9 @@ TEST_F(ExportContract, WhatIsLentForAnExportIsUsedByItsRules) {
        PRO_TK_BAD_INPUTS, "ProPDFoptionsIntpropertySet: value 3 of option 1"},
       {"another option", [&] { return ProPDFoptionsIntpropertySet(options, 4, 300); },
        PRO_TK_NOT_IMPLEMENTED, "", "ProPDFoptionsIntpropertySet: option 4 of PDF files"},
+      {"no such profile",
+       [&] { return ProPDFWithProfileExport(drw_->handle, file.data(), profile.data()); },
+       PRO_TK_E_NOT_FOUND},
       {"freed", [&] { return Pro2dExportdataFree(data); }, PRO_TK_NO_ERROR},
       {"freed twice", [&] { return Pro2dExportdataFree(data); }, PRO_TK_BAD_INPUTS,
        "Pro2dExportdataFree: export data used after it was freed"},
@@ -137,17 +141,6 @@ TEST_F(ExportContract, ChineseNotesAreReadInTheFilesOfTheirSheet) {
   const auto printed = ReadPdf("b.pdf");
   ASSERT_EQ(printed["pages"].size(), 1u);
   EXPECT_EQ(printed["pages"][0]["texts"], nlohmann::json({"未注倒角 C1"}));
-}
-
-TEST_F(ExportContract, AProfileIsLookedFor) {
-  std::wstring file = PathText(L"p.pdf");
-  std::wstring profile = PathText(L"qmdop");
-  const auto write = [&] {
-    return ProPDFWithProfileExport(drw_->handle, file.data(), profile.data());
-  };
-  EXPECT_EQ(write(), PRO_TK_E_NOT_FOUND);
-  WriteFile("qmdop.dop", "");
-  EXPECT_EQ(write(), PRO_TK_NO_ERROR);
 }
 
 TEST_F(ExportContract, WithoutACompanionAFileOnlyStandsForTheHostsAndItIsTold) {

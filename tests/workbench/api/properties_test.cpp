@@ -1,13 +1,67 @@
-// Appearances, relations, units and materials: what the host answers, and what it holds against a
-// careless caller.
+// Parameters, appearances, relations, units and materials: what the host holds against a careless
+// caller.
+#include <algorithm>
+#include <cstring>
+
 #include "tests/workbench/api/host_contract.h"
 
 namespace wb {
 namespace {
 
-ProError KeepSurface(ProSurface surface, ProError, ProAppData data) {
-  *static_cast<ProSurface*>(data) = surface;
-  return PRO_TK_NO_ERROR;
+TEST_F(HostContract, ParametersKeepTheirTypeAndTheirName) {
+  ProModelitem owner = LidItem();
+  ProModelitem feature = Item(PRO_FEATURE, 7, box_->handle);
+  ProName fresh = L"NEW";
+  ProName taken = L"mass";
+  ProName relation = L"A+B";
+  ProParameter made{};
+  ProParameter mass = LidParameter(L"MASS");
+  ProParamvalue three = Value(PRO_PARAM_INTEGER, 3);
+  ProParamvalue neither = Value(PRO_PARAM_BOOLEAN, 7);
+  ProParamvalue note = Value(PRO_PARAM_NOTE_ID);
+  Check({
+      {"created", [&] { return ProParameterCreate(&owner, fresh, &three, &made); },
+       PRO_TK_NO_ERROR},
+      {"without case", [&] { return ProParameterCreate(&owner, taken, &three, &made); },
+       PRO_TK_E_FOUND},
+      {"a relation", [&] { return ProParameterCreate(&owner, relation, &three, &made); },
+       PRO_TK_INVALID_NAME},
+      {"neither yes nor no", [&] { return ProParameterCreate(&owner, taken, &neither, &made); },
+       PRO_TK_BAD_INPUTS, "ProParameterCreate: yes/no value not 0 or 1"},
+      {"a note", [&] { return ProParameterCreate(&owner, taken, &note, &made); }, PRO_TK_BAD_INPUTS,
+       "ProParameterCreate: value type 54"},
+      {"of a feature", [&] { return ProParameterInit(&feature, taken, &made); },
+       PRO_TK_NOT_IMPLEMENTED, "", "ProParameterInit: parameters of items inside a model"},
+      {"of another type", [&] { return ProParameterValueSet(&mass, &three); }, PRO_TK_INVALID_TYPE},
+  });
+  EXPECT_EQ(std::get<double>(lid_->FindParameter("MASS")->value), 1.5);
+}
+
+// A plug-in whose record has no reserve has something of its own there.
+TEST_F(HostContract, NothingIsWrittenBehindTheRecordOfAParameter) {
+  constexpr unsigned char kOwn = 0xCC;
+  constexpr size_t kRecord = 96;
+  ProModelitem owner = LidItem();
+  ProName mass = L"MASS";
+  ProName fresh = L"NEW";
+  ProParamvalue three = Value(PRO_PARAM_INTEGER, 3);
+  unsigned char bytes[sizeof(ProParameter)];
+  auto* const place = reinterpret_cast<ProParameter*>(bytes);
+  const auto is_own_kept = [&] {
+    return std::all_of(bytes + kRecord, std::end(bytes), [](auto byte) { return byte == kOwn; });
+  };
+  std::memset(bytes, kOwn, sizeof(bytes));
+  EXPECT_EQ(ProParameterInit(&owner, mass, place), PRO_TK_NO_ERROR);
+  EXPECT_TRUE(is_own_kept());
+  EXPECT_EQ(ProParameterCreate(&owner, fresh, &three, place), PRO_TK_NO_ERROR);
+  EXPECT_TRUE(is_own_kept());
+  host_.faults.Order({.function = "", .nth = 1, .kind = FaultKind::kEmptySuccess});
+  EXPECT_EQ(ProParameterInit(&owner, mass, place), PRO_TK_NO_ERROR);
+  EXPECT_TRUE(is_own_kept());
+  host_.faults.Clear();
+  host_.habits.parameter_record_has_unknown_order = true;
+  EXPECT_EQ(ProParameterInit(&owner, mass, place), PRO_TK_NO_ERROR);
+  EXPECT_FALSE(is_own_kept());
 }
 
 TEST_F(HostContract, AppearancesAreReadAndWrittenWhole) {
@@ -83,21 +137,6 @@ TEST_F(HostContract, UnitsAndMaterialsBelongToTheirModel) {
        "ProMaterialfileRead: not a part"},
       {"with options", [&] { return ProSolidRegenerate(lid_->handle, 1); }, PRO_TK_NOT_IMPLEMENTED,
        "", "ProSolidRegenerate: regeneration with options"},
-  });
-}
-
-TEST_F(HostContract, SurfacesAreItemsOfTheirOwnModelAndHaveExtremes) {
-  lid_->solid().surfaces.Add({4, {{-1, -2, -3}, {10, 20, 30}}});
-  ProSurface surface = nullptr;
-  ProSolidSurfaceVisit(lid_->handle, &KeepSurface, nullptr, &surface);
-  ProGeomitem item = {};
-  ProVector nowhere = {};
-  Pro3dPnt extreme = {};
-  Check({
-      {"of another model", [&] { return ProSurfaceToGeomitem(box_->handle, surface, &item); },
-       PRO_TK_BAD_INPUTS, "ProSurfaceToGeomitem: the surface is not one of box.asm"},
-      {"towards nothing", [&] { return ProSurfaceExtremesEval(surface, nowhere, extreme); },
-       PRO_TK_BAD_INPUTS, "ProSurfaceExtremesEval: a direction without a length"},
   });
 }
 

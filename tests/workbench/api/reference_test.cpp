@@ -82,6 +82,9 @@ TEST_F(HostContract, SurfacesAndSheetsAreThoseOfTheirModels) {
   lid_->solid().surfaces.Add({1, {{0, 0, 0}, {10, 20, 0}}});
   ProSurface surface = nullptr;
   ProGeomitemdata* data = nullptr;
+  ProGeomitem item = {};
+  ProVector nowhere = {};
+  Pro3dPnt extreme = {};
   ProName size{};
   ProMatrix matrix{};
   const auto find = [&] {
@@ -89,6 +92,10 @@ TEST_F(HostContract, SurfacesAndSheetsAreThoseOfTheirModels) {
   };
   Check({
       {"found", find, PRO_TK_NO_ERROR},
+      {"of another model", [&] { return ProSurfaceToGeomitem(box_->handle, surface, &item); },
+       PRO_TK_BAD_INPUTS, "ProSurfaceToGeomitem: the surface is not one of box.asm"},
+      {"towards nothing", [&] { return ProSurfaceExtremesEval(surface, nowhere, extreme); },
+       PRO_TK_BAD_INPUTS, "ProSurfaceExtremesEval: a direction without a length"},
       {"its data", [&] { return ProSurfaceDataGet(surface, &data); }, PRO_TK_NO_ERROR},
       {"freed", [&] { return ProGeomitemdataFree(&data); }, PRO_TK_NO_ERROR},
       {"of a model",

@@ -195,15 +195,5 @@ TEST_F(DrawingViews, WhatAFileLeavesOutIsFilledIn) {
   EXPECT_GT(ScaleInForce(Drawing(), View(7)), 0);
 }
 
-TEST_F(DrawingViews, ModelsAreListedInTheOrderOfAdding) {
-  Model& other = session_.Add(Model({"other", ModelKind::kPart}));
-  ShowModel(Drawing(), {other.id, &other});
-  ShowModel(Drawing(), {plate_->id, plate_});
-  EXPECT_EQ(DrawnModels(Drawing()), (std::vector<Model*>{plate_, &other}));
-  EXPECT_EQ(Drawing().shows->model, plate_);
-  session_.Erase(*plate_);
-  EXPECT_EQ(DrawnModels(Drawing()), std::vector<Model*>{&other});
-}
-
 }  // namespace
 }  // namespace wb

@@ -127,10 +127,6 @@ int LeftThread() {
   return thread == nullptr;
 }
 
-int HostThread() {
-  return !RunOnThread(&CallHost);
-}
-
 int LastErrorUnless(bool succeeded) {
   return succeeded ? 0 : static_cast<int>(::GetLastError());
 }
@@ -196,7 +192,6 @@ void RegisterCommands() {
   Register<&Mouse>("Mouse");
   Register<&ThreadClick>("ThreadClick");
   Register<&LeftThread>("LeftThread");
-  Register<&HostThread>("HostThread");
   Register<&NumberByValue>("NumberByValue");
   Register<&OpenFile>("OpenNul");
   Register<&DeleteNothing>("DeleteNothing");
