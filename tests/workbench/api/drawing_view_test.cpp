@@ -9,24 +9,6 @@ ProMatrix kDoubled = {{2, 0, 0, 0}, {0, 2, 0, 0}, {0, 0, 2, 0}, {0, 0, 0, 1}};
 wchar_t kNormal[] = L"Normal";
 wchar_t kVertical[] = L"Vertical";
 
-TEST_F(DrawingContract, TransformsAndCollectedViewsAreThoseOfTheDrawing) {
-  const ProView front = GeneralView();
-  const ProView below = Projection(front, 510, 100);
-  ProMatrix matrix;
-  EXPECT_EQ(ProDrawingViewTransformGet(drw_->handle, front, PRO_B_FALSE, matrix), PRO_TK_NO_ERROR);
-  EXPECT_EQ(matrix[3][0], -350);
-  EXPECT_EQ(matrix[3][1], -300);
-  ProView* views = nullptr;
-  int count = 0;
-  EXPECT_EQ(ProDrawingViewsCollect(drw_->handle, &views), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ProArraySizeGet(views, &count), PRO_TK_NO_ERROR);
-  ASSERT_EQ(count, 2);
-  EXPECT_EQ(views[1], below);
-  ProArrayFree(reinterpret_cast<ProArray*>(&views));
-  EXPECT_TRUE(drw_->modified);
-  EXPECT_EQ(Breaches(), Lines());
-}
-
 TEST_F(DrawingContract, WhatIsWrongWithANewViewHasItsStatus) {
   Pro3dPnt place = {0, 0, 0};
   ProView view = nullptr;

@@ -87,8 +87,6 @@ TEST_F(DrawingContract, TheFirstWindowIsZeroAndTheCurrentOneNeedNotBeTheActiveOn
   EXPECT_EQ(ProMdlCurrentGet(&current), PRO_TK_NO_ERROR);
   EXPECT_EQ(current, plate_->handle);
   EXPECT_EQ(host_.session.active_window(), 0);
-  EXPECT_EQ(ProWindowMdlGet(0, &current), PRO_TK_NO_ERROR);
-  EXPECT_EQ(current, drw_->handle);
 }
 
 }  // namespace

@@ -52,12 +52,6 @@ TEST_F(ImportHooks, AThreadMayClickWhatADialogTakes) {
   EXPECT_TRUE(clicks[0].IsMiddleClick());
   EXPECT_EQ(Breaches(),
             Lines{"plug-in misused mouse_event: a middle click that no dialog has taken"});
-  host_.events.Forget<Breach>();
-  Run("Mouse");
-  EXPECT_EQ(Breaches(), Lines());
-  host_.faults.Order({.function = "CreateThread", .nth = 1});
-  EXPECT_EQ(Run("ThreadClick"), 1);
-  EXPECT_EQ(Breaches(), Lines());
 }
 
 TEST_F(ImportHooks, AThreadIsWaitedForAndItsHandleClosed) {

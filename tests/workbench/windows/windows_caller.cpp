@@ -102,11 +102,6 @@ int Spreadsheet() {
   return result;
 }
 
-int Mouse() {
-  ::mouse_event(MOUSEEVENTF_LEFTDOWN, 3, 4, 0, 0);
-  return 0;
-}
-
 DWORD WINAPI MiddleClick(void*) {
   ::mouse_event(MOUSEEVENTF_MIDDLEDOWN | MOUSEEVENTF_MIDDLEUP, 0, 0, 0, 0);
   return 0;
@@ -189,7 +184,6 @@ void RegisterCommands() {
   Register<&AskForFile<&::GetSaveFileNameW>>("SaveFile");
   Register<&Object>("Object");
   Register<&Spreadsheet>("Spreadsheet");
-  Register<&Mouse>("Mouse");
   Register<&ThreadClick>("ThreadClick");
   Register<&LeftThread>("LeftThread");
   Register<&NumberByValue>("NumberByValue");
