@@ -140,31 +140,20 @@ class Dimensions : public DrawingContract {
     ProArrayFree(reinterpret_cast<ProArray*>(&lines));
     return text;
   }
-  ProError SetText(std::vector<std::wstring> lines) {
-    ProArray array = nullptr;
-    ProArrayAlloc(0, sizeof(ProLine), 1, &array);
-    for (std::wstring& line : lines) {
-      line.resize(PRO_LINE_SIZE);
-      ProArrayObjectAdd(&array, PRO_VALUE_UNUSED, 1, line.data());
-    }
-    const ProError status = ProDimensionTextSet(&item_, static_cast<ProLine*>(array));
-    ProArrayFree(&array);
-    return status;
-  }
 
   ProDimension item_ = {PRO_DIMENSION, 5, drw_->handle};
 };
 
-TEST_F(Dimensions, HaveLinesThatAreReplacedWhole) {
+TEST_F(Dimensions, HaveALineOfTheirOwnOrNoneAsTheHostsHabitIs) {
   EXPECT_EQ(TextNow(), "1|@D");
   host_.habits.untouched_dimension_has_no_lines = true;
   EXPECT_EQ(TextNow(), "0");
   host_.habits.untouched_dimension_text_fails = true;
   EXPECT_EQ(TextNow(), "refused");
-  EXPECT_EQ(SetText({L"\x01n\x02@D", L"深"}), PRO_TK_NO_ERROR);
-  EXPECT_EQ(TextNow(), "2|\x01n\x02@D|深");
-  EXPECT_EQ(SetText({}), PRO_TK_BAD_INPUTS);
-  EXPECT_TRUE(drw_->modified);
+  ProArray none = nullptr;
+  ProArrayAlloc(0, sizeof(ProLine), 1, &none);
+  EXPECT_EQ(ProDimensionTextSet(&item_, static_cast<ProLine*>(none)), PRO_TK_BAD_INPUTS);
+  ProArrayFree(&none);
 }
 
 TEST_F(Dimensions, HaveTolerancesOfATypeThatIsSetFirst) {
@@ -191,7 +180,6 @@ TEST_F(Dimensions, HaveTolerancesOfATypeThatIsSetFirst) {
   EXPECT_NE(above, upper);
   Drawing().dimensions.Find(5)->locked = true;
   EXPECT_EQ(set(), PRO_TK_CANT_MODIFY);
-  EXPECT_EQ(SetText({L"R@D"}), PRO_TK_CANT_MODIFY);
 }
 
 }  // namespace

@@ -35,11 +35,6 @@ class UiTable : public HostFixture {
   }
 };
 
-// Notes which component called.
-void NoteCaller(char*, char* component, ProAppData data) {
-  static_cast<Lines*>(data)->push_back(component);
-}
-
 TEST_F(UiTable, WideLabelsAreOnAccountUntilFreedWithTheirCount) {
   int count = 0;
   wchar_t** labels = nullptr;
@@ -73,23 +68,15 @@ TEST_F(UiTable, ACopyInACellIsAFieldAndItsNameIsUnknownWhenItHasGone) {
     if (status == PRO_TK_NO_ERROR) ProWstringFree(text);
     return status;
   };
-  Lines fired;
   EXPECT_EQ(value(), PRO_TK_GENERAL_ERROR);
   EXPECT_EQ(ProUITableCellComponentCopy(kDialog, "list", "1", "num", "typed", "copy"),
             PRO_TK_NO_ERROR);
   EXPECT_EQ(ProUITableCellComponentCopy(kDialog, "list", "1", "num", "typed", "copy"),
             PRO_TK_E_FOUND);
   EXPECT_EQ(value(), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ProUIInputpanelFocusinActionSet(kDialog, "copy", &NoteCaller, &fired), PRO_TK_NO_ERROR);
-  LiveDialog& live = *host_.dialogs.Find(kDialog);
-  EXPECT_TRUE(live.Fire("copy", kFocusInEvent));
   EXPECT_EQ(ProUITableCellComponentDelete(kDialog, "list", "1", "num"), PRO_TK_NO_ERROR);
   EXPECT_EQ(ProUITableCellComponentDelete(kDialog, "list", "1", "num"), PRO_TK_E_NOT_FOUND);
   EXPECT_EQ(value(), PRO_TK_GENERAL_ERROR);
-  // Another one of the name has nothing bound to it.
-  ProUITableCellComponentCopy(kDialog, "list", "1", "num", "typed", "copy");
-  EXPECT_FALSE(live.Fire("copy", kFocusInEvent));
-  EXPECT_EQ(fired, Lines{"copy"});
   EXPECT_EQ(Breaches(), Lines{});
 }
 
