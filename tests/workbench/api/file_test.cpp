@@ -111,20 +111,5 @@ TEST_F(DrawingContract, AModelIsSavedElsewhereWhereTheOptionSaysSo) {
   EXPECT_TRUE(std::filesystem::exists(folder_ / "other" / "plate.prt.1"));
 }
 
-TEST_F(DrawingContract, ANewNameIsRefusedWhereItIsTakenOrNone) {
-  Model& scratch = host_.session.Add(Model({"scratch", ModelKind::kPart}));
-  WriteFile("lying.prt.4", "");
-  const auto rename = [&](std::wstring name) {
-    name.resize(PRO_NAME_SIZE);
-    return ProMdlRename(scratch.handle, name.data());
-  };
-  EXPECT_EQ(rename(L"a b"), PRO_TK_INVALID_NAME);
-  EXPECT_EQ(rename(L"PLATE"), PRO_TK_E_FOUND);
-  EXPECT_EQ(rename(L"lying"), PRO_TK_E_FOUND);
-  EXPECT_EQ(rename(L"thing"), PRO_TK_NO_ERROR);
-  host_.session.MakeReadOnly(folder_);
-  EXPECT_EQ(rename(L"other"), PRO_TK_NO_PERMISSION);
-}
-
 }  // namespace
 }  // namespace wb

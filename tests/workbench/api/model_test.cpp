@@ -43,12 +43,6 @@ class ModelCopies : public HostContract {
     made_ = nullptr;
     return ProMdlLoad(path, type, PRO_B_FALSE, &made_);
   }
-  // A part that is on disk alone.
-  void AddFile(const char* name) {
-    Model& part = host_.session.Add(Model({name, ModelKind::kPart}));
-    host_.session.Save(part);
-    host_.session.Erase(part);
-  }
   bool IsThere(const char* file) const { return std::filesystem::exists(folder_ / file); }
 
   ProMdl made_ = nullptr;
@@ -62,46 +56,19 @@ TEST_F(ModelCopies, ACopyIsAModelOfItsOwn) {
   host_.habits.copy_stays_in_session = true;
   ASSERT_EQ(Copy(*lid_, L"lid_3"), PRO_TK_NO_ERROR);
   EXPECT_FALSE(IsThere("lid_3.prt.1"));
-}
-
-TEST_F(ModelCopies, ANameThatIsTakenOrNoneMakesNoCopy) {
-  AddFile("lying");
-  for (const wchar_t* taken : {L"lid", L"LID", L"lying"}) {
-    EXPECT_EQ(Copy(*lid_, taken), PRO_TK_E_FOUND);
-  }
-  for (const wchar_t* illegal : {L"", L"a?"}) {
-    EXPECT_EQ(Copy(*lid_, illegal), PRO_TK_INVALID_NAME);
-  }
-  EXPECT_EQ(Copy(*lid_, L"box"), PRO_TK_NO_ERROR);  // a part beside the assembly
+  host_.habits = {};
   host_.session.MakeReadOnly(folder_);
-  EXPECT_EQ(Copy(*lid_, L"lid_3"), PRO_TK_NO_PERMISSION);
+  EXPECT_EQ(Copy(*lid_, L"lid_4"), PRO_TK_NO_PERMISSION);
 }
 
 TEST_F(ModelCopies, AFileIsLoadedByItsPath) {
-  AddFile("lying");
+  Model& lying = host_.session.Add(Model({"lying", ModelKind::kPart}));
+  host_.session.Save(lying);
+  host_.session.Erase(lying);
   EXPECT_EQ(Load("lying.prt", PRO_MDL_ASSEMBLY), PRO_TK_INVALID_TYPE);
   EXPECT_EQ(Load("lying.prt.2", PRO_MDL_PART), PRO_TK_E_NOT_FOUND);
   EXPECT_EQ(Load("lying.prt.1", PRO_MDL_UNUSED), PRO_TK_NO_ERROR);
   EXPECT_EQ(made_, host_.session.Find({"lying", ModelKind::kPart})->handle);
-}
-
-TEST_F(ModelCopies, AnActivatedComponentIsActiveInItsWindowAlone) {
-  Session& session = host_.session;
-  ProMdl active = nullptr;
-  EXPECT_EQ(ProMdlActiveGet(&active), PRO_TK_BAD_CONTEXT);
-  session.ActivateWindow(session.ShowInWindow(*box_).id);
-  EXPECT_EQ(ProMdlActiveGet(&active), PRO_TK_NO_ERROR);
-  EXPECT_EQ(active, box_->handle);
-  session.ActivateComponent(lid_);
-  ProMdlActiveGet(&active);
-  EXPECT_EQ(active, lid_->handle);
-  session.ActivateWindow(session.ShowInWindow(*drawing_).id);
-  ProMdlActiveGet(&active);
-  EXPECT_EQ(active, drawing_->handle);
-  session.ActivateWindow(session.ShowInWindow(*box_).id);
-  session.Erase(*lid_);
-  ProMdlActiveGet(&active);
-  EXPECT_EQ(active, box_->handle);
 }
 
 }  // namespace

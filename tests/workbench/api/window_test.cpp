@@ -22,24 +22,6 @@ TEST_F(HostContract, WindowsShowWhatIsDisplayed) {
   EXPECT_EQ(host_.session.windows().size(), 1u);
 }
 
-TEST_F(HostContract, WindowsCloseAsTheUserClosesThem) {
-  Session& session = host_.session;
-  session.ActivateWindow(session.ShowInWindow(*box_).id);
-  const int second = session.ShowInWindow(*lid_).id;
-  const int third = session.ShowInWindow(*drawing_).id;
-  session.SetCurrentWindow(second);
-  Check({
-      {"the base one", [&] { return ProWindowDelete(kBaseWindow); }, PRO_TK_BAD_CONTEXT},
-      {"the current one", [&] { return ProWindowDelete(second); }, PRO_TK_BAD_CONTEXT},
-      {"another one", [&] { return ProWindowDelete(third); }, PRO_TK_NO_ERROR},
-      {"the current one closed", [&] { return ProWindowCurrentClose(); }, PRO_TK_NO_ERROR},
-  });
-  EXPECT_EQ(session.Current(), box_);
-  EXPECT_EQ(ProWindowCurrentClose(), PRO_TK_NO_ERROR);
-  EXPECT_EQ(session.Current(), nullptr);
-  EXPECT_EQ(ProWindowCurrentClose(), PRO_TK_BAD_CONTEXT);
-}
-
 std::string Text(const ProMatrix matrix) {
   return FactText(std::vector<double>(matrix[0], matrix[3] + 4));
 }

@@ -157,8 +157,6 @@ TEST_F(ModelFacts, AreFoundAndSetByPath) {
     const char* why;
   } cases[] = {
       {"features/9/hidden", "1", "\"1\" is neither yes nor no"},
-      {"features/9/status", "asleep", "\"asleep\" instead of one of active, inactive, "},
-      {"surfaces/4/min", "1 2", "\"1 2\" instead of 3 numbers"},
       {"features/7/model", "bolt", "\"bolt\" instead of a model name such as"},
       {"features/8/hidden", "yes", "pump.asm: there is no features/8"},
       {"smell", "red",
