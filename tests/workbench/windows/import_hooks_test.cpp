@@ -71,14 +71,6 @@ TEST_F(ImportHooks, ATimerThatCouldNotBeStoppedFiresAgainAndIsNotHeldAgainstTheP
   EXPECT_EQ(Breaches(), Lines{});
 }
 
-TEST_F(ImportHooks, FileDialogsAreAnsweredByTheUser) {
-  user_.file = "C:\\bills\\pump";
-  EXPECT_EQ(Run("SaveFile"), TRUE);
-  EXPECT_EQ(host_.events.All<FileRequest>().at(0).filter, "Bills|*.xlsx|All|*.*");
-  user_.file.reset();
-  EXPECT_EQ(Run("OpenFile"), FALSE);
-}
-
 TEST_F(ImportHooks, ANumberInAMessageGoesByAddress) {
   Run("NumberByValue");
   EXPECT_EQ(host_.events.AllTexts<Note>(), Lines{});

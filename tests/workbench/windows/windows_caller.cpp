@@ -80,9 +80,6 @@ int AskForFile() {
   dialog.lStructSize = sizeof(dialog);
   dialog.lpstrFile = path;
   dialog.nMaxFile = MAX_PATH;
-  dialog.lpstrFilter = L"Bills\0*.xlsx\0All\0*.*\0";
-  dialog.lpstrTitle = L"Save the bill";
-  dialog.lpstrDefExt = L"xlsx";
   return Ask(&dialog);
 }
 
