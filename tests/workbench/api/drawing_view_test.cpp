@@ -9,48 +9,6 @@ ProMatrix kDoubled = {{2, 0, 0, 0}, {0, 2, 0, 0}, {0, 0, 2, 0}, {0, 0, 0, 1}};
 wchar_t kNormal[] = L"Normal";
 wchar_t kVertical[] = L"Vertical";
 
-TEST_F(DrawingContract, ViewsAreMadeTurnedMovedAndRead) {
-  const ProView front = GeneralView();
-  const ProView below = Projection(front, 510, 100);
-  EXPECT_EQ(OutlineOf(front), (Outline{350, 300, 650, 500}));
-  EXPECT_EQ(OutlineOf(below), (Outline{350, 80, 650, 120}));
-  ProVector by = {30, -50, 0};
-  EXPECT_EQ(ProDrawingViewMove(drw_->handle, below, by), PRO_TK_NO_ERROR);
-  EXPECT_EQ(OutlineOf(below), (Outline{350, 30, 650, 70}));
-  EXPECT_EQ(ProDrawingViewOrientationFromAngleSet(drw_->handle, front, kNormal, nullptr, 90),
-            PRO_TK_NO_ERROR);
-  EXPECT_EQ(OutlineOf(front), (Outline{350, 300, 650, 500}));
-  EXPECT_EQ(ProDrawingViewRegenerate(drw_->handle, front), PRO_TK_NO_ERROR);
-  EXPECT_EQ(OutlineOf(front), (Outline{400, 250, 600, 550}));
-
-  ProMatrix matrix;
-  EXPECT_EQ(ProDrawingViewTransformGet(drw_->handle, front, PRO_B_TRUE, matrix), PRO_TK_NO_ERROR);
-  EXPECT_EQ(matrix[0][1], 1);
-  EXPECT_EQ(matrix[1][0], -1);
-  EXPECT_EQ(matrix[3][0], 600);
-  EXPECT_EQ(matrix[3][1], 250);
-  ProMatrix back;
-  EXPECT_EQ(ProDrawingViewTransformGet(drw_->handle, front, PRO_B_FALSE, back), PRO_TK_NO_ERROR);
-  EXPECT_EQ(back[3][0], -250);
-  EXPECT_EQ(back[3][1], 600);
-
-  ProView* views = nullptr;
-  int count = 0;
-  ProView parent = nullptr;
-  ProSolid solid = nullptr;
-  EXPECT_EQ(ProDrawingViewsCollect(drw_->handle, &views), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ProArraySizeGet(views, &count), PRO_TK_NO_ERROR);
-  ASSERT_EQ(count, 2);
-  EXPECT_EQ(views[1], below);
-  ProArrayFree(reinterpret_cast<ProArray*>(&views));
-  EXPECT_EQ(ProDrawingViewParentGet(drw_->handle, below, &parent), PRO_TK_NO_ERROR);
-  EXPECT_EQ(parent, front);
-  EXPECT_EQ(ProDrawingViewSolidGet(drw_->handle, below, &solid), PRO_TK_NO_ERROR);
-  EXPECT_EQ(solid, plate_->handle);
-  EXPECT_TRUE(drw_->modified);
-  EXPECT_EQ(Breaches(), Lines());
-}
-
 TEST_F(DrawingContract, WhatIsWrongWithANewViewHasItsStatus) {
   Pro3dPnt place = {0, 0, 0};
   ProView view = nullptr;
@@ -64,18 +22,12 @@ TEST_F(DrawingContract, WhatIsWrongWithANewViewHasItsStatus) {
   Check({
       {"no such sheet", [&] { return make(plate_->handle, 3, false, 1, kUpright); },
        PRO_TK_CRE_VIEW_BAD_SHEET},
-      {"sheet 0", [&] { return make(plate_->handle, 0, false, 1, kUpright); },
-       PRO_TK_CRE_VIEW_BAD_SHEET},
       {"foreign", [&] { return make(lid_->handle, 1, false, 1, kUpright); },
        PRO_TK_CRE_VIEW_BAD_MODEL},
       {"exploded part", [&] { return make(plate_->handle, 1, true, 1, kUpright); },
        PRO_TK_CRE_VIEW_BAD_EXPLODE},
       {"no scale", [&] { return make(plate_->handle, 1, false, 0, kUpright); }, PRO_TK_BAD_INPUTS},
       {"scaled", [&] { return make(plate_->handle, 1, false, 1, kDoubled); }, PRO_TK_BAD_INPUTS},
-      {"no matrix", [&] { return make(plate_->handle, 1, false, 1, nullptr); }, PRO_TK_BAD_INPUTS,
-       "ProDrawingGeneralviewCreate: null matrix"},
-      {"no solid", [&] { return make(drw_->handle, 1, false, 1, kUpright); }, PRO_TK_BAD_INPUTS,
-       "ProDrawingGeneralviewCreate: a drawing given where a solid is needed"},
       {"in the middle of its parent",
        [&] {
          return ProDrawingProjectedviewCreate(drw_->handle, front, PRO_B_FALSE, middle, &view);
@@ -94,10 +46,6 @@ TEST_F(DrawingContract, ViewsAreKnownByTheirLiveHandlesInTheirDrawing) {
       {"of another drawing",
        [&] { return ProDrawingViewSheetGet(drawing_->handle, front, &sheet); }, PRO_TK_BAD_INPUTS,
        "ProDrawingViewSheetGet: a view of another drawing"},
-      {"of a part", [&] { return ProDrawingViewSheetGet(lid_->handle, front, &sheet); },
-       PRO_TK_BAD_INPUTS, "ProDrawingViewSheetGet: not a drawing"},
-      {"null", [&] { return ProDrawingViewSheetGet(drw_->handle, nullptr, &sheet); },
-       PRO_TK_BAD_INPUTS, "ProDrawingViewSheetGet: null view handle"},
       {"a turned projection",
        [&] {
          return ProDrawingViewOrientationFromAngleSet(drw_->handle, below, kNormal, nullptr, 90);
@@ -179,23 +127,6 @@ TEST_F(DrawingContract, PlacesCanBeThoseOfTheScreen) {
   ProVector by = {10, 5, 0};
   EXPECT_EQ(ProDrawingViewMove(drw_->handle, view, by), PRO_TK_NO_ERROR);
   EXPECT_EQ(Drawing().views[0].place, (SheetPoint{1120, 810}));
-}
-
-TEST_F(DrawingContract, APickTellsItsView) {
-  const ProView view = GeneralView();
-  Drawing().dimensions.Add({.id = 9, .view = 1});
-  ProView told = nullptr;
-  for (const PickedItem& pick :
-       {PickedItem{PRO_VIEW, 1, drw_, drw_, {}}, PickedItem{PRO_DIMENSION, 9, drw_, drw_, {}},
-        PickedItem{PRO_NOTE, 1, drw_, drw_, {}}}) {
-    host_.session.selection_buffer = {pick};
-    ProSelection* selections = nullptr;
-    EXPECT_EQ(ProSelbufferSelectionsGet(&selections), PRO_TK_NO_ERROR);
-    const ProError status = ProSelectionViewGet(selections[0], &told);
-    EXPECT_EQ(status, pick.type == PRO_NOTE ? PRO_TK_E_NOT_FOUND : PRO_TK_NO_ERROR);
-    EXPECT_EQ(told, view);
-    ProSelectionarrayFree(selections);
-  }
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
-// Host functions for tables of dialogs: what they answer, what they hold against the plug-in, and
-// when they call it back.
+// Host functions for tables of dialogs: what they answer, and what they hold against the plug-in.
 #include <functional>
 
-#include "tests/absent_user.h"
 #include "tests/workbench/host/host_fixture.h"
 #include "workbench/host/call.h"
 #include "workbench/host/host_types.h"
@@ -12,88 +10,30 @@ namespace {
 
 constexpr const char* kDialog = "Bill";
 constexpr const char* kResource = R"((Dialog Bill
-    (Components (Table list) (RadioGroup kind) (OptionMenu depth) (DrawingArea picture)
-        (InputPanel typed))
+    (Components (Table list) (RadioGroup kind) (InputPanel typed))
     (Resources
         (.Label "Bill")
-        (.Layout (Grid (Rows 0 0 0 0 0) (Cols 1) list kind depth picture typed))
+        (.Layout (Grid (Rows 0 0 0) (Cols 1) list kind typed))
         (list.ColumnNames "num") (list.ColumnLabels "序号")
         (kind.Names "sum" "level") (kind.SelectedNames "sum")
-        (depth.Names "1" "2")
     )
 )
 )";
-
-// Does one thing with the dialog while it is active.
-class OneDeed : public AbsentUser {
- public:
-  void WorkDialog(LiveDialog& dialog) override { deed(dialog); }
-
-  std::function<void(LiveDialog&)> deed = [](LiveDialog&) {};
-};
 
 class UiTable : public HostFixture {
  protected:
   UiTable() {
     WriteFile("text/resource/Bill.res", std::string("\xEF\xBB\xBF") + kResource);
     EXPECT_EQ(ProUIDialogCreate(kDialog, kDialog), PRO_TK_NO_ERROR);
-    host_.user = &user_;
   }
   ~UiTable() override { ProUIDialogDestroy(kDialog); }
 
-  static ProError InsertRows(const char* after, std::vector<std::string> names) {
-    std::vector<char*> pointers;
-    for (std::string& name : names) pointers.push_back(name.data());
-    return ProUITableRowsInsert(kDialog, "list", after, static_cast<int>(names.size()),
-                                pointers.data());
+  static void InsertRow() {
+    char name[] = "1";
+    char* names[] = {name};
+    EXPECT_EQ(ProUITableRowsInsert(kDialog, "list", "", 1, names), PRO_TK_NO_ERROR);
   }
-  static Lines RowNames() {
-    int count = 0;
-    char** names = nullptr;
-    EXPECT_EQ(ProUITableRownamesGet(kDialog, "list", &count, &names), PRO_TK_NO_ERROR);
-    const Lines rows(names, names + count);
-    if (names != nullptr) ProStringarrayFree(names, count);
-    return rows;
-  }
-
-  OneDeed user_;
 };
-
-// Notes which component called.
-void Note(char*, char* component, ProAppData data) {
-  static_cast<Lines*>(data)->push_back(component);
-}
-
-TEST_F(UiTable, RowsStandAfterTheirNeighbourOrAtTheStart) {
-  EXPECT_EQ(RowNames(), Lines{});
-  EXPECT_EQ(InsertRows(nullptr, {"1", "2"}), PRO_TK_NO_ERROR);
-  EXPECT_EQ(InsertRows("1", {"1a"}), PRO_TK_NO_ERROR);
-  EXPECT_EQ(InsertRows("", {"0"}), PRO_TK_NO_ERROR);
-  EXPECT_EQ(InsertRows("9", {"x"}), PRO_TK_E_NOT_FOUND);
-  EXPECT_EQ(InsertRows("2", {"1"}), PRO_TK_BAD_INPUTS);
-  EXPECT_EQ(RowNames(), (Lines{"0", "1", "1a", "2"}));
-  char name[] = "1a";
-  char* names[] = {name};
-  EXPECT_EQ(ProUITableRowsDelete(kDialog, "list", 1, names), PRO_TK_NO_ERROR);
-  EXPECT_EQ(RowNames(), (Lines{"0", "1", "2"}));
-  EXPECT_EQ(Breaches(), Lines{});
-}
-
-TEST_F(UiTable, CellsKeepLabelAndColour) {
-  InsertRows("", {"1"});
-  wchar_t label[] = L"螺栓";
-  EXPECT_EQ(ProUITableCellLabelSet(kDialog, "list", "1", "num", label), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ProUITableCellBackgroundColorSet(kDialog, "list", "1", "num", 17), PRO_TK_NO_ERROR);
-  wchar_t* text = nullptr;
-  int color = 0;
-  EXPECT_EQ(ProUITableCellLabelGet(kDialog, "list", "1", "num", &text), PRO_TK_NO_ERROR);
-  EXPECT_EQ(std::wstring(text), L"螺栓");
-  ProWstringFree(text);
-  EXPECT_EQ(ProUITableCellBackgroundColorGet(kDialog, "list", "1", "num", &color), PRO_TK_NO_ERROR);
-  EXPECT_EQ(color, 17);
-  EXPECT_EQ(ProUITableCellLabelGet(kDialog, "list", "1", "none", &text), PRO_TK_E_NOT_FOUND);
-  EXPECT_EQ(Breaches(), Lines{});
-}
 
 TEST_F(UiTable, WideLabelsAreOnAccountUntilFreedWithTheirCount) {
   int count = 0;
@@ -121,35 +61,27 @@ TEST_F(UiTable, LabelsMustFitTheColumns) {
 }
 
 TEST_F(UiTable, ACopyInACellIsAFieldAndItsNameIsUnknownWhenItHasGone) {
-  InsertRows("", {"1"});
+  InsertRow();
   const auto value = [&] {
     wchar_t* text = nullptr;
     const ProError status = ProUIInputpanelValueGet(kDialog, "copy", &text);
     if (status == PRO_TK_NO_ERROR) ProWstringFree(text);
     return status;
   };
-  Lines fired;
   EXPECT_EQ(value(), PRO_TK_GENERAL_ERROR);
   EXPECT_EQ(ProUITableCellComponentCopy(kDialog, "list", "1", "num", "typed", "copy"),
             PRO_TK_NO_ERROR);
   EXPECT_EQ(ProUITableCellComponentCopy(kDialog, "list", "1", "num", "typed", "copy"),
             PRO_TK_E_FOUND);
   EXPECT_EQ(value(), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ProUIInputpanelFocusinActionSet(kDialog, "copy", &Note, &fired), PRO_TK_NO_ERROR);
-  LiveDialog& live = *host_.dialogs.Find(kDialog);
-  EXPECT_TRUE(live.Fire("copy", kFocusInEvent));
   EXPECT_EQ(ProUITableCellComponentDelete(kDialog, "list", "1", "num"), PRO_TK_NO_ERROR);
   EXPECT_EQ(ProUITableCellComponentDelete(kDialog, "list", "1", "num"), PRO_TK_E_NOT_FOUND);
   EXPECT_EQ(value(), PRO_TK_GENERAL_ERROR);
-  // Another one of the name has nothing bound to it.
-  ProUITableCellComponentCopy(kDialog, "list", "1", "num", "typed", "copy");
-  EXPECT_FALSE(live.Fire("copy", kFocusInEvent));
-  EXPECT_EQ(fired, Lines{"copy"});
   EXPECT_EQ(Breaches(), Lines{});
 }
 
 TEST_F(UiTable, TheFocusIsToldInNamesThatAreFreedOneByOne) {
-  InsertRows("", {"1"});
+  InsertRow();
   char* row = nullptr;
   char* column = nullptr;
   EXPECT_EQ(ProUITableFocusCellGet(kDialog, "list", &row, &column), PRO_TK_E_NOT_FOUND);
@@ -172,12 +104,8 @@ TEST_F(UiTable, WrongPlacesAndKindsAreHeldAgainstThePlugin) {
        "ProUITableRownamesGet: there is no dialog \"Other\""},
       {[] { ProUITableRownamesGet(kDialog, "kind", nullptr, nullptr); },
        "ProUITableRownamesGet: component \"kind\" is of another kind"},
-      {[] { ProUITableRownamesGet(kDialog, "list", nullptr, nullptr); },
-       "ProUITableRownamesGet: null count place"},
       {[] { ProUITableRowsInsert(kDialog, "list", nullptr, 1, nullptr); },
        "ProUITableRowsInsert: null array of texts"},
-      {[] { ProUITableCellLabelSet(kDialog, "list", "1", "num", nullptr); },
-       "ProUITableCellLabelSet: null label"},
       {[] { ProUITableActivateActionSet(kDialog, "list", nullptr, nullptr); },
        "ProUITableActivateActionSet: null action"},
       {[] { ProUIOptionmenuEnable(kDialog, "none"); },
@@ -188,42 +116,6 @@ TEST_F(UiTable, WrongPlacesAndKindsAreHeldAgainstThePlugin) {
     row.call();
     EXPECT_EQ(Breaches(), Lines{"plug-in misused " + std::string(row.breach)});
   }
-}
-
-TEST_F(UiTable, AGreyedMenuCannotBeUsedButRead) {
-  user_.deed = [](LiveDialog& dialog) {
-    ProUIOptionmenuDisable(kDialog, "depth");
-    EXPECT_FALSE(dialog.state.UserSelect("depth", {"2"}).Done());
-    ProUIOptionmenuEnable(kDialog, "depth");
-    EXPECT_TRUE(dialog.state.UserSelect("depth", {"2"}).Done());
-    ProUIDialogExit(kDialog, 0);
-  };
-  EXPECT_EQ(ProUIDialogActivate(kDialog, nullptr), PRO_TK_NO_ERROR);
-}
-
-TEST_F(UiTable, ActionsAreCalledOnTheirEvents) {
-  Lines called;
-  InsertRows("", {"1"});
-  ProUIDrawingareaPostmanagenotifyActionSet(kDialog, "picture", &Note, &called);
-  ProUIRadiogroupSelectActionSet(kDialog, "kind", &Note, &called);
-  ProUITableActivateActionSet(kDialog, "list", &Note, &called);
-  EXPECT_EQ(called, Lines{});
-  user_.deed = [&](LiveDialog& dialog) {
-    EXPECT_EQ(called, Lines{"picture"});
-    dialog.state.UserSelect("kind", {"level"});
-    dialog.Fire("kind", kSelectEvent);
-    dialog.state.UserDoubleClick("list", "1");
-    dialog.Fire("list", kActivateEvent);
-    int count = 0;
-    char** names = nullptr;
-    ProUITableSelectednamesGet(kDialog, "list", &count, &names);
-    EXPECT_EQ(Lines(names, names + count), Lines{"1"});
-    ProStringarrayFree(names, count);
-    ProUIDialogExit(kDialog, 0);
-  };
-  EXPECT_EQ(ProUIDialogActivate(kDialog, nullptr), PRO_TK_NO_ERROR);
-  EXPECT_EQ(called, (Lines{"picture", "kind", "list"}));
-  EXPECT_EQ(Breaches(), Lines{});
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// Windows and what they show.
-#include "tests/workbench/api/host_contract.h"
+// Windows and what they show, and the views of the models in them.
+#include "tests/workbench/api/drawing_contract.h"
 
 namespace wb {
 namespace {
@@ -12,62 +12,63 @@ TEST_F(HostContract, WindowsShowWhatIsDisplayed) {
       {"none yet", [&] { return ProWindowCurrentGet(&window); }, PRO_TK_E_NOT_FOUND},
       {"unknown", [&] { return ProWindowActivate(9); }, PRO_TK_BAD_INPUTS,
        "ProWindowActivate: there is no window 9"},
-      {"repainted", [&] { return ProWindowRepaint(9); }, PRO_TK_BAD_INPUTS,
-       "ProWindowRepaint: there is no window 9"},
       {"displayed", [&] { return ProMdlDisplay(box_->handle); }, PRO_TK_NO_ERROR},
       {"in the same window", [&] { return ProMdlDisplay(lid_->handle); }, PRO_TK_NO_ERROR},
       {"current", [&] { return ProMdlCurrentGet(&current); }, PRO_TK_NO_ERROR},
-      {"its window", [&] { return ProObjectwindowCreate(name, PRO_PART, &window); },
-       PRO_TK_NO_ERROR},
       {"of no assembly", [&] { return ProObjectwindowCreate(name, PRO_ASSEMBLY, &window); },
        PRO_TK_E_NOT_FOUND},
-      {"erased", [&] { return ProMdlDisplay(stale_); }, PRO_TK_BAD_INPUTS,
-       "ProMdlDisplay: stale model handle (its object is gone)"},
   });
   EXPECT_EQ(current, lid_->handle);
   EXPECT_EQ(host_.session.windows().size(), 1u);
 }
 
-TEST_F(HostContract, WindowsCloseAsTheUserClosesThem) {
-  Session& session = host_.session;
-  session.ActivateWindow(session.ShowInWindow(*box_).id);
-  const int second = session.ShowInWindow(*lid_).id;
-  const int third = session.ShowInWindow(*drawing_).id;
-  session.SetCurrentWindow(second);
+std::string Text(const ProMatrix matrix) {
+  return FactText(std::vector<double>(matrix[0], matrix[3] + 4));
+}
+
+TEST_F(DrawingContract, ViewMatricesAreThoseOfModelsInAWindow) {
+  ProMatrix matrix = {{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {5, 6, 7, 1}};
+  ProMatrix scaled = {{2, 0, 0, 0}, {0, 2, 0, 0}, {0, 0, 2, 0}, {0, 0, 0, 1}};
+  const ProMdl model = plate_->handle;
   Check({
-      {"the base one", [&] { return ProWindowDelete(kBaseWindow); }, PRO_TK_BAD_CONTEXT},
-      {"the current one", [&] { return ProWindowDelete(second); }, PRO_TK_BAD_CONTEXT},
-      {"another one", [&] { return ProWindowDelete(third); }, PRO_TK_NO_ERROR},
-      {"once more", [&] { return ProWindowDelete(third); }, PRO_TK_BAD_INPUTS,
-       "ProWindowDelete: there is no window 2"},
-      {"the current one closed", [&] { return ProWindowCurrentClose(); }, PRO_TK_NO_ERROR},
+      {"no window", [&] { return ProViewMatrixGet(model, nullptr, matrix); }, PRO_TK_BAD_CONTEXT},
+      {"shown", [&] { return ProMdlDisplay(model); }, PRO_TK_NO_ERROR},
+      {"scaled", [&] { return ProViewMatrixSet(model, nullptr, scaled); }, PRO_TK_INVALID_MATRIX},
+      {"set", [&] { return ProViewMatrixSet(model, nullptr, matrix); }, PRO_TK_NO_ERROR},
+      {"turned", [&] { return ProViewRotate(model, nullptr, PRO_X_ROTATION, 90); },
+       PRO_TK_NO_ERROR},
+      {"and again", [&] { return ProViewRotate(model, nullptr, PRO_Z_ROTATION, 90); },
+       PRO_TK_NO_ERROR},
+      {"about what",
+       [&] { return ProViewRotate(model, nullptr, static_cast<ProRotationAxis>(3), 90); },
+       PRO_TK_BAD_INPUTS, "ProViewRotate: rotation axis 3"},
+      {"read", [&] { return ProViewMatrixGet(model, nullptr, matrix); }, PRO_TK_NO_ERROR},
   });
-  EXPECT_EQ(session.Current(), box_);
-  EXPECT_EQ(ProWindowCurrentClose(), PRO_TK_NO_ERROR);
-  EXPECT_EQ(session.Current(), nullptr);
-  EXPECT_EQ(ProWindowCurrentClose(), PRO_TK_BAD_CONTEXT);
+  // x of the model points up, y to who looks, z to the right.
+  EXPECT_EQ(Text(matrix), "0 1 0 0 0 0 1 0 1 0 0 0 5 6 7 1");
+  host_.habits.view_rotates_the_other_way = host_.habits.rotation_axes_count_from_one = true;
+  EXPECT_EQ(ProViewRotate(model, nullptr, PRO_X_ROTATION, 90), PRO_TK_BAD_INPUTS);
+  EXPECT_EQ(ProViewRotate(model, nullptr, PRO_Y_ROTATION, 90), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProViewMatrixGet(model, nullptr, matrix), PRO_TK_NO_ERROR);
+  EXPECT_EQ(Text(matrix), "0 0 -1 0 0 1 0 0 1 0 0 0 5 6 7 1");
+  EXPECT_EQ(Breaches(), Lines());
+  host_.habits.scaled_view_matrix_is_taken = true;
+  EXPECT_EQ(ProViewMatrixSet(model, nullptr, scaled), PRO_TK_NO_ERROR);
 }
 
-TEST_F(HostContract, ErasingWhatIsNotDisplayedEndsTheOtherHandles) {
-  Model& other = host_.session.Add(Model({"other", ModelKind::kPart}));
-  const ProMdl other_handle = other.handle;
-  host_.session.ShowInWindow(*box_);
-  EXPECT_EQ(ProMdlEraseNotDisplayed(), PRO_TK_NO_ERROR);
-  ProName name;
-  EXPECT_EQ(ProMdlNameGet(lid_->handle, name), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ProMdlNameGet(other_handle, name), PRO_TK_BAD_INPUTS);
-  EXPECT_EQ(Breaches(),
-            Lines{"plug-in misused ProMdlNameGet: stale model handle (its object is gone)"});
-}
-
-TEST_F(HostContract, OptionsAreReadAndSetForTheSession) {
-  std::wstring name = L"DWG_export_format";
-  std::wstring text = L"2000";
-  ProPath value = {};
-  EXPECT_EQ(ProConfigoptGet(name.data(), value), PRO_TK_E_NOT_FOUND);
-  EXPECT_EQ(ProConfigoptSet(name.data(), text.data()), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ProConfigoptGet(name.data(), value), PRO_TK_NO_ERROR);
-  EXPECT_EQ(std::wstring(value), text);
+TEST_F(DrawingContract, TheFirstWindowIsZeroAndTheCurrentOneNeedNotBeTheActiveOne) {
+  int window = -1;
+  ProName name = L"plate";
+  ProMdl current = nullptr;
+  EXPECT_EQ(ProMdlWindowGet(drw_->handle, &window), PRO_TK_NO_ERROR);
+  EXPECT_EQ(window, 0);
+  EXPECT_EQ(ProMdlWindowGet(plate_->handle, &window), PRO_TK_E_NOT_FOUND);
+  EXPECT_EQ(ProWindowActivate(0), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProObjectwindowCreate(name, PRO_PART, &window), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProWindowCurrentSet(window), PRO_TK_NO_ERROR);
+  EXPECT_EQ(ProMdlCurrentGet(&current), PRO_TK_NO_ERROR);
+  EXPECT_EQ(current, plate_->handle);
+  EXPECT_EQ(host_.session.active_window(), 0);
 }
 
 }  // namespace

@@ -25,40 +25,18 @@ uiCmdAccessState Greyed(uiCmdAccessMode) {
 wchar_t menu_file[] = L"menu.txt";
 wchar_t missing_file[] = L"nowhere.txt";
 
-uiCmdCmdId Add(const char* name, uiCmdAccessFn access = &Available, int priority = 2) {
+uiCmdCmdId Add(const char* name, uiCmdAccessFn access = &Available) {
   uiCmdCmdId id = nullptr;
-  ProCmdActionAdd(name, &Act, priority, access, PRO_B_FALSE, PRO_B_FALSE, &id);
+  ProCmdActionAdd(name, &Act, 2, access, PRO_B_FALSE, PRO_B_FALSE, &id);
   return id;
 }
 
-ProError AddButton(const char* menu, const char* name, const char* neighbour = nullptr,
-                   ProBoolean after = PRO_B_TRUE) {
-  return ProMenubarmenuPushbuttonAdd(menu, name, "Label", "Label_Help", neighbour, after,
+ProError AddButton(const char* menu, const char* name) {
+  return ProMenubarmenuPushbuttonAdd(menu, name, "Label", "Label_Help", nullptr, PRO_B_TRUE,
                                      Add("Command"), menu_file);
 }
 
-class CommandsTest : public HostFixture {
- protected:
-  Lines ButtonsOf(const char* menu) {
-    Lines names;
-    for (const MenuButton& button : host_.commands.FindMenu(menu)->buttons) {
-      names.push_back(button.name);
-    }
-    return names;
-  }
-};
-
-TEST_F(CommandsTest, RegisteringANameAgainKeepsItsIdAndTakesTheNewRule) {
-  const uiCmdCmdId first = Add("Command", &Greyed, 2);
-  EXPECT_EQ(AskAccess("Command"), ACCESS_UNAVAILABLE);
-  EXPECT_EQ(Add("Command", &Available, 5), first);
-  EXPECT_EQ(AskAccess("Command"), ACCESS_AVAILABLE);
-  EXPECT_EQ(host_.commands.Find("Command")->priority, 5);
-  uiCmdCmdId found = nullptr;
-  EXPECT_EQ(ProCmdCmdIdFind("Command", &found), PRO_TK_NO_ERROR);
-  EXPECT_EQ(found, first);
-  EXPECT_EQ(ProCmdCmdIdFind("Unknown", &found), PRO_TK_E_NOT_FOUND);
-}
+class CommandsTest : public HostFixture {};
 
 TEST_F(CommandsTest, OnlyAnAvailableCommandRuns) {
   Add("Command");
@@ -85,8 +63,6 @@ TEST_F(CommandsTest, MisusesAreNamed) {
        [&] { return add("abcdefghijklmnopqrstuvwxyz012345", &Act, 2, &Available); }},
       {"ProCmdActionAdd: priority 1000 is outside 0 to 999",
        [&] { return add("Other", &Act, 1000, &Available); }},
-      {"ProCmdActionAdd: null action", [&] { return add("Other", nullptr, 2, &Available); }},
-      {"ProCmdActionAdd: null access function", [&] { return add("Other", &Act, 2, nullptr); }},
       {"ProCmdIconSet: null command handle", [&] { return ProCmdIconSet(nullptr, "icon.png"); }},
       {"ProMenubarmenuPushbuttonAdd: empty button name", [&] { return AddButton("Help", ""); }},
       {"ProPopupmenuButtonAdd: there is no popup menu with id 9",
@@ -103,13 +79,8 @@ TEST_F(CommandsTest, MisusesAreNamed) {
   EXPECT_EQ(host_.commands.Find("Other"), nullptr);
 }
 
-TEST_F(CommandsTest, MenusAndButtonsTakeTheirPlaceBesideTheNeighbour) {
+TEST_F(CommandsTest, AMenuTakesItsPlaceBesideTheNeighbour) {
   EXPECT_EQ(ProMenubarMenuAdd("Menu", "Label", "Help", PRO_B_TRUE, menu_file), PRO_TK_NO_ERROR);
-  EXPECT_EQ(AddButton("Menu", "a"), PRO_TK_NO_ERROR);
-  EXPECT_EQ(AddButton("Menu", "b"), PRO_TK_NO_ERROR);
-  EXPECT_EQ(AddButton("Menu", "c", "a", PRO_B_TRUE), PRO_TK_NO_ERROR);
-  EXPECT_EQ(AddButton("Menu", "d", "a", PRO_B_FALSE), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ButtonsOf("Menu"), (Lines{"d", "a", "c", "b"}));
   std::string after_help;
   for (size_t i = 1; i < host_.commands.menus.size(); ++i) {
     if (host_.commands.menus[i - 1].name == "Help") after_help = host_.commands.menus[i].name;
@@ -122,90 +93,38 @@ TEST_F(CommandsTest, WhatTheHostRefusesWithAStatusChangesNothing) {
   const uiCmdCmdId id = Add("Command");
   EXPECT_EQ(AddButton("Help", "Button"), PRO_TK_E_FOUND);
   EXPECT_EQ(AddButton("Nowhere", "b"), PRO_TK_E_NOT_FOUND);
-  EXPECT_EQ(AddButton("Help", "b", "Nobody"), PRO_TK_E_NOT_FOUND);
   EXPECT_EQ(ProMenubarMenuAdd("Help", "Label", "File", PRO_B_TRUE, menu_file), PRO_TK_E_FOUND);
-  EXPECT_EQ(ProMenubarMenuAdd("M", "Label", "Nobody", PRO_B_TRUE, menu_file), PRO_TK_E_NOT_FOUND);
   EXPECT_EQ(ProMenubarMenuAdd("M", "Unknown", "Help", PRO_B_TRUE, menu_file), PRO_TK_MSG_NOT_FOUND);
   EXPECT_EQ(ProCmdDesignate(id, "Label", "Label_Help", "Label", missing_file),
             PRO_TK_MSG_NOT_FOUND);
   EXPECT_EQ(ProCmdIconSet(id, "no_icon.png"), PRO_TK_E_NOT_FOUND);
-  EXPECT_EQ(ButtonsOf("Help"), Lines{"Button"});
+  EXPECT_EQ(host_.commands.FindMenu("Help")->buttons.size(), 1u);
   EXPECT_EQ(host_.commands.FindMenu("M"), nullptr);
   EXPECT_FALSE(host_.commands.Find("Command")->designated);
   EXPECT_EQ(Breaches(), Lines{});
   EXPECT_EQ(host_.events.All<MissingText>().size(), 2u);
 }
 
-TEST_F(CommandsTest, LabelsComeFromTheMessageFileOfTheLanguage) {
-  EXPECT_EQ(MenuLabel("Label", "menu.txt"), "中文标签");
-  EXPECT_EQ(MenuLabel("Label_Help", "menu.txt"), "English help");
-  EXPECT_EQ(MenuLabel("Unknown", "menu.txt"), "Unknown");
-  ProLine line = {};
-  EXPECT_EQ(ProMessageToBuffer(line, menu_file, "Label"), PRO_TK_NO_ERROR);
-  EXPECT_EQ(FromWide(line), "中文标签");
-}
-
-// Offered when at least one item is preselected; counts what it is shown.
-uiCmdAccessState OfferedWhenPreselected(uiCmdCmdId, ProAppData count, ProSelection* selections) {
-  int& number = *static_cast<int*>(count);
-  if (selections == nullptr) return ACCESS_REMOVE;
-  ProArraySizeGet(selections, &number);
+uiCmdAccessState Offered(uiCmdCmdId, ProAppData, ProSelection*) {
   return ACCESS_AVAILABLE;
 }
 
-int preselected_count = 0;
 ProPopupMenuId built_popup = 0;
 
 ProError BuildPopup(char* name) {
-  if (std::string(name) != "Sel Obj Menu") return PRO_TK_NO_ERROR;
-  ProPopupmenuIdGet(name, &built_popup);
-  wchar_t label[] = L"label";
-  for (const char* button : {"first", "second", "first"}) {
-    ProPopupmenuButtonAdd(built_popup, PRO_VALUE_UNUSED, button, label, label, Add("Command"),
-                          &OfferedWhenPreselected, &preselected_count);
-  }
-  return PRO_TK_NO_ERROR;
+  return ProPopupmenuIdGet(name, &built_popup);
 }
 
-class PopupsTest : public CommandsTest {
- protected:
-  PopupsTest() {
-    ProNotificationSet(kNotifyPopupCreate,
-                       reinterpret_cast<ProFunction>(reinterpret_cast<void (*)()>(&BuildPopup)));
-  }
-};
-
-TEST_F(PopupsTest, APopupIsFilledAfreshAndItsButtonsSeeThePreselection) {
-  std::vector<OfferedButton> offered = FirePopup("Sel Obj Menu");
-  ASSERT_EQ(offered.size(), 2u);
-  EXPECT_EQ(offered[0].state, ACCESS_REMOVE);
-  Model& assembly = ShowAssembly();
-  host_.session.selection_buffer.assign(3, {1, 0, &assembly, &assembly, {}});
-  offered = FirePopup("Sel Obj Menu");
-  ASSERT_EQ(offered.size(), 2u);
-  EXPECT_TRUE(offered[1].available());
-  EXPECT_EQ(offered[1].name, "second");
-  EXPECT_EQ(offered[1].command, "Command");
-  EXPECT_EQ(preselected_count, 3);
-  EXPECT_EQ(FirePopup("Model Tree Menu").size(), 0u);
-  EXPECT_THROW(FirePopup("No Such Menu"), std::invalid_argument);
-  EXPECT_EQ(Breaches(), Lines{});
-}
-
-TEST_F(PopupsTest, APopupTakesButtonsOnlyWhileItIsBeingCreated) {
+TEST_F(CommandsTest, APopupTakesButtonsOnlyWhileItIsBeingCreated) {
+  ProNotificationSet(kNotifyPopupCreate,
+                     reinterpret_cast<ProFunction>(reinterpret_cast<void (*)()>(&BuildPopup)));
   FirePopup("Sel Obj Menu");
   wchar_t label[] = L"label";
-  EXPECT_EQ(ProPopupmenuButtonAdd(built_popup, -1, "late", label, label, Add("Command"),
-                                  &OfferedWhenPreselected, nullptr),
+  EXPECT_EQ(ProPopupmenuButtonAdd(built_popup, -1, "late", label, label, Add("Command"), &Offered,
+                                  nullptr),
             PRO_TK_BAD_INPUTS);
   EXPECT_EQ(Breaches(), (Lines{"plug-in misused ProPopupmenuButtonAdd: popup \"Sel Obj Menu\" is "
                                "changed while it is not being created"}));
-}
-
-TEST_F(PopupsTest, ARemovedNotificationIsNotCalled) {
-  EXPECT_EQ(ProNotificationSet(kNotifyPopupCreate, nullptr), PRO_TK_NO_ERROR);
-  EXPECT_EQ(ProNotificationSet(kNotifyPopupCreate, nullptr), PRO_TK_E_NOT_FOUND);
-  EXPECT_TRUE(FirePopup("Sel Obj Menu").empty());
 }
 
 }  // namespace

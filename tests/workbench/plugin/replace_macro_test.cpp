@@ -64,7 +64,7 @@ TEST_F(ReplaceMacro, NoAssemblyTakesItsOwnPlace) {
 TEST_F(ReplaceMacro, AStepThatComesTooEarlyIsUnknown) {
   const std::string begun = std::string(kOpenReplace) + kUnrelated;
   for (const std::string& wrong :
-       {begun + kFolder, begun + kDone, std::string(kNew), begun + "~ Activate `other` `x`;",
+       {begun + kFolder, std::string(kNew), begun + "~ Activate `other` `x`;",
         std::string(kOpenReplace) +
             "~ Select `gen_repl_dlg` `ByCompPH.rpl_method_radio` 1 `Family`;",
         std::string(kOpenReplace) +

@@ -15,6 +15,15 @@ int Box() {
   return ::MessageBoxW(nullptr, L"Delete all?", L"Caption", MB_YESNO);
 }
 
+// Runs it on a thread of its own and waits for its end.
+bool RunOnThread(LPTHREAD_START_ROUTINE run, void* data = nullptr) {
+  const HANDLE thread = ::CreateThread(nullptr, 0, run, data, 0, nullptr);
+  if (thread == nullptr) return false;
+  ::WaitForSingleObject(thread, INFINITE);
+  ::CloseHandle(thread);
+  return true;
+}
+
 DWORD WINAPI BoxOnThread(void* answer) {
   *static_cast<int*>(answer) = Box();
   return 0;
@@ -22,9 +31,7 @@ DWORD WINAPI BoxOnThread(void* answer) {
 
 int ThreadBox() {
   int answer = 0;
-  const HANDLE thread = ::CreateThread(nullptr, 0, &BoxOnThread, &answer, 0, nullptr);
-  ::WaitForSingleObject(thread, INFINITE);
-  ::CloseHandle(thread);
+  RunOnThread(&BoxOnThread, &answer);
   return answer;
 }
 
@@ -48,15 +55,6 @@ int Timer() {
   return ::SetTimer(nullptr, 1, 2000, &OnTimer) == 0;
 }
 
-// Answers by the message area, since a status is a number only.
-int ShowPath(bool found, wchar_t* path) {
-  wchar_t file[] = L"menu.txt";
-  int count = 1;
-  double size = 2.5;
-  if (found) ProMessageDisplay(file, "Moved %0w", path, "here", &count, &size);
-  return found;
-}
-
 int NumberByValue() {
   wchar_t file[] = L"menu.txt";
   wchar_t path[] = L"C:";
@@ -66,14 +64,13 @@ int NumberByValue() {
 
 int Desktop() {
   wchar_t path[MAX_PATH] = {};
-  return ShowPath(::SHGetSpecialFolderPathW(nullptr, path, CSIDL_DESKTOP, FALSE), path);
+  return ::SHGetSpecialFolderPathW(nullptr, path, CSIDL_DESKTOP, FALSE);
 }
 
 int LocalFolder() {
   wchar_t path[MAX_PATH] = {};
-  return ShowPath(SUCCEEDED(::SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA | CSIDL_FLAG_CREATE,
-                                               nullptr, 0, path)),
-                  path);
+  return SUCCEEDED(
+      ::SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA | CSIDL_FLAG_CREATE, nullptr, 0, path));
 }
 
 template <decltype(::GetSaveFileNameW)* Ask>
@@ -83,11 +80,7 @@ int AskForFile() {
   dialog.lStructSize = sizeof(dialog);
   dialog.lpstrFile = path;
   dialog.nMaxFile = MAX_PATH;
-  dialog.lpstrFilter = L"Bills\0*.xlsx\0All\0*.*\0";
-  dialog.lpstrTitle = L"Save the bill";
-  dialog.lpstrDefExt = L"xlsx";
-  const bool chosen = Ask(&dialog);
-  return ShowPath(chosen, path + dialog.nFileOffset);
+  return Ask(&dialog);
 }
 
 int Object() {
@@ -106,22 +99,13 @@ int Spreadsheet() {
   return result;
 }
 
-int Mouse() {
-  ::mouse_event(MOUSEEVENTF_LEFTDOWN, 3, 4, 0, 0);
-  return 0;
-}
-
 DWORD WINAPI MiddleClick(void*) {
   ::mouse_event(MOUSEEVENTF_MIDDLEDOWN | MOUSEEVENTF_MIDDLEUP, 0, 0, 0, 0);
   return 0;
 }
 
 int ThreadClick() {
-  const HANDLE thread = ::CreateThread(nullptr, 0, &MiddleClick, nullptr, 0, nullptr);
-  if (thread == nullptr) return 1;
-  ::WaitForSingleObject(thread, INFINITE);
-  ::CloseHandle(thread);
-  return 0;
+  return !RunOnThread(&MiddleClick);
 }
 
 DWORD WINAPI CallHost(void*) {
@@ -133,13 +117,6 @@ DWORD WINAPI CallHost(void*) {
 int LeftThread() {
   const HANDLE thread = ::CreateThread(nullptr, 0, &CallHost, nullptr, CREATE_SUSPENDED, nullptr);
   return thread == nullptr;
-}
-
-int HostThread() {
-  const HANDLE thread = ::CreateThread(nullptr, 0, &CallHost, nullptr, 0, nullptr);
-  ::WaitForSingleObject(thread, INFINITE);
-  ::CloseHandle(thread);
-  return 0;
 }
 
 int LastErrorUnless(bool succeeded) {
@@ -204,10 +181,8 @@ void RegisterCommands() {
   Register<&AskForFile<&::GetSaveFileNameW>>("SaveFile");
   Register<&Object>("Object");
   Register<&Spreadsheet>("Spreadsheet");
-  Register<&Mouse>("Mouse");
   Register<&ThreadClick>("ThreadClick");
   Register<&LeftThread>("LeftThread");
-  Register<&HostThread>("HostThread");
   Register<&NumberByValue>("NumberByValue");
   Register<&OpenFile>("OpenNul");
   Register<&DeleteNothing>("DeleteNothing");
