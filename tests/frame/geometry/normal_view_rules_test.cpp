@@ -73,15 +73,6 @@ TEST(NormalView, SnapsAllOrientationsWithoutAMirrorAndIsStable) {
   EXPECT_GT(compared, 80'000);
 }
 
-TEST(NormalView, DividesTheShiftByTheScaleThatIsLost) {
-  const auto snapped = NormalView(Scaled({{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}}, 4, {8, -2, 1}));
-  ASSERT_TRUE(snapped);
-  EXPECT_EQ(snapped->rows[3][0], 2);
-  EXPECT_EQ(snapped->rows[3][1], -0.5);
-  EXPECT_EQ(snapped->rows[3][2], 0.25);
-  EXPECT_EQ(snapped->rows[3][3], 1);
-}
-
 TEST(NormalView, OfTwoRowsThatWantOneAxisTheLesserOneGivesItUp) {
   const double half = std::sqrt(0.5);
   const struct {
