@@ -100,7 +100,7 @@ TEST(ParamValue, AddTakesYesInAnyCaseButNoOnlyInCapitals) {
   }
 }
 
-// The other lengths and yes/no values stand in scripts.
+// The longest text that is taken: params.qms.
 TEST(ParamValue, StringsAreKeptAsTyped) {
   EXPECT_EQ(ValueOf<std::wstring>(ValueToAdd(L"字符串", L" a b ")), L" a b ");
   EXPECT_NE(RefusalOf(ValueToUpdate(L"字符串", std::wstring(81, L'长'))), L"");

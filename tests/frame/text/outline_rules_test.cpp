@@ -8,15 +8,6 @@
 namespace qm {
 namespace {
 
-TEST(OutlineBox, CombinesAllSurfacesWhereverTheyLie) {
-  OutlineBox box;
-  EXPECT_TRUE(box.empty());
-  EXPECT_TRUE(box.Include({10, 20, 30}, {11, 22, 30}));
-  EXPECT_TRUE(box.Include({-5, 21, 29}, {4, 21.5, 33}));
-  EXPECT_FALSE(box.empty());
-  EXPECT_EQ(box.Sizes(), (std::array<double, 3>{16, 2, 4}));
-}
-
 TEST(OutlineBox, TakesNoCornersThatSpanNoBox) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   OutlineBox box;
