@@ -29,31 +29,21 @@ TEST(ParamValue, IntegersAreTheLeadingDigits) {
     const wchar_t* text;
     int value;
   } cases[] = {
-      {L"42", 42},
       {L"  \t-7mm", -7},
-      {L"+5", 5},
       {L"12.9", 12},
-      {L"", 0},
       {L"abc", 0},
-      {L"+-3", 0},
       {L"- 3", 0},
-      {L"2147483647", INT_MAX},
       {L"0017", 17},
       {L"2147483648", INT_MAX},
-      {L"-2147483648", INT_MIN},
       {L"0x10", 0},
-      {L"99999999999999999999999", INT_MAX},
       {L"-2147483649", INT_MIN},
       {L"-99999999999999999999999", INT_MIN},
-      {L"１２", 12},  // full-width digits, alone and among others
-      {L"\u3000-１2３mm", -123},
+      {L"\u3000-１2３mm", -123},  // full-width digits
       {L"\u00A0\u2003\u20287", 7},
       {L"１２．５", 12},
       {L"－５", 0},  // the full-width sign is none
-      {L"٤٢", 42},
       {L"９９９９９９９９９９９", INT_MAX},
       {L"①", 0},
-      {L"一二", 0},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(ValueOf<int>(ValueToAdd(L"整数", c.text)), c.value) << (&c - cases);
@@ -68,28 +58,20 @@ TEST(ParamValue, RealNumbersAreTheLongestLeadingNumber) {
     const wchar_t* text;
     double value;
   } cases[] = {
-      {L"2.5", 2.5},
       {L" -.5x", -0.5},
-      {L"1.", 1.0},
       {L".", 0.0},
-      {L"1e3", 1000.0},
       {L"1e+2", 100.0},
       {L"1e", 1.0},
-      {L"1e-", 1.0},
       {L"1d2", 100.0},
       {L"3,5", 3.0},
-      {L"", 0.0},
       {L"mm", 0.0},
-      {L"+0.25mm", 0.25},
       {L"--1", 0.0},
-      {L"1.2.3", 1.2},
       {L"1e-400", 0.0},
       {L"inf", 0.0},
       {L"0e999999999", 0.0},
       {L"1e-99999999999999999999", 0.0},
       {L"\u3000\u20032.5", 2.5},
       {L"１２", 0.0},  // plain digits only
-      {L"1２", 1.0},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(ValueOf<double>(ValueToAdd(L"实数", c.text)), c.value) << (&c - cases);
@@ -109,7 +91,7 @@ TEST(ParamValue, RealNumbersBeyondTheRangeAreInfiniteAndRefused) {
 }
 
 TEST(ParamValue, AddTakesYesInAnyCaseButNoOnlyInCapitals) {
-  for (const wchar_t* yes : {L"YES", L"yes", L"Yes", L"yEs"}) {
+  for (const wchar_t* yes : {L"YES", L"yes", L"yEs"}) {
     EXPECT_TRUE(ValueOf<bool>(ValueToAdd(L"是/否", yes)));
   }
   EXPECT_FALSE(ValueOf<bool>(ValueToAdd(L"是/否", L"NO")));
@@ -118,25 +100,10 @@ TEST(ParamValue, AddTakesYesInAnyCaseButNoOnlyInCapitals) {
   }
 }
 
-TEST(ParamValue, AddOfAnEmptyBooleanAsksForAValueWithoutTheBooleanMessage) {
-  const std::wstring refusal = RefusalOf(ValueToAdd(L"是/否", L""));
-  EXPECT_NE(refusal, L"");
-  EXPECT_NE(refusal, kBadBoolean);
-}
-
-TEST(ParamValue, UpdateOfABooleanIsAlwaysYes) {
-  for (const wchar_t* text : {L"NO", L"YES", L"no", L"", L"maybe"}) {
-    EXPECT_TRUE(ValueOf<bool>(ValueToUpdate(L"是/否", text)));
-  }
-}
-
-TEST(ParamValue, StringsAreKeptAsTypedUpToEightyCharacters) {
-  const std::wstring longest(80, L'长');
+// The longest text that is taken: params.qms.
+TEST(ParamValue, StringsAreKeptAsTyped) {
   EXPECT_EQ(ValueOf<std::wstring>(ValueToAdd(L"字符串", L" a b ")), L" a b ");
-  EXPECT_EQ(ValueOf<std::wstring>(ValueToUpdate(L"字符串", L"")), L"");
-  EXPECT_EQ(ValueOf<std::wstring>(ValueToAdd(L"字符串", longest)), longest);
-  EXPECT_NE(RefusalOf(ValueToAdd(L"字符串", longest + L"x")), L"");
-  EXPECT_NE(RefusalOf(ValueToUpdate(L"字符串", longest + L"x")), L"");
+  EXPECT_NE(RefusalOf(ValueToUpdate(L"字符串", std::wstring(81, L'长'))), L"");
 }
 
 TEST(ParamValue, TypesOutsideTheMenuAreRefused) {
@@ -144,13 +111,6 @@ TEST(ParamValue, TypesOutsideTheMenuAreRefused) {
     EXPECT_NE(RefusalOf(ValueToAdd(type, L"1")), L"");
     EXPECT_NE(RefusalOf(ValueToUpdate(type, L"1")), L"");
   }
-}
-
-TEST(ParamName, IsRefusedWhenEmptyOrLongerThanTheHostHolds) {
-  EXPECT_NE(ParamNameRefusal(L""), nullptr);
-  EXPECT_EQ(ParamNameRefusal(L"M"), nullptr);
-  EXPECT_EQ(ParamNameRefusal(std::wstring(31, L'a')), nullptr);
-  EXPECT_NE(ParamNameRefusal(std::wstring(32, L'a')), nullptr);
 }
 
 }  // namespace

@@ -87,7 +87,8 @@ bool IsFixed(const Feature& feature) {
          (feature.constraints.size() == 1 && feature.constraints.front().type == PRO_ASM_FIX);
 }
 
-bool AllComponents(const Session& session, bool (*are)(const Feature& feature)) {
+template <typename Are>
+bool AllComponents(const Session& session, Are are) {
   return std::ranges::all_of(session.models(), [&](const auto& model) {
     return std::ranges::all_of(FeaturesOf(*model), are);
   });
@@ -151,8 +152,9 @@ bool HasWorked(Host& host, Model& top, BenchPart part, const std::string& units)
     case BenchPart::kSimplify:
       return IsSimplified(top.solid());
     default:
-      return std::ranges::all_of(host.session.models(), [&](const auto& model) {
-        const SolidContent* const solid = std::as_const(*model).template As<SolidContent>();
+      return AllComponents(host.session, [&](const Feature& feature) {
+        const Model* const model = IsPlaced(feature) ? feature.ComponentModel() : nullptr;
+        const SolidContent* const solid = model != nullptr ? model->As<SolidContent>() : nullptr;
         return solid == nullptr || !IsMeant(part, *model, *solid) || HasWork(part, *solid, units);
       });
   }

@@ -10,16 +10,8 @@ const void* Handle(uintptr_t bits) {
   return reinterpret_cast<const void*>(bits);
 }
 
-TEST(HandleIndex, NumbersHandlesInTheOrderTheyAreMet) {
-  HandleIndex index;
-  EXPECT_EQ(index.Insert(Handle(8)), std::make_pair(0u, true));
-  EXPECT_EQ(index.Insert(Handle(4)), std::make_pair(1u, true));
-  EXPECT_EQ(index.Insert(nullptr), std::make_pair(2u, true));
-  EXPECT_EQ(index.Insert(Handle(8)), std::make_pair(0u, false));
-  EXPECT_EQ(index.Insert(nullptr), std::make_pair(2u, false));
-}
-
-// Aligned addresses, running numbers, and handles that differ in their upper bits only.
+// In the order they are met, no handle among them: aligned addresses, running numbers, and handles
+// that differ in their upper bits only.
 TEST(HandleIndex, KeepsTheNumbersOfManyHandlesApart) {
   for (const uintptr_t step :
        {uintptr_t{1}, uintptr_t{64}, uintptr_t{1} << 16, uintptr_t{1} << 40}) {

@@ -1,9 +1,7 @@
-// Where settings files and model folders lie.
+// Where settings files lie.
 #include "frame/settings/config_rules.h"
 
 #include <gtest/gtest.h>
-
-#include "frame/text/directory_rules.h"
 
 namespace qm {
 namespace {
@@ -32,25 +30,6 @@ TEST(ConfigRules, ARenamedPlugInNeverTouchesAnotherProgramsFiles) {
 TEST(ConfigRules, TheTextFolderMayEndInSeparators) {
   for (const wchar_t* folder : {L"C:\\qm", L"C:\\qm\\", L"C:\\qm/"}) {
     EXPECT_EQ(ConfigPathIn(folder, L"QmParams.ini"), L"C:\\qm\\QMconfig\\QmParams.ini");
-  }
-}
-
-TEST(DirectoryRules, AModelsFolderIsDeviceAndPathUnlessThePathIsWhole) {
-  struct Case {
-    const wchar_t* device;
-    const wchar_t* path;
-    const wchar_t* folder;
-  };
-  for (const Case& c : {
-           Case{L"C", L"\\work\\", L"C:\\work\\"},
-           Case{L"C:", L"\\work\\", L"C:\\work\\"},
-           Case{L"C:", L"work", L"C:\\work"},
-           Case{L"C", L"D:\\other", L"D:\\other"},
-           Case{L"C", L"\\\\server\\share", L"\\\\server\\share"},
-           Case{L"", L"D:\\工作 目录\\", L"D:\\工作 目录\\"},
-           Case{L"", L"", L""},
-       }) {
-    EXPECT_EQ(ModelFolder(c.device, c.path), c.folder);
   }
 }
 

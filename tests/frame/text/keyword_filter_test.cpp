@@ -16,25 +16,20 @@ struct Case {
 
 TEST(KeywordFilter, ExcludesNamesThatBeginWithAKeyword) {
   const Case cases[] = {
-      {L"gb，iso", L"GB_BOLT", true},  // full-width comma
-      {L"gb，iso", L"ISO4762", true},
+      {L"gb，iso", L"GB_BOLT", true},   // full-width comma
       {L"gb，iso", L"BOLT_GB", false},  // inside the name
       {L"GB", L"gb_bolt", true},
       {L"gb,", L"PUMP", false},  // trailing empty piece
-      {L"", L"PUMP", false},
       {L",", L"PUMP", false},
       {L"gb,,iso", L"PUMP", false},  // an empty piece excludes nothing
-      {L",iso", L"ISO4762", true},
       {L"gb,，iso", L"iso1", true},
       {L"gb, iso", L"ISO4762", false},  // the blank belongs to the keyword
-      {L"gb, iso", L" iso4762", true},
       {L"gb_bolt_long", L"GB", false},  // longer than the name
       {L"标准件", L"标准件_螺栓", true},
       {L"Ø", L"ø20_PIN", true},
       {L"деталь", L"ДЕТАЛЬ-1", true},
       {L"ＧＢ", L"ｇｂ70", true},  // full-width letters
       {L"gb", L"ＧＢ70", false},
-      {L"ǆ", L"ǄEP", true},
       {L"ǆ", L"ǅEP", true},
       {L"Ș", L"șurub", true},  // with the comma below, behind the first two blocks of Latin letters
   };

@@ -43,6 +43,7 @@ TEST(ModelRecord, IsReadByWhereItsTextsStand) {
       {{L"server", L"", L"\\\\server\\share\\parts\\"}, L"\\\\server\\share\\parts\\"},
       {{L"", L"C:", L"parts"}, L"C:\\parts"},
       {{L"", L"C:", L"\\零件\\"}, L"C:\\零件\\"},
+      {{L"", L"C", L"D:\\other"}, L"D:\\other"},
       // The texts have changed places.
       {{L"\\work\\parts\\", L"C:", L""}, L"C:\\work\\parts\\"},
       {{L"C:", L"\\work\\", L""}, L"C:\\work\\"},
@@ -76,13 +77,7 @@ struct Pointed {
 };
 
 Pointed PointedTo(std::wstring_view folder, const ProMdldataOrder& order, const Texts& texts) {
-  std::wstring record(2048, L'\0');
-  const auto put = [&](int place, std::wstring_view text) {
-    record.replace(static_cast<std::size_t>(place), text.size(), text);
-  };
-  put(order.name, L"bolt");
-  put(order.device, texts.device);
-  put(order.path, texts.path);
+  std::wstring record = RecordOf(order, texts);
   if (!SetFolderInModelRecord(record, L"BOLT", folder)) return {};
   return {FolderInModelRecord(record, L"bolt"), record.c_str() + order.device,
           record.c_str() + order.path};

@@ -67,6 +67,7 @@ TEST_F(HostContract, NothingIsWrittenBehindTheRecordOfAParameter) {
 TEST_F(HostContract, AppearancesAreReadAndWrittenWhole) {
   lid_->solid().surfaces.Add({1, {{0, 0, 0}, {1, 1, 1}}});
   lid_->solid().appearance.emplace().name = "steel";
+  lid_->solid().appearance->finish = 12;
   ProModelitem lid = LidItem();
   ProModelitem face = Item(PRO_SURFACE, 1, lid_->handle);
   ProModelitem no_face = Item(PRO_SURFACE, 2, lid_->handle);

@@ -95,7 +95,8 @@ TEST(Script, MistakesAreToldTogetherAndTheNearestWordIsOffered) {
   } cases[] = {
       {"opne bolt", "1: unknown statement \"opne\"; did you mean \"open\"?\n"},
       {"expect hiden bolt",
-       "1: \"hiden\" does not fit after \"expect\"; did you mean \"hidden\"?\n"},
+       "1: \"hiden\" does not fit after \"expect\"; it reads: expect note TEXT or: "
+       "expect STATE:hidden|shown PATH...; did you mean \"hidden\"?\n"},
       {"surface bolt 1 2 x 4 5 6",
        "1: \"x\" is not a number; it reads: surface MODEL X Y Z X2 Y2 Z2\n"},
       {"mode assembyl", "1: \"assembyl\" is not a mode such as assembly; it reads: mode MODE\n"},

@@ -46,8 +46,8 @@ TEST(ReportFilesTest, AWorkbookIsDrawnByItsFirstRows) {
   Worksheet& sheet = book.sheets[0];
   sheet.SetValue({1, 1}, "pump <BOM>");
   sheet.Merge({{1, 1}, {1, 3}});
-  for (int row = 2; row <= 40; ++row) sheet.SetValue({row, 2}, 1.5);
-  sheet.ChangeFormat({{2, 2}, {2, 2}}, [](CellFormat& format) {
+  for (int row = 2; row <= 40; ++row) sheet.SetValue({row, 3}, 1.5);
+  sheet.ChangeFormat({{2, 3}, {2, 3}}, [](CellFormat& format) {
     format.fill = CellFill{false, 0x000080};
   });
   const std::string html = DrawWorkbook(book);
