@@ -40,7 +40,8 @@ ProView PreselectedMainView(ProDrawing drawing) {
   for (int i = 0; i < count; ++i) {
     // What is picked inside a view tells that view, too, and is not meant.
     const auto item = ItemOf((*selected)[i]);
-    if (!item || item->type != PRO_VIEW) continue;
+    // Nor is a view of a drawing that was shown before.
+    if (!item || item->type != PRO_VIEW || item->owner != drawing) continue;
     ProView view = nullptr;
     if (Ok(ProSelectionViewGet((*selected)[i], &view)) && view != nullptr &&
         IsGeneral(drawing, view)) {
