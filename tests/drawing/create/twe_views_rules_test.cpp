@@ -1,4 +1,4 @@
-// Twelve views: names and turns, and what of their places no box shows.
+// Twelve views: names, and what of their turns and places no box shows.
 #include "drawing/create/twe_views_rules.h"
 
 #include <gtest/gtest.h>
@@ -14,28 +14,6 @@ TEST(TweViewsRules, ALongNameIsCutToItsFirstEightCharacters) {
   EXPECT_EQ(TweViewsDrawingName(std::wstring(29, L'a')), L"aaaaaaaa-12");
   EXPECT_EQ(TweViewsDrawingName(L"泵体零件一二三四" + std::wstring(22, L'x')),
             L"泵体零件一二三四-12");
-}
-
-std::string Turns(int dx, int dy, int dz) {
-  std::string turns;
-  for (const Axis axis : TurnsByExtents(dx, dy, dz)) turns += "xyz"[static_cast<int>(axis)];
-  return turns;
-}
-
-TEST(TweViewsRules, EveryOrderOfExtentsHasItsTurnsAndATieTheFirstLineThatLetsItIn) {
-  EXPECT_EQ(Turns(3, 2, 1), "");
-  EXPECT_EQ(Turns(3, 1, 2), "x");
-  EXPECT_EQ(Turns(2, 3, 1), "z");
-  EXPECT_EQ(Turns(1, 3, 2), "zx");
-  EXPECT_EQ(Turns(2, 1, 3), "xz");
-  EXPECT_EQ(Turns(1, 2, 3), "y");
-  EXPECT_EQ(Turns(1, 1, 1), "");
-  EXPECT_EQ(Turns(2, 2, 1), "");
-  EXPECT_EQ(Turns(2, 1, 1), "");
-  EXPECT_EQ(Turns(2, 1, 2), "x");
-  EXPECT_EQ(Turns(1, 2, 1), "zx");  // not z alone
-  EXPECT_EQ(Turns(1, 2, 2), "y");
-  EXPECT_EQ(Turns(1, 1, 2), "y");
 }
 
 TEST(TweViewsRules, ASquareMainViewTurnsToStandUpright) {

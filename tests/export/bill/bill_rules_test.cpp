@@ -1,5 +1,5 @@
-// Bills of materials where names are missing or stand twice, and of a structure that is as deep as
-// any host allows. Ordinary ones are those of imported_bill_test.
+// Level bills where names stand twice, and of a structure that is as deep as any host allows.
+// Ordinary ones are those of imported_bill_test.
 #include "export/bill/bill_rules.h"
 
 #include <gtest/gtest.h>
@@ -18,25 +18,6 @@ std::string TextOf(const BillStructure& structure, const BillRow& row) {
   return Narrow(structure.models[row.model].name) + " x " + std::to_string(row.quantity);
 }
 
-// Occurrences as a walk through all levels meets them.
-void Occur(BillStructure& structure, uint32_t assembly) {
-  for (const uint32_t component : structure.models[assembly].components) {
-    structure.occurrences.push_back(component);
-    Occur(structure, component);
-  }
-}
-
-// PUMP: 3 bolts, 2 housings (each with 2 bolts and a lid), 1 lid.
-BillStructure Pump() {
-  BillStructure pump;
-  pump.models = {{L"PUMP", PRO_MDL_ASSEMBLY, {1, 2, 1, 3, 2, 1}},
-                 {L"BOLT", PRO_MDL_PART, {}},
-                 {L"HOUSING", PRO_MDL_ASSEMBLY, {1, 1, 3}},
-                 {L"LID", PRO_MDL_PART, {}}};
-  Occur(pump, 0);
-  return pump;
-}
-
 BillTexts LevelTexts(const BillStructure& structure, int depth) {
   BillTexts texts;
   PositionNumber position;
@@ -44,23 +25,6 @@ BillTexts LevelTexts(const BillStructure& structure, int depth) {
     texts.push_back(Narrow(position.Of(row)) + " " + TextOf(structure, row));
   }
   return texts;
-}
-
-BillTexts Totals(const BillStructure& structure) {
-  BillTexts texts;
-  for (const BillRow& row : SummaryBill(structure)) texts.push_back(TextOf(structure, row));
-  return texts;
-}
-
-TEST(SummaryBill, APartAndAnAssemblyOfOneNameAreTwoRows) {
-  BillStructure structure;
-  structure.models = {{L"TOP", PRO_MDL_ASSEMBLY, {1, 2, 1}},
-                      {L"FRAME", PRO_MDL_PART, {}},
-                      {L"FRAME", PRO_MDL_ASSEMBLY, {3}},
-                      {L"FRAME", PRO_MDL_PART, {}}};
-  Occur(structure, 0);
-  EXPECT_EQ(Totals(structure), (BillTexts{"FRAME x 3", "FRAME x 1"}));
-  EXPECT_EQ(SummaryBill(structure)[1].model, 2u);
 }
 
 // The host knows models by name and type, the level bill its siblings by name: they stay apart in
@@ -76,15 +40,6 @@ TEST(LevelBill, SiblingsOfOneNameAreOneRowWhateverTheirTypes) {
                                                           "2.1 FRAME x 1", "2.1.1 BAR x 1"}));
   EXPECT_EQ(structure.models[LevelBill(structure, 1)[0].model].type, PRO_MDL_PART)
       << "shown as the first";
-}
-
-TEST(BillOfNameless, ModelsKeepTheirPlacesAndWhatTheyHoldAndAreNotInTheSummary) {
-  BillStructure structure = Pump();
-  structure.models[2].name.clear();
-  EXPECT_EQ(Totals(structure), (BillTexts{"BOLT x 7", "LID x 3"}));
-  structure.models[3].name.clear();
-  EXPECT_EQ(LevelTexts(structure, 2),
-            (BillTexts{"1 BOLT x 3", "2  x 2", "2.1 BOLT x 2", "2.2  x 1", "3  x 1"}));
 }
 
 TEST(LevelBill, AnAssemblyInsideItselfIsListedButNotEntered) {

@@ -15,12 +15,6 @@ TEST(ComponentFiles, AnAssemblyWithTheNameOfAPartGivesWay) {
             (Names{L"螺栓.igs", L"螺栓_asm.igs", L"螺母.igs"}));
 }
 
-TEST(ComponentFiles, AClassTakesInItsKind) {
-  EXPECT_TRUE(IsOfClass("AsmAndPart", true) && IsOfClass("AsmAndPart", false));
-  EXPECT_TRUE(IsOfClass("Asm", true) && IsOfClass("Part", false));
-  EXPECT_FALSE(IsOfClass("Asm", false) || IsOfClass("Part", true) || IsOfClass("Smt", false));
-}
-
 TEST(ComponentFiles, ATypeIsDigitsAlone) {
   EXPECT_EQ(FormatNumber(L"40"), 40);
   EXPECT_EQ(FormatNumber(L"007"), 7);

@@ -59,18 +59,6 @@ TEST(NewNameRules, WhatWouldNameSomethingElseIsNeverAskedFor) {
   }
 }
 
-TEST(MovedNameRules, ARowOfANameThatIsGoneOrNewMeansAnotherModel) {
-  MovedNames moved;
-  moved.Add({L"1", L"bolt", L"prt", L"Mid"});
-  const auto holds = [&](const wchar_t* type, const wchar_t* old_name) {
-    return moved.HoldOldNameOf({L"2", old_name, type, L"last"});
-  };
-  EXPECT_TRUE(holds(L"prt", L"mid"));
-  EXPECT_TRUE(holds(L"prt", L"BOLT"));
-  EXPECT_FALSE(holds(L"asm", L"mid"));
-  EXPECT_FALSE(holds(L"prt", L"last"));
-}
-
 TEST(NewNameRules, OnlyBlanksAroundANameGo) {
   EXPECT_EQ(Trimmed(L"  a b "), L"a b");
   EXPECT_EQ(Trimmed(L"\ta"), L"\ta");

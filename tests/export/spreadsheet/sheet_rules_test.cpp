@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
 namespace qm {
 namespace {
 
@@ -33,13 +31,6 @@ TEST(AsPlainText, LeavesOrdinaryTitlesAndLabelsAlone) {
         L"0x10", L"3D", L"名称=值", L"a-b", L"true north", L"5 重命名", L"May"}) {
     EXPECT_EQ(AsPlainText(text), text);
   }
-}
-
-TEST(WholePart, CutsAtTheDecimalSign) {
-  EXPECT_EQ(WholePart(1.9), L"1");
-  EXPECT_EQ(WholePart(-7.5), L"-7");
-  EXPECT_EQ(WholePart(123456789012345), L"123456789012345");
-  EXPECT_EQ(WholePart(std::numeric_limits<double>::quiet_NaN()), L"");
 }
 
 }  // namespace
