@@ -3,9 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/plugin_host.h"
-#include "workbench/base/command_line.h"
 #include "workbench/bench/bench_measure.h"
-#include "workbench/bench/bench_options.h"
 #include "workbench/bench/bench_report.h"
 
 namespace wb {
@@ -182,29 +180,6 @@ TEST(GrowthReport, HoldsEveryRowAndTellsWhichBoundIsMissed) {
                            "4.00 at most (QmBom summary on flat, 100)",
                            "collection at most 1.5 times the bare walk: 1.60 at most (flat, "
                            "10000)"}));
-}
-
-TEST(GrowthOptions, WrongOnesSayWhatIsWrong) {
-  const struct {
-    std::vector<std::string> args;
-    const char* reason;
-  } cases[] = {
-      {{"--sizes", "1000,many"}, "\"many\" is no size"},
-      {{"--sizes", "9"}, "\"9\" is no size"},
-      {{"--sizes"}, "--sizes"},
-      {{"--shapes", "flat,round"}, "no shape \"round\""},
-      {{"--runs", "0"}, "\"0\" is no number of runs"},
-      {{"flat"}, "options only"},
-      {{"--fast"}, "--fast"},
-  };
-  for (const auto& item : cases) {
-    try {
-      ParseBenchOptions(item.args);
-      ADD_FAILURE() << "accepted: " << item.args.back();
-    } catch (const UsageError& error) {
-      EXPECT_NE(std::string(error.what()).find(item.reason), std::string::npos) << error.what();
-    }
-  }
 }
 
 }  // namespace

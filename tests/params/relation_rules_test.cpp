@@ -1,4 +1,4 @@
-// Relation lines: how a text is parted, and what becomes of the lines that are there.
+// Relation lines: how a text is parted. What becomes of the lines that are there: relations.qms.
 #include "params/relation_rules.h"
 
 #include <gtest/gtest.h>
@@ -16,18 +16,6 @@ TEST(SplitRelations, APieceALineWithoutReturnsAndEmptyOnes) {
   // A return inside a line, and a second one at its end, are part of it.
   EXPECT_EQ(SplitRelations(L"a\rb\r\r\n"), Lines{L"a\rb\r"});
   EXPECT_EQ(SplitRelations(L"\r\n  \n"), Lines{L"  "});
-}
-
-TEST(RelationsAfter, MissingLinesAreThoseThatWereNotThereBefore) {
-  const Lines present = {L"a=1", L"d1=10"};
-  EXPECT_EQ(RelationsAfter(RelationAction::kAppendMissing, present,
-                           {L"A=1", L"a=1", L"d1 = 10", L"n=1", L"n=1"}),
-            (Lines{L"a=1", L"d1=10", L"A=1", L"d1 = 10", L"n=1", L"n=1"}));
-  EXPECT_EQ(RelationsAfter(RelationAction::kAppendMissing, present, present), present);
-  EXPECT_EQ(RelationsAfter(RelationAction::kAppend, present, {L"a=1", L"n=1"}),
-            (Lines{L"a=1", L"d1=10", L"a=1", L"n=1"}));
-  EXPECT_EQ(RelationsAfter(RelationAction::kCover, present, {L"n=1"}), Lines{L"n=1"});
-  EXPECT_EQ(RelationsAfter(RelationAction::kCover, present, {}), Lines());
 }
 
 }  // namespace

@@ -6,15 +6,6 @@
 namespace qm {
 namespace {
 
-TEST(CloneRules, TheModeIsAWordWithoutCaseAndBlanks) {
-  EXPECT_EQ(CloneModeOf(L"byComp"), CloneMode::kByComponent);
-  EXPECT_EQ(CloneModeOf(L" By Asm "), CloneMode::kByAssembly);
-  EXPECT_EQ(CloneModeOf(L"BYUSER"), CloneMode::kByUser);
-  for (const wchar_t* other : {L"", L" ", L"by", L"byComp2", L"1", L"by\tComp"}) {
-    EXPECT_EQ(CloneModeOf(other), std::nullopt);
-  }
-}
-
 TEST(CloneRules, NumbersStandBehindTheBase) {
   const NewNaming parts = NamingBelow(L"PUMP_00", PRO_MDL_PART);
   const NewNaming assemblies = NamingBelow(L"PUMP_00", PRO_MDL_ASSEMBLY);

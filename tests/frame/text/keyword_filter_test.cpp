@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "frame/text/letter_case.h"
-
 namespace qm {
 namespace {
 
@@ -37,16 +35,6 @@ TEST(KeywordFilter, ExcludesNamesThatBeginWithAKeyword) {
     EXPECT_EQ(KeywordFilter(c.list).Excludes(c.name), c.excluded)
         << "case " << (&c - cases) << " of the table";
   }
-}
-
-TEST(LowerCased, TurnsCapitalsOnlyAndKeepsTheLength) {
-  EXPECT_EQ(LowerCased(L"AZ[@`az09"), L"az[@`az09");
-  EXPECT_EQ(LowerCased(L"ÀÖ×ØÞß"), L"àö×øþß");
-  EXPECT_EQ(LowerCased(L"ĀāŸŹź"), L"āāÿźź");
-  EXPECT_EQ(LowerCased(L"ΆΈΌΏΑΡΣΫ"), L"άέόώαρσϋ");
-  EXPECT_EQ(LowerCased(L"ЀЏАЯѠҀ"), L"ѐџаяѡҁ");
-  EXPECT_EQ(LowerCased(L"ẞ零件Ⅳ"), L"ẞ零件ⅳ");
-  EXPECT_EQ(LowerCased(L"ƀƁƄƏǮǱǲǶǷȠȺȽɃɎ"), L"ƀɓƅəǯǳǳƕƿƞⱥƚƀɏ");
 }
 
 }  // namespace

@@ -1,22 +1,10 @@
-// Names of unit systems, and what is made of a part's extents before and after a change.
+// What is made of a part's extents before and after a change of its units.
 #include "params/assign/unit_rules.h"
 
 #include <gtest/gtest.h>
 
 namespace qm {
 namespace {
-
-TEST(UnitSystems, AreFoundByButtonAndKnowTheirLengths) {
-  EXPECT_EQ(UnitSystemOf("mmKs"), L"millimeter Kilogram Sec (mmKs)");
-  EXPECT_EQ(UnitSystemOf("mmgs"), L"mmgs");
-  EXPECT_EQ(UnitSystemOf("mmks"), std::nullopt);
-  EXPECT_EQ(UnitSystemOf(""), std::nullopt);
-  EXPECT_EQ(MillimetresOf(L"INCH POUND SECOND (IPS)"), 25.4);
-  EXPECT_EQ(MillimetresOf(L"Inch lbm Second (some default)"), 25.4);
-  EXPECT_EQ(MillimetresOf(L"workshop"), std::nullopt);
-  EXPECT_TRUE(IsMassLengthTime(L"Meter Kilogram Second (MKS)"));
-  EXPECT_FALSE(IsMassLengthTime(L"Millimeter Newton Second (mmNs)"));
-}
 
 constexpr Extents kBox = {{-10, 0, 5}, {20, 40, 6}};
 
