@@ -67,47 +67,6 @@ bool HasCompanion() {
   return TheCompanion().Ask(R"({"want":"nothing"})").trouble.starts_with("it knows nothing");
 }
 
-TEST_F(ExportContract, WhatIsLentForAnExportIsUsedByItsRules) {
-  Pro2dExportdata data = nullptr;
-  ProPDFOptions options = nullptr;
-  ProOutputBrepRepresentation brep = nullptr;
-  std::wstring file = PathText(L"a");
-  std::wstring profile = PathText(L"qmdop");
-  Check({
-      {"data", [&] { return Pro2dExportdataAlloc(&data); }, PRO_TK_NO_ERROR},
-      {"options", [&] { return ProPDFoptionsAlloc(&options); }, PRO_TK_NO_ERROR},
-      {"nothing set", [&] { return Pro2dExport(PRO_DXF_FILE, file.data(), drw_->handle, data); },
-       PRO_TK_BAD_INPUTS, "Pro2dExport: export data without a sheet option"},
-      {"sheet 0", [&] { return Pro2dExportdataModelspacesheetSet(data, 0); }, PRO_TK_BAD_INPUTS,
-       "Pro2dExportdataModelspacesheetSet: sheet 0"},
-      {"a flag as a number", [&] { return ProPDFoptionsIntpropertySet(options, 5, 0); },
-       PRO_TK_INVALID_TYPE},
-      {"no such colour", [&] { return ProPDFoptionsIntpropertySet(options, 1, 3); },
-       PRO_TK_BAD_INPUTS, "ProPDFoptionsIntpropertySet: value 3 of option 1"},
-      {"another option", [&] { return ProPDFoptionsIntpropertySet(options, 4, 300); },
-       PRO_TK_NOT_IMPLEMENTED, "", "ProPDFoptionsIntpropertySet: option 4 of PDF files"},
-      {"no such profile",
-       [&] { return ProPDFWithProfileExport(drw_->handle, file.data(), profile.data()); },
-       PRO_TK_E_NOT_FOUND},
-      {"freed", [&] { return Pro2dExportdataFree(data); }, PRO_TK_NO_ERROR},
-      {"freed twice", [&] { return Pro2dExportdataFree(data); }, PRO_TK_BAD_INPUTS,
-       "Pro2dExportdataFree: export data used after it was freed"},
-      {"used after", [&] { return Pro2dExportdataModelspacesheetSet(data, 1); }, PRO_TK_BAD_INPUTS,
-       "Pro2dExportdataModelspacesheetSet: stale export data handle (its object is gone)"},
-      {"representation", [&] { return ProOutputBrepRepresentationAlloc(&brep); }, PRO_TK_NO_ERROR},
-      {"no flags",
-       [&] {
-         return ProIntf3DFileWrite(static_cast<ProSolid>(plate_->handle), 40, file.data(),
-                                   PRO_OUTPUT_ASSEMBLY_SINGLE_FILE, nullptr, brep, nullptr,
-                                   nullptr);
-       },
-       PRO_TK_BAD_INPUTS, "ProIntf3DFileWrite: a boundary representation without flags"},
-      {"given back", [&] { return ProOutputBrepRepresentationFree(brep); }, PRO_TK_NO_ERROR},
-  });
-  EXPECT_EQ(host_.accounts.Describe(), Lines{"PDF options from ProPDFoptionsAlloc (call 3)"});
-  EXPECT_EQ(ProPDFoptionsFree(options), PRO_TK_NO_ERROR);
-}
-
 TEST_F(ExportContract, AFileOfAnotherFormatTellsWhatItStandsForAndHowItWasAskedFor) {
   host_.options["dwg_export_format"] = {"2000"};
   EXPECT_EQ(Export2d(PRO_DWG_FILE, L"A-2", 2), PRO_TK_NO_ERROR);

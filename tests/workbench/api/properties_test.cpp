@@ -1,5 +1,4 @@
-// Parameters, appearances, relations, units and materials: what the host holds against a careless
-// caller.
+// Parameters and appearances: what the host holds against a careless caller.
 #include <algorithm>
 #include <cstring>
 
@@ -92,52 +91,6 @@ TEST_F(HostContract, AppearancesAreReadAndWrittenWhole) {
       {"a feature's", [&] { return ProSurfaceAppearancepropsGet(&feature, &record); },
        PRO_TK_NOT_IMPLEMENTED, "",
        "ProSurfaceAppearancepropsGet: the appearance of an item of type 3"},
-  });
-}
-
-TEST_F(HostContract, RelationsTakeAnArrayAndItsCount) {
-  ProModelitem lid = LidItem();
-  ProRelset set = {};
-  ProRelset unfilled = {};
-  wchar_t line[] = L"a=1";
-  wchar_t** one = nullptr;
-  wchar_t* bare[] = {line};
-  wchar_t** lines = nullptr;
-  ProArrayAlloc(1, sizeof(wchar_t*), 1, reinterpret_cast<ProArray*>(&one));
-  Check({
-      {"made", [&] { return ProRelsetCreate(&lid, &set); }, PRO_TK_NO_ERROR},
-      {"too many", [&] { return ProRelsetRelationsSet(&set, one, 2); }, PRO_TK_BAD_INPUTS,
-       "ProRelsetRelationsSet: count 2 for an array of 1"},
-      {"no array", [&] { return ProRelsetRelationsSet(&set, bare, 1); }, PRO_TK_BAD_INPUTS,
-       "ProRelsetRelationsSet: foreign pointer as array"},
-      {"no set", [&] { return ProRelsetRelationsGet(&unfilled, &lines); }, PRO_TK_BAD_INPUTS,
-       "ProRelsetRelationsGet: a relation set that the host has not filled in"},
-  });
-}
-
-TEST_F(HostContract, UnitsAndMaterialsBelongToTheirModel) {
-  ProName name = L"none_such";
-  ProUnitsystem system = {};
-  Check({
-      {"in force", [&] { return ProMdlPrincipalunitsystemGet(lid_->handle, &system); },
-       PRO_TK_NO_ERROR},
-      {"another model's",
-       [&] {
-         return ProMdlPrincipalunitsystemSet(box_->handle, &system, PRO_UNITCONVERT_SAME_SIZE,
-                                             PRO_B_TRUE, -1);
-       },
-       PRO_TK_BAD_INPUTS, "ProMdlPrincipalunitsystemSet: a unit system of another model"},
-      {"other flags",
-       [&] {
-         return ProMdlPrincipalunitsystemSet(lid_->handle, &system, PRO_UNITCONVERT_SAME_SIZE,
-                                             PRO_B_TRUE, 0);
-       },
-       PRO_TK_NOT_IMPLEMENTED, "",
-       "ProMdlPrincipalunitsystemSet: units with flags other than 1 and -1"},
-      {"an assembly's", [&] { return ProMaterialfileRead(box_->handle, name); }, PRO_TK_BAD_INPUTS,
-       "ProMaterialfileRead: not a part"},
-      {"with options", [&] { return ProSolidRegenerate(lid_->handle, 1); }, PRO_TK_NOT_IMPLEMENTED,
-       "", "ProSolidRegenerate: regeneration with options"},
   });
 }
 

@@ -1,4 +1,4 @@
-// What the host lends or names: arrays, selections, paths through assemblies, surfaces, features.
+// What the host lends or names: arrays, selections, paths through assemblies, features.
 #include "tests/workbench/api/host_contract.h"
 
 namespace wb {
@@ -61,39 +61,6 @@ TEST_F(HostContract, PathsLeadThroughComponents) {
       {"missing", [&] { return ProAsmcomppathMdlGet(&to_missing, &model); }, PRO_TK_E_NOT_FOUND},
       {"too deep", [&] { return ProAsmcomppathInit(box_->handle, ids, 26, &to_missing); },
        PRO_TK_BAD_INPUTS, "ProAsmcomppathInit: path of 26 levels"},
-  });
-}
-
-ProError NoteSurface(ProSurface surface, ProError, ProAppData data) {
-  *static_cast<ProSurface*>(data) = surface;
-  return PRO_TK_NO_ERROR;
-}
-
-TEST_F(HostContract, SurfacesAndSheetsAreThoseOfTheirModels) {
-  lid_->solid().surfaces.Add({1, {{0, 0, 0}, {10, 20, 0}}});
-  ProSurface surface = nullptr;
-  ProGeomitemdata* data = nullptr;
-  ProGeomitem item = {};
-  ProVector nowhere = {};
-  Pro3dPnt extreme = {};
-  ProName size{};
-  ProMatrix matrix{};
-  const auto find = [&] {
-    return ProSolidSurfaceVisit(lid_->handle, &NoteSurface, nullptr, &surface);
-  };
-  Check({
-      {"found", find, PRO_TK_NO_ERROR},
-      {"of another model", [&] { return ProSurfaceToGeomitem(box_->handle, surface, &item); },
-       PRO_TK_BAD_INPUTS, "ProSurfaceToGeomitem: the surface is not one of box.asm"},
-      {"towards nothing", [&] { return ProSurfaceExtremesEval(surface, nowhere, extreme); },
-       PRO_TK_BAD_INPUTS, "ProSurfaceExtremesEval: a direction without a length"},
-      {"its data", [&] { return ProSurfaceDataGet(surface, &data); }, PRO_TK_NO_ERROR},
-      {"freed", [&] { return ProGeomitemdataFree(&data); }, PRO_TK_NO_ERROR},
-      {"of a model",
-       [&] { return ProSurfaceDataGet(static_cast<ProSurface>(lid_->handle), &data); },
-       PRO_TK_BAD_INPUTS, "ProSurfaceDataGet: a model handle given as a surface handle"},
-      {"no sheet", [&] { return ProDrawingSheetTrfGet(drawing_->handle, 2, size, matrix); },
-       PRO_TK_BAD_INPUTS, "ProDrawingSheetTrfGet: the drawing has no sheet 2"},
   });
 }
 

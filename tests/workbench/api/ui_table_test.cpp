@@ -1,6 +1,4 @@
 // Host functions for tables of dialogs: what they answer, and what they hold against the plug-in.
-#include <functional>
-
 #include "tests/workbench/host/host_fixture.h"
 #include "workbench/host/call.h"
 #include "workbench/host/host_types.h"
@@ -93,29 +91,6 @@ TEST_F(UiTable, TheFocusIsToldInNamesThatAreFreedOneByOne) {
   EXPECT_EQ(Breaches(), Lines{});
   ProStringFree(column);
   EXPECT_EQ(Breaches().size(), 1u);
-}
-
-TEST_F(UiTable, WrongPlacesAndKindsAreHeldAgainstThePlugin) {
-  const struct {
-    std::function<void()> call;
-    const char* breach;
-  } kCases[] = {
-      {[] { ProUITableRownamesGet("Other", "list", nullptr, nullptr); },
-       "ProUITableRownamesGet: there is no dialog \"Other\""},
-      {[] { ProUITableRownamesGet(kDialog, "kind", nullptr, nullptr); },
-       "ProUITableRownamesGet: component \"kind\" is of another kind"},
-      {[] { ProUITableRowsInsert(kDialog, "list", nullptr, 1, nullptr); },
-       "ProUITableRowsInsert: null array of texts"},
-      {[] { ProUITableActivateActionSet(kDialog, "list", nullptr, nullptr); },
-       "ProUITableActivateActionSet: null action"},
-      {[] { ProUIOptionmenuEnable(kDialog, "none"); },
-       "ProUIOptionmenuEnable: the dialog has no component \"none\""},
-  };
-  for (const auto& row : kCases) {
-    host_.events.Forget<Breach>();
-    row.call();
-    EXPECT_EQ(Breaches(), Lines{"plug-in misused " + std::string(row.breach)});
-  }
 }
 
 }  // namespace

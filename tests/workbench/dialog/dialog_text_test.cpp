@@ -1,4 +1,4 @@
-// What a user calls the fields of a dialog, and how a dialog is told in text.
+// What a user calls the fields of a dialog.
 #include "workbench/dialog/dialog_text.h"
 
 #include <gtest/gtest.h>
@@ -62,27 +62,6 @@ TEST_F(DialogTextTest, LabelsAreThoseThatTheUserSeesNow) {
   dialog_.SetLabel(FieldKind::kLabel, "WordsLabel", "其他");
   EXPECT_EQ(Called("关键字"), "");
   EXPECT_EQ(Called("其他"), "Words");
-}
-
-TEST_F(DialogTextTest, ADialogIsToldWithNamesLabelsAndValues) {
-  dialog_.SetEnabled(FieldKind::kSubLayout, "Target", false);
-  TableModel* bill = nullptr;
-  ASSERT_EQ(dialog_.Find(FieldKind::kTable, "Bill", &bill), UiStatus::kOk);
-  bill->InsertRows("", {"1"});
-  bill->SetLabel("1", "name", "bolt");
-  EXPECT_EQ(DescribeFields(dialog_),
-            "RadioGroup Kind \"模型类型\": a \"组件\" of a \"组件\", b \"零件\" (greyed)\n"
-            "InputPanel Words \"关键字:\": \"x\" (greyed)\n"
-            "RadioGroup Kind2 \"模型类型\": none of a, b\n"
-            "OptionMenu Num \"小数位数\": 0 of 0, 1\n"
-            "CheckButton Order \"排列\": unset\n"
-            "TextArea Area \"备注\": \"p\\nq\"\n"
-            "PushButton Add \"添加\"\n"
-            "PushButton Pick1 \"选择...\"\n"
-            "PushButton Pick2 \"选择...\"\n"
-            "Table Bill: 1 rows x 2 columns (num \"序号\", name \"模型\")\n"
-            "  row 1: \"\" \"bolt\"\n"
-            "Label Note \"a note\"\n");
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 // Registration of commands, menus, popups and notifications, as the host takes and refuses it.
 #include "workbench/host/commands.h"
 
-#include <functional>
-
 #include "tests/workbench/host/host_fixture.h"
 #include "workbench/base/text.h"
 #include "workbench/host/host_types.h"
@@ -45,38 +43,6 @@ TEST_F(CommandsTest, OnlyAnAvailableCommandRuns) {
   EXPECT_FALSE(RunCommand("Command").available);
   EXPECT_EQ(RunCommand("Command").status, 0);
   EXPECT_FALSE(RunCommand("Unknown").known);
-}
-
-struct Refused {
-  const char* breach;
-  std::function<ProError()> call;
-};
-
-TEST_F(CommandsTest, MisusesAreNamed) {
-  uiCmdCmdId id = nullptr;
-  const uiCmdCmdId known = Add("Command");
-  const auto add = [&](const char* name, uiCmdCmdActFn action, int priority, uiCmdAccessFn access) {
-    return ProCmdActionAdd(name, action, priority, access, PRO_B_FALSE, PRO_B_FALSE, &id);
-  };
-  const Refused kRefused[] = {
-      {"ProCmdActionAdd: command name longer than 31 characters",
-       [&] { return add("abcdefghijklmnopqrstuvwxyz012345", &Act, 2, &Available); }},
-      {"ProCmdActionAdd: priority 1000 is outside 0 to 999",
-       [&] { return add("Other", &Act, 1000, &Available); }},
-      {"ProCmdIconSet: null command handle", [&] { return ProCmdIconSet(nullptr, "icon.png"); }},
-      {"ProMenubarmenuPushbuttonAdd: empty button name", [&] { return AddButton("Help", ""); }},
-      {"ProPopupmenuButtonAdd: there is no popup menu with id 9",
-       [&] {
-         return ProPopupmenuButtonAdd(reinterpret_cast<ProPopupMenuId>(9), -1, "B", menu_file,
-                                      menu_file, known, nullptr, nullptr);
-       }},
-  };
-  for (const Refused& row : kRefused) {
-    host_.events.Forget<Breach>();
-    EXPECT_EQ(row.call(), PRO_TK_BAD_INPUTS) << row.breach;
-    EXPECT_EQ(Breaches(), (Lines{std::string("plug-in misused ") + row.breach}));
-  }
-  EXPECT_EQ(host_.commands.Find("Other"), nullptr);
 }
 
 TEST_F(CommandsTest, AMenuTakesItsPlaceBesideTheNeighbour) {

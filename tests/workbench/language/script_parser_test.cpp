@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "workbench/language/script_words.h"
-
 namespace wb {
 namespace {
 
@@ -121,13 +119,6 @@ TEST(Script, AFaultyLineThatOpensABlockIsOneError) {
             "1: unknown statement \"rum\"; did you mean \"run\"?\n");
   EXPECT_EQ(ErrorsOf("run A with\n at call 0 of B\n  close\n end\nend\nstart"),
             "2: \"0\" is not a count from 1; it reads: at call NTH of FUNCTION\n");
-}
-
-TEST(Script, NearestWordIsNotFarFetched) {
-  const std::string words[] = {"hidden", "hit", "visible"};
-  EXPECT_EQ(NearestWord("hdiden", words), "hidden");
-  EXPECT_EQ(NearestWord("hat", words), "hit");
-  EXPECT_EQ(NearestWord("xyzzy", words), "");
 }
 
 }  // namespace

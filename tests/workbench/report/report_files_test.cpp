@@ -10,7 +10,6 @@
 #include "workbench/report/kept_files.h"
 #include "workbench/report/report.h"
 #include "workbench/report/workbook_picture.h"
-#include "workbench/workbook/xlsx_file.h"
 
 namespace wb {
 namespace {
@@ -39,22 +38,6 @@ TEST(ReportFilesTest, AFileWrittenIsKeptBesideThePageAndLinkedFromThere) {
   EXPECT_TRUE(Shows(html, "<a href=\"page_files/1/a.prt.2\">/work/a.prt.2</a>"));
   EXPECT_TRUE(Shows(html, "<td class=\"t\">/work/b.prt.1</td>"));
   EXPECT_TRUE(Shows(html, "no copy: too large"));
-}
-
-TEST(ReportFilesTest, AWorkbookIsDrawnByItsFirstRows) {
-  Workbook book = NewWorkbook();
-  Worksheet& sheet = book.sheets[0];
-  sheet.SetValue({1, 1}, "pump <BOM>");
-  sheet.Merge({{1, 1}, {1, 3}});
-  for (int row = 2; row <= 40; ++row) sheet.SetValue({row, 3}, 1.5);
-  sheet.ChangeFormat({{2, 3}, {2, 3}}, [](CellFormat& format) {
-    format.fill = CellFill{false, 0x000080};
-  });
-  const std::string html = DrawWorkbook(book);
-  EXPECT_TRUE(Shows(html, " colspan=\"3\"")) << html;
-  EXPECT_TRUE(Shows(html, ">pump &lt;BOM&gt;</td>")) << html;
-  EXPECT_TRUE(Shows(html, "background:#000080;color:#ffffff"));
-  EXPECT_TRUE(Shows(html, "… 28 more rows"));
 }
 
 TEST(ReportFilesTest, AWorkbookThatCannotBeReadSaysWhy) {

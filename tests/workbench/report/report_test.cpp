@@ -77,14 +77,6 @@ TEST(ReportTest, EveryPartIsShownAndEveryTextEscaped) {
   for (const std::string heading : kHeadings) EXPECT_TRUE(Shows(html, ">" + heading)) << heading;
 }
 
-TEST(ReportTest, TabsStayAndCanBeSeen) {
-  RunRecord record;
-  record.commands.resize(1);
-  record.commands[0].boxes = {{{"caption", "a\tb\t", 0}, 0}};
-  const std::string tab = "<span class=\"tab\" title=\"tab\">\t</span>";
-  EXPECT_TRUE(Shows(RenderReport(record), "a" + tab + "b" + tab + "</div>"));
-}
-
 TEST(ReportTest, FailuresComeFirstAndLeadToTheirCommand) {
   RunRecord record;
   record.commands.resize(2);
@@ -96,24 +88,6 @@ TEST(ReportTest, FailuresComeFirstAndLeadToTheirCommand) {
   EXPECT_TRUE(Shows(html, "<li class=\"t\">a.qms: no command"));
   EXPECT_LT(html.find("wrong"), html.find("<section id=\"c1\">"));
   EXPECT_LT(html.find("<section id=\"c2\">"), html.rfind("wrong"));
-}
-
-TEST(ReportTest, AFailureOfManyLinesIsToldWholeWhereItsCommandIs) {
-  RunRecord record;
-  record.commands.resize(1);
-  record.failures = {{"a.qms", 7, "wrong\n  <stub>", 0}, {"a.qms", 9, "early\nmore", -1}};
-  const std::string html = RenderReport(record);
-  EXPECT_TRUE(Shows(html, "<a href=\"#c1\">a.qms:7</a>: wrong …</li>"));
-  EXPECT_EQ(Count(html, "wrong<pre>  &lt;stub&gt;</pre></li>"), 1u);
-  EXPECT_TRUE(Shows(html, "early<pre>more</pre>"));
-}
-
-TEST(ReportTest, ParametersThatWereNotThereAndEmptyOnesAreToldApart) {
-  RunRecord record;
-  record.commands.resize(1);
-  record.commands[0].parameters = {{"a.prt", "NEW", {}, ""}};
-  EXPECT_TRUE(
-      Shows(RenderReport(record), "<td class=\"none\">—</td><td class=\"none\">empty</td>"));
 }
 
 TEST(ReportTest, CommandsBeyondTheLimitKeepTheirLineAndFailingOnesTheirSection) {
@@ -137,27 +111,6 @@ TEST(ReportTreeTest, RowsAreComparedByTheirPathOfComponents) {
   EXPECT_EQ(marks.after, (std::vector{kSame, kAdded, kSame, kChanged, kTouched}));
 }
 
-std::string TreesDrawn(const ModelTree& before, const ModelTree& after) {
-  CommandRecord command;
-  command.tree_before = before;
-  command.tree_after = after;
-  return DrawTrees(command, {});
-}
-
-TEST(ReportTreeTest, WhereOnlyMarksDifferThereIsOneTreeThatSaysWhatWas) {
-  ModelTree after = PumpTree();
-  after.rows[1].hidden = true;
-  after.rows[3].suppressed = true;
-  const std::string html = TreesDrawn(PumpTree(), after);
-  EXPECT_EQ(Count(html, "pump.asm"), 1u);
-  EXPECT_TRUE(Shows(html, "<small>hidden</small><small>was shown</small>"));
-  EXPECT_TRUE(Shows(html, "<small>suppressed</small><small>was active</small>"));
-  EXPECT_TRUE(Shows(TreesDrawn(after, PumpTree()), "<small>was hidden</small>"));
-
-  after.rows[1].id = 9;  // another component: rows differ, so both trees are there
-  EXPECT_EQ(Count(TreesDrawn(PumpTree(), after), "pump.asm"), 2u);
-}
-
 TEST(ReportTreeTest, OfALongTreeMarkedRowsAreDrawnAndTheRestIsCounted) {
   ModelTree tree = {{Row(0, 0, "top.asm")}, 7};
   for (int i = 1; i <= 1000; ++i) tree.rows.push_back(Row(1, i, "part" + std::to_string(i)));
@@ -171,19 +124,6 @@ TEST(ReportTreeTest, OfALongTreeMarkedRowsAreDrawnAndTheRestIsCounted) {
   EXPECT_TRUE(Shows(html, "part900<"));
   EXPECT_EQ(Count(html, "class=\"n\""), 22u);
   EXPECT_TRUE(Shows(html, "… 100 more rows"));
-}
-
-TEST(ReportTreeTest, InTreesOfSomeSizeRunsWithoutAChangeAreFolded) {
-  ModelTree tree = {{Row(0, 0, "top.asm")}, 0};
-  for (int i = 1; i <= 70; ++i) tree.rows.push_back(Row(1, i, "bolt.prt"));
-  std::vector<RowMark> marks(tree.rows.size(), RowMark::kSame);
-  marks[4] = marks[66] = RowMark::kChanged;
-  const std::string html = DrawTree(tree, marks, {});
-  EXPECT_EQ(Count(html, " without a change"), 2u);  // not the three rows before the first change
-  EXPECT_TRUE(Shows(html, "61 rows without a change"));
-  EXPECT_TRUE(Shows(html, "4 rows without a change"));
-  EXPECT_EQ(Count(html, "class=\"n\""), 71u);
-  EXPECT_EQ(Count(html, "<details"), Count(html, "</details>"));
 }
 
 TEST(ReportTreeTest, ListsStayBalancedWhereverRowsAreLeftOut) {

@@ -1,9 +1,7 @@
-// Assemblies as pictures: which boxes are drawn, from where, and in which colours.
+// Assemblies as pictures: which boxes are drawn, and how many of them.
 #include "workbench/scene/scene.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 #include "workbench/scene/scene_svg.h"
 #include "workbench/session/session.h"
@@ -36,32 +34,6 @@ class PicturedAssembly : public testing::Test {
   Session session_;
 };
 
-// A wall on the viewer's side hides a cube, unless it is clear; one on the far side does not.
-TEST_F(PicturedAssembly, IsSeenFromInFrontAboveAndTheRight) {
-  Model& cube = AddPart("cube", {{-1, -1, -1}, {1, 1, 1}});
-  for (size_t axis = 0; axis < 3; ++axis) {
-    Box box{{-90, -90, -90}, {90, 90, 90}};
-    box.min[axis] = 0;
-    box.max[axis] = 1;
-    const std::string number = std::to_string(axis);
-    Model& wall = AddPart("wall" + number, box);
-    for (const bool is_near : {true, false}) {
-      Point to{};
-      to[axis] = is_near == (axis == 1) ? -20 : 20;
-      Model& top = AddAssembly((is_near ? "near" : "far") + number);
-      Place(top, cube, At(0, 0, 0));
-      Place(top, wall, At(to[0], to[1], to[2]));
-      wall.solid().appearance.emplace();
-      const size_t of_cube = is_near ? 0 : 3;
-      EXPECT_EQ(TakeScene(top).faces.size(), 3 + of_cube) << top.id.Text();
-      wall.solid().appearance->transparency = 0.5;
-      const Scene clear = TakeScene(top);
-      ASSERT_EQ(clear.faces.size(), 6u) << top.id.Text();
-      EXPECT_EQ(clear.boxes.size(), 2u);
-    }
-  }
-}
-
 TEST_F(PicturedAssembly, LeavesOutWhatIsNotShown) {
   Model& cube = AddPart("cube", {{0, 0, 0}, {1, 1, 1}});
   Model& empty = session_.Add(Model({"empty", ModelKind::kPart}));
@@ -79,26 +51,6 @@ TEST_F(PicturedAssembly, LeavesOutWhatIsNotShown) {
   top.solid().features[4].hidden = true;
   EXPECT_EQ(TakeScene(top).boxes.size(), 1u);
   EXPECT_EQ(TakeScene(empty).model, "");
-}
-
-TEST_F(PicturedAssembly, ColoursPartsByThemselvesOrWhatIsNearestAbove) {
-  Model& own = AddPart("own", {{0, 0, 0}, {1, 1, 1}});
-  Model& plain = AddPart("plain", {{0, 0, 0}, {1, 1, 1}});
-  Model& faced = AddPart("faced", {{0, 0, 0}, {1, 1, 1}});
-  Model& top = AddAssembly("top");
-  own.solid().appearance.emplace().colour = {1, 0, 0};
-  faced.solid().appearance.emplace().colour = {1, 0, 0};
-  faced.solid().surfaces[0].appearance.emplace().transparency = 1;
-  for (Model* const part : {&own, &plain, &faced}) Place(top, *part, At(0, 0, 0));
-  const auto of = [&](const char* name) {
-    const Scene scene = TakeScene(top);
-    return *std::ranges::find(scene.boxes, std::string(name) + ".prt", &SceneBox::model);
-  };
-  EXPECT_EQ(of("plain").colour, Appearance().colour);
-  top.solid().appearance.emplace().colour = {0, 0, 1};
-  EXPECT_EQ(of("own").colour, (Rgb{1, 0, 0}));
-  EXPECT_EQ(of("plain").colour, (Rgb{0, 0, 1}));
-  EXPECT_EQ(of("faced").transparency, 1);
 }
 
 TEST_F(PicturedAssembly, KeepsTheLargestOfTooMany) {
@@ -125,17 +77,6 @@ TEST_F(PicturedAssembly, CountsWhatItDoesNotMeet) {
   EXPECT_EQ(scene.left_out, 200u * 299 - 100);
   EXPECT_FALSE(scene.are_all_met);
   EXPECT_TRUE(TakeScene(row, 100).are_all_met);
-}
-
-TEST_F(PicturedAssembly, TakesComponentsInTheirAssemblysUnits) {
-  Model& inch = AddPart("inch", {{0, 0, 0}, {1, 1, 1}});
-  inch.solid().units = "Inch Pound Second (IPS)";
-  Model& top = AddAssembly("top");
-  Place(top, inch, At(0, 0, 0));
-  const SceneFrame large = FrameOf(TakeScene(top));
-  inch.solid().units = kDefaultUnits;
-  const SceneFrame small = FrameOf(TakeScene(top));
-  EXPECT_NEAR(large[2] - large[0], 25.4 * (small[2] - small[0]), 1e-9);
 }
 
 TEST_F(PicturedAssembly, IsDrawnForOneBoxAndForTwoThousand) {

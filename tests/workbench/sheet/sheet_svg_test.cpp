@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <map>
 #include <regex>
 
@@ -20,9 +19,7 @@ constexpr double kHeightOfA2 = 420;
 
 struct ReadView {
   Outline outline{};
-  std::vector<Outline> boxes;  // what each visible path takes up, in the order of painting
-  std::string visible;         // the attributes of the visible lines
-  std::string hidden;          // the path of the hidden ones; empty: none
+  std::vector<Outline> boxes;  // what each visible path takes up
 };
 
 // The value of an attribute in a tag.
@@ -65,8 +62,6 @@ std::map<int, ReadView> ReadViews(const std::string& svg, double height = kHeigh
     if (kind == "view") view = &views[std::stoi(AttributeOf(tag, "data-view"))];
     if (view == nullptr) continue;
     if (kind == "outline") view->outline = ReadRectangle(tag, height);
-    if (kind == "visible") view->visible = tag;
-    if (kind == "hidden") view->hidden = AttributeOf(tag, "d");
     if (tag.starts_with("<path d")) view->boxes.push_back(ReadPath(AttributeOf(tag, "d"), height));
   }
   return views;
@@ -148,44 +143,6 @@ TEST_F(SheetSvg, ViewsLieWhereTheirOutlinesAre) {
   }
 }
 
-TEST_F(SheetSvg, WhatIsNearerIsPaintedLater) {
-  const int front = View(kNoRotation, {100, 100}, DisplayStyle::kNoHidden);
-  const int behind = View(TurnAbout(ScreenAxis::kY, 180), {300, 100}, DisplayStyle::kNoHidden);
-  const auto views = ReadViews(Svg());
-  const auto widths = [&](int id) {
-    std::vector<int> rounded;
-    for (const Outline& box : views.at(id).boxes) {
-      rounded.push_back(static_cast<int>(std::lround((box[2] - box[0]) / 0.7)));
-    }
-    return rounded;
-  };
-  EXPECT_EQ(widths(front), (std::vector{6, 100, 20}));
-  // Seen from behind, the block is the nearest; the pin inside it stays behind its faces.
-  EXPECT_EQ(widths(behind), (std::vector{20, 6, 100}));
-}
-
-TEST_F(SheetSvg, HiddenLinesAreDashedAsTheStyleSays) {
-  const struct {
-    DisplayStyle style;
-    bool hidden;
-    const char* fill;
-  } cases[] = {
-      {DisplayStyle::kHiddenLine, true, "#fff"}, {DisplayStyle::kNoHidden, false, "#fff"},
-      {DisplayStyle::kDefault, false, "#fff"},   {DisplayStyle::kWireframe, false, "none"},
-      {DisplayStyle::kShaded, false, "#d3dae2"},
-  };
-  for (const auto& item : cases) {
-    const int id = View(TurnAbout(ScreenAxis::kY, 180), {100, 100}, item.style);
-    const ReadView view = ReadViews(Svg()).at(id);
-    EXPECT_EQ(!view.hidden.empty(), item.hidden) << static_cast<int>(item.style);
-    EXPECT_EQ(AttributeOf(view.visible, "fill"), item.fill) << static_cast<int>(item.style);
-    if (!item.hidden) continue;
-    // Plate and pin, not the block before them.
-    ExpectNear(ReadPath(view.hidden, kHeightOfA2), Around({view.boxes[0], view.boxes[1]}),
-               "hidden");
-  }
-}
-
 TEST_F(SheetSvg, TwelveViewsOfALargeAssemblyStaySmall) {
   for (int id = 10; id < 400; ++id) Place(*top_, id, "pin", 7.77 * id, 3.33 * (id % 17), 1.1 * id);
   session_.Resolve(*top_);
@@ -197,23 +154,6 @@ TEST_F(SheetSvg, TwelveViewsOfALargeAssemblyStaySmall) {
   const SheetPicture picture = Picture();
   EXPECT_GT(picture.views[0].left_out, 300u);
   EXPECT_LT(DrawSheet(picture).size(), 60'000u);
-}
-
-TEST_F(SheetSvg, ChangesAreMarkedOnBothSides) {
-  const int moved = View(kNoRotation, {100, 100}, DisplayStyle::kNoHidden);
-  View(kNoRotation, {300, 100}, DisplayStyle::kNoHidden);
-  Drawing().notes.Add({.id = 1, .place = {10, 10}, .text = "old"});
-  const SheetPicture before = Picture();
-  MoveView(Drawing(), moved, {5, 0});
-  Drawing().notes.Remove(1);
-  Drawing().dimensions.Add({.id = 7, .place = {50, 50}, .value = 12});
-  const SheetPicture after = Picture();
-  const std::string old = DrawSheet(before, &after, SheetMoment::kBefore);
-  const std::string now = DrawSheet(after, &before, SheetMoment::kAfter);
-  for (const std::string& svg : {old, now}) EXPECT_EQ(Count(svg, "class=\"changed\""), 1u);
-  EXPECT_EQ(Count(old, "class=\"removed\""), 1u);
-  EXPECT_EQ(Count(now, "class=\"added\""), 1u);
-  EXPECT_EQ(Count(DrawSheet(after, &after) + DrawSheet(after), "class=\"changed\""), 0u);
 }
 
 TEST_F(SheetSvg, TablesHaveTheirCellsAndTextsAreEscaped) {

@@ -12,14 +12,12 @@
 namespace wb {
 
 enum Member : DISPID {
-  kColorIndex = 0x61,
   kInterior = 0x81,
   kItem = 0xAA,
   kSaveCopyAs = 0xAF,
   kAdd = 0xB5,
   kNumberFormat = 0xC1,
   kRange = 0xC5,
-  kAutoFit = 0xED,
   kClose = 0x115,
   kSaved = 0x12A,
   kQuit = 0x12E,
@@ -28,7 +26,6 @@ enum Member : DISPID {
   kMerge = 0x234,
   kWorkbooks = 0x23C,
   kValue2 = 0x56C,
-  kOpen = 0x783,
 };
 
 class SpreadsheetFixture : public HostFixture {
@@ -60,8 +57,6 @@ class SpreadsheetFixture : public HostFixture {
     opened.sheet = opened.book.Get(kSheets).Get(kItem, 1);
     return opened;
   }
-
-  std::string File(const char* name) const { return PathToUtf8(folder_ / name); }
 };
 
 }  // namespace wb

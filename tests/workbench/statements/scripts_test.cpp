@@ -171,14 +171,6 @@ TEST(ScriptRunner, WhatNobodyAnswersFailsWithWhatWasAsked) {
   }
 }
 
-TEST(ScriptRunner, AModelThatIsNotThereIsToldWithWhatLiesInTheFolder) {
-  const std::string failures = FailuresOf(std::string(kPump) + "save all\nsave all\nopen blot");
-  const char* const reason =
-      "; did you mean \"bolt\"?; the folder holds the models bolt.prt, pump.asm; the script ends "
-      "here\n";
-  EXPECT_NE(failures.find(reason), std::string::npos) << failures;
-}
-
 // The lines of `text` between the line that begins with `before` and the first one that is `last`,
 // which is among them.
 std::string LinesBetween(const std::string& text, const std::string& before,
@@ -383,23 +375,6 @@ TEST(ScriptRunner, FunctionsAreWithheldFromOneScriptAlone) {
                {"run", withholds, PathToUtf8(scripts / "frame" / "set_directory.qms"), withholds})
           .value_or("it cannot be started");
   EXPECT_TRUE(Trimmed(output).ends_with(" passed, 0 failed")) << output;
-}
-
-TEST(ScriptRunner, FilesThatOnlyStandForTheHostsAreNamed) {
-  std::string script = "folder temp\npart p\ncompanion missing\n";
-  for (int i = 10; i < 32; ++i) {
-    const std::string name = "d" + std::to_string(i) + ".drw";
-    script += "drawing d" + std::to_string(i) + " of p size A4\nsave " + name + "\n";
-  }
-  script +=
-      "save p\nopen p\nrun QmExport with\ndialog QmExport\nuncheck DWGCheck\ncheck DXFCheck\n"
-      "press selAll\npress ApplyBt\nmessage caption \"\\t工程图批量导出已完成\"\nclose\nend\nend\n";
-  const std::string told = FailuresOf(script);
-  EXPECT_NE(told.find("22 files only stand for the host's: "), std::string::npos) << told;
-  EXPECT_NE(told.find("d10.dxf, "), std::string::npos) << told;
-  EXPECT_NE(told.find("d29.dxf and 2 others (the companion is missing)"), std::string::npos)
-      << told;
-  EXPECT_EQ(told.find("d30.dxf"), std::string::npos) << told;
 }
 
 TEST(ScriptRunner, NothingRunsOfAScriptWithErrors) {

@@ -134,18 +134,6 @@ TEST(StepProduct, RawMaterialIsNoPartUnlessAnAssemblyPlacesIt) {
   EXPECT_EQ(p.file.Read().models.size(), 3u);
 }
 
-TEST(StepProduct, TheFilesLengthUnitsAreNamed) {
-  Builder both;
-  both.Product("bolt", {both.Point("1.,2.,3.")}, both.Inches());
-  both.Product("nut", {both.Point("1.,2.,3.")}, both.Metric("$"));
-  EXPECT_EQ(both.Read().length_units,
-            (std::vector<std::string>{"inch (25.4 mm)", "metre (1000 mm)"}));
-  Builder none;
-  none.Product("bolt", {none.Point("1.,2.,3.")},
-               none.Add("GEOMETRIC_REPRESENTATION_CONTEXT('','',3)"));
-  EXPECT_TRUE(none.Read().length_units.empty());
-}
-
 TEST(StepProduct, AComponentInAnotherFileStaysAComponent) {
   const StepAssembly assembly = ReadStepAssembly(StepFile::Parse(
       "ISO-10303-21;HEADER;ENDSEC;REFERENCE;#9=<lib/nut%20M6.stp#4>;ENDSEC;DATA;"
