@@ -103,67 +103,69 @@ std::string FailuresOf(const std::string& text, const std::vector<std::string>& 
 
 constexpr const char* kPump = "part bolt\nassembly pump\ncomponent pump <- bolt\nopen pump\n";
 
+// Statements behind kPump, and what the report of their failure begins with.
+constexpr struct {
+  const char* statements;
+  const char* failure;
+} kUnanswered[] = {
+    {"run QmQQGroup", "5: dialog QmQQGroup opened and nobody answers it; it has\n"},
+    {"run QmIsolate",
+     "5: message box that the script does not name: caption "
+     "\"\\t请先选择需要独立显示的模型\\t\"\n"},
+    {"run BoxSel", "5: a pick of part (at most -1) was asked for and nobody answers\n"},
+    {"run QmConfig with\ndialog QmConfig\npress SelA0Asm\nclose\nend\nend",
+     "8: a file was asked for by ProFileOpen"},
+    {"run QmQQGroup with\ndialog QmQQGroup\nend\nend",
+     "6: dialog QmQQGroup is still open after the last answer; it has\n"},
+    {"run ForTest with\n  pick rotor/bolt#2  # the second\nend",
+     "6: not used, since the command had ended before: pick rotor/bolt#2\n"},
+    {"run QmQQGroup with\ndialog QmQQGroup\nclose\npress Close\nend\nend",
+     "8: not used, since the dialog had ended before: press Close\n"},
+    {"run QmIsolate with\nmessage plain other\nend",
+     "6: message box, expected plain \"other\", got caption \"\\t请先选择"},
+    {"run QmParams with\ndialog QmParams\npress Nothing\nclose\nend\nend",
+     "7: dialog QmParams has no component Nothing; it has\nInputPanel ParaName"},
+    {"fault ProMdlNameGet 1 status general_error\nrun ForTest",
+     "6: the fault ordered for it did not strike"},
+    {"run ForTest\nfault any 1 empty", "6: no action followed the fault ordered"},
+    {"expect calls ProMdlNameGte none", "5: neither the host nor the intercepted part"},
+    {"", " checks nothing"},
+    {"run ForTest with\nat call 3 of ProMdlCurrentGet\nerase bolt\nend\nend",
+     "6: never came: at call 3 of ProMdlCurrentGet (1 of them)\n"},
+    {"run QmQQGroup with\ndialog QmQQGroup\nat call 1 of any\nclose\nend\nend\nend",
+     "7: never came: at call 1 of any (no call)\nscripts_test.qms:6: dialog QmQQGroup is still"},
+    {"run ForTest with\nat call 1 of ProMdlCurrentGet\nerase bolt\nclose\nend\nend",
+     "8: no dialog is open\n"},
+    {"mode part\nrun QmIsolate",
+     "6: QmIsolate is not available here: the current model is pump.asm, in part mode by the "
+     "script; the command wants assembly or manufacturing mode\n"},
+    {"close window\nexpect access SameScale is available",
+     "6: SameScale, expected available, got unavailable: no model is current; the command wants "
+     "drawing mode\n"},
+    {"run QmIsolte",
+     "5: the plug-in has registered no command QmIsolte; did you mean QmIsolate?\n"},
+    {"erase bolt.drw\nrun ForTest",
+     "5: there is no model \"bolt.drw\" in session; did you mean \"bolt.prt\"?; in session: "
+     "bolt.prt, pump.asm; the script ends here"},
+    {"save bolt\nerase bolt\nselect .\nerase bolt",
+     "8: there is no model \"bolt\" in session; in session: pump.asm; its file lies in the "
+     "working "
+     "directory, \"retrieve bolt.prt\" brings it into session; the script ends here"},
+    {"select pump/bolt",
+     "5: pump.asm has no component \"pump\"; paths offered: bolt; the script ends here"},
+    {"expect hidden bolt", "5: bolt, expected hidden, got shown"},
+    {"assembly rotor\ncomponent pump <- rotor times 2\ncomponent rotor <- bolt\n"
+     "component rotor <- pump",
+     "8: rotor.asm would hold itself: rotor.asm > pump.asm > rotor.asm; the script ends here"},
+    {"manufacturing mill of pump\ncomponent pump <- mill",
+     "6: pump.asm would hold itself: pump.asm > mill.mfg > pump.asm; the script ends here"},
+    {"run QmParams with\ndialog QmParams\npress 模型类型\nclose\nend\nend",
+     "7: the label \"模型类型\" is that of TypeRadio (\"参数对象/模型类型\"), TypeRadio2 "
+     "(\"外形尺寸与图幅参数/模型类型\"); say which\n"},
+};
+
 TEST(ScriptRunner, WhatNobodyAnswersFailsWithWhatWasAsked) {
-  const struct {
-    const char* statements;
-    const char* failure;
-  } cases[] = {
-      {"run QmQQGroup", "5: dialog QmQQGroup opened and nobody answers it; it has\n"},
-      {"run QmIsolate",
-       "5: message box that the script does not name: caption "
-       "\"\\t请先选择需要独立显示的模型\\t\"\n"},
-      {"run BoxSel", "5: a pick of part (at most -1) was asked for and nobody answers\n"},
-      {"run QmConfig with\ndialog QmConfig\npress SelA0Asm\nclose\nend\nend",
-       "8: a file was asked for by ProFileOpen"},
-      {"run QmQQGroup with\ndialog QmQQGroup\nend\nend",
-       "6: dialog QmQQGroup is still open after the last answer; it has\n"},
-      {"run ForTest with\n  pick rotor/bolt#2  # the second\nend",
-       "6: not used, since the command had ended before: pick rotor/bolt#2\n"},
-      {"run QmQQGroup with\ndialog QmQQGroup\nclose\npress Close\nend\nend",
-       "8: not used, since the dialog had ended before: press Close\n"},
-      {"run QmIsolate with\nmessage plain other\nend",
-       "6: message box, expected plain \"other\", got caption \"\\t请先选择"},
-      {"run QmParams with\ndialog QmParams\npress Nothing\nclose\nend\nend",
-       "7: dialog QmParams has no component Nothing; it has\nInputPanel ParaName"},
-      {"fault ProMdlNameGet 1 status general_error\nrun ForTest",
-       "6: the fault ordered for it did not strike"},
-      {"run ForTest\nfault any 1 empty", "6: no action followed the fault ordered"},
-      {"expect calls ProMdlNameGte none", "5: neither the host nor the intercepted part"},
-      {"", " checks nothing"},
-      {"run ForTest with\nat call 3 of ProMdlCurrentGet\nerase bolt\nend\nend",
-       "6: never came: at call 3 of ProMdlCurrentGet (1 of them)\n"},
-      {"run QmQQGroup with\ndialog QmQQGroup\nat call 1 of any\nclose\nend\nend\nend",
-       "7: never came: at call 1 of any (no call)\nscripts_test.qms:6: dialog QmQQGroup is still"},
-      {"run ForTest with\nat call 1 of ProMdlCurrentGet\nerase bolt\nclose\nend\nend",
-       "8: no dialog is open\n"},
-      {"mode part\nrun QmIsolate",
-       "6: QmIsolate is not available here: the current model is pump.asm, in part mode by the "
-       "script; the command wants assembly or manufacturing mode\n"},
-      {"close window\nexpect access SameScale is available",
-       "6: SameScale, expected available, got unavailable: no model is current; the command wants "
-       "drawing mode\n"},
-      {"run QmIsolte",
-       "5: the plug-in has registered no command QmIsolte; did you mean QmIsolate?\n"},
-      {"erase bolt.drw\nrun ForTest",
-       "5: there is no model \"bolt.drw\" in session; did you mean \"bolt.prt\"?; in session: "
-       "bolt.prt, pump.asm; the script ends here"},
-      {"save bolt\nerase bolt\nselect .\nerase bolt",
-       "8: there is no model \"bolt\" in session; in session: pump.asm; its file lies in the "
-       "working "
-       "directory, \"retrieve bolt.prt\" brings it into session; the script ends here"},
-      {"select pump/bolt",
-       "5: pump.asm has no component \"pump\"; paths offered: bolt; the script ends here"},
-      {"expect hidden bolt", "5: bolt, expected hidden, got shown"},
-      {"assembly rotor\ncomponent pump <- rotor times 2\ncomponent rotor <- bolt\n"
-       "component rotor <- pump",
-       "8: rotor.asm would hold itself: rotor.asm > pump.asm > rotor.asm; the script ends here"},
-      {"manufacturing mill of pump\ncomponent pump <- mill",
-       "6: pump.asm would hold itself: pump.asm > mill.mfg > pump.asm; the script ends here"},
-      {"run QmParams with\ndialog QmParams\npress 模型类型\nclose\nend\nend",
-       "7: the label \"模型类型\" is that of TypeRadio (\"参数对象/模型类型\"), TypeRadio2 "
-       "(\"外形尺寸与图幅参数/模型类型\"); say which\n"},
-  };
-  for (const auto& item : cases) {
+  for (const auto& item : kUnanswered) {
     const std::string failures = FailuresOf(std::string(kPump) + item.statements + "\n");
     EXPECT_EQ(failures.find("scripts_test.qms:" + std::string(item.failure)), 0u)
         << item.statements << "\n"
