@@ -87,7 +87,7 @@ TEST(ParamValue, StringsAreKeptAsTyped) {
 
 TEST(ParamValue, TypesOutsideTheMenuAreRefused) {
   for (const wchar_t* type : {L"", L"整", L"整数 ", L"Integer", L"是", L"字符串x"}) {
-    EXPECT_NE(RefusalOf(ValueToAdd(type, L"1")), L"");
+    EXPECT_EQ(RefusalOf(ValueToAdd(type, L"1")), L"请选择参数类型：整数、实数、字符串或是/否！");
     EXPECT_NE(RefusalOf(ValueToUpdate(type, L"1")), L"");
   }
 }
