@@ -87,6 +87,8 @@ finish() {
 }
 
 mkdir -p "$build"
+# Nothing of a run before may be taken for a result of this one.
+rm -f "$build"/*.log "$build"/*.code
 if ! "$here/build.sh" --native >"$build/build.log" 2>&1; then
   tail -n 60 "$build/build.log"
   failed=1

@@ -14,8 +14,7 @@ PRO_FUNCTION(ProError, ProAsmcompAssemble, ProAssembly assembly, ProSolid model,
 // The host's own dialog, back when the user is done with it.
 PRO_FUNCTION(ProError, ProAsmcompConstrRedefUI, ProAsmcomp* component);
 
-// An array whose elements are freed one by one before it; any failure but PRO_TK_BAD_INPUTS: there
-// are none.
+// An array whose elements are freed one by one before it; any failure: there are none.
 PRO_FUNCTION(ProError, ProAsmcompConstraintsGet, ProAsmcomp* component,
              ProAsmcompconstraint** constraints);
 // Replaces all constraints by those of the array, which stays the caller's. `path` may be null.

@@ -103,7 +103,6 @@ bool IsSimplified(const SolidContent& top) {
 // Models that the part is to change.
 bool IsMeant(BenchPart part, const Model& model, const SolidContent& solid) {
   switch (part) {
-    case BenchPart::kColours:
     case BenchPart::kSetMaterial:
       return model.id.kind == ModelKind::kPart;
     case BenchPart::kBendTable:

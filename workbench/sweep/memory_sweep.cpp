@@ -78,10 +78,8 @@ void MemorySweep::RunFirst(const MemorySweepOptions& options) {
   const std::string harm = SilentHarm(first.outcome, clean_, before_);
   if (!harm.empty()) complaints.push_back(harm);
   Tell(only_counts ? "first run" : FaultText(options.nth, options.from_then_on), complaints);
-  if (only_counts) {
-    std::printf("%s: first run of %s: %ld allocations\n", statement_.Place().c_str(),
-                statement_.Text("COMMAND").c_str(), first.allocations);
-  }
+  std::printf("%s: first run of %s: %ld allocations\n", statement_.Place().c_str(),
+              statement_.Text("COMMAND").c_str(), first.allocations);
 }
 
 MemorySweep::Judged MemorySweep::RunOnce(long nth, bool from_then_on) {
